@@ -1,0 +1,39 @@
+# What every target of the project is built with.
+
+set(QUILLHUE_SOURCE_ROOT ${CMAKE_CURRENT_SOURCE_DIR}/src)
+
+add_library(quillhue_house INTERFACE)
+target_include_directories(quillhue_house INTERFACE ${QUILLHUE_SOURCE_ROOT})
+target_compile_options(quillhue_house INTERFACE -Wall -Wextra -Wconversion -Wshadow -Werror)
+if(QUILLHUE_SANITIZE)
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_compile_options(${sanitizers})
+  add_link_options(${sanitizers})
+endif()
+if(QUILLHUE_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
+# The header-only libraries of the tool. Debian installs them for all systems alike, so the cross compiler may read
+# them, but nothing else of the folder in which they are.
+set(headers ${CMAKE_BINARY_DIR}/headers)
+file(MAKE_DIRECTORY ${headers})
+foreach(library CLI nlohmann)
+  if(NOT EXISTS /usr/include/${library})
+    message(FATAL_ERROR "/usr/include/${library} is missing: install libcli11-dev and nlohmann-json3-dev")
+  endif()
+  file(CREATE_LINK /usr/include/${library} ${headers}/${library} SYMBOLIC)
+endforeach()
+add_library(quillhue_headers INTERFACE)
+target_include_directories(quillhue_headers SYSTEM INTERFACE ${headers})
+
+# A folder of src/ as a static library; NAME is also its target quillhue_NAME.
+function(quillhue_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 library "" "" "EXCLUDE;LINK")
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+  foreach(pattern IN LISTS library_EXCLUDE)
+    list(FILTER sources EXCLUDE REGEX ${pattern})
+  endforeach()
+  add_library(quillhue_${name} STATIC ${sources})
+  target_link_libraries(quillhue_${name} PUBLIC quillhue_house ${library_LINK})
+endfunction()

@@ -1,0 +1,59 @@
+#!/usr/bin/env bash
+# check-layers.sh [ROOT]: rejects includes against the layers of src/README.md, windows.h outside the system's own
+# places, and access to input bytes past the byte source.
+set -euo pipefail
+cd "${1:-$(dirname "${BASH_SOURCE[0]}")/..}"
+
+# What each folder may include beside itself and the standard library.
+declare -A allowed=(
+  [src/core]=""
+  [src/formats]="core"
+  [src/colormodes]="core"
+  [src/effects]="core"
+  [src/remap]="core formats/work_image.h"
+  [src/cli]="core formats colormodes effects remap CLI nlohmann"
+  [src/ui/logic]="core formats colormodes effects remap"
+  [src/ui/win32]=""
+  [src/ui]="core formats colormodes effects remap"
+)
+status=0
+complain() {
+  echo "$1"
+  status=1
+}
+
+layer_of() {
+  case $1 in
+    src/ui/logic/*) echo src/ui/logic ;;
+    src/ui/win32/*) echo src/ui/win32 ;;
+    *) cut -d/ -f1-2 <<<"$1" ;;
+  esac
+}
+
+while IFS=: read -r file line include; do
+  layer=$(layer_of "$file")
+  path=$(sed -E 's/^[^<"]*[<"]([^>"]+)[>"].*$/\1/' <<<"$include")
+  if [ -z "${allowed[$layer]+known}" ]; then
+    complain "$file: the folder is no layer of src/README.md"
+    continue
+  fi
+  if [ "$path" = windows.h ]; then
+    [[ $file == src/ui/* || $file == src/cli/program_windows.cpp ]] ||
+      complain "$file:$line: windows.h belongs to src/ui and to the tool's program_windows.cpp"
+    continue
+  fi
+  # A header of the standard library or of the system has no folder, but for the few of POSIX.
+  [[ $path == */* && $path != sys/* ]] || continue
+  fine=no
+  for prefix in ${layer#src/} ${allowed[$layer]}; do
+    [[ $path == "$prefix" || $path == "$prefix"/* ]] && fine=yes
+  done
+  [ $fine = yes ] || complain "$file:$line: $layer may not include $path"
+done < <(grep -rnE '^[[:space:]]*#[[:space:]]*include' src --include='*.h' --include='*.cpp')
+
+# files.cpp turns the bytes of a stream into ours; nothing else in formats/ gets at bytes but by source and sink.
+while IFS= read -r hit; do
+  complain "$hit: bytes are read through ByteSource"
+done < <(grep -rnE 'reinterpret_cast|memcpy|memmove' src/formats --include='*.h' --include='*.cpp' |
+         grep -v '^src/formats/files.cpp:' || true)
+exit $status

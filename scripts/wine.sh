@@ -1,0 +1,8 @@
+#!/usr/bin/env bash
+# wine.sh PROGRAM [ARGUMENT...]: runs a Windows program under Wine, in a prefix of its own below build/.
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+mkdir -p "$root/build"
+export WINEPREFIX=${QUILLHUE_WINEPREFIX:-$root/build/wine}
+export WINEDEBUG=-all
+export WINEDLLOVERRIDES="mscoree,mshtml="
+exec wine "$@"

@@ -1,0 +1,216 @@
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+#include <new>
+#include <set>
+#include <string>
+#include <system_error>
+#include <variant>
+#include <vector>
+
+#include "cli/arguments.h"
+#include "cli/input.h"
+#include "cli/verbs.h"
+#include "core/utf8.h"
+#include "formats/files.h"
+#include "formats/image_colors.h"
+#include "formats/writers/palette_writers.h"
+
+namespace quillhue::cli {
+
+namespace {
+
+struct ConvertOptions {
+  std::vector<std::string> files;
+  std::string name;
+  std::string outDir;
+  std::string format;
+  std::string colors;
+  // 0 where none is given.
+  std::int32_t size = 0;
+  PaletteEntry blank;
+  bool force = false;
+};
+
+constexpr std::int32_t kReducedSize = 256;
+
+// A file was refused; the text says why.
+using Refusal = std::unexpected<std::string>;
+
+Refusal refusal(Failure failure) { return Refusal(std::string(textOf(failure))); }
+
+std::expected<Palette, std::string> paletteOfImage(const TrueColorBitmap& bitmap, const ConvertOptions& options) {
+  if (options.colors.empty()) {
+    return Refusal("The image has no palette. Make one of its colors with --colors exact or --colors reduce.");
+  }
+  const ImageColors colors(bitmap);
+  if (options.colors == "reduce") {
+    return colors.reducedPalette(options.size > 0 ? options.size : kReducedSize, options.blank);
+  }
+  if (options.size == 0 && colors.distinctCount() > kMaxPaletteSize) {
+    return Refusal("The image has " + std::to_string(colors.distinctCount()) +
+                   " different colors, more than the 1024 of the largest palette. Choose --colors reduce, or the "
+                   "number of colors to take with --size.");
+  }
+  return colors.exactPalette(options.size > 0 ? options.size : static_cast<std::int32_t>(colors.distinctCount()),
+                             options.blank);
+}
+
+std::expected<Palette, std::string> readPaletteOf(const std::string& file, const ConvertOptions& options,
+                                                  Console& console) try {
+  auto input = openInput(file, options.name, console);
+  if (!input) {
+    return refusal(input.error());
+  }
+  const auto* const bitmap = std::get_if<TrueColorBitmap>(&input->content);
+  if (bitmap == nullptr) {
+    return std::move(std::get<FilePalette>(input->content).palette);
+  }
+  auto palette = paletteOfImage(*bitmap, options);
+  if (input->source->failed()) {
+    return refusal(Failure::couldNotOpen);
+  }
+  return palette;
+} catch (const std::bad_alloc&) {
+  return refusal(Failure::notEnoughMemory);
+}
+
+std::expected<void, std::string> writeOutput(const std::string& file, const std::vector<std::uint8_t>& content,
+                                             bool force, Console& console) {
+  if (file == "-") {
+    for (const std::uint8_t byte : content) {
+      console.out.put(static_cast<char>(byte));
+    }
+    return {};
+  }
+  const std::wstring name = fromUtf8(file);
+  if (!force && fileExists(name)) {
+    return Refusal("This file already exists. Replace it with --force.");
+  }
+  if (!writeFile(name, content)) {
+    return refusal(Failure::couldNotCreate);
+  }
+  return {};
+}
+
+// Reports a refusal and answers false.
+bool convertFile(const std::string& from, const std::string& to, const PaletteWriter& writer,
+                 const ConvertOptions& options, Console& console) {
+  const auto palette = readPaletteOf(from, options, console);
+  if (!palette) {
+    reportRefusal(console, from, palette.error());
+    return false;
+  }
+  const auto content = composePaletteFile(*palette, writer.format, options.blank);
+  if (!content) {
+    reportRefusal(console, from, textOf(content.error()));
+    return false;
+  }
+  const auto written = writeOutput(to, *content, options.force, console);
+  if (!written) {
+    reportRefusal(console, to, written.error());
+  }
+  return written.has_value();
+}
+
+// The writer that --format names, or else the one that the file's extension stands for.
+const PaletteWriter& chooseWriter(const std::string& format, const std::string& file) {
+  const auto extension = toUtf8(toFileName(toPath(fromUtf8(file)).extension()));
+  for (const PaletteWriter* writer : paletteWriters()) {
+    const bool chosen = format.empty() ? writer->ownsExtension &&
+                                             CLI::detail::to_lower(extension) == '.' + std::string(writer->extension)
+                                       : writer->name == format;
+    if (chosen) {
+      return *writer;
+    }
+  }
+  throw CLI::ValidationError("--format", "is needed where the output's extension does not tell the format");
+}
+
+ExitStatus convertIntoFolder(const ConvertOptions& options, Console& console) {
+  if (options.format.empty()) {
+    throw CLI::ValidationError("--format", "is needed with --out-dir");
+  }
+  const PaletteWriter& writer = chooseWriter(options.format, {});
+  const std::filesystem::path folder = toPath(fromUtf8(options.outDir));
+  std::error_code error;
+  std::filesystem::create_directories(folder, error);
+  if (error) {
+    reportRefusal(console, options.outDir, "Could not create the folder.");
+    return kRefused;
+  }
+  ExitStatus status = kDone;
+  std::set<std::string> taken;
+  for (const std::string& from : expandFolders(options.files)) {
+    std::filesystem::path target = folder / toPath(fromUtf8(from == "-" ? options.name : from)).stem();
+    target += '.';
+    target += writer.extension;
+    const std::string to = toUtf8(toFileName(target));
+    if (!taken.insert(to).second) {
+      reportRefusal(console, from, "Another file of this call is converted to " + to + " already.");
+      status = kRefused;
+    } else if (!convertFile(from, to, writer, options, console)) {
+      status = kRefused;
+    }
+  }
+  return status;
+}
+
+ExitStatus convert(const ConvertOptions& options, Console& console) {
+  if (options.size > 0 && options.colors.empty()) {
+    throw CLI::ValidationError("--size", "goes with --colors");
+  }
+  const bool readsStream = std::ranges::find(options.files, "-") != options.files.end();
+  if (!options.outDir.empty()) {
+    if (readsStream && options.name.empty()) {
+      throw CLI::ValidationError("--name", "is needed for standard input with --out-dir");
+    }
+    return convertIntoFolder(options, console);
+  }
+  if (options.files.size() != 2) {
+    throw CLI::ValidationError("convert", "takes IN and OUT, or any number of files with --out-dir");
+  }
+  const std::string& to = options.files[1];
+  return convertFile(options.files[0], to, chooseWriter(options.format, to), options, console) ? kDone : kRefused;
+}
+
+std::vector<std::string> writerNames() {
+  std::vector<std::string> names;
+  for (const PaletteWriter* writer : paletteWriters()) {
+    names.emplace_back(writer->name);
+  }
+  return names;
+}
+
+}  // namespace
+
+void addConvertVerb(CLI::App& tool, Console& console, ExitStatus& status) {
+  CLI::App* const verb = tool.add_subcommand("convert", "Convert palettes from one format to another");
+  const auto options = std::make_shared<ConvertOptions>();
+  verb->add_option("FILE", options->files,
+                   "IN and OUT; with --out-dir any number of files and folders of them. - is standard input or output")
+      ->required();
+  verb->add_option("--name", options->name, "The file name that standard input is taken to have");
+  verb->add_option("--out-dir", options->outDir, "Convert all files into this folder");
+  verb->add_option("--format", options->format, "The format to write (default: what OUT's extension stands for)")
+      ->check(CLI::IsMember(writerNames()));
+  verb->add_option("--colors", options->colors, "How an image without a palette becomes one: its colors, or fewer")
+      ->check(CLI::IsMember({"exact", "reduce"}));
+  verb->add_option("--size", options->size, "The number of entries for --colors (default: all colors, reduced 256)")
+      ->check(CLI::Range(1, kMaxPaletteSize));
+  verb->add_option_function<std::string>(
+          "--blank",
+          [options](const std::string& text) {
+            const auto color = parseColor(text);
+            if (!color) {
+              throw CLI::ValidationError("--blank", text + " is not a color like 255,128,0");
+            }
+            options->blank = *color;
+          },
+          "The color of entries that a format has and the palette has not (default 0,0,0)")
+      ->type_name("R,G,B");
+  verb->add_flag("--force", options->force, "Replace files that exist");
+  verb->callback([options, &console, &status] { status = convert(*options, console); });
+}
+
+}  // namespace quillhue::cli

@@ -1,0 +1,58 @@
+#include <iomanip>
+#include <memory>
+
+#include "cli/json.h"
+#include "cli/verbs.h"
+#include "formats/readers/palette_readers.h"
+#include "formats/writers/palette_writers.h"
+
+namespace quillhue::cli {
+
+namespace {
+
+void showJson(Console& console) {
+  Json written = Json::array();
+  for (const PaletteWriter* writer : paletteWriters()) {
+    const bool limited = writer->maxSize != kAnySize;
+    written.push_back({{"name", writer->name},
+                       {"code", writer->format},
+                       {"fileType", writer->fileType},
+                       {"extension", writer->extension},
+                       {"maxSize", limited ? Json(writer->maxSize) : Json()}});
+  }
+  Json read = Json::array();
+  for (const PaletteReader* reader : paletteReaders()) {
+    read.push_back({{"name", reader->name}, {"title", reader->title}, {"recognisedBy", reader->recognisedBy}});
+  }
+  writeJson(console, {{"written", written}, {"read", read}});
+}
+
+void showText(Console& console) {
+  const auto column = [&](int width, const auto& text) -> std::ostream& {
+    return console.out << std::left << std::setw(width) << text;
+  };
+  console.out << "Written (name for --format, extension, most entries):\n";
+  for (const PaletteWriter* writer : paletteWriters()) {
+    column(2, "");
+    column(14, writer->name);
+    column(6, writer->extension);
+    column(10, writer->maxSize == kAnySize ? "any" : std::to_string(writer->maxSize)) << writer->fileType << '\n';
+  }
+  console.out << "\nRead (in the order in which a file is tried):\n";
+  for (const PaletteReader* reader : paletteReaders()) {
+    column(2, "");
+    column(14, reader->name);
+    column(26, reader->title) << reader->recognisedBy << '\n';
+  }
+}
+
+}  // namespace
+
+void addFormatsVerb(CLI::App& tool, Console& console, ExitStatus& /*status*/) {
+  CLI::App* const verb = tool.add_subcommand("formats", "List the formats that can be written and read");
+  const auto json = std::make_shared<bool>(false);
+  verb->add_flag("--json", *json, "Write JSON");
+  verb->callback([json, &console] { *json ? showJson(console) : showText(console); });
+}
+
+}  // namespace quillhue::cli

@@ -1,0 +1,103 @@
+#include <memory>
+#include <new>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "cli/input.h"
+#include "cli/json.h"
+#include "cli/palette_text.h"
+#include "cli/verbs.h"
+#include "formats/image_colors.h"
+
+namespace quillhue::cli {
+
+namespace {
+
+struct InfoOptions {
+  std::vector<std::string> files;
+  std::string name;
+  bool json = false;
+};
+
+Json entriesOf(const Palette& palette) {
+  Json entries = Json::array();
+  for (std::int32_t i = 0; i < palette.getSize(); ++i) {
+    const PaletteEntry color = palette.entry(i);
+    entries.push_back({color.red, color.green, color.blue});
+  }
+  return entries;
+}
+
+void showFilePalette(const std::string& file, const Input& input, bool json, Console& console) {
+  const auto& [palette, format] = std::get<FilePalette>(input.content);
+  if (json) {
+    writeJson(console, {{"file", file},
+                        {"format", input.reader->name},
+                        {"code", format},
+                        {"size", palette.getSize()},
+                        {"entries", entriesOf(palette)}});
+    return;
+  }
+  console.out << file << ": " << input.reader->title << ", " << palette.getSize()
+              << (palette.getSize() == 1 ? " entry\n" : " entries\n");
+  showPalette(palette, console);
+}
+
+void showImage(const std::string& file, const Input& input, std::uint64_t colors, bool json, Console& console) {
+  if (json) {
+    writeJson(console, {{"file", file}, {"format", input.reader->name}, {"colors", colors}});
+    return;
+  }
+  console.out << file << ": " << input.reader->title << " without a palette, " << colors
+              << (colors == 1 ? " color\n" : " different colors\n");
+}
+
+std::expected<void, Failure> show(const std::string& file, const InfoOptions& options, Console& console) try {
+  const auto input = openInput(file, options.name, console);
+  if (!input) {
+    return std::unexpected(input.error());
+  }
+  const auto* const bitmap = std::get_if<TrueColorBitmap>(&input->content);
+  if (bitmap == nullptr) {
+    showFilePalette(file, *input, options.json, console);
+    return {};
+  }
+  const ImageColors colors(*bitmap);
+  if (input->source->failed()) {
+    return std::unexpected(Failure::couldNotOpen);
+  }
+  showImage(file, *input, colors.distinctCount(), options.json, console);
+  return {};
+} catch (const std::bad_alloc&) {
+  return std::unexpected(Failure::notEnoughMemory);
+}
+
+ExitStatus showAll(const InfoOptions& options, Console& console) {
+  ExitStatus status = kDone;
+  for (const std::string& file : expandFolders(options.files)) {
+    const auto shown = show(file, options, console);
+    if (!shown) {
+      status = kRefused;
+      reportRefusal(console, file, textOf(shown.error()));
+      if (options.json) {
+        writeJson(console, {{"file", file}, {"error", textOf(shown.error())}});
+      }
+    }
+  }
+  return status;
+}
+
+}  // namespace
+
+void addInfoVerb(CLI::App& tool, Console& console, ExitStatus& status) {
+  CLI::App* const verb = tool.add_subcommand("info", "Show the palettes of files");
+  const auto options = std::make_shared<InfoOptions>();
+  verb->add_option("FILE", options->files, "Palette or image files, folders of them, or - for standard input")
+      ->required();
+  verb->add_option("--name", options->name, "The file name that standard input is taken to have");
+  verb->add_flag("--json", options->json, "Write JSON, one object a line for each file");
+  verb->callback([options, &console, &status] { status = showAll(*options, console); });
+}
+
+}  // namespace quillhue::cli

@@ -1,0 +1,55 @@
+#include "cli/input.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "core/utf8.h"
+#include "formats/files.h"
+
+namespace quillhue::cli {
+
+std::expected<Input, Failure> openInput(const std::string& file, const std::string& streamName, Console& console) {
+  const bool isStream = file == "-";
+  auto source = isStream ? readStream(console.in) : openFile(fromUtf8(file));
+  if (!source) {
+    return std::unexpected(source.error());
+  }
+  const std::wstring name = fromUtf8(isStream ? streamName : file);
+  const ReaderInput input{**source, name};
+  const PaletteReader* const reader = findPaletteReader(input);
+  auto content = readPalette(input);
+  if (!content) {
+    return std::unexpected(content.error());
+  }
+  return Input{std::move(*source), reader, std::move(*content)};
+}
+
+std::vector<std::string> expandFolders(const std::vector<std::string>& files) {
+  std::vector<std::string> expanded;
+  for (const std::string& file : files) {
+    std::error_code error;
+    std::filesystem::directory_iterator entries(toPath(fromUtf8(file)), error);
+    if (file == "-" || error) {
+      expanded.push_back(file);
+      continue;
+    }
+    const auto first = static_cast<std::ptrdiff_t>(expanded.size());
+    for (const auto& entry : entries) {
+      if (entry.is_regular_file(error)) {
+        expanded.push_back(toUtf8(toFileName(entry.path())));
+      }
+    }
+    std::sort(expanded.begin() + first, expanded.end());
+  }
+  return expanded;
+}
+
+void reportRefusal(Console& console, const std::string& file, std::string_view text) {
+  std::string line(text);
+  std::ranges::replace(line, '\n', ' ');
+  console.err << file << ": " << line << '\n';
+}
+
+}  // namespace quillhue::cli

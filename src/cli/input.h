@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <expected>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/console.h"
+#include "formats/readers/palette_readers.h"
+
+namespace quillhue::cli {
+
+/// A file that was read. An image of true colors still reads from the source.
+struct Input {
+  std::unique_ptr<ByteSource> source;
+  const PaletteReader* reader;
+  FileContent content;
+};
+
+/// Reads the file, or for "-" standard input, which is then taken to be called `streamName`.
+[[nodiscard]] std::expected<Input, Failure> openInput(const std::string& file, const std::string& streamName,
+                                                      Console& console);
+
+/// The files with every folder among them replaced by the regular files in it, by name.
+[[nodiscard]] std::vector<std::string> expandFolders(const std::vector<std::string>& files);
+
+/// Tells why a file was refused: one line.
+void reportRefusal(Console& console, const std::string& file, std::string_view text);
+
+}  // namespace quillhue::cli

@@ -1,0 +1,62 @@
+#include "cli/palette_text.h"
+
+#include <iomanip>
+#include <sstream>
+
+namespace quillhue::cli {
+
+namespace {
+
+// " 1023 " and " #RRGGBB ".
+constexpr int kCellWidth = 15;
+
+// Black or white, whichever is easier to read on the color (Rec. 601 luma).
+std::string textColorOn(PaletteEntry color) {
+  const int luma = (299 * color.red + 587 * color.green + 114 * color.blue) / 1000;
+  return luma < 128 ? "255;255;255" : "0;0;0";
+}
+
+std::string sgr(PaletteEntry color) {
+  return "\x1b[48;2;" + std::to_string(color.red) + ';' + std::to_string(color.green) + ';' +
+         std::to_string(color.blue) + ";38;2;" + textColorOn(color) + 'm';
+}
+
+void showBlocks(const Palette& palette, Console& console) {
+  int columns = 1;
+  while (columns < 16 && 2 * columns * kCellWidth <= console.columns) {
+    columns *= 2;
+  }
+  for (std::int32_t i = 0; i < palette.getSize(); ++i) {
+    const PaletteEntry color = palette.entry(i);
+    const bool endsLine = i % columns == columns - 1 || i + 1 == palette.getSize();
+    console.out << std::setw(5) << i << ' ' << sgr(color) << ' ' << hexOf(color) << " \x1b[0m"
+                << (endsLine ? "\n" : "");
+  }
+}
+
+void showLines(const Palette& palette, Console& console) {
+  for (std::int32_t i = 0; i < palette.getSize(); ++i) {
+    const PaletteEntry color = palette.entry(i);
+    console.out << std::setw(4) << i << "  " << hexOf(color) << std::setw(5) << int{color.red} << std::setw(4)
+                << int{color.green} << std::setw(4) << int{color.blue} << '\n';
+  }
+}
+
+}  // namespace
+
+std::string hexOf(PaletteEntry color) {
+  std::ostringstream text;
+  text << '#' << std::uppercase << std::hex << std::setfill('0') << std::setw(6)
+       << (color.red << 16 | color.green << 8 | color.blue);
+  return text.str();
+}
+
+void showPalette(const Palette& palette, Console& console) {
+  if (console.colors) {
+    showBlocks(palette, console);
+  } else {
+    showLines(palette, console);
+  }
+}
+
+}  // namespace quillhue::cli

@@ -1,0 +1,19 @@
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <iostream>
+
+#include "cli/application.h"
+
+int main(int argumentCount, char** arguments) {
+  std::ios::sync_with_stdio(false);
+  quillhue::cli::Console console{std::cin, std::cout, std::cerr};
+  const char* const noColor = std::getenv("NO_COLOR");
+  console.colors = isatty(STDOUT_FILENO) == 1 && (noColor == nullptr || *noColor == '\0');
+  winsize size{};
+  if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0) {
+    console.columns = size.ws_col;
+  }
+  return quillhue::cli::run({arguments + 1, arguments + argumentCount}, console);
+}

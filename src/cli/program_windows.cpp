@@ -1,0 +1,66 @@
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/application.h"
+#include "core/utf8.h"
+
+namespace {
+
+// Lets the console show our UTF-8 text and 24-bit colors, and puts it back as it was.
+class ConsoleModes {
+ public:
+  ConsoleModes() : codePage_(GetConsoleOutputCP()), output_(GetStdHandle(STD_OUTPUT_HANDLE)) {
+    SetConsoleOutputCP(CP_UTF8);
+    if (GetConsoleMode(output_, &mode_) != 0) {
+      isConsole_ = true;
+      showsColors_ = SetConsoleMode(output_, mode_ | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+    }
+  }
+  ConsoleModes(const ConsoleModes&) = delete;
+  ConsoleModes& operator=(const ConsoleModes&) = delete;
+  ~ConsoleModes() {
+    if (isConsole_) {
+      SetConsoleMode(output_, mode_);
+    }
+    SetConsoleOutputCP(codePage_);
+  }
+
+  [[nodiscard]] bool showsColors() const { return showsColors_; }
+  // Characters in a line; `otherwise` when the output is no console.
+  [[nodiscard]] int columns(int otherwise) const {
+    CONSOLE_SCREEN_BUFFER_INFO info;
+    return GetConsoleScreenBufferInfo(output_, &info) != 0 ? info.srWindow.Right - info.srWindow.Left + 1 : otherwise;
+  }
+
+ private:
+  UINT codePage_;
+  HANDLE output_;
+  DWORD mode_ = 0;
+  bool isConsole_ = false;
+  bool showsColors_ = false;
+};
+
+}  // namespace
+
+int wmain(int argumentCount, wchar_t** arguments) {
+  for (std::FILE* stream : {stdin, stdout, stderr}) {
+    _setmode(_fileno(stream), _O_BINARY);
+  }
+  const ConsoleModes modes;
+  quillhue::cli::Console console{std::cin, std::cout, std::cerr};
+  const char* const noColor = std::getenv("NO_COLOR");
+  console.colors = modes.showsColors() && (noColor == nullptr || *noColor == '\0');
+  console.columns = modes.columns(console.columns);
+  std::vector<std::string> utf8;
+  for (int i = 1; i < argumentCount; ++i) {
+    utf8.push_back(quillhue::toUtf8(arguments[i]));
+  }
+  return quillhue::cli::run(std::move(utf8), console);
+}

@@ -1,0 +1,134 @@
+#include "core/document.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quillhue {
+
+PaletteDocument::PaletteDocument(Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
+                                 const AppSettings& settings, DocumentObserver& observer)
+    : palette_(std::move(palette)),
+      modificationCount_(initiallyModified ? 1 : 0),
+      format_(format),
+      settings_(settings),
+      observer_(observer) {
+  setFileName(fileName.empty() ? kUntitled : fileName);
+  announceSize();
+  announceHistory();
+}
+
+bool PaletteDocument::isSelected(std::int32_t index) const {
+  return palette_.selected()[static_cast<std::size_t>(index)] != 0;
+}
+
+std::int32_t PaletteDocument::countSelected() const {
+  const auto flags = palette_.selected();
+  return static_cast<std::int32_t>(flags.size() - static_cast<std::size_t>(std::ranges::count(flags, 0)));
+}
+
+void PaletteDocument::setColor(std::int32_t index, PaletteEntry color) {
+  if (!locked_ && contains(index)) {
+    palette_.setEntry(index, color);
+  }
+}
+
+void PaletteDocument::setChannel(std::int32_t index, Channel channel, std::uint8_t value) {
+  if (!locked_ && contains(index)) {
+    palette_.channel(channel)[static_cast<std::size_t>(index)] = value;
+  }
+}
+
+void PaletteDocument::applyChannels(ChannelMask mask, const Palette& source) {
+  std::int32_t next = 0;
+  for (std::int32_t index = 0; index < getSize() && next < source.getSize(); ++index) {
+    if (!isSelected(index)) {
+      continue;
+    }
+    for (const Channel channel : kChannels) {
+      if ((mask & maskOf(channel)) != 0) {
+        setChannel(index, channel, source.channel(channel)[static_cast<std::size_t>(next)]);
+      }
+    }
+    ++next;
+  }
+}
+
+void PaletteDocument::setSelected(std::int32_t index, std::uint8_t flag) {
+  if (contains(index)) {
+    palette_.selected()[static_cast<std::size_t>(index)] = flag;
+  }
+}
+
+void PaletteDocument::recordColor(std::int32_t index) {
+  if (contains(index)) {
+    push(std::make_unique<PaletteDifferenceColor>(palette_, index), getSize());
+  } else {
+    // kept on purpose: a caller that goes on to change something unrecorded must still be asked to save.
+    ++modificationCount_;
+  }
+}
+
+void PaletteDocument::recordColors() { push(std::make_unique<PaletteDifferenceColors>(palette_), getSize()); }
+
+void PaletteDocument::recordSelection() { push(std::make_unique<PaletteDifferenceSelection>(palette_), getSize()); }
+
+void PaletteDocument::resize(std::int32_t newSize) {
+  const std::int32_t oldSize = getSize();
+  Palette resized = resizedCopy(palette_, newSize, settings_.blank);
+  push(std::make_unique<PaletteDifferenceSize>(std::exchange(palette_, std::move(resized))), oldSize);
+  announceSize();
+}
+
+void PaletteDocument::push(std::unique_ptr<PaletteDifference> record, std::int32_t size) {
+  history_.push(std::move(record), size);
+  announceHistory();
+  ++modificationCount_;
+}
+
+void PaletteDocument::undo() {
+  history_.undo(palette_);
+  announceHistory();
+  announceSize();
+  // kept on purpose: with nothing to undo the count still falls, so the document becomes modified.
+  --modificationCount_;
+}
+
+void PaletteDocument::redo() {
+  history_.redo(palette_);
+  announceHistory();
+  announceSize();
+  // kept on purpose: the mirror image of undo.
+  ++modificationCount_;
+}
+
+void PaletteDocument::setFileName(std::wstring_view name) {
+  if (name == fileName_) {
+    return;
+  }
+  fileName_ = name;
+  const auto backslash = name.rfind(L'\\');
+  const auto shown = backslash == std::wstring_view::npos ? name : name.substr(backslash + 1);
+  observer_.titleChanged(L"Quillhue - " + std::wstring(shown));
+}
+
+void PaletteDocument::markSaved(std::wstring_view fileName, PaletteFormat format) {
+  modificationCount_ = 0;
+  format_ = format;
+  setFileName(fileName);
+}
+
+void PaletteDocument::announceHistory() { observer_.undoRedoChanged(history_.canUndo(), history_.canRedo()); }
+
+void PaletteDocument::announceSize() {
+  observer_.statusChanged(std::to_string(getSize()) + (getSize() == 1 ? " entry" : " entries"));
+}
+
+void DocumentSlot::replaceDocument(Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
+                                   Services& services) {
+  document_.reset();
+  document_ = std::make_unique<PaletteDocument>(std::move(palette), initiallyModified, std::move(fileName), format,
+                                                services.settings, services.observer);
+  services.observer.documentReplaced();
+}
+
+}  // namespace quillhue

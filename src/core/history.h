@@ -1,0 +1,107 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "core/palette.h"
+
+namespace quillhue {
+
+/// One step of the edit history: a copy of the state that the step touched. Undoing and redoing are the same
+/// operation, an exchange of that copy with the palette's current state. A record owns the record below it on its
+/// stack; stacks are taken apart record by record, so their depth never becomes a depth of recursion.
+class PaletteDifference {
+ public:
+  PaletteDifference() = default;
+  PaletteDifference(const PaletteDifference&) = delete;
+  PaletteDifference& operator=(const PaletteDifference&) = delete;
+  virtual ~PaletteDifference() = default;
+
+  /// Exchanges the kept state with that of `palette`, puts the record on top of `newNext` and returns what it stood
+  /// on before.
+  [[nodiscard]] std::unique_ptr<PaletteDifference> swap(Palette& palette, std::unique_ptr<PaletteDifference> newNext);
+
+ private:
+  friend class EditHistory;
+
+  virtual void exchange(Palette& palette) = 0;
+
+  std::unique_ptr<PaletteDifference> next_;
+};
+
+/// The color of one entry. Past the end of the palette nothing is exchanged.
+class PaletteDifferenceColor final : public PaletteDifference {
+ public:
+  PaletteDifferenceColor(const Palette& palette, std::int32_t index) : index_(index), color_(palette.entry(index)) {}
+
+ private:
+  void exchange(Palette& palette) override;
+
+  std::int32_t index_;
+  PaletteEntry color_;
+};
+
+/// The colors of all entries.
+class PaletteDifferenceColors final : public PaletteDifference {
+ public:
+  explicit PaletteDifferenceColors(const Palette& palette);
+
+ private:
+  void exchange(Palette& palette) override;
+
+  std::array<std::vector<std::uint8_t>, 3> channels_;
+};
+
+/// The selected flags of all entries.
+class PaletteDifferenceSelection final : public PaletteDifference {
+ public:
+  explicit PaletteDifferenceSelection(const Palette& palette);
+
+ private:
+  void exchange(Palette& palette) override;
+
+  std::vector<std::uint8_t> selected_;
+};
+
+/// A whole palette, exchanged as one.
+class PaletteDifferenceSize final : public PaletteDifference {
+ public:
+  explicit PaletteDifferenceSize(Palette palette) : palette_(std::move(palette)) {}
+
+ private:
+  void exchange(Palette& palette) override;
+
+  Palette palette_;
+};
+
+/// The undo and the redo stack, without limit of depth.
+class EditHistory {
+ public:
+  EditHistory() = default;
+  EditHistory(const EditHistory&) = delete;
+  EditHistory& operator=(const EditHistory&) = delete;
+  ~EditHistory();
+
+  [[nodiscard]] bool canUndo() const { return undo_ != nullptr; }
+  [[nodiscard]] bool canRedo() const { return redo_ != nullptr; }
+
+  /// Makes `record` the newest step and discards the redo stack. `size` is the palette's current size.
+  void push(std::unique_ptr<PaletteDifference> record, std::int32_t size);
+
+  /// Exchange the newest step with `palette` and move it to the other stack; nothing when there is none.
+  void undo(Palette& palette) { move(undo_, redo_, palette); }
+  void redo(Palette& palette) { move(redo_, undo_, palette); }
+
+ private:
+  using Stack = std::unique_ptr<PaletteDifference>;
+  static void move(Stack& from, Stack& to, Palette& palette);
+  static void discard(Stack& stack, std::int32_t size);
+
+  Stack undo_;
+  Stack redo_;
+};
+
+}  // namespace quillhue

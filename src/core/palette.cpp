@@ -1,0 +1,37 @@
+#include "core/palette.h"
+
+#include <algorithm>
+
+namespace quillhue {
+
+Palette::Palette(std::size_t size, PaletteEntry color)
+    : channels_{std::vector(size, color.red), std::vector(size, color.green), std::vector(size, color.blue)},
+      selected_(size, 0) {}
+
+PaletteEntry Palette::entry(std::int32_t index) const {
+  const auto at = static_cast<std::size_t>(index);
+  return {channels_[0][at], channels_[1][at], channels_[2][at]};
+}
+
+void Palette::setEntry(std::int32_t index, PaletteEntry color) {
+  const auto at = static_cast<std::size_t>(index);
+  channels_[0][at] = color.red;
+  channels_[1][at] = color.green;
+  channels_[2][at] = color.blue;
+}
+
+Palette createPalette(std::int32_t size, PaletteEntry color) {
+  return Palette(static_cast<std::size_t>(std::max(1, size)), color);
+}
+
+Palette resizedCopy(const Palette& palette, std::int32_t newSize, PaletteEntry blank) {
+  Palette resized = createPalette(newSize, blank);
+  const auto kept = static_cast<std::size_t>(std::min(palette.getSize(), resized.getSize()));
+  for (const Channel channel : kChannels) {
+    std::ranges::copy(palette.channel(channel).first(kept), resized.channel(channel).begin());
+  }
+  std::ranges::copy(palette.selected().first(kept), resized.selected().begin());
+  return resized;
+}
+
+}  // namespace quillhue

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/palette_format.h"
+#include "core/settings.h"
+
+namespace quillhue {
+
+enum class SaveChangesAnswer : std::uint8_t { yes, no, cancel };
+
+/// Tells and asks the user. Texts are UTF-8, lines end with a line feed; each call returns when the user has seen it.
+class Messages {
+ public:
+  virtual ~Messages() = default;
+
+  virtual void error(std::string_view text) = 0;
+  /// Yes, No or Cancel; closing the question is Cancel.
+  virtual SaveChangesAnswer askSaveChanges(std::string_view text) = 0;
+  /// True for Yes, false for anything else.
+  virtual bool askReplaceFile(std::string_view text) = 0;
+};
+
+/// Hears what the current document shows of itself around the palette.
+class DocumentObserver {
+ public:
+  virtual ~DocumentObserver() = default;
+
+  virtual void titleChanged(std::wstring_view title) = 0;
+  virtual void statusChanged(std::string_view text) = 0;
+  virtual void undoRedoChanged(bool canUndo, bool canRedo) = 0;
+  /// The slot holds another document now, complete and announced.
+  virtual void documentReplaced() = 0;
+};
+
+struct SaveAsAnswer {
+  std::wstring fileName;
+  /// 1..11, the file type chosen.
+  PaletteFormat format = palette_format::kNone;
+};
+
+/// Questions that opening and saving ask.
+class FileQuestions {
+ public:
+  virtual ~FileQuestions() = default;
+
+  /// The Save As dialog with `preselected` (1..11) as file type; nothing when the user cancels.
+  virtual std::optional<SaveAsAnswer> askSaveAs(PaletteFormat preselected) = 0;
+  /// How to make a palette from an image of so many different colors: n > 0 for n entries of them in order, n < 0 for
+  /// a reduction to -n entries, 0 for none. -kMaxPaletteSize .. kMaxPaletteSize.
+  virtual std::int32_t askPaletteFromImage(std::uint64_t distinctColors) = 0;
+};
+
+/// What the logic asks of the program around it. The program owns all of it and keeps it alive longer than any
+/// document.
+struct Services {
+  AppSettings& settings;
+  Messages& messages;
+  DocumentObserver& observer;
+  FileQuestions& fileQuestions;
+};
+
+}  // namespace quillhue

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quillhue {
+
+/// Wide text (UTF-16 or UTF-32, as wide as the system's wchar_t) and UTF-8. A byte that is not part of a UTF-8
+/// sequence becomes the lone surrogate 0xDC00 + byte and that becomes the byte again, so any bytes survive the way
+/// there and back.
+[[nodiscard]] std::wstring fromUtf8(std::string_view bytes);
+[[nodiscard]] std::string toUtf8(std::wstring_view text);
+
+}  // namespace quillhue

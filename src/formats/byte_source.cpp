@@ -1,0 +1,64 @@
+#include "formats/byte_source.h"
+
+#include <algorithm>
+
+namespace quillhue {
+
+std::uint16_t ByteSource::u16le(std::uint64_t offset) {
+  return static_cast<std::uint16_t>(u8(offset) | u8(offset + 1) << 8);
+}
+
+std::uint16_t ByteSource::u16be(std::uint64_t offset) {
+  return static_cast<std::uint16_t>(u8(offset) << 8 | u8(offset + 1));
+}
+
+std::uint32_t ByteSource::u32le(std::uint64_t offset) {
+  return u16le(offset) | static_cast<std::uint32_t>(u16le(offset + 2)) << 16;
+}
+
+std::uint32_t ByteSource::u32be(std::uint64_t offset) {
+  return static_cast<std::uint32_t>(u16be(offset)) << 16 | u16be(offset + 2);
+}
+
+void ByteSource::read(std::uint64_t offset, std::span<std::uint8_t> out) {
+  const std::uint64_t left = offset < size_ ? size_ - offset : 0;
+  const auto stored = static_cast<std::size_t>(std::min<std::uint64_t>(left, out.size()));
+  const std::size_t got = stored == 0 ? 0 : readStored(offset, out.first(stored));
+  failed_ = failed_ || got < stored;
+  std::ranges::fill(out.subspan(got), std::uint8_t{0});
+}
+
+std::vector<std::uint8_t> ByteSource::bytes(std::uint64_t offset, std::size_t count) {
+  std::vector<std::uint8_t> result(count);
+  read(offset, result);
+  return result;
+}
+
+void ByteSource::loadBlock(std::uint64_t offset) {
+  blockStart_ = offset - offset % kBlockSize;
+  blockLength_ = kBlockSize;
+  read(blockStart_, block_);
+}
+
+std::size_t MemorySource::readStored(std::uint64_t offset, std::span<std::uint8_t> out) {
+  std::ranges::copy(std::span(content_).subspan(static_cast<std::size_t>(offset), out.size()), out.begin());
+  return out.size();
+}
+
+bool matchTag(ByteSource& source, std::uint64_t offset, std::string_view tag) {
+  for (const char letter : tag) {
+    if (source.u8(offset++) != static_cast<std::uint8_t>(letter)) {
+      return false;
+    }
+  }
+  return true;
+}
+
+std::uint64_t findTag(ByteSource& source, std::uint64_t from, std::string_view tag) {
+  while (from < source.size() && !matchTag(source, from, tag)) {
+    ++from;
+  }
+  return std::min(from, source.size());
+}
+
+}  // namespace quillhue

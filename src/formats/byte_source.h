@@ -1,0 +1,78 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace quillhue {
+
+/// The bytes of a file, read at absolute offsets. Past the end every byte is zero, so no read can fail: a truncated
+/// file gives the same result every time.
+class ByteSource {
+ public:
+  ByteSource(const ByteSource&) = delete;
+  ByteSource& operator=(const ByteSource&) = delete;
+  virtual ~ByteSource() = default;
+
+  /// Bytes.
+  [[nodiscard]] std::uint64_t size() const { return size_; }
+
+  /// Little-endian (le) or big-endian (be) unsigned values.
+  [[nodiscard]] std::uint8_t u8(std::uint64_t offset) {
+    if (offset - blockStart_ >= blockLength_) {
+      loadBlock(offset);
+    }
+    return block_[static_cast<std::size_t>(offset - blockStart_)];
+  }
+  [[nodiscard]] std::uint16_t u16le(std::uint64_t offset);
+  [[nodiscard]] std::uint16_t u16be(std::uint64_t offset);
+  [[nodiscard]] std::uint32_t u32le(std::uint64_t offset);
+  [[nodiscard]] std::uint32_t u32be(std::uint64_t offset);
+
+  /// Fills `out` from `offset` on.
+  void read(std::uint64_t offset, std::span<std::uint8_t> out);
+  /// `count` bytes; the caller bounds the count.
+  [[nodiscard]] std::vector<std::uint8_t> bytes(std::uint64_t offset, std::size_t count);
+
+  /// True when the medium gave fewer bytes than the size it had announced: what was read is not the file.
+  [[nodiscard]] bool failed() const { return failed_; }
+
+ protected:
+  explicit ByteSource(std::uint64_t size) : size_(size) {}
+
+ private:
+  /// Reads into `out`, which lies within the size; returns the bytes read, fewer only when the medium fails.
+  virtual std::size_t readStored(std::uint64_t offset, std::span<std::uint8_t> out) = 0;
+  void loadBlock(std::uint64_t offset);
+
+  static constexpr std::size_t kBlockSize = 4096;
+
+  std::uint64_t size_;
+  bool failed_ = false;
+  std::uint64_t blockStart_ = 0;
+  std::size_t blockLength_ = 0;
+  std::array<std::uint8_t, kBlockSize> block_{};
+};
+
+/// Bytes in memory.
+class MemorySource final : public ByteSource {
+ public:
+  explicit MemorySource(std::vector<std::uint8_t> content) : ByteSource(content.size()), content_(std::move(content)) {}
+
+ private:
+  std::size_t readStored(std::uint64_t offset, std::span<std::uint8_t> out) override;
+
+  std::vector<std::uint8_t> content_;
+};
+
+/// True when exactly the bytes of `tag` stand at `offset`.
+[[nodiscard]] bool matchTag(ByteSource& source, std::uint64_t offset, std::string_view tag);
+
+/// The offset of the first `tag`, which holds no zero byte, at or behind `from`; the file's size when there is none.
+[[nodiscard]] std::uint64_t findTag(ByteSource& source, std::uint64_t from, std::string_view tag);
+
+}  // namespace quillhue

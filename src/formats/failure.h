@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace quillhue {
+
+/// Everything that can be wrong with a file, or with writing one.
+enum class Failure : std::uint8_t {
+  couldNotOpen,
+  unrecognisedType,
+  jascInvalid,
+  xcfNotIndexed,
+  xcfNoColorMap,
+  xcfInvalidCount,
+  riffTooLarge,
+  cmpTooLarge,
+  bitmapUnsupported,
+  imageTooSmall,
+  imageTooLarge,
+  notEnoughMemory,
+  gifNoGlobalPalette,
+  clipboardNoPalette,
+  pngNotIndexed,
+  pngNoPaletteChunk,
+  pngPaletteTooSmall,
+  lbmPaletteTooLarge,
+  pcxUnrecognised,
+  tiffCorrupt,
+  aaProInvalid,
+  aaProTooLarge,
+  tgaNot8Bit,
+  actTooSmall,
+  rawPalTooSmall,
+  rawPalTooLarge,
+  rawColTooSmall,
+  rawColTooLarge,
+  mightHoldMore,
+  tooLargeForMsDraw,
+  farTooLargeForMsDraw,
+  tooLargeForFormat,
+  couldNotCreate,
+};
+
+/// What the user is told; lines end with a line feed.
+[[nodiscard]] std::string_view textOf(Failure failure);
+
+}  // namespace quillhue

@@ -1,0 +1,139 @@
+#include "formats/image_colors.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <numeric>
+#include <optional>
+
+#include "formats/median_cut.h"
+
+namespace quillhue {
+
+namespace {
+
+constexpr std::size_t kColors = std::size_t{1} << 24;
+constexpr ColorWord kFourthByte = 0xFF000000;
+
+// The place of a color in the order: green, blue, red from the highest byte down.
+constexpr std::uint32_t orderOf(ColorWord word) {
+  return (word & 0xFF00) << 8 | (word & 0xFF) << 8 | (word >> 16 & 0xFF);
+}
+
+constexpr ColorWord wordAt(std::uint32_t order) {
+  return (order >> 8 & 0xFF) | (order >> 16 & 0xFF) << 8 | (order & 0xFF) << 16;
+}
+
+constexpr std::uint64_t bitOf(std::uint32_t order) { return std::uint64_t{1} << (order % 64); }
+
+// Calls `visit` with the order of each color that occurs, upward, until it answers false.
+template <typename Visit>
+void forEachBit(const std::vector<std::uint64_t>& bits, Visit visit) {
+  for (std::size_t i = 0; i < bits.size(); ++i) {
+    for (std::uint64_t left = bits[i]; left != 0; left &= left - 1) {
+      if (!visit(static_cast<std::uint32_t>(i * 64 + static_cast<std::size_t>(std::countr_zero(left))))) {
+        return;
+      }
+    }
+  }
+}
+
+}  // namespace
+
+ImageColors::ImageColors(const TrueColorBitmap& bitmap) : bitmap_(bitmap), occurring_(kColors / 64) {
+  std::optional<ColorWord> first;
+  ColorWord differing = 0;
+  bitmap_.forEachBlock([&](std::span<const ColorWord> words) {
+    const ColorWord reference = first.value_or(words.front());
+    first = reference;
+    for (const ColorWord word : words) {
+      const std::uint32_t order = orderOf(word);
+      occurring_[order / 64] |= bitOf(order);
+      differing |= word ^ reference;
+    }
+  });
+  fourthByte_ = first.value_or(0) & kFourthByte;
+  fourthByteDiffers_ = (differing & kFourthByte) != 0;
+  if (fourthByteDiffers_) {
+    auto pixels = sortedPixels();
+    distinctCount_ = static_cast<std::uint64_t>(std::unique(pixels.begin(), pixels.end()) - pixels.begin());
+  } else {
+    for (const std::uint64_t bits : occurring_) {
+      distinctCount_ += static_cast<std::uint64_t>(std::popcount(bits));
+    }
+  }
+}
+
+Palette ImageColors::exactPalette(std::int32_t size, PaletteEntry blank) const {
+  Palette palette = createPalette(size, blank);
+  std::int32_t filled = 0;
+  forEachBit(occurring_, [&](std::uint32_t order) {
+    palette.setEntry(filled++, colorOf(wordAt(order)));
+    return filled < palette.getSize();
+  });
+  return palette;
+}
+
+Palette ImageColors::reducedPalette(std::int32_t size, PaletteEntry blank) const {
+  const std::uint64_t share = bitmap_.pixelCount() / static_cast<std::uint64_t>(size);
+  // The first color may keep one pixel more than its share, and every color keeps one.
+  std::uint64_t kept = share + 1;
+  std::vector<ColorWord> thinned;
+  forEachColor([&](ColorWord color, std::uint64_t pixels) {
+    thinned.insert(thinned.end(), static_cast<std::size_t>(std::min(pixels, kept)), color);
+    kept = std::max<std::uint64_t>(share, 1);
+  });
+  Palette palette = createPalette(size, blank);
+  medianCut(thinned, size, palette);
+  return palette;
+}
+
+void ImageColors::forEachColor(const VisitColor& visit) const {
+  if (fourthByteDiffers_) {
+    const auto pixels = sortedPixels();
+    for (auto run = pixels.begin(); run != pixels.end();) {
+      const auto next = std::upper_bound(run, pixels.end(), *run);
+      visit(wordAt(*run >> 8) | *run << 24, static_cast<std::uint64_t>(next - run));
+      run = next;
+    }
+    return;
+  }
+  const auto counts = pixelsOfEachColor();
+  auto count = counts.begin();
+  forEachBit(occurring_, [&](std::uint32_t order) {
+    visit(wordAt(order) | fourthByte_, *count++);
+    return true;
+  });
+}
+
+// All pixels, the order of the color above the fourth byte, ascending.
+std::vector<std::uint32_t> ImageColors::sortedPixels() const {
+  std::vector<std::uint32_t> pixels;
+  pixels.reserve(static_cast<std::size_t>(bitmap_.pixelCount()));
+  bitmap_.forEachBlock([&](std::span<const ColorWord> words) {
+    std::ranges::transform(words, std::back_inserter(pixels),
+                           [](ColorWord word) { return orderOf(word) << 8 | word >> 24; });
+  });
+  std::ranges::sort(pixels);
+  return pixels;
+}
+
+// The number of pixels of each color that occurs, in order.
+std::vector<std::uint32_t> ImageColors::pixelsOfEachColor() const {
+  // The number of occurring colors before each word of bits.
+  std::vector<std::uint32_t> before(occurring_.size());
+  std::transform_exclusive_scan(occurring_.begin(), occurring_.end(), before.begin(), std::uint32_t{0}, std::plus(),
+                                [](std::uint64_t bits) { return static_cast<std::uint32_t>(std::popcount(bits)); });
+  // One more than needed, for a color that came into the file after the first reading.
+  std::vector<std::uint32_t> counts(static_cast<std::size_t>(distinctCount_) + 1);
+  bitmap_.forEachBlock([&](std::span<const ColorWord> words) {
+    for (const ColorWord word : words) {
+      const std::uint32_t order = orderOf(word);
+      const std::uint64_t lower = occurring_[order / 64] & (bitOf(order) - 1);
+      ++counts[before[order / 64] + static_cast<std::uint32_t>(std::popcount(lower))];
+    }
+  });
+  return counts;
+}
+
+}  // namespace quillhue

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "core/palette.h"
+#include "formats/true_color_bitmap.h"
+
+namespace quillhue {
+
+/// Reduces colors to at most `target` entries (1 .. the palette's size), which are written to `palette` from entry 0 on
+/// and counted in the result. Permutes `words`. The outcome depends on the order that equal keys get from std::sort,
+/// which libstdc++ gives alike on all systems.
+std::int32_t medianCut(std::span<ColorWord> words, std::int32_t target, Palette& palette);
+
+}  // namespace quillhue

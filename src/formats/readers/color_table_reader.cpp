@@ -1,0 +1,20 @@
+#include "formats/readers/palette_readers.h"
+
+namespace quillhue {
+
+namespace {
+
+bool matches(const ReaderInput& input) { return input.source.u32be(0) == 0x00030001; }
+
+ReadResult read(const ReaderInput& input) {
+  // Between the sizes of a table of 16 and of 256 records.
+  constexpr std::uint64_t kSmallestLargeFile = 701;
+  const std::int32_t count = input.source.size() < kSmallestLargeFile ? 16 : 256;
+  return FilePalette{readQuads(input.source, 4, count), palette_format::kColorTable};
+}
+
+}  // namespace
+
+constinit const PaletteReader kColorTableReader{"color-table", "Color Table", "signature 00 03 00 01", matches, read};
+
+}  // namespace quillhue

@@ -1,0 +1,19 @@
+#include "formats/number_lines.h"
+#include "formats/readers/palette_readers.h"
+
+namespace quillhue {
+
+namespace {
+
+bool matches(const ReaderInput& input) { return nameEndsWith(input.name, "CSV"); }
+
+ReadResult read(const ReaderInput& input) {
+  return FilePalette{readNumberLines(input.source, 0, HashLines::areEntries),
+                     palette_format::kCsv | palette_format::kMayHoldMore};
+}
+
+}  // namespace
+
+constinit const PaletteReader kCsvReader{"csv", "Comma-separated values", "name ends with CSV", matches, read};
+
+}  // namespace quillhue

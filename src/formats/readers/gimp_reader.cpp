@@ -1,0 +1,22 @@
+#include "formats/number_lines.h"
+#include "formats/readers/palette_readers.h"
+
+namespace quillhue {
+
+namespace {
+
+bool matches(const ReaderInput& input) { return matchTag(input.source, 0, "GIMP"); }
+
+ReadResult read(const ReaderInput& input) {
+  // kept on purpose: every line behind "GIMP Palette" and its line end that is no comment is an entry, Name and
+  // Columns lines too.
+  constexpr std::uint64_t kHeaderLength = 13;
+  return FilePalette{readNumberLines(input.source, kHeaderLength, HashLines::areComments),
+                     palette_format::kGimp | palette_format::kMayHoldMore};
+}
+
+}  // namespace
+
+constinit const PaletteReader kGimpReader{"gimp", "GIMP palette", "signature GIMP", matches, read};
+
+}  // namespace quillhue

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <expected>
+#include <span>
+#include <string_view>
+#include <variant>
+
+#include "core/palette.h"
+#include "core/palette_format.h"
+#include "formats/byte_source.h"
+#include "formats/failure.h"
+#include "formats/true_color_bitmap.h"
+
+namespace quillhue {
+
+/// A file to be read: its bytes, and its name for those formats that only the extension tells.
+struct ReaderInput {
+  ByteSource& source;
+  std::wstring_view name;
+};
+
+/// A palette that a file holds, and the format it can be written back in.
+struct FilePalette {
+  Palette palette;
+  PaletteFormat format = palette_format::kNone;
+};
+
+/// What a reader finds: a palette, or an image of true colors from which one can be made.
+using FileContent = std::variant<FilePalette, TrueColorBitmap>;
+using ReadResult = std::expected<FileContent, Failure>;
+
+/// One layout of palette files.
+struct PaletteReader {
+  /// For scripts.
+  std::string_view name;
+  /// For people.
+  std::string_view title;
+  /// What tells the layout: a signature or an extension, in words.
+  std::string_view recognisedBy;
+  /// True when the file has this layout and no reader before this one in the catalogue recognises it.
+  bool (*matches)(const ReaderInput& input);
+  /// Reads a file that matches. Sizes that the file claims are checked before anything of that size is made.
+  ReadResult (*read)(const ReaderInput& input);
+};
+
+/// True when the name's last characters are `word` (upper-case letters); in the name a to z count as A to Z.
+[[nodiscard]] bool nameEndsWith(std::wstring_view name, std::string_view word);
+
+/// `count` entries (1 or more) from records of red, green, blue, three bytes each.
+[[nodiscard]] Palette paletteFromTriples(std::span<const std::uint8_t> bytes, std::int32_t count);
+/// The same from records of four bytes, of which the last is ignored.
+[[nodiscard]] Palette paletteFromQuads(std::span<const std::uint8_t> bytes, std::int32_t count);
+
+/// The same, read from a file at `offset`; for `count` up to kMaxPaletteSize.
+[[nodiscard]] Palette readTriples(ByteSource& source, std::uint64_t offset, std::int32_t count);
+[[nodiscard]] Palette readQuads(ByteSource& source, std::uint64_t offset, std::int32_t count);
+
+/// The palette with red and blue exchanged, for formats that store blue first.
+[[nodiscard]] Palette blueFirst(Palette palette);
+
+}  // namespace quillhue

@@ -1,0 +1,22 @@
+#include "formats/writers/palette_writers.h"
+
+namespace quillhue {
+
+namespace {
+
+constexpr std::int32_t kTableSize = 256;
+
+void compose(const Palette& palette, PaletteEntry blank, ByteSink& sink) {
+  composeTriples(palette, kTableSize, blank, 0, sink);
+  if (palette.getSize() < kTableSize) {
+    // The entry count and an index of no transparent entry, both big-endian.
+    sink.bytes(sink.size(), {0, static_cast<std::uint8_t>(palette.getSize()), 0xFF, 0xFF});
+  }
+}
+
+}  // namespace
+
+constinit const PaletteWriter kActWriter{
+    palette_format::kAdobeColorTable, "act", "Adobe Color Table (*.act)", "*.act", "act", true, true, 256, compose};
+
+}  // namespace quillhue

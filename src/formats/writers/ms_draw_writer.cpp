@@ -1,0 +1,22 @@
+#include "formats/writers/palette_writers.h"
+
+namespace quillhue {
+
+namespace {
+
+void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
+  constexpr std::size_t kHeaderLength = 54;
+  sink.u8(0, 0x43);
+  sink.u8(1, static_cast<std::uint8_t>(palette.getSize() - 1));
+  sink.extend(kHeaderLength);
+  // Black is implied: a black first entry falls on the header's last four zeros, and readers put it back.
+  const std::size_t firstRecord = palette.entry(0) == PaletteEntry{} ? kHeaderLength - 4 : kHeaderLength;
+  composeQuads(palette, palette.getSize(), {}, 0, firstRecord, sink);
+}
+
+}  // namespace
+
+constinit const PaletteWriter kMsDrawWriter{
+    palette_format::kMsDraw, "ms-draw", "MS Draw Palette (*.pal)", "*.pal", "pal", true, false, 101, compose};
+
+}  // namespace quillhue

@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# test.sh: builds everything and runs all tests and checks; the last lines are ctest's summary.
+set -euo pipefail
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+cd "$root"
+scripts/need.sh g++ cmake ninja-build googletest libcli11-dev nlohmann-json3-dev \
+  g++-mingw-w64-x86-64-posix wine wine64 clang-19 clang-tidy-19 clang-format-19 libclang-rt-19-dev
+for preset in asan windows fuzz; do
+  scripts/build.sh "$preset"
+done
+if [ ! -f build/wine/system.reg ]; then
+  echo "Preparing Wine"
+  scripts/wine.sh wineboot --init >build/wine.log 2>&1 || { cat build/wine.log >&2; exit 1; }
+fi
+# One run over the tests of all three builds.
+echo 'subdirs(asan windows fuzz)' >build/CTestTestfile.cmake
+exec ctest --test-dir build --output-on-failure --parallel "$(nproc)" "$@"

@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# Puts each kind of forbidden line into a tree of its own and expects the check to name it, and nothing in a clean one.
+set -euo pipefail
+check=$(cd "$(dirname "${BASH_SOURCE[0]}")/../../scripts" && pwd)/check-layers.sh
+tree=$(mktemp -d)
+trap 'rm -rf "$tree"' EXIT
+
+expect() {
+  local wanted=$1 file=$2 line=$3 found=accepted
+  mkdir -p "$tree/src/core" "$tree/src/formats" "$(dirname "$tree/$file")"
+  echo "$line" >"$tree/$file"
+  "$check" "$tree" >/dev/null || found=rejected
+  rm -r "$tree/src"
+  [ "$found" = "$wanted" ] || { echo "$file with '$line' is $found"; exit 1; }
+}
+
+expect accepted src/formats/a.cpp '#include "core/palette.h"'
+expect accepted src/core/a.cpp '#include <vector>'
+expect accepted src/ui/win32/a.cpp '#include <windows.h>'
+expect accepted src/remap/a.cpp '#include "formats/work_image.h"'
+expect rejected src/remap/a.cpp '#include "formats/files.h"'
+expect rejected src/core/a.cpp '#include "formats/files.h"'
+expect rejected src/core/a.cpp '  #  include <nlohmann/json.hpp>'
+expect rejected src/formats/a.h '#include "cli/console.h"'
+expect rejected src/cli/a.h '#include "ui/grid.h"'
+expect rejected src/ui/logic/a.h '#include "ui/win32/handle.h"'
+expect rejected src/cli/a.cpp '#include <windows.h>'
+expect rejected src/ui/logic/a.cpp '#include <windows.h>'
+expect rejected src/misc/a.cpp '#include "core/palette.h"'
+expect rejected src/formats/a.cpp 'std::memcpy(&value, bytes, 4);'

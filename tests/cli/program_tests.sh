@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# program_tests.sh [RUNNER] PROGRAM: calls quillhue-cli as a script would, with the real standard streams, file names
+# beyond ASCII and the exit statuses.
+set -euo pipefail
+tool=("$@")
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+
+fail() {
+  echo "$1" >&2
+  exit 1
+}
+expect_status() {
+  local wanted=$1 status=0
+  shift
+  "${tool[@]}" "$@" >out 2>err || status=$?
+  [ $status -eq "$wanted" ] || fail "'$*' ends with $status instead of $wanted: $(cat out err)"
+}
+
+printf '1 2 3\r\n10 26 13\r\n' >'häfen €.map'
+expect_status 0 convert 'häfen €.map' 'ö.act'
+[ "$(stat -c %s 'ö.act')" -eq 772 ] || fail 'ö.act is not 772 bytes long'
+expect_status 0 info 'ö.act'
+grep -q '^ö.act: Adobe Color Table, 2 entries$' out || fail "info shows: $(cat out)"
+grep -q $'\r' out && fail 'the output has carriage returns'
+
+# Bytes pass the standard streams unchanged, line ends and a control-Z among them.
+"${tool[@]}" convert - - --format clp --name x.act <'ö.act' >direct.clp
+expect_status 0 convert 'ö.act' file.clp
+cmp direct.clp file.clp || fail 'standard output differs from a file'
+"${tool[@]}" convert - back.act --format act <file.clp
+cmp 'ö.act' back.act || fail 'there and back is not the same'
+
+expect_status 1 info 'ö.act' none.pal .
+expect_status 1 convert 'ö.act' file.clp
+expect_status 2 convert 'ö.act'
+expect_status 2
+expect_status 0 --help
+: >empty
+expect_status 1 info empty
+[ "$(tr -d '\r' <err)" = 'empty: Quillhue could not recognise this file type.' ] || fail "an empty file: $(cat err)"
+if [ -e /dev/full ] && [ $# -eq 1 ]; then
+  ! "${tool[@]}" info 'ö.act' >/dev/full 2>err || fail 'a full device goes unnoticed'
+  ! "${tool[@]}" convert 'ö.act' /dev/full --force --format map 2>err || fail 'a full device goes unnoticed'
+fi

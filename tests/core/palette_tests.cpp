@@ -1,0 +1,37 @@
+#include <gtest/gtest.h>
+
+#include "core/palette.h"
+#include "support/palettes.h"
+
+namespace quillhue {
+namespace {
+
+constexpr PaletteEntry kBlank{9, 8, 7};
+
+TEST(Palette, HasAtLeastOneEntry) {
+  for (const std::int32_t size : {1, 0, -1, std::numeric_limits<std::int32_t>::min()}) {
+    const Palette palette = createPalette(size, kBlank);
+    EXPECT_EQ(colorsOf(palette), Colors{kBlank}) << size;
+    EXPECT_EQ(resizedCopy(variedPalette(3), size, kBlank).getSize(), 1) << size;
+  }
+}
+
+TEST(Palette, ResizedCopyKeepsColorsAndSelectionAndFillsWithTheBlankColor) {
+  Palette palette = variedPalette(4);
+  palette.selected()[1] = 1;
+  palette.selected()[3] = 1;
+
+  const Palette grown = resizedCopy(palette, 6, kBlank);
+  Colors expected = colorsOf(palette);
+  expected.insert(expected.end(), 2, kBlank);
+  EXPECT_EQ(colorsOf(grown), expected);
+  EXPECT_EQ(Bytes(grown.selected().begin(), grown.selected().end()), (Bytes{0, 1, 0, 1, 0, 0}));
+
+  const Palette shrunk = resizedCopy(palette, 2, kBlank);
+  expected.resize(2);
+  EXPECT_EQ(colorsOf(shrunk), expected);
+  EXPECT_EQ(Bytes(shrunk.selected().begin(), shrunk.selected().end()), (Bytes{0, 1}));
+}
+
+}  // namespace
+}  // namespace quillhue

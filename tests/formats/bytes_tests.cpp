@@ -1,0 +1,115 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "formats/byte_sink.h"
+#include "formats/files.h"
+#include "support/palettes.h"
+#include "support/scratch_folder.h"
+
+namespace quillhue {
+namespace {
+
+// Longer than a block, so that values straddle the border.
+Bytes twoBlocks() {
+  Bytes bytes(4100);
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    bytes[i] = static_cast<std::uint8_t>(i % 251 + 1);
+  }
+  return bytes;
+}
+
+void expectReads(ByteSource& source, const Bytes& content) {
+  const auto at = [&](std::uint64_t offset) {
+    return offset < content.size() ? content[static_cast<std::size_t>(offset)] : std::uint32_t{0};
+  };
+  EXPECT_EQ(source.size(), content.size());
+  for (const std::uint64_t i : {0ULL, 1ULL, 4093ULL, 4095ULL, 4098ULL, 4099ULL, 4100ULL, 8190ULL, 1ULL << 33}) {
+    EXPECT_EQ(source.u8(i), at(i)) << i;
+    EXPECT_EQ(source.u16le(i), at(i) | at(i + 1) << 8) << i;
+    EXPECT_EQ(source.u16be(i), at(i) << 8 | at(i + 1)) << i;
+    EXPECT_EQ(source.u32le(i), at(i) | at(i + 1) << 8 | at(i + 2) << 16 | at(i + 3) << 24) << i;
+    EXPECT_EQ(source.u32be(i), at(i) << 24 | at(i + 1) << 16 | at(i + 2) << 8 | at(i + 3)) << i;
+    const Bytes read = source.bytes(i, 5);
+    for (std::size_t k = 0; k < read.size(); ++k) {
+      EXPECT_EQ(read[k], at(i + k)) << i;
+    }
+  }
+  EXPECT_FALSE(source.failed());
+}
+
+TEST(ByteSource, ReadsMemoryAndFilesAndStreamsAlike) {
+  const Bytes content = twoBlocks();
+  MemorySource memory(content);
+  expectReads(memory, content);
+
+  const ScratchFolder folder;
+  const std::wstring name = toFileName(folder.path() / toPath(L"m\u00FCll \u20AC.bin"));
+  ASSERT_TRUE(writeFile(name, content));
+  EXPECT_TRUE(fileExists(name));
+  expectReads(*openFile(name).value(), content);
+
+  std::istringstream stream(std::string(content.begin(), content.end()));
+  expectReads(*readStream(stream).value(), content);
+}
+
+TEST(ByteSource, FindsTags) {
+  Bytes content = twoBlocks();
+  content.resize(4110);
+  std::ranges::copy(bytesOf("PLTE"), content.begin() + 4094);
+  std::ranges::copy(bytesOf("PLT"), content.end() - 3);
+  MemorySource source(content);
+  EXPECT_EQ(findTag(source, 0, "PLTE"), 4094U);
+  EXPECT_EQ(findTag(source, 4094, "PLTE"), 4094U);
+  EXPECT_EQ(findTag(source, 4095, "PLTE"), content.size());
+  EXPECT_EQ(findTag(source, 9999, "PLTE"), content.size());
+  EXPECT_TRUE(matchTag(source, 4094, "PLTE"));
+  EXPECT_FALSE(matchTag(source, 4094, "PLTe"));
+}
+
+TEST(ByteSource, TellsWhenTheMediumFails) {
+  class HalfSource : public ByteSource {
+   public:
+    HalfSource() : ByteSource(100) {}
+
+   private:
+    std::size_t readStored(std::uint64_t offset, std::span<std::uint8_t> out) override {
+      const std::size_t got = offset < 50 ? std::min<std::size_t>(out.size(), 50 - offset) : 0;
+      std::ranges::fill(out.first(got), std::uint8_t{1});
+      return got;
+    }
+  };
+  HalfSource source;
+  EXPECT_EQ(source.bytes(0, 50), Bytes(50, 1));
+  EXPECT_FALSE(source.failed());
+  EXPECT_EQ(source.bytes(49, 3), (Bytes{1, 0, 0}));
+  EXPECT_TRUE(source.failed());
+}
+
+TEST(Files, RefuseWhatIsNoFile) {
+  const ScratchFolder folder;
+  for (const std::filesystem::path& path : {folder.path(), folder.path() / "none", std::filesystem::path()}) {
+    const auto opened = openFile(toFileName(path));
+    ASSERT_FALSE(opened) << path;
+    EXPECT_EQ(opened.error(), Failure::couldNotOpen);
+    EXPECT_FALSE(writeFile(toFileName(path / "none" / "x"), Bytes{1})) << path;
+  }
+  EXPECT_FALSE(writeFile(toFileName(folder.path()), Bytes{1}));
+  EXPECT_FALSE(fileExists(toFileName(folder.path() / "none")));
+}
+
+TEST(ByteSink, FillsGapsWithZeros) {
+  ByteSink sink;
+  sink.u16le(2, 0x1234);
+  sink.u32le(6, 0x89ABCDEF);
+  sink.text(0, "A");
+  sink.rgb(10, {1, 2, 3});
+  sink.extend(15);
+  sink.extend(4);
+  EXPECT_EQ(sink.take(), (Bytes{'A', 0, 0x34, 0x12, 0, 0, 0xEF, 0xCD, 0xAB, 0x89, 1, 2, 3, 0, 0}));
+}
+
+}  // namespace
+}  // namespace quillhue

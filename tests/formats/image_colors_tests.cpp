@@ -1,0 +1,167 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "formats/image_colors.h"
+#include "support/bitmaps.h"
+
+namespace quillhue {
+namespace {
+
+// The method in its plain form: all pixels in one sorted list. The product must give the same without the list.
+class SortedImage {
+ public:
+  explicit SortedImage(std::vector<ColorWord> words) : words_(std::move(words)) {
+    const auto key = [](ColorWord word) { return (word >> 8 & 0xFF) << 16 | (word & 0xFF) << 8 | (word >> 16 & 0xFF); };
+    std::ranges::sort(words_,
+                      [&](ColorWord a, ColorWord b) { return key(a) != key(b) ? key(a) < key(b) : a >> 24 < b >> 24; });
+  }
+
+  [[nodiscard]] std::uint64_t distinctCount() const {
+    std::uint64_t count = 1;
+    for (std::size_t i = 1; i < words_.size(); ++i) {
+      count += words_[i] != words_[i - 1] ? 1 : 0;
+    }
+    return count;
+  }
+
+  [[nodiscard]] Colors exact(std::size_t size, PaletteEntry blank) const {
+    Colors colors{colorOf(words_[0])};
+    for (std::size_t i = 1; i < words_.size() && colors.size() < size; ++i) {
+      if ((words_[i] ^ words_[i - 1]) << 8 != 0) {
+        colors.push_back(colorOf(words_[i]));
+      }
+    }
+    colors.resize(size, blank);
+    return colors;
+  }
+
+  [[nodiscard]] Colors reduced(std::int32_t size, PaletteEntry blank) const {
+    std::vector<ColorWord> kept{words_[0]};
+    std::size_t run = 0;
+    for (std::size_t i = 1; i < words_.size(); ++i) {
+      const bool same = words_[i] == words_[i - 1];
+      if (!same || words_.size() / static_cast<std::size_t>(size) > run) {
+        kept.push_back(words_[i]);
+      }
+      run = same ? run + 1 : 1;
+    }
+    Colors palette;
+    split(kept.data(), kept.size(), size, palette);
+    palette.resize(static_cast<std::size_t>(size), blank);
+    return palette;
+  }
+
+ private:
+  static int split(ColorWord* words, std::size_t m, int k, Colors& palette) {
+    int total = 0;
+    while (true) {
+      const int channel = splitChannel(words, m);
+      const auto byte = [channel](ColorWord word) { return word >> (8 * channel) & 0xFF; };
+      std::sort(words, words + m, [&](ColorWord a, ColorWord b) { return byte(a) < byte(b); });
+      if (k < 2 || m < 2) {
+        const auto known = [&](std::size_t i) {
+          return std::ranges::find(palette, colorOf(words[i])) != palette.end();
+        };
+        if (known(m / 2) && (m % 2 == 1 || known((m - 1) / 2))) {
+          return total;
+        }
+        palette.push_back(colorOf(words[m / 2]));
+        return total + 1;
+      }
+      const int added = split(words, m / 2, k / 2, palette);
+      total += added;
+      k -= added;
+      words += m / 2;
+      m -= m / 2;
+    }
+  }
+
+  static int splitChannel(const ColorWord* words, std::size_t m) {
+    unsigned a = 255;
+    unsigned c = 255;
+    for (std::size_t i = 0; i < m; ++i) {
+      const unsigned blue = words[i] & 0xFF;
+      const unsigned red = words[i] >> 16 & 0xFF;
+      if (red < a) a = blue;
+      if (red != 0) a = blue;
+      if (blue < c) c = red;
+      if (blue != 0) c = red;
+    }
+    const unsigned green = words[m - 1] >> 8 & 0xFF;
+    if (c < a) {
+      return c < green ? 2 : 1;
+    }
+    return green <= a ? 1 : 0;
+  }
+
+  std::vector<ColorWord> words_;
+};
+
+TEST(ImageColors, EqualThePlainMethod) {
+  std::mt19937 generator(20);
+  const auto random = [&] { return static_cast<std::uint32_t>(generator()); };
+  constexpr PaletteEntry kBlank{1, 2, 3};
+  for (int round = 0; round < 400; ++round) {
+    const std::uint32_t width = 1 + random() % 40;
+    const std::uint32_t height = 1 + random() % 40;
+    // From a single color to nearly all different, with fourth bytes constant or not.
+    const std::uint32_t colors = 1 + random() % (1U << (random() % 14));
+    const std::uint32_t spread = round % 3 == 0 ? 0xFF0F07FF : 0xFFFFFF;
+    const std::uint8_t bits = round % 3 == 1 ? 24 : 32;
+    std::vector<ColorWord> words(std::size_t{width} * height);
+    for (ColorWord& word : words) {
+      word = (random() % colors * 2654435761U & spread) | (round % 3 == 2 ? 0x80000000 : 0);
+    }
+    MemorySource source(bitmapOf(width, bits, words));
+    const ImageColors product(TrueColorBitmap::open(source).value());
+    const SortedImage plain(words);
+    ASSERT_EQ(product.distinctCount(), plain.distinctCount()) << round;
+    for (const std::int32_t size : {1, 2, 3, 16, 255, 1024}) {
+      ASSERT_EQ(colorsOf(product.exactPalette(size, kBlank)), plain.exact(static_cast<std::size_t>(size), kBlank))
+          << round << ", " << size;
+      ASSERT_EQ(colorsOf(product.reducedPalette(size, kBlank)), plain.reduced(size, kBlank)) << round << ", " << size;
+    }
+  }
+}
+
+TEST(ImageColors, Widen16BitPixelsByTheirLowBits) {
+  MemorySource source(bitmapOf(5, 16, {0x7FFF, 0x0421, 0x4210, 0x8000, 0x001F}));
+  const ImageColors colors(TrueColorBitmap::open(source).value());
+  EXPECT_EQ(colors.distinctCount(), 5U);
+  EXPECT_EQ(colorsOf(colors.exactPalette(5, {})),
+            (Colors{{0, 0, 0}, {0, 0, 255}, {9, 9, 9}, {128, 128, 128}, {255, 255, 255}}));
+}
+
+TEST(ImageColors, OfferTheRowsThatATruncatedFileHoldsInPart) {
+  const Bytes whole = bitmapOf(3, 24, {1, 2, 3, 4, 5, 6, 7, 8, 9});
+  struct Case {
+    std::size_t length;
+    std::uint64_t pixels;
+    std::uint64_t distinct;
+  };
+  // Rows take 12 bytes. The missing bytes of the last one are black.
+  for (const auto& [length, pixels, distinct] :
+       {Case{90, 9, 9}, Case{79, 9, 8}, Case{78, 6, 6}, Case{67, 6, 5}, Case{66, 3, 3}, Case{55, 3, 2}}) {
+    MemorySource source(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length)));
+    const TrueColorBitmap bitmap = TrueColorBitmap::open(source).value();
+    EXPECT_EQ(bitmap.pixelCount(), pixels) << length;
+    EXPECT_EQ(ImageColors(bitmap).distinctCount(), distinct) << length;
+  }
+}
+
+// Rows are decoded some at a time; none may be lost or doubled between two blocks.
+TEST(ImageColors, CountAcrossBlocks) {
+  for (const std::uint32_t width : {1U, 333U, 100'000U}) {
+    std::vector<ColorWord> words(width * (200'000 / width));
+    for (std::size_t i = 0; i < words.size(); ++i) {
+      words[i] = static_cast<ColorWord>(i);
+    }
+    MemorySource source(bitmapOf(width, 24, words));
+    EXPECT_EQ(ImageColors(TrueColorBitmap::open(source).value()).distinctCount(), words.size()) << width;
+  }
+}
+
+}  // namespace
+}  // namespace quillhue

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/services.h"
+#include "core/utf8.h"
+
+namespace quillhue {
+
+/// Services that note what is asked of them, a line each, and answer as the test has told them to.
+class RecordingServices : public Messages, public DocumentObserver, public FileQuestions {
+ public:
+  Services services{settings, *this, *this, *this};
+  AppSettings settings;
+  SaveChangesAnswer saveChanges = SaveChangesAnswer::cancel;
+  bool replaceFile = false;
+  std::optional<SaveAsAnswer> saveAs;
+  std::int32_t paletteFromImage = 0;
+
+  /// The lines since the last call.
+  std::vector<std::string> takeLines() { return std::exchange(lines_, {}); }
+
+  void error(std::string_view text) override { note("error: ", text); }
+  SaveChangesAnswer askSaveChanges(std::string_view text) override {
+    note("save? ", text);
+    return saveChanges;
+  }
+  bool askReplaceFile(std::string_view text) override {
+    note("replace? ", text);
+    return replaceFile;
+  }
+  void titleChanged(std::wstring_view title) override { note("title: ", toUtf8(title)); }
+  void statusChanged(std::string_view text) override { note("status: ", text); }
+  void undoRedoChanged(bool canUndo, bool canRedo) override {
+    note("undo/redo: ", std::string(canUndo ? "yes" : "no") + '/' + (canRedo ? "yes" : "no"));
+  }
+  void documentReplaced() override { note("document replaced", ""); }
+  std::optional<SaveAsAnswer> askSaveAs(PaletteFormat preselected) override {
+    note("save as? ", std::to_string(preselected));
+    return saveAs;
+  }
+  std::int32_t askPaletteFromImage(std::uint64_t distinctColors) override {
+    note("from image? ", std::to_string(distinctColors));
+    return paletteFromImage;
+  }
+
+ private:
+  void note(std::string_view what, std::string_view text) { lines_.push_back(std::string(what) + std::string(text)); }
+
+  std::vector<std::string> lines_;
+};
+
+}  // namespace quillhue
