@@ -13,7 +13,7 @@ namespace quillhue {
 /// Ends the program when something does not hold, so that the fuzzer keeps the input.
 inline void require(bool holds, const char* what) {
   if (!holds) {
-    std::fprintf(stderr, "does not hold: %s\n", what);
+    std::fputs(what, stderr);
     std::abort();
   }
 }

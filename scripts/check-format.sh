@@ -6,4 +6,4 @@ mode=(--dry-run --Werror)
 if [ "${1:-}" = --fix ]; then
   mode=(-i)
 fi
-find src tests fuzz bench -name '*.h' -o -name '*.cpp' 2>/dev/null | sort | xargs clang-format-19 "${mode[@]}"
+find src tests fuzz bench -name '*.h' -o -name '*.cpp' | sort | xargs clang-format-19 "${mode[@]}"

@@ -7,7 +7,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 root=$PWD
 clean=$build/tidy
 mkdir -p "$clean"
-common=$(find src tests fuzz bench -name '*.h' 2>/dev/null | sort | xargs cat .clang-tidy scripts/check-tidy.sh |
+common=$(find src tests fuzz bench -name '*.h' | sort | xargs cat .clang-tidy scripts/check-tidy.sh |
          sha256sum | cut -d' ' -f1)
 
 check() {

@@ -12,8 +12,11 @@ std::optional<PaletteEntry> parseColor(std::string_view text) {
   const char* at = text.data();
   const char* const end = at + text.size();
   for (std::size_t i = 0; i < values.size(); ++i) {
-    if (i > 0 && (at == end || *at++ != ',')) {
-      return std::nullopt;
+    if (i > 0) {
+      if (at == end || *at != ',') {
+        return std::nullopt;
+      }
+      ++at;
     }
     const auto parsed = std::from_chars(at, end, values[i]);
     if (parsed.ec != std::errc()) {

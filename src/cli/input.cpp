@@ -30,7 +30,7 @@ std::vector<std::string> expandFolders(const std::vector<std::string>& files) {
   std::vector<std::string> expanded;
   for (const std::string& file : files) {
     std::error_code error;
-    std::filesystem::directory_iterator entries(toPath(fromUtf8(file)), error);
+    const std::filesystem::directory_iterator entries(toPath(fromUtf8(file)), error);
     if (file == "-" || error) {
       expanded.push_back(file);
       continue;

@@ -10,9 +10,10 @@ PaletteDocument::PaletteDocument(Palette palette, bool initiallyModified, std::w
     : palette_(std::move(palette)),
       modificationCount_(initiallyModified ? 1 : 0),
       format_(format),
+      fileName_(fileName.empty() ? std::wstring(kUntitled) : std::move(fileName)),
       settings_(settings),
       observer_(observer) {
-  setFileName(fileName.empty() ? kUntitled : fileName);
+  announceTitle();
   announceSize();
   announceHistory();
 }
@@ -101,20 +102,22 @@ void PaletteDocument::redo() {
   ++modificationCount_;
 }
 
-void PaletteDocument::setFileName(std::wstring_view name) {
-  if (name == fileName_) {
-    return;
+void PaletteDocument::setFileName(std::wstring name) {
+  if (name != fileName_) {
+    fileName_ = std::move(name);
+    announceTitle();
   }
-  fileName_ = name;
-  const auto backslash = name.rfind(L'\\');
-  const auto shown = backslash == std::wstring_view::npos ? name : name.substr(backslash + 1);
-  observer_.titleChanged(L"Quillhue - " + std::wstring(shown));
 }
 
-void PaletteDocument::markSaved(std::wstring_view fileName, PaletteFormat format) {
+void PaletteDocument::markSaved(std::wstring fileName, PaletteFormat format) {
   modificationCount_ = 0;
   format_ = format;
-  setFileName(fileName);
+  setFileName(std::move(fileName));
+}
+
+// The whole name where it has no backslash.
+void PaletteDocument::announceTitle() {
+  observer_.titleChanged(L"Quillhue - " + fileName_.substr(fileName_.rfind(L'\\') + 1));
 }
 
 void PaletteDocument::announceHistory() { observer_.undoRedoChanged(history_.canUndo(), history_.canRedo()); }

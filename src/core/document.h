@@ -67,15 +67,16 @@ class PaletteDocument {
   void redo();
 
   /// Titles the window after the name's part behind its last backslash, unless it is the current name.
-  void setFileName(std::wstring_view name);
+  void setFileName(std::wstring name);
   /// The document stands in this file now, unmodified.
-  void markSaved(std::wstring_view fileName, PaletteFormat format);
+  void markSaved(std::wstring fileName, PaletteFormat format);
 
  private:
   [[nodiscard]] bool contains(std::int32_t index) const { return index >= 0 && index < getSize(); }
   void setChannel(std::int32_t index, Channel channel, std::uint8_t value);
   void setSelected(std::int32_t index, std::uint8_t flag);
   void push(std::unique_ptr<PaletteDifference> record, std::int32_t size);
+  void announceTitle();
   void announceHistory();
   void announceSize();
 

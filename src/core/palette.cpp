@@ -21,7 +21,7 @@ void Palette::setEntry(std::int32_t index, PaletteEntry color) {
 }
 
 Palette createPalette(std::int32_t size, PaletteEntry color) {
-  return Palette(static_cast<std::size_t>(std::max(1, size)), color);
+  return {static_cast<std::size_t>(std::max(1, size)), color};
 }
 
 Palette resizedCopy(const Palette& palette, std::int32_t newSize, PaletteEntry blank) {

@@ -1,5 +1,6 @@
 #include "core/utf8.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -38,7 +39,7 @@ std::optional<Decoded> decodeSequence(std::string_view bytes) {
     }
     code = code << 6 | (next & 0x3FU);
   }
-  constexpr char32_t kShortestOfLength[] = {0, 0, 0x80, 0x800, 0x10000};
+  constexpr std::array<char32_t, 5> kShortestOfLength{0, 0, 0x80, 0x800, 0x10000};
   const bool surrogate = code >= kFirstHighSurrogate && code < kEndOfSurrogates;
   if (code < kShortestOfLength[length] || surrogate || code >= kEndOfCodes) {
     return std::nullopt;
@@ -74,6 +75,7 @@ void appendUtf8(std::string& bytes, char32_t code) {
   }
 }
 
+bool isHighSurrogate(char32_t code) { return code >= kFirstHighSurrogate && code < kFirstLowSurrogate; }
 bool isLowSurrogate(char32_t code) { return code >= kFirstLowSurrogate && code < kEndOfSurrogates; }
 
 }  // namespace
@@ -93,8 +95,8 @@ std::string toUtf8(std::wstring_view text) {
   std::string bytes;
   for (std::size_t i = 0; i < text.size(); ++i) {
     auto code = static_cast<char32_t>(text[i]);
-    const bool high = code >= kFirstHighSurrogate && code < kFirstLowSurrogate;
-    if (kWideIsUtf16 && high && i + 1 < text.size() && isLowSurrogate(static_cast<char32_t>(text[i + 1]))) {
+    if (kWideIsUtf16 && isHighSurrogate(code) && i + 1 < text.size() &&
+        isLowSurrogate(static_cast<char32_t>(text[i + 1]))) {
       const auto low = static_cast<char32_t>(text[++i]);
       code = kFirstBeyond16Bits + ((code - kFirstHighSurrogate) << 10) + (low - kFirstLowSurrogate);
     }

@@ -1,81 +1,68 @@
 #include "formats/failure.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
 namespace quillhue {
 
-std::string_view textOf(Failure failure) {
-  switch (failure) {
-    using enum Failure;
-    case couldNotOpen:
-      return "Could not open the file.";
-    case unrecognisedType:
-      return "Quillhue could not recognise this file type.";
-    case jascInvalid:
-      return "This is not a valid JASC palette file.";
-    case xcfNotIndexed:
-      return "This XCF file does not contain a palette.";
-    case xcfNoColorMap:
-      return "Could not find a palette in this XCF file.";
-    case xcfInvalidCount:
-      return "The palette in this XCF file is invalid.";
-    case riffTooLarge:
-      return "This RIFF palette file is too large.";
-    case cmpTooLarge:
-      return "This CMP palette is too large.";
-    case bitmapUnsupported:
-      return "This Windows Bitmap file has an unsupported format.";
-    case imageTooSmall:
-      return "The image is too small.";
-    case imageTooLarge:
-      return "The image is too large.";
-    case notEnoughMemory:
-      return "There is not enough free memory to load this image.";
-    case gifNoGlobalPalette:
-      return "This GIF file does not contain a global palette.";
-    case clipboardNoPalette:
-      return "This Windows Clipboard file has no recognisable palette.";
-    case pngNotIndexed:
-      return "This PNG file does not use a palette.";
-    case pngNoPaletteChunk:
-      return "This PNG file does not have a palette chunk.";
-    case pngPaletteTooSmall:
-      return "This PNG file's palette chunk is too small.";
-    case lbmPaletteTooLarge:
-      return "The palette in this LBM file is too large.";
-    case pcxUnrecognised:
-      return "This PCX file was not recognised as one with a palette.";
-    case tiffCorrupt:
-      return "This TIFF file is corrupt or does not contain a palette.";
-    case aaProInvalid:
-      return "This is not a valid AA Pro palette file.";
-    case aaProTooLarge:
-      return "This AA Pro palette file is too large.";
-    case tgaNot8Bit:
-      return "This is not an 8-bit TGA file.";
-    case actTooSmall:
-      return "This Adobe Color Table file is too small.";
-    case rawPalTooSmall:
-      return "This palette file is too small.";
-    case rawPalTooLarge:
-      return "This palette file is too large.";
-    case rawColTooSmall:
-      return "This AA palette file is too small.";
-    case rawColTooLarge:
-      return "This AA palette file is too large.";
-    case mightHoldMore:
-      return "This file might contain additional information which would be removed.\n"
-             "Choose \"Save as...\" to overwrite or to select a different file.";
-    case tooLargeForMsDraw:
-      return "The palette is too large for the MS Draw format.\nUse another format instead.";
-    case farTooLargeForMsDraw:
-      return "The palette is too large for the MS Draw format.\n"
-             "Use the Gimp, RIFF, or Windows Clipboard format instead.";
-    case tooLargeForFormat:
-      return "The palette is too large for the selected format.\n"
-             "Use the Gimp, RIFF, or Windows Clipboard format instead.";
-    case couldNotCreate:
-      return "Could not create the file.";
-  }
-  return {};
-}
+namespace {
+
+using enum Failure;
+
+struct FailureText {
+  Failure failure;
+  std::string_view text;
+};
+
+// In the order of the enumeration.
+constexpr std::array kTexts{
+    FailureText{couldNotOpen, "Could not open the file."},
+    FailureText{unrecognisedType, "Quillhue could not recognise this file type."},
+    FailureText{jascInvalid, "This is not a valid JASC palette file."},
+    FailureText{xcfNotIndexed, "This XCF file does not contain a palette."},
+    FailureText{xcfNoColorMap, "Could not find a palette in this XCF file."},
+    FailureText{xcfInvalidCount, "The palette in this XCF file is invalid."},
+    FailureText{riffTooLarge, "This RIFF palette file is too large."},
+    FailureText{cmpTooLarge, "This CMP palette is too large."},
+    FailureText{bitmapUnsupported, "This Windows Bitmap file has an unsupported format."},
+    FailureText{imageTooSmall, "The image is too small."},
+    FailureText{imageTooLarge, "The image is too large."},
+    FailureText{notEnoughMemory, "There is not enough free memory to load this image."},
+    FailureText{gifNoGlobalPalette, "This GIF file does not contain a global palette."},
+    FailureText{clipboardNoPalette, "This Windows Clipboard file has no recognisable palette."},
+    FailureText{pngNotIndexed, "This PNG file does not use a palette."},
+    FailureText{pngNoPaletteChunk, "This PNG file does not have a palette chunk."},
+    FailureText{pngPaletteTooSmall, "This PNG file's palette chunk is too small."},
+    FailureText{lbmPaletteTooLarge, "The palette in this LBM file is too large."},
+    FailureText{pcxUnrecognised, "This PCX file was not recognised as one with a palette."},
+    FailureText{tiffCorrupt, "This TIFF file is corrupt or does not contain a palette."},
+    FailureText{aaProInvalid, "This is not a valid AA Pro palette file."},
+    FailureText{aaProTooLarge, "This AA Pro palette file is too large."},
+    FailureText{tgaNot8Bit, "This is not an 8-bit TGA file."},
+    FailureText{actTooSmall, "This Adobe Color Table file is too small."},
+    FailureText{rawPalTooSmall, "This palette file is too small."},
+    FailureText{rawPalTooLarge, "This palette file is too large."},
+    FailureText{rawColTooSmall, "This AA palette file is too small."},
+    FailureText{rawColTooLarge, "This AA palette file is too large."},
+    FailureText{mightHoldMore,
+                "This file might contain additional information which would be removed.\n"
+                "Choose \"Save as...\" to overwrite or to select a different file."},
+    FailureText{tooLargeForMsDraw, "The palette is too large for the MS Draw format.\nUse another format instead."},
+    FailureText{farTooLargeForMsDraw,
+                "The palette is too large for the MS Draw format.\n"
+                "Use the Gimp, RIFF, or Windows Clipboard format instead."},
+    FailureText{tooLargeForFormat,
+                "The palette is too large for the selected format.\n"
+                "Use the Gimp, RIFF, or Windows Clipboard format instead."},
+    FailureText{couldNotCreate, "Could not create the file."},
+};
+
+static_assert(kTexts.size() == static_cast<std::size_t>(couldNotCreate) + 1);
+static_assert(std::ranges::adjacent_find(kTexts, std::ranges::greater_equal(), &FailureText::failure) == kTexts.end());
+
+}  // namespace
+
+std::string_view textOf(Failure failure) { return kTexts[static_cast<std::size_t>(failure)].text; }
 
 }  // namespace quillhue

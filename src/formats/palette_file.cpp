@@ -62,9 +62,8 @@ void readPaletteFile(const std::wstring& fileName, DocumentSlot& slot, Services&
   auto opened = open(fileName, services);
   if (!opened) {
     services.messages.error(textOf(opened.error()));
-  } else if (opened->has_value()) {
-    Opened& result = **opened;
-    slot.replaceDocument(std::move(result.palette), result.modified, std::move(result.fileName), result.format,
+  } else if (std::optional<Opened>& result = *opened; result) {
+    slot.replaceDocument(std::move(result->palette), result->modified, std::move(result->fileName), result->format,
                          services);
   }
 }

@@ -84,10 +84,18 @@ class SortedImage {
     for (std::size_t i = 0; i < m; ++i) {
       const unsigned blue = words[i] & 0xFF;
       const unsigned red = words[i] >> 16 & 0xFF;
-      if (red < a) a = blue;
-      if (red != 0) a = blue;
-      if (blue < c) c = red;
-      if (blue != 0) c = red;
+      if (red < a) {
+        a = blue;
+      }
+      if (red != 0) {
+        a = blue;
+      }
+      if (blue < c) {
+        c = red;
+      }
+      if (blue != 0) {
+        c = red;
+      }
     }
     const unsigned green = words[m - 1] >> 8 & 0xFF;
     if (c < a) {

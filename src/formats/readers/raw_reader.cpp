@@ -13,7 +13,7 @@ ReadResult read(const ReaderInput& input) {
   if (count < 1) {
     return std::unexpected(isCol(input) ? Failure::rawColTooSmall : Failure::rawPalTooSmall);
   }
-  if (input.source.size() > kMaxPaletteSize * 3) {
+  if (input.source.size() > std::uint64_t{kMaxPaletteSize} * 3) {
     return std::unexpected(isCol(input) ? Failure::rawColTooLarge : Failure::rawPalTooLarge);
   }
   return FilePalette{readTriples(input.source, 0, static_cast<std::int32_t>(count)), palette_format::kNone};

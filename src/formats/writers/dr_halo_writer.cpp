@@ -7,7 +7,7 @@ namespace {
 
 void compose(const Palette& palette, PaletteEntry blank, ByteSink& sink) {
   sink.bytes(0, {0x41, 0x48, 0xE3});
-  for (const std::size_t offset : {11, 13, 15, 17}) {
+  for (const std::size_t offset : {11U, 13U, 15U, 17U}) {
     sink.u8(offset, 0xFF);
   }
   for (std::int32_t i = 0; i < dr_halo::kEntries; ++i) {
