@@ -39,7 +39,8 @@ using Refusal = std::unexpected<std::string>;
 
 Refusal refusal(Failure failure) { return Refusal(std::string(textOf(failure))); }
 
-std::expected<Palette, std::string> paletteOfImage(const TrueColorBitmap& bitmap, const ConvertOptions& options) {
+std::expected<Palette, std::string> paletteOfImage(const std::string& file, const TrueColorBitmap& bitmap,
+                                                   const ConvertOptions& options, Console& console) {
   if (options.colors.empty()) {
     return Refusal("The image has no palette. Make one of its colors with --colors exact or --colors reduce.");
   }
@@ -47,13 +48,13 @@ std::expected<Palette, std::string> paletteOfImage(const TrueColorBitmap& bitmap
   if (options.colors == "reduce") {
     return colors.reducedPalette(options.size > 0 ? options.size : kReducedSize, options.blank);
   }
-  if (options.size == 0 && colors.distinctCount() > kMaxPaletteSize) {
-    return Refusal("The image has " + std::to_string(colors.distinctCount()) +
-                   " different colors, more than the 1024 of the largest palette. Choose --colors reduce, or the "
-                   "number of colors to take with --size.");
+  const std::uint64_t count = colors.distinctCount();
+  if (options.size == 0 && count > kMaxPaletteSize) {
+    console.err << file << ": Of " << count << " different colors the first " << kMaxPaletteSize
+                << " are taken. Choose --colors reduce for a palette of them all.\n";
   }
-  return colors.exactPalette(options.size > 0 ? options.size : static_cast<std::int32_t>(colors.distinctCount()),
-                             options.blank);
+  const auto all = static_cast<std::int32_t>(std::min<std::uint64_t>(count, kMaxPaletteSize));
+  return colors.exactPalette(options.size > 0 ? options.size : all, options.blank);
 }
 
 std::expected<Palette, std::string> readPaletteOf(const std::string& file, const ConvertOptions& options,
@@ -66,7 +67,7 @@ std::expected<Palette, std::string> readPaletteOf(const std::string& file, const
   if (bitmap == nullptr) {
     return std::move(std::get<FilePalette>(input->content).palette);
   }
-  auto palette = paletteOfImage(*bitmap, options);
+  auto palette = paletteOfImage(file, *bitmap, options, console);
   if (input->source->failed()) {
     return refusal(Failure::couldNotOpen);
   }

@@ -10,9 +10,12 @@ PaletteDocument::PaletteDocument(Palette palette, bool initiallyModified, std::w
     : palette_(std::move(palette)),
       modificationCount_(initiallyModified ? 1 : 0),
       format_(format),
-      fileName_(fileName.empty() ? std::wstring(kUntitled) : std::move(fileName)),
+      fileName_(std::move(fileName)),
       settings_(settings),
       observer_(observer) {
+  if (fileName_.empty()) {
+    fileName_ = kUntitled;
+  }
   announceTitle();
   announceSize();
   announceHistory();
@@ -102,22 +105,24 @@ void PaletteDocument::redo() {
   ++modificationCount_;
 }
 
-void PaletteDocument::setFileName(std::wstring name) {
+void PaletteDocument::setFileName(const std::wstring& name) {
   if (name != fileName_) {
-    fileName_ = std::move(name);
+    fileName_ = name;
     announceTitle();
   }
 }
 
-void PaletteDocument::markSaved(std::wstring fileName, PaletteFormat format) {
+void PaletteDocument::markSaved(const std::wstring& fileName, PaletteFormat format) {
   modificationCount_ = 0;
   format_ = format;
-  setFileName(std::move(fileName));
+  setFileName(fileName);
 }
 
 // The whole name where it has no backslash.
 void PaletteDocument::announceTitle() {
-  observer_.titleChanged(L"Quillhue - " + fileName_.substr(fileName_.rfind(L'\\') + 1));
+  std::wstring title = L"Quillhue - ";
+  title.append(fileName_, fileName_.rfind(L'\\') + 1);
+  observer_.titleChanged(title);
 }
 
 void PaletteDocument::announceHistory() { observer_.undoRedoChanged(history_.canUndo(), history_.canRedo()); }

@@ -67,9 +67,9 @@ class PaletteDocument {
   void redo();
 
   /// Titles the window after the name's part behind its last backslash, unless it is the current name.
-  void setFileName(std::wstring name);
+  void setFileName(const std::wstring& name);
   /// The document stands in this file now, unmodified.
-  void markSaved(std::wstring fileName, PaletteFormat format);
+  void markSaved(const std::wstring& fileName, PaletteFormat format);
 
  private:
   [[nodiscard]] bool contains(std::int32_t index) const { return index >= 0 && index < getSize(); }
