@@ -32,7 +32,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (!result) {
       require(!textOf(result.error()).empty(), "a text for every failure");
     } else if (const auto* bitmap = std::get_if<TrueColorBitmap>(&*result)) {
-      makePalettes(*bitmap, size);
+      if (reader->matches({source, L"x"})) {
+        makePalettes(*bitmap, size);
+      }
     } else {
       const std::int32_t entries = std::get<FilePalette>(*result).palette.getSize();
       require(entries >= 1 && entries <= kMaxPaletteSize, "1 to 1024 entries");

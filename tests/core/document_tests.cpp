@@ -1,97 +1,86 @@
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "core/document.h"
+#include "core/utf8.h"
 #include "support/fakes.h"
 #include "support/palettes.h"
 
 namespace quillhue {
 namespace {
 
-using Lines = std::vector<std::string>;
+constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+
+TEST(Palette, ResizedCopyKeepsColorsAndSelectionAndFillsWithTheBlankColor) {
+  Palette palette = createPalette(kLeast, {1, 2, 3});
+  palette.selected()[0] = 1;
+  const Palette grown = resizedCopy(palette, 3, {7, 8, 9});
+  EXPECT_EQ(show(grown), "1,2,3 7,8,9 7,8,9");
+  EXPECT_EQ(Bytes(grown.selected().begin(), grown.selected().end()), (Bytes{1, 0, 0}));
+  EXPECT_EQ(resizedCopy(grown, 0, {}), palette);
+  EXPECT_EQ(resizedCopy(grown, kLeast, {}), palette);
+}
 
 class PaletteDocumentTest : public testing::Test {
  protected:
   RecordingServices fakes;
   DocumentSlot slot;
 
-  PaletteDocument& replace(Palette palette, bool modified = false, const wchar_t* name = L"",
-                           PaletteFormat format = 0) {
-    slot.replaceDocument(std::move(palette), modified, name, format, fakes.services);
+  PaletteDocument& replace(Palette palette, bool modified = false, const wchar_t* name = L"") {
+    slot.replaceDocument(std::move(palette), modified, name, 0, fakes.services);
     return *slot.document();
   }
 };
 
 TEST_F(PaletteDocumentTest, ReplacingAnnouncesEverythingInOrder) {
   EXPECT_EQ(slot.document(), nullptr);
-  const PaletteDocument& first = replace(createPalette(1));
-  EXPECT_EQ(fakes.takeLines(),
-            (Lines{"title: Quillhue - Untitled", "status: 1 entry", "undo/redo: no/no", "document replaced"}));
-  EXPECT_EQ(first.getFileName(), L"\\Untitled");
-  EXPECT_FALSE(first.isModified());
-
+  EXPECT_FALSE(replace(createPalette(1)).isModified());
+  EXPECT_EQ(fakes.takeLines(), "title: Quillhue - Untitled\nstatus: 1 entry\nundo/redo: no/no\ndocument replaced\n");
+  EXPECT_EQ(slot.document()->getFileName(), L"\\Untitled");
   // The same title again: every document sets it.
-  const PaletteDocument& second = replace(createPalette(2), true, L"", 7);
-  EXPECT_EQ(fakes.takeLines(),
-            (Lines{"title: Quillhue - Untitled", "status: 2 entries", "undo/redo: no/no", "document replaced"}));
-  EXPECT_TRUE(second.isModified());
-  EXPECT_EQ(second.getFormat(), 7U);
-
-  replace(createPalette(3), false, L"C:\\art\\sea.pal", 10);
-  EXPECT_EQ(fakes.takeLines()[0], "title: Quillhue - sea.pal");
+  EXPECT_TRUE(replace(createPalette(2), true).isModified());
+  EXPECT_EQ(fakes.takeLines(), "title: Quillhue - Untitled\nstatus: 2 entries\nundo/redo: no/no\ndocument replaced\n");
 }
 
-TEST_F(PaletteDocumentTest, TitleShowsTheNameBehindTheLastBackslash) {
-  PaletteDocument& document = replace(createPalette(1));
-  fakes.takeLines();
-  document.setFileName(L"\\Untitled");
-  EXPECT_EQ(fakes.takeLines(), Lines{});
-  document.setFileName(L"C:\\a\\b.act");
-  document.setFileName(L"C:\\a\\b.act");
+TEST_F(PaletteDocumentTest, AnnouncesNamesAndSizes) {
+  PaletteDocument& document = replace(createPalette(2), false, L"C:\\art\\sea.pal");
+  EXPECT_EQ(fakes.takeLast("title: "), "Quillhue - sea.pal");
+  document.setFileName(L"C:\\art\\sea.pal");
+  EXPECT_EQ(fakes.takeLines(), "");
   document.setFileName(L"plain/name");
   document.setFileName(L"folder\\");
-  EXPECT_EQ(fakes.takeLines(),
-            (Lines{"title: Quillhue - b.act", "title: Quillhue - plain/name", "title: Quillhue - "}));
-}
-
-TEST_F(PaletteDocumentTest, StatusFollowsTheSize) {
-  PaletteDocument& document = replace(createPalette(2));
-  fakes.takeLines();
+  EXPECT_EQ(fakes.takeLines(), "title: Quillhue - plain/name\ntitle: Quillhue - \n");
   document.resize(-5);
+  EXPECT_EQ(fakes.takeLast("status: "), "1 entry");
   document.undo();
+  EXPECT_EQ(fakes.takeLast("status: "), "2 entries");
   document.redo();
-  Lines status;
-  for (const std::string& line : fakes.takeLines()) {
-    if (line.starts_with("status")) {
-      status.push_back(line);
-    }
-  }
-  EXPECT_EQ(status, (Lines{"status: 1 entry", "status: 2 entries", "status: 1 entry"}));
+  EXPECT_EQ(fakes.takeLast("status: "), "1 entry");
 }
 
 TEST_F(PaletteDocumentTest, SettersIgnoreWhatIsOutsideAndWhatIsLocked) {
-  const Palette original = variedPalette(3);
-  PaletteDocument& document = replace(original);
-  const auto tryAll = [&](std::int32_t index) {
+  PaletteDocument& document = replace(createPalette(2, {9, 9, 9}));
+  const auto setAll = [&](std::int32_t index) {
     document.setColor(index, {1, 1, 1});
     document.setRed(index, 2);
     document.setGreen(index, 3);
     document.setBlue(index, 4);
   };
-  for (const std::int32_t index : {3, -1, std::numeric_limits<std::int32_t>::max()}) {
-    tryAll(index);
+  for (const std::int32_t index : {2, -1, kLeast}) {
+    setAll(index);
     document.select(index);
     document.deselect(index);
   }
-  EXPECT_EQ(document.getPalette(), original);
-
+  EXPECT_EQ(document.getPalette(), createPalette(2, {9, 9, 9}));
   document.select(1);
   document.lock();
-  tryAll(1);
-  document.applyChannels(7, createPalette(3, {9, 9, 9}));
-  EXPECT_EQ(colorsOf(document.getPalette()), colorsOf(original));
+  setAll(1);
+  document.applyChannels(7, createPalette(1));
+  EXPECT_EQ(show(document.getPalette()), "9,9,9 9,9,9");
   document.unlock();
-  tryAll(1);
-  EXPECT_EQ(document.getPalette().entry(1), (PaletteEntry{2, 3, 4}));
+  setAll(1);
+  EXPECT_EQ(show(document.getPalette()), "9,9,9 2,3,4");
   EXPECT_EQ(document.countSelected(), 1);
   document.deselect(1);
   EXPECT_EQ(document.countSelected(), 0);
@@ -99,24 +88,26 @@ TEST_F(PaletteDocumentTest, SettersIgnoreWhatIsOutsideAndWhatIsLocked) {
 }
 
 TEST_F(PaletteDocumentTest, ApplyChannelsGoesBySelectedEntry) {
-  const Colors source{{10, 11, 12}, {20, 21, 22}, {30, 31, 32}};
-  struct Case {
-    ChannelMask mask;
-    PaletteEntry expected;
-  };
-  // What entry 5, the third selected one, becomes; it was 6, 200, 35.
-  for (const auto& [mask, expected] : {Case{0, {6, 200, 35}}, Case{1, {30, 200, 35}}, Case{2, {6, 31, 35}},
-                                       Case{4, {6, 200, 32}}, Case{7, {30, 31, 32}}}) {
-    const Palette original = variedPalette(7);
-    PaletteDocument& document = replace(original);
-    for (const std::int32_t index : {1, 4, 5, 6}) {
+  const char* const expected[] = {"9,9,9 9,9,9 9,9,9 9,9,9", "9,9,9 1,9,9 9,9,9 2,9,9", "9,9,9 9,200,9 9,9,9 9,200,9",
+                                  "9,9,9 1,200,9 9,9,9 2,200,9", "9,9,9 9,9,0 9,9,9 9,9,7"};
+  for (ChannelMask mask = 0; mask <= 4; ++mask) {
+    PaletteDocument& document = replace(createPalette(5, {9, 9, 9}));
+    for (const std::int32_t index : {1, 3, 4}) {
       document.select(index);
     }
-    document.applyChannels(mask, paletteOf(source));
-    EXPECT_EQ(document.getPalette().entry(5), expected) << mask;
-    EXPECT_EQ(document.getPalette().entry(3), original.entry(3)) << mask;
-    // The source is exhausted.
-    EXPECT_EQ(document.getPalette().entry(6), original.entry(6)) << mask;
+    // The source runs out before the selection does.
+    document.applyChannels(mask, variedPalette(2));
+    EXPECT_EQ(show(document.getPalette()), expected[mask] + std::string(" 9,9,9"));
+  }
+}
+
+TEST(Utf8, ConvertsTextAndCarriesOtherBytesThrough) {
+  EXPECT_EQ(fromUtf8("a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x8E\xA8!"), L"a\u00E9\u20AC\U0001F3A8!");
+  EXPECT_EQ(fromUtf8("\xFFy"), L"\xDCFFy");
+  // The same, lone continuation and lead bytes, a cut sequence, overlong forms, a surrogate, past the last code.
+  for (const std::string bytes : {"a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x8E\xA8!", "\x80", "x\xFFy", "\xE2\x82", "\xC0\x80",
+                                  "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF8\x88", "\xC3\xC3\xA9"}) {
+    EXPECT_EQ(toUtf8(fromUtf8(bytes)), bytes);
   }
 }
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Makes one small file of every layout in samples/, and samples.txt, which tells what each of them holds.
 
-A line of samples.txt: file, reader, format code, entries, CRC-32 of the entries' red, green and blue bytes; for an
-image of true colors the reader and the number of different colors.
+A line of samples.txt: file, reader, and then format code, number of entries and the Adler-32 checksum of their red,
+green and blue bytes; for an image of true colors the number of different colors.
 """
 
 import pathlib
@@ -37,12 +37,12 @@ def blue_first(entries):
 
 def save(name, content, reader, code, entries):
     (SAMPLES / name).write_bytes(content)
-    lines.append(f"{name} {reader} {code} {len(entries)} {zlib.crc32(triples(entries)):08x}")
+    lines.append(f"{name} | {reader} | {code} {len(entries)} {zlib.adler32(triples(entries))}")
 
 
 def save_image(name, content, distinct):
     (SAMPLES / name).write_bytes(content)
-    lines.append(f"{name} bmp colors {distinct}")
+    lines.append(f"{name} | bmp | {distinct} colors")
 
 
 def numbers(entries, separator, end):

@@ -13,31 +13,33 @@ namespace {
 class SortedImage {
  public:
   explicit SortedImage(std::vector<ColorWord> words) : words_(std::move(words)) {
-    const auto key = [](ColorWord word) { return (word >> 8 & 0xFF) << 16 | (word & 0xFF) << 8 | (word >> 16 & 0xFF); };
-    std::ranges::sort(words_,
-                      [&](ColorWord a, ColorWord b) { return key(a) != key(b) ? key(a) < key(b) : a >> 24 < b >> 24; });
+    std::ranges::sort(words_, {}, [](ColorWord word) {
+      return (word >> 8 & 0xFF) << 24 | (word & 0xFF) << 16 | (word >> 16 & 0xFF) << 8 | word >> 24;
+    });
   }
 
   [[nodiscard]] std::uint64_t distinctCount() const {
+    const auto differ = [&](std::size_t i) { return words_[i] != words_[i - 1] ? 1U : 0U; };
     std::uint64_t count = 1;
     for (std::size_t i = 1; i < words_.size(); ++i) {
-      count += words_[i] != words_[i - 1] ? 1 : 0;
+      count += differ(i);
     }
     return count;
   }
 
-  [[nodiscard]] Colors exact(std::size_t size, PaletteEntry blank) const {
-    Colors colors{colorOf(words_[0])};
-    for (std::size_t i = 1; i < words_.size() && colors.size() < size; ++i) {
-      if ((words_[i] ^ words_[i - 1]) << 8 != 0) {
-        colors.push_back(colorOf(words_[i]));
+  [[nodiscard]] std::string exact(std::int32_t size, PaletteEntry blank) const {
+    Palette palette = createPalette(size, blank);
+    palette.setEntry(0, colorOf(words_[0]));
+    std::int32_t filled = 1;
+    for (std::size_t i = 1; i < words_.size() && filled < size; ++i) {
+      if (colorOf(words_[i]) != colorOf(words_[i - 1])) {
+        palette.setEntry(filled++, colorOf(words_[i]));
       }
     }
-    colors.resize(size, blank);
-    return colors;
+    return show(palette);
   }
 
-  [[nodiscard]] Colors reduced(std::int32_t size, PaletteEntry blank) const {
+  [[nodiscard]] std::string reduced(std::int32_t size, PaletteEntry blank) const {
     std::vector<ColorWord> kept{words_[0]};
     std::size_t run = 0;
     for (std::size_t i = 1; i < words_.size(); ++i) {
@@ -47,61 +49,47 @@ class SortedImage {
       }
       run = same ? run + 1 : 1;
     }
-    Colors palette;
-    split(kept.data(), kept.size(), size, palette);
-    palette.resize(static_cast<std::size_t>(size), blank);
-    return palette;
+    Palette palette = createPalette(size, blank);
+    std::int32_t filled = 0;
+    split(kept, size, palette, filled);
+    return show(palette);
   }
 
  private:
-  static int split(ColorWord* words, std::size_t m, int k, Colors& palette) {
-    int total = 0;
-    while (true) {
-      const int channel = splitChannel(words, m);
-      const auto byte = [channel](ColorWord word) { return word >> (8 * channel) & 0xFF; };
-      std::sort(words, words + m, [&](ColorWord a, ColorWord b) { return byte(a) < byte(b); });
-      if (k < 2 || m < 2) {
-        const auto known = [&](std::size_t i) {
-          return std::ranges::find(palette, colorOf(words[i])) != palette.end();
-        };
-        if (known(m / 2) && (m % 2 == 1 || known((m - 1) / 2))) {
-          return total;
-        }
-        palette.push_back(colorOf(words[m / 2]));
-        return total + 1;
-      }
-      const int added = split(words, m / 2, k / 2, palette);
-      total += added;
-      k -= added;
-      words += m / 2;
-      m -= m / 2;
+  static int split(std::span<ColorWord> words, int k, Palette& palette, std::int32_t& filled) {
+    const std::size_t m = words.size();
+    const auto byte = [channel = splitChannel(words)](ColorWord word) { return word >> (8 * channel) & 0xFF; };
+    std::sort(words.begin(), words.end(), [&](ColorWord a, ColorWord b) { return byte(a) < byte(b); });
+    if (k >= 2 && m >= 2) {
+      const int added = split(words.first(m / 2), k / 2, palette, filled);
+      return added + split(words.subspan(m / 2), k - added, palette, filled);
     }
+    const auto known = [&](std::size_t i) {
+      std::int32_t entry = 0;
+      while (entry < filled && palette.entry(entry) != colorOf(words[i])) {
+        ++entry;
+      }
+      return entry < filled;
+    };
+    if (known(m / 2) && (m % 2 == 1 || known((m - 1) / 2))) {
+      return 0;
+    }
+    palette.setEntry(filled++, colorOf(words[m / 2]));
+    return 1;
   }
 
-  static int splitChannel(const ColorWord* words, std::size_t m) {
+  static unsigned splitChannel(std::span<const ColorWord> words) {
     unsigned a = 255;
     unsigned c = 255;
-    for (std::size_t i = 0; i < m; ++i) {
-      const unsigned blue = words[i] & 0xFF;
-      const unsigned red = words[i] >> 16 & 0xFF;
-      if (red < a) {
-        a = blue;
-      }
-      if (red != 0) {
-        a = blue;
-      }
-      if (blue < c) {
-        c = red;
-      }
-      if (blue != 0) {
-        c = red;
-      }
+    for (const ColorWord word : words) {
+      const PaletteEntry color = colorOf(word);
+      a = color.red < a ? color.blue : a;
+      a = color.red != 0 ? color.blue : a;
+      c = color.blue < c ? color.red : c;
+      c = color.blue != 0 ? color.red : c;
     }
-    const unsigned green = words[m - 1] >> 8 & 0xFF;
-    if (c < a) {
-      return c < green ? 2 : 1;
-    }
-    return green <= a ? 1 : 0;
+    const unsigned green = colorOf(words.back()).green;
+    return c < a ? (c < green ? 2 : 1) : (green <= a ? 1 : 0);
   }
 
   std::vector<ColorWord> words_;
@@ -127,9 +115,8 @@ TEST(ImageColors, EqualThePlainMethod) {
     const SortedImage plain(words);
     ASSERT_EQ(product.distinctCount(), plain.distinctCount()) << round;
     for (const std::int32_t size : {1, 2, 3, 16, 255, 1024}) {
-      ASSERT_EQ(colorsOf(product.exactPalette(size, kBlank)), plain.exact(static_cast<std::size_t>(size), kBlank))
-          << round << ", " << size;
-      ASSERT_EQ(colorsOf(product.reducedPalette(size, kBlank)), plain.reduced(size, kBlank)) << round << ", " << size;
+      ASSERT_EQ(show(product.exactPalette(size, kBlank)), plain.exact(size, kBlank)) << round << ", " << size;
+      ASSERT_EQ(show(product.reducedPalette(size, kBlank)), plain.reduced(size, kBlank)) << round << ", " << size;
     }
   }
 }
@@ -138,8 +125,7 @@ TEST(ImageColors, Widen16BitPixelsByTheirLowBits) {
   MemorySource source(bitmapOf(5, 16, {0x7FFF, 0x0421, 0x4210, 0x8000, 0x001F}));
   const ImageColors colors(TrueColorBitmap::open(source).value());
   EXPECT_EQ(colors.distinctCount(), 5U);
-  EXPECT_EQ(colorsOf(colors.exactPalette(5, {})),
-            (Colors{{0, 0, 0}, {0, 0, 255}, {9, 9, 9}, {128, 128, 128}, {255, 255, 255}}));
+  EXPECT_EQ(show(colors.exactPalette(5, {})), "0,0,0 0,0,255 9,9,9 128,128,128 255,255,255");
 }
 
 TEST(ImageColors, OfferTheRowsThatATruncatedFileHoldsInPart) {

@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "core/services.h"
 #include "core/utf8.h"
@@ -12,15 +11,22 @@ namespace quillhue {
 /// Services that note what is asked of them, a line each, and answer as the test has told them to.
 class RecordingServices : public Messages, public DocumentObserver, public FileQuestions {
  public:
-  Services services{settings, *this, *this, *this};
   AppSettings settings;
+  Services services{settings, *this, *this, *this};
   SaveChangesAnswer saveChanges = SaveChangesAnswer::cancel;
   bool replaceFile = false;
   std::optional<SaveAsAnswer> saveAs;
   std::int32_t paletteFromImage = 0;
 
   /// The lines since the last call.
-  std::vector<std::string> takeLines() { return std::exchange(lines_, {}); }
+  std::string takeLines() { return std::exchange(lines_, {}); }
+  /// Of those, what follows `beginning` in the last line that has it; empty when none has.
+  std::string takeLast(const std::string& beginning) {
+    const std::string lines = takeLines();
+    const auto at = lines.rfind(beginning);
+    return at == std::string::npos ? ""
+                                   : lines.substr(at + beginning.size(), lines.find('\n', at) - at - beginning.size());
+  }
 
   void error(std::string_view text) override { note("error: ", text); }
   SaveChangesAnswer askSaveChanges(std::string_view text) override {
@@ -47,9 +53,9 @@ class RecordingServices : public Messages, public DocumentObserver, public FileQ
   }
 
  private:
-  void note(std::string_view what, std::string_view text) { lines_.push_back(std::string(what) + std::string(text)); }
+  void note(std::string_view what, std::string_view text) { lines_.append(what).append(text).append("\n"); }
 
-  std::vector<std::string> lines_;
+  std::string lines_;
 };
 
 }  // namespace quillhue

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <ostream>
-#include <span>
+#include <sstream>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -11,27 +11,20 @@
 namespace quillhue {
 
 using Bytes = std::vector<std::uint8_t>;
-using Colors = std::vector<PaletteEntry>;
 
 inline Bytes bytesOf(std::string_view text) { return {text.begin(), text.end()}; }
 
-inline Colors colorsOf(const Palette& palette) {
-  Colors colors;
+/// "1,2,3 4,5,6" for two entries.
+inline std::string show(const Palette& palette) {
+  std::ostringstream text;
   for (std::int32_t i = 0; i < palette.getSize(); ++i) {
-    colors.push_back(palette.entry(i));
+    const PaletteEntry color = palette.entry(i);
+    text << (i == 0 ? "" : " ") << int{color.red} << ',' << int{color.green} << ',' << int{color.blue};
   }
-  return colors;
+  return text.str();
 }
 
-inline Palette paletteOf(std::span<const PaletteEntry> colors) {
-  Palette palette = createPalette(static_cast<std::int32_t>(colors.size()));
-  for (std::int32_t i = 0; i < palette.getSize(); ++i) {
-    palette.setEntry(i, colors[static_cast<std::size_t>(i)]);
-  }
-  return palette;
-}
-
-/// `size` different colors (up to 2^24), none of them black.
+/// `size` different colors (up to 2^16), none of them black.
 inline Palette variedPalette(std::int32_t size) {
   Palette palette = createPalette(size);
   for (std::int32_t i = 0; i < palette.getSize(); ++i) {
@@ -39,10 +32,6 @@ inline Palette variedPalette(std::int32_t size) {
                          static_cast<std::uint8_t>(i * 7)});
   }
   return palette;
-}
-
-inline void PrintTo(const PaletteEntry& color, std::ostream* out) {
-  *out << int{color.red} << ',' << int{color.green} << ',' << int{color.blue};
 }
 
 }  // namespace quillhue

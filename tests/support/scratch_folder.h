@@ -3,17 +3,19 @@
 #include <filesystem>
 #include <random>
 #include <string>
+#include <system_error>
+
+#include "formats/files.h"
+#include "support/palettes.h"
 
 namespace quillhue {
 
 /// A folder for the files of one test, removed with all that is in it.
 class ScratchFolder {
  public:
-  ScratchFolder() {
-    std::random_device random;
-    do {
-      path_ = std::filesystem::temp_directory_path() / ("quillhue-test-" + std::to_string(random()));
-    } while (!std::filesystem::create_directory(path_));
+  ScratchFolder()
+      : path_(std::filesystem::temp_directory_path() / ("quillhue-" + std::to_string(std::random_device()()))) {
+    std::filesystem::create_directory(path_);
   }
   ScratchFolder(const ScratchFolder&) = delete;
   ScratchFolder& operator=(const ScratchFolder&) = delete;
@@ -22,7 +24,19 @@ class ScratchFolder {
     std::filesystem::remove_all(path_, ignored);
   }
 
-  [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+  /// The full name of a file in the folder; of the folder itself without a name.
+  [[nodiscard]] std::wstring name(const std::filesystem::path& file = {}) const {
+    return toFileName(file.empty() ? path_ : path_ / file);
+  }
+  /// Writes a file and returns its full name.
+  [[nodiscard]] std::wstring file(const std::filesystem::path& file, const Bytes& content) const {
+    return writeFile(name(file), content) ? name(file) : throw std::system_error();
+  }
+  [[nodiscard]] std::string contentOf(const std::filesystem::path& file) const {
+    const auto source = openFile(name(file)).value();
+    const Bytes bytes = source->bytes(0, static_cast<std::size_t>(source->size()));
+    return {bytes.begin(), bytes.end()};
+  }
 
  private:
   std::filesystem::path path_;

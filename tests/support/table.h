@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace quillhue {
+
+/// The rows of a table in the folder data, in which tests run: the cells of a line stand between vertical bars, with
+/// \n, \r, \t, \s (a blank), \0 and \xHH for bytes, and lines that begin with # are remarks.
+[[nodiscard]] std::vector<std::vector<std::string>> readTable(const std::string& file);
+
+}  // namespace quillhue
