@@ -21,6 +21,21 @@ std::uint32_t ByteSource::u32be(std::uint64_t offset) {
 }
 
 void ByteSource::read(std::uint64_t offset, std::span<std::uint8_t> out) {
+  if (out.size() >= kBlockSize) {
+    fetch(offset, out);
+    return;
+  }
+  while (!out.empty()) {
+    loadBlock(offset);
+    const auto loaded = std::span(block_).subspan(static_cast<std::size_t>(offset - blockStart_));
+    const auto part = loaded.first(std::min(loaded.size(), out.size()));
+    std::ranges::copy(part, out.begin());
+    offset += part.size();
+    out = out.subspan(part.size());
+  }
+}
+
+void ByteSource::fetch(std::uint64_t offset, std::span<std::uint8_t> out) {
   const std::uint64_t left = offset < size_ ? size_ - offset : 0;
   const auto stored = static_cast<std::size_t>(std::min<std::uint64_t>(left, out.size()));
   const std::size_t got = stored == 0 ? 0 : readStored(offset, out.first(stored));
@@ -32,12 +47,6 @@ std::vector<std::uint8_t> ByteSource::bytes(std::uint64_t offset, std::size_t co
   std::vector<std::uint8_t> result(count);
   read(offset, result);
   return result;
-}
-
-void ByteSource::loadBlock(std::uint64_t offset) {
-  blockStart_ = offset - offset % kBlockSize;
-  blockLength_ = kBlockSize;
-  read(blockStart_, block_);
 }
 
 std::size_t MemorySource::readStored(std::uint64_t offset, std::span<std::uint8_t> out) {

@@ -23,9 +23,7 @@ class ByteSource {
 
   /// Little-endian (le) or big-endian (be) unsigned values.
   [[nodiscard]] std::uint8_t u8(std::uint64_t offset) {
-    if (offset - blockStart_ >= blockLength_) {
-      loadBlock(offset);
-    }
+    loadBlock(offset);
     return block_[static_cast<std::size_t>(offset - blockStart_)];
   }
   [[nodiscard]] std::uint16_t u16le(std::uint64_t offset);
@@ -47,7 +45,16 @@ class ByteSource {
  private:
   /// Reads into `out`, which lies within the size; returns the bytes read, fewer only when the medium fails.
   virtual std::size_t readStored(std::uint64_t offset, std::span<std::uint8_t> out) = 0;
-  void loadBlock(std::uint64_t offset);
+  // Fills `out` from the medium, with zeros behind the end.
+  void fetch(std::uint64_t offset, std::span<std::uint8_t> out);
+  // Makes the block hold `offset`.
+  void loadBlock(std::uint64_t offset) {
+    if (offset - blockStart_ >= blockLength_) {
+      blockStart_ = offset - offset % kBlockSize;
+      blockLength_ = kBlockSize;
+      fetch(blockStart_, block_);
+    }
+  }
 
   static constexpr std::size_t kBlockSize = 4096;
 

@@ -14,11 +14,12 @@ std::uint64_t behindLineFeed(ByteSource& source, std::uint64_t offset) { return 
 
 std::uint64_t behindComments(ByteSource& source, std::uint64_t offset) {
   while (source.u8(offset) == '#') {
-    std::array<std::uint8_t, kLineLimit> line;
-    source.read(offset, line);
-    const auto lineFeed = std::ranges::find(line, std::uint8_t{'\n'});
+    std::uint64_t length = 1;
+    while (length < kLineLimit && source.u8(offset + length) != '\n') {
+      ++length;
+    }
     // kept on purpose: a comment without a line feed in sight ends one byte behind the part that was looked at.
-    offset += static_cast<std::uint64_t>(lineFeed - line.begin()) + 1;
+    offset += length + 1;
   }
   return offset;
 }

@@ -121,30 +121,6 @@ TEST(ImageColors, EqualThePlainMethod) {
   }
 }
 
-TEST(ImageColors, Widen16BitPixelsByTheirLowBits) {
-  MemorySource source(bitmapOf(5, 16, {0x7FFF, 0x0421, 0x4210, 0x8000, 0x001F}));
-  const ImageColors colors(TrueColorBitmap::open(source).value());
-  EXPECT_EQ(colors.distinctCount(), 5U);
-  EXPECT_EQ(show(colors.exactPalette(5, {})), "0,0,0 0,0,255 9,9,9 128,128,128 255,255,255");
-}
-
-TEST(ImageColors, OfferTheRowsThatATruncatedFileHoldsInPart) {
-  const Bytes whole = bitmapOf(3, 24, {1, 2, 3, 4, 5, 6, 7, 8, 9});
-  struct Case {
-    std::size_t length;
-    std::uint64_t pixels;
-    std::uint64_t distinct;
-  };
-  // Rows take 12 bytes. The missing bytes of the last one are black.
-  for (const auto& [length, pixels, distinct] :
-       {Case{90, 9, 9}, Case{79, 9, 8}, Case{78, 6, 6}, Case{67, 6, 5}, Case{66, 3, 3}, Case{55, 3, 2}}) {
-    MemorySource source(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length)));
-    const TrueColorBitmap bitmap = TrueColorBitmap::open(source).value();
-    EXPECT_EQ(bitmap.pixelCount(), pixels) << length;
-    EXPECT_EQ(ImageColors(bitmap).distinctCount(), distinct) << length;
-  }
-}
-
 // Rows are decoded some at a time; none may be lost or doubled between two blocks.
 TEST(ImageColors, CountAcrossBlocks) {
   for (const std::uint32_t width : {1U, 333U, 100'000U}) {
