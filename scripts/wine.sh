@@ -3,6 +3,8 @@
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 mkdir -p "$root/build"
 export WINEPREFIX=${QUILLHUE_WINEPREFIX:-$root/build/wine}
+# Wine takes the system's file names and arguments in the encoding of the locale.
+export LC_ALL=C.UTF-8
 export WINEDEBUG=-all
 export WINEDLLOVERRIDES="mscoree,mshtml="
 exec wine "$@"
