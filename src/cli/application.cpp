@@ -1,6 +1,7 @@
 #include "cli/application.h"
 
 #include <algorithm>
+#include <exception>
 
 #include "cli/verbs.h"
 
@@ -30,6 +31,9 @@ int run(std::vector<std::string> arguments, Console& console) {
     tool.parse(std::move(arguments));
   } catch (const CLI::ParseError& error) {
     status = tool.exit(error, console.out, console.err) == 0 ? kDone : kWrongUsage;
+  } catch (const std::exception& error) {
+    console.err << error.what() << '\n';
+    status = kRefused;
   }
   console.out.flush();
   if (!console.out) {

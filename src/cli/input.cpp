@@ -30,15 +30,16 @@ std::vector<std::string> expandFolders(const std::vector<std::string>& files) {
   std::vector<std::string> expanded;
   for (const std::string& file : files) {
     std::error_code error;
-    const std::filesystem::directory_iterator entries(toPath(fromUtf8(file)), error);
+    std::filesystem::directory_iterator entry(toPath(fromUtf8(file)), error);
     if (file == "-" || error) {
       expanded.push_back(file);
       continue;
     }
     const auto first = static_cast<std::ptrdiff_t>(expanded.size());
-    for (const auto& entry : entries) {
-      if (entry.is_regular_file(error)) {
-        expanded.push_back(toUtf8(toFileName(entry.path())));
+    for (; entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+      std::error_code unknown;
+      if (entry->is_regular_file(unknown)) {
+        expanded.push_back(toUtf8(toFileName(entry->path())));
       }
     }
     std::sort(expanded.begin() + first, expanded.end());

@@ -64,10 +64,12 @@ bool matchTag(ByteSource& source, std::uint64_t offset, std::string_view tag) {
 }
 
 std::uint64_t findTag(ByteSource& source, std::uint64_t from, std::string_view tag) {
-  while (from < source.size() && !matchTag(source, from, tag)) {
+  const auto first = static_cast<std::uint8_t>(tag.front());
+  const std::uint64_t end = source.size();
+  while (from < end && (source.u8(from) != first || !matchTag(source, from, tag))) {
     ++from;
   }
-  return std::min(from, source.size());
+  return std::min(from, end);
 }
 
 }  // namespace quillhue

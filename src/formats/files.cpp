@@ -24,7 +24,7 @@ class FileSource final : public ByteSource {
   FileSource(std::filebuf file, std::uint64_t size) : ByteSource(size), file_(std::move(file)) {}
 
  private:
-  std::size_t readStored(std::uint64_t offset, std::span<std::uint8_t> out) override {
+  std::size_t readStored(std::uint64_t offset, std::span<std::uint8_t> out) override try {
     const auto start = static_cast<std::streamoff>(offset);
     if (file_.pubseekpos(std::streampos(start), std::ios::in) != std::streampos(start)) {
       return 0;
@@ -32,6 +32,9 @@ class FileSource final : public ByteSource {
     // The stream's bytes are chars; this is the one place where they become unsigned.
     const auto got = file_.sgetn(reinterpret_cast<char*>(out.data()), static_cast<std::streamsize>(out.size()));
     return static_cast<std::size_t>(std::max<std::streamsize>(got, 0));
+  } catch (const std::ios_base::failure&) {
+    // How the library tells of an error of the medium, where it does not end the file early.
+    return 0;
   }
 
   std::filebuf file_;
