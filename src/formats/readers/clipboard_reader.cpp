@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <optional>
 
 #include "formats/readers/palette_readers.h"
@@ -19,9 +20,9 @@ bool matches(const ReaderInput& input) { return input.source.u16le(0) == kFileId
 // The data offset of the first item of this kind that is `usable`.
 template <typename Usable>
 std::optional<std::uint64_t> findItem(ByteSource& source, std::uint16_t kind, Usable usable) {
-  const std::uint16_t count = source.u16le(2);
-  for (std::uint16_t i = 0; i < count; ++i) {
-    const std::uint64_t entry = kDirectory + i * kDirectoryEntry;
+  // Behind the end of the file there is nothing but zeros, which are no kind.
+  const std::uint64_t end = std::min<std::uint64_t>(kDirectory + source.u16le(2) * kDirectoryEntry, source.size());
+  for (std::uint64_t entry = kDirectory; entry < end; entry += kDirectoryEntry) {
     if (source.u16le(entry) != kind) {
       continue;
     }

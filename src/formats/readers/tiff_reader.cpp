@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -21,6 +22,7 @@ class TiffValues {
  public:
   explicit TiffValues(ByteSource& source) : source_(source), bigEndian_(source.u8(0) == 'M') {}
 
+  [[nodiscard]] std::uint64_t size() const { return source_.size(); }
   [[nodiscard]] std::uint16_t u16(std::uint64_t offset) const {
     return bigEndian_ ? source_.u16be(offset) : source_.u16le(offset);
   }
@@ -43,10 +45,10 @@ struct Directory {
 
 std::optional<Directory> readDirectory(const TiffValues& values) {
   const std::uint64_t start = values.u32(4);
-  const std::uint16_t fields = values.u16(start);
+  // Behind the end of the file there is nothing but zeros, which are no field.
+  const std::uint64_t end = std::min(start + 2 + values.u16(start) * kFieldSize, values.size());
   Directory directory;
-  for (std::uint16_t i = 0; i < fields; ++i) {
-    const std::uint64_t field = start + 2 + i * kFieldSize;
+  for (std::uint64_t field = start + 2; field < end; field += kFieldSize) {
     const std::uint64_t value = field + 8;
     switch (values.u16(field)) {
       case kBitsPerSample: {
