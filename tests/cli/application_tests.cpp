@@ -62,6 +62,7 @@ TEST(Tool, AnswersEachCall) {
 TEST(Tool, ShowsBlocksOfColorInATerminal) {
   EXPECT_EQ(call({"info", "-", "--name", "x.map"}, true).out,
             "-: MAP palette, 1 entry\n    0 \x1b[48;2;1;2;3;38;2;255;255;255m #010203 \x1b[0m\n");
+  EXPECT_NE(call({"info", "samples/32.gif"}, true).out.find("48;2;159;208;252;38;2;0;0;0m"), std::string::npos);
   // Four cells of 15 characters fit into 80.
   EXPECT_EQ(std::ranges::count(call({"info", "samples/32.gif"}, true).out, '\n'), 1 + 8);
 }

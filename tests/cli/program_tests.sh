@@ -23,7 +23,7 @@ expect_status 0 convert 'häfen €.map' 'ö.act'
 [ "$(stat -c %s 'ö.act')" -eq 772 ] || fail 'ö.act is not 772 bytes long'
 expect_status 0 info 'ö.act'
 grep -q '^ö.act: Adobe Color Table, 2 entries$' out || fail "info shows: $(cat out)"
-grep -q $'\r' out && fail 'the output has carriage returns'
+grep -q $'[\r\x1b]' out && fail 'the output has carriage returns or colors'
 
 # Bytes pass the standard streams unchanged, line ends and a control-Z among them.
 "${tool[@]}" convert - - --format clp --name x.act <'ö.act' >direct.clp
@@ -41,6 +41,7 @@ expect_status 0 --help
 expect_status 1 info empty
 [ "$(tr -d '\r' <err)" = 'empty: Quillhue could not recognise this file type.' ] || fail "an empty file: $(cat err)"
 if [ -e /dev/full ] && [ $# -eq 1 ]; then
+  "${tool[@]}" info <(cat file.clp) >out || fail 'a pipe is no file'
   ! "${tool[@]}" info 'ö.act' >/dev/full 2>err || fail 'a full device goes unnoticed'
   ! "${tool[@]}" convert 'ö.act' /dev/full --force --format map 2>err || fail 'a full device goes unnoticed'
 fi

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "formats/files.h"
+#include "formats/readers/palette_readers.h"
 #include "support/palettes.h"
 #include "support/scratch_folder.h"
 
@@ -82,6 +83,7 @@ TEST(ByteSource, ReadsBlocksAndTellsWhenTheMediumFails) {
   EXPECT_FALSE(source.failed());
   EXPECT_EQ(source.bytes(9999, 3), (Bytes{1, 0, 0}));
   EXPECT_TRUE(source.failed());
+  EXPECT_EQ(readPalette({source, L"x.act"}).error(), Failure::couldNotOpen);
 }
 
 TEST(Files, RefuseWhatIsNoFile) {

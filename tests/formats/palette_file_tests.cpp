@@ -71,6 +71,8 @@ TEST_F(PaletteFileTest, LeavesDocumentAndFileAloneWhenSavingIsRefused) {
   PaletteDocument& document = open(name);
   document.resize(300);
   fakes.takeLines();
+  EXPECT_FALSE(saveAs(document, fakes.services));
+  EXPECT_EQ(fakes.takeLines(), "save as? 4\n");
   EXPECT_FALSE(save(document, fakes.services));
   EXPECT_FALSE(writePaletteFile(document, name, kJasc, fakes.services));
   EXPECT_FALSE(writePaletteFile(document, folder.name("none/a.gpl"), kGimp, fakes.services));
