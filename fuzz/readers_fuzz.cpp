@@ -1,5 +1,5 @@
-// The input is a file. Every reader of the catalogue reads it, under every name that matters to one, whether it is of
-// its format or not.
+// The input is a file. It is looked for a reader under every name that matters to one, and then every reader of the
+// catalogue reads it, whether it is of its format or not.
 
 #include <vector>
 
@@ -9,11 +9,11 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quillhue;
   MemorySource source(std::vector(data, data + size));
-  for (const wchar_t* name : {L"x", L"x.map", L"x.tga", L"x.act", L"x.pal", L"x.col"}) {
+  for (const wchar_t* name : {L"x", L"x.map", L"x.csv", L"x.tga", L"x.act", L"x.pal", L"x.col"}) {
     (void)findPaletteReader({source, name});
   }
   for (const PaletteReader* reader : paletteReaders()) {
-    const ReadResult result = reader->read({source, L"x"});
+    const ReadResult result = reader->read({source, size % 2 == 0 ? L"x.pal" : L"x.col"});
     if (!result) {
       require(!textOf(result.error()).empty(), "a text for every failure");
     } else if (const auto* bitmap = std::get_if<TrueColorBitmap>(&*result)) {

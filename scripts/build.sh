@@ -3,7 +3,7 @@
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-preset=$1
+preset=${1:?usage: build.sh PRESET [TARGET...]}
 shift
 echo "Building $preset${*:+: $*}"
 log=$root/build/$preset.log

@@ -7,14 +7,20 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 root=$PWD
 clean=$build/tidy
 mkdir -p "$clean"
-common=$(find src tests fuzz bench -name '*.h' | sort | xargs cat .clang-tidy scripts/check-tidy.sh |
-         sha256sum | cut -d' ' -f1)
+common=$({ find src tests fuzz bench -name '*.h' -o -name .clang-tidy | sort | xargs cat .clang-tidy scripts/check-tidy.sh
+           cat CMakeLists.txt cmake/house.cmake; clang-tidy-19 --version; } | sha256sum | cut -d' ' -f1)
 
 check() {
   local file=$1 key
   key=$clean/$({ echo "$common" "$file"; cat "$file"; } | sha256sum | cut -d' ' -f1)
   [ ! -e "$key" ] || return 0
-  clang-tidy-19 --quiet -p "$build" "$root/$file" 2>/dev/null && touch "$key"
+  if clang-tidy-19 --quiet -p "$build" "$root/$file" >"$key.log" 2>&1; then
+    mv "$key.log" "$key"
+  else
+    cat "$key.log"
+    rm "$key.log"
+    return 1
+  fi
 }
 export -f check
 export build root clean common

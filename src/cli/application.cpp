@@ -9,7 +9,7 @@ namespace quillhue::cli {
 
 namespace {
 
-constexpr const char* kVersion = "quillhue-cli 4.2";
+constexpr const char* kVersion = "quillhue-cli " QUILLHUE_VERSION;
 
 }  // namespace
 

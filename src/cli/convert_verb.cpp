@@ -1,8 +1,9 @@
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <memory>
 #include <new>
-#include <set>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <variant>
@@ -23,7 +24,7 @@ namespace {
 struct ConvertOptions {
   std::vector<std::string> files;
   std::string name;
-  std::string outDir;
+  std::optional<std::string> outDir;
   std::string format;
   std::string colors;
   // 0 where none is given.
@@ -116,57 +117,68 @@ bool convertFile(const std::string& from, const std::string& to, const PaletteWr
 
 // The writer that --format names, or else the one that the file's extension stands for.
 const PaletteWriter& chooseWriter(const std::string& format, const std::string& file) {
-  const auto extension = toUtf8(toFileName(toPath(fromUtf8(file)).extension()));
   for (const PaletteWriter* writer : paletteWriters()) {
-    const bool chosen = format.empty() ? writer->ownsExtension &&
-                                             CLI::detail::to_lower(extension) == '.' + std::string(writer->extension)
-                                       : writer->name == format;
-    if (chosen) {
+    std::string ending(".");
+    ending += writer->extension;
+    std::ranges::transform(ending, ending.begin(), [](unsigned char letter) { return std::toupper(letter); });
+    if (format.empty() ? writer->ownsExtension && nameEndsWith(fromUtf8(file), ending) : writer->name == format) {
       return *writer;
     }
   }
   throw CLI::ValidationError("--format", "is needed where the output's extension does not tell the format");
 }
 
-ExitStatus convertIntoFolder(const ConvertOptions& options, Console& console) {
+bool isOneOf(const std::string& file, const std::vector<std::string>& others) {
+  const auto path = toPath(fromUtf8(file));
+  return fileExists(fromUtf8(file)) && std::ranges::any_of(others, [&](const std::string& other) {
+           std::error_code unknown;
+           return std::filesystem::equivalent(path, toPath(fromUtf8(other)), unknown);
+         });
+}
+
+ExitStatus convertIntoFolder(const std::string& outDir, const ConvertOptions& options, Console& console) {
   if (options.format.empty()) {
     throw CLI::ValidationError("--format", "is needed with --out-dir");
   }
   const PaletteWriter& writer = chooseWriter(options.format, {});
-  const std::filesystem::path folder = toPath(fromUtf8(options.outDir));
+  const std::filesystem::path folder = toPath(fromUtf8(outDir));
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   if (error) {
-    reportRefusal(console, options.outDir, "Could not create the folder.");
+    reportRefusal(console, outDir, "Could not create the folder.");
     return kRefused;
   }
-  ExitStatus status = kDone;
-  std::set<std::string> taken;
-  for (const std::string& from : expandFolders(options.files)) {
+  const std::vector<std::string> inputs = expandFolders(options.files);
+  std::vector<std::string> written;
+  for (const std::string& from : inputs) {
     std::filesystem::path target = folder / toPath(fromUtf8(from == "-" ? options.name : from)).stem();
     target += '.';
     target += writer.extension;
     const std::string to = toUtf8(toFileName(target));
-    if (!taken.insert(to).second) {
+    if (isOneOf(to, written)) {
       reportRefusal(console, from, "Another file of this call is converted to " + to + " already.");
-      status = kRefused;
-    } else if (!convertFile(from, to, writer, options, console)) {
-      status = kRefused;
+    } else if (options.force && !isOneOf(to, {from}) && isOneOf(to, inputs)) {
+      reportRefusal(console, from, "Its result would replace " + to + ", which this call is to convert.");
+    } else if (convertFile(from, to, writer, options, console)) {
+      written.push_back(to);
     }
   }
-  return status;
+  return written.size() == inputs.size() ? kDone : kRefused;
 }
 
 ExitStatus convert(const ConvertOptions& options, Console& console) {
   if (options.size > 0 && options.colors.empty()) {
     throw CLI::ValidationError("--size", "goes with --colors");
   }
-  const bool readsStream = std::ranges::find(options.files, "-") != options.files.end();
-  if (!options.outDir.empty()) {
-    if (readsStream && options.name.empty()) {
+  if (options.outDir) {
+    // An unset variable of a script must not turn the last file into the output.
+    if (options.outDir->empty()) {
+      throw CLI::ValidationError("--out-dir", "names no folder");
+    }
+    if (std::ranges::find(options.files, "-") != options.files.end() && options.name.empty()) {
       throw CLI::ValidationError("--name", "is needed for standard input with --out-dir");
     }
-    return convertIntoFolder(options, console);
+    return convertIntoFolder(*options.outDir, options, console);
   }
   if (options.files.size() != 2) {
     throw CLI::ValidationError("convert", "takes IN and OUT, or any number of files with --out-dir");

@@ -43,6 +43,10 @@ std::vector<std::string> expandFolders(const std::vector<std::string>& files) {
       }
     }
     std::sort(expanded.begin() + first, expanded.end());
+    if (error) {
+      // Only a part could be listed: the folder itself is then refused like a file.
+      expanded.push_back(file);
+    }
   }
   return expanded;
 }
@@ -50,7 +54,10 @@ std::vector<std::string> expandFolders(const std::vector<std::string>& files) {
 void reportRefusal(Console& console, const std::string& file, std::string_view text) {
   std::string line(text);
   std::ranges::replace(line, '\n', ' ');
-  console.err << file << ": " << line << '\n';
+  line.insert(0, file + ": ");
+  // A name may hold line feeds and what drives a terminal.
+  std::ranges::replace_if(line, [](unsigned char letter) { return letter < ' '; }, '?');
+  console.err << line << '\n';
 }
 
 }  // namespace quillhue::cli

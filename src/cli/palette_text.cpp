@@ -2,6 +2,7 @@
 
 #include <iomanip>
 #include <sstream>
+#include <string>
 
 namespace quillhue::cli {
 
@@ -14,6 +15,14 @@ constexpr int kCellWidth = 15;
 std::string textColorOn(PaletteEntry color) {
   const int luma = (299 * color.red + 587 * color.green + 114 * color.blue) / 1000;
   return luma < 128 ? "255;255;255" : "0;0;0";
+}
+
+// "#RRGGBB".
+std::string hexOf(PaletteEntry color) {
+  std::ostringstream text;
+  text << '#' << std::uppercase << std::hex << std::setfill('0') << std::setw(6)
+       << (color.red << 16 | color.green << 8 | color.blue);
+  return text.str();
 }
 
 std::string sgr(PaletteEntry color) {
@@ -43,13 +52,6 @@ void showLines(const Palette& palette, Console& console) {
 }
 
 }  // namespace
-
-std::string hexOf(PaletteEntry color) {
-  std::ostringstream text;
-  text << '#' << std::uppercase << std::hex << std::setfill('0') << std::setw(6)
-       << (color.red << 16 | color.green << 8 | color.blue);
-  return text.str();
-}
 
 void showPalette(const Palette& palette, Console& console) {
   if (console.colors) {

@@ -1,15 +1,9 @@
 #pragma once
 
-#include <ostream>
-#include <string>
-
 #include "cli/console.h"
 #include "core/palette.h"
 
 namespace quillhue::cli {
-
-/// "#RRGGBB".
-[[nodiscard]] std::string hexOf(PaletteEntry color);
 
 /// Shows the entries with their indexes: as blocks of color where the console has colors, and otherwise a line each
 /// with the hexadecimal color and the three decimal values.

@@ -17,9 +17,9 @@ namespace {
 class ConsoleModes {
  public:
   ConsoleModes() : codePage_(GetConsoleOutputCP()), output_(GetStdHandle(STD_OUTPUT_HANDLE)) {
-    SetConsoleOutputCP(CP_UTF8);
     if (GetConsoleMode(output_, &mode_) != 0) {
       isConsole_ = true;
+      SetConsoleOutputCP(CP_UTF8);
       showsColors_ = SetConsoleMode(output_, mode_ | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
     }
   }
@@ -28,8 +28,8 @@ class ConsoleModes {
   ~ConsoleModes() {
     if (isConsole_) {
       SetConsoleMode(output_, mode_);
+      SetConsoleOutputCP(codePage_);
     }
-    SetConsoleOutputCP(codePage_);
   }
 
   [[nodiscard]] bool showsColors() const { return showsColors_; }

@@ -56,13 +56,15 @@ class PaletteDocument {
   void select(std::int32_t index) { setSelected(index, 1); }
   void deselect(std::int32_t index) { setSelected(index, 0); }
 
-  /// Records: one undo step each; the redo stack is discarded and the modification count rises by 1.
+  /// Records: one undo step each; the redo stack is discarded and the modification count rises by 1. An index outside
+  /// the palette makes recordColor raise the count and do nothing else.
   void recordColor(std::int32_t index);
   void recordColors();
   void recordSelection();
-  /// Records the palette and installs its resizedCopy.
+  /// Records the palette and installs its resizedCopy; a size below 1 counts as 1.
   void resize(std::int32_t newSize);
 
+  /// Take a step back or forth, if there is one. The modification count falls or rises by 1 in any case.
   void undo();
   void redo();
 

@@ -18,9 +18,9 @@ class Messages {
   virtual ~Messages() = default;
 
   virtual void error(std::string_view text) = 0;
-  /// Yes, No or Cancel; closing the question is Cancel.
+  /// Yes, No or Cancel under the caption "Warning"; closing the question is Cancel.
   virtual SaveChangesAnswer askSaveChanges(std::string_view text) = 0;
-  /// True for Yes, false for anything else.
+  /// Yes or No under the caption "Save As"; true for Yes, false for anything else.
   virtual bool askReplaceFile(std::string_view text) = 0;
 };
 

@@ -100,7 +100,7 @@ std::string toUtf8(std::wstring_view text) {
       const auto low = static_cast<char32_t>(text[++i]);
       code = kFirstBeyond16Bits + ((code - kFirstHighSurrogate) << 10) + (low - kFirstLowSurrogate);
     }
-    if (code > kFirstLowSurrogate && code < kFirstLowSurrogate + 0x100) {
+    if (code >= kFirstLowSurrogate + 0x80 && code < kFirstLowSurrogate + 0x100) {
       bytes += static_cast<char>(code - kFirstLowSurrogate);
     } else {
       appendUtf8(bytes, code);

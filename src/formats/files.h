@@ -23,7 +23,7 @@ namespace quillhue {
 /// into memory whole. Refuses (couldNotOpen) what does not exist, may not be read or is a folder.
 [[nodiscard]] std::expected<std::unique_ptr<ByteSource>, Failure> openFile(std::wstring_view name);
 
-/// Everything that `stream` gives, at most 2 GiB: more than any file that a reader accepts. couldNotOpen beyond that.
+/// Everything that `stream` gives, held in memory and therefore at most 2 GiB; couldNotOpen beyond that.
 [[nodiscard]] std::expected<std::unique_ptr<ByteSource>, Failure> readStream(std::istream& stream);
 
 /// Creates or replaces a file; false when that fails, and then an existing file may be cut short.

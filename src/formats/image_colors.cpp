@@ -79,6 +79,7 @@ Palette ImageColors::reducedPalette(std::int32_t size, PaletteEntry blank) const
   // The first color may keep one pixel more than its share, and every color keeps one.
   std::uint64_t kept = share + 1;
   std::vector<ColorWord> thinned;
+  thinned.reserve(static_cast<std::size_t>(bitmap_.pixelCount()));
   forEachColor([&](ColorWord color, std::uint64_t pixels) {
     thinned.insert(thinned.end(), static_cast<std::size_t>(std::min(pixels, kept)), color);
     kept = std::max<std::uint64_t>(share, 1);

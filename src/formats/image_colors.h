@@ -12,9 +12,10 @@ namespace quillhue {
 /// The different colors of a true-color image, and the palettes that can be made of them. Colors are in the order of
 /// green, then blue, then red.
 ///
-/// One bit a color tells which occur, so the image itself is never held: it is read once to construct this, and once
-/// more for a reduced palette. Only an image whose fourth bytes differ, which count as part of a color, is sorted in
-/// memory. All of it may throw std::bad_alloc.
+/// One bit a color tells which occur, so counting and exact palettes hold no pixels: the image is read once, to
+/// construct this. A reduced palette reads it once more and holds the pixels that it considers, four bytes each. An
+/// image whose fourth bytes differ, which count as part of a color, is sorted in memory. All of it may throw
+/// std::bad_alloc.
 class ImageColors {
  public:
   explicit ImageColors(const TrueColorBitmap& bitmap);

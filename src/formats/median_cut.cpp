@@ -85,8 +85,10 @@ class MedianCut {
 
 }  // namespace
 
-std::int32_t medianCut(std::span<ColorWord> words, std::int32_t target, Palette& palette) {
-  return MedianCut(palette).split(words, target);
+void medianCut(std::span<ColorWord> words, std::int32_t target, Palette& palette) {
+  if (!words.empty()) {
+    MedianCut(palette).split(words, target);
+  }
 }
 
 }  // namespace quillhue

@@ -55,6 +55,9 @@ TEST(Tool, AnswersEachCall) {
     EXPECT_EQ(err.empty() && answer.status != 2, answer.err.empty()) << row[0] << ": " << answer.err;
     EXPECT_TRUE(answer.status != 2 || answer.out.empty()) << row[0] << ": " << answer.out;
   }
+  // An unset variable of a script must not make the last file the output.
+  EXPECT_EQ(call({"convert", "samples/32.gif", path + "/a.map", "--force", "--format", "map", "--out-dir", ""}).status,
+            2);
   EXPECT_FALSE(fileExists(folder.name("d")));
   EXPECT_FALSE(fileExists(folder.name("b.map")));
 }

@@ -104,6 +104,7 @@ TEST_F(PaletteDocumentTest, ApplyChannelsGoesBySelectedEntry) {
 TEST(Utf8, ConvertsTextAndCarriesOtherBytesThrough) {
   EXPECT_EQ(fromUtf8("a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x8E\xA8!"), L"a\u00E9\u20AC\U0001F3A8!");
   EXPECT_EQ(fromUtf8("\xFFy"), L"\xDCFFy");
+  EXPECT_NE(toUtf8(L"\xDC2F"), "/");
   // The same, lone continuation and lead bytes, a cut sequence, overlong forms, a surrogate, past the last code.
   for (const std::string bytes : {"a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x8E\xA8!", "\x80", "x\xFFy", "\xE2\x82", "\xC0\x80",
                                   "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF8\x88", "\xC3\xC3\xA9"}) {

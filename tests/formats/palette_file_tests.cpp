@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "formats/palette_file.h"
+#include "formats/writers/palette_writers.h"
 #include "support/bitmaps.h"
 #include "support/fakes.h"
 #include "support/scratch_folder.h"
@@ -112,9 +113,17 @@ TEST_F(PaletteFileTest, SaveAsAppendsExtensionsAndAsksBeforeReplacing) {
   fakes.replaceFile = true;
   EXPECT_TRUE(saveAs(document, fakes.services));
   EXPECT_EQ(folder.contentOf("colors.map"), "1 1 1\r\n");
-  fakes.saveAs = SaveAsAnswer{folder.name("sea"), kGimp};
-  EXPECT_TRUE(saveAs(document, fakes.services));
-  EXPECT_TRUE(fileExists(folder.name("sea")));
+  fakes.settings.blank = {65, 66, 67};
+  for (const PaletteWriter* writer : paletteWriters()) {
+    std::string file(writer->name);
+    fakes.saveAs = SaveAsAnswer{folder.name(file), writer->format};
+    EXPECT_TRUE(saveAs(document, fakes.services));
+    if (writer->format != kGimp) {
+      file.append(".").append(writer->extension);
+    }
+    EXPECT_TRUE(fileExists(folder.name(file))) << file;
+  }
+  EXPECT_EQ(folder.contentOf("act.act").substr(3, 6), "ABCABC");
 
   for (const auto& [typed, expected] : {std::pair{L"colors", L"colors.pal"},
                                         {L"colors.txt", L"colors.txt"},

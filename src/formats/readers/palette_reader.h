@@ -39,7 +39,7 @@ struct PaletteReader {
   std::string_view title;
   /// What tells the layout: a signature or an extension, in words.
   std::string_view recognisedBy;
-  /// True when the file has this layout and no reader before this one in the catalogue recognises it.
+  /// True when the file has this layout's signature or name. The catalogue asks in order, and the first true counts.
   bool (*matches)(const ReaderInput& input);
   /// Reads a file that matches. Sizes that the file claims are checked before anything of that size is made.
   ReadResult (*read)(const ReaderInput& input);

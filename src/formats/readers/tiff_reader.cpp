@@ -86,12 +86,11 @@ ReadResult read(const ReaderInput& input) {
     return std::unexpected(Failure::tiffCorrupt);
   }
   // All red values, then all green, then all blue, 16 bits each, of which the high byte counts.
-  const auto count = static_cast<std::uint64_t>(directory->colors);
-  const auto component = [&](std::uint64_t index) {
-    return input.source.u8(values.highByte(*directory->colorMap + 2 * index));
-  };
+  const auto count = static_cast<std::size_t>(directory->colors);
+  const auto map = input.source.bytes(values.highByte(*directory->colorMap), 6 * count);
+  const auto component = [&](std::size_t index) { return map[2 * index]; };
   Palette palette = createPalette(directory->colors);
-  for (std::uint64_t i = 0; i < count; ++i) {
+  for (std::size_t i = 0; i < count; ++i) {
     palette.setEntry(static_cast<std::int32_t>(i), {component(i), component(count + i), component(2 * count + i)});
   }
   return FilePalette{std::move(palette), palette_format::kNone};

@@ -5,7 +5,7 @@ namespace quillhue {
 namespace {
 
 void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
-  sink.text(0, "GIMP Palette\n# Edited with Quillhue version 4.2\n");
+  sink.text(0, "GIMP Palette\n# Edited with Quillhue version " QUILLHUE_VERSION "\n");
   composeNumberLines(palette, ' ', "\n", sink);
 }
 
