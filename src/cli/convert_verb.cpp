@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <new>
 #include <optional>
@@ -128,13 +129,32 @@ const PaletteWriter& chooseWriter(const std::string& format, const std::string& 
   throw CLI::ValidationError("--format", "is needed where the output's extension does not tell the format");
 }
 
-bool isOneOf(const std::string& file, const std::vector<std::string>& others) {
-  const auto path = toPath(fromUtf8(file));
-  return fileExists(fromUtf8(file)) && std::ranges::any_of(others, [&](const std::string& other) {
-           std::error_code unknown;
-           return std::filesystem::equivalent(path, toPath(fromUtf8(other)), unknown);
-         });
-}
+// Files that exist, found again under any name that leads to them. Only those whose own names are alike are compared on
+// the disk, so that thousands of files cost no more than a look each.
+class FileSet {
+ public:
+  void add(const std::string& file) { files_.emplace(keyOf(file), toPath(fromUtf8(file))); }
+
+  [[nodiscard]] bool contains(const std::string& file) const {
+    const auto [first, last] = files_.equal_range(keyOf(file));
+    return std::any_of(first, last, [path = toPath(fromUtf8(file))](const auto& known) {
+      std::error_code unknown;
+      return std::filesystem::equivalent(path, known.second, unknown);
+    });
+  }
+
+ private:
+  // The file's own name behind all links, in lower case, since some systems take upper and lower case for the same.
+  static std::string keyOf(const std::string& file) {
+    std::error_code unknown;
+    const auto path = std::filesystem::weakly_canonical(toPath(fromUtf8(file)), unknown);
+    std::string name = toUtf8(toFileName(path.filename()));
+    std::ranges::transform(name, name.begin(), [](unsigned char letter) { return std::tolower(letter); });
+    return name;
+  }
+
+  std::multimap<std::string, std::filesystem::path> files_;
+};
 
 ExitStatus convertIntoFolder(const std::string& outDir, const ConvertOptions& options, Console& console) {
   if (options.format.empty()) {
@@ -149,21 +169,30 @@ ExitStatus convertIntoFolder(const std::string& outDir, const ConvertOptions& op
     return kRefused;
   }
   const std::vector<std::string> inputs = expandFolders(options.files);
-  std::vector<std::string> written;
+  FileSet read;
+  std::ranges::for_each(inputs, [&](const std::string& file) { read.add(file); });
+  FileSet written;
+  ExitStatus status = kDone;
   for (const std::string& from : inputs) {
+    FileSet own;
+    own.add(from);
     std::filesystem::path target = folder / toPath(fromUtf8(from == "-" ? options.name : from)).stem();
     target += '.';
     target += writer.extension;
     const std::string to = toUtf8(toFileName(target));
-    if (isOneOf(to, written)) {
+    if (written.contains(to)) {
       reportRefusal(console, from, "Another file of this call is converted to " + to + " already.");
-    } else if (options.force && !isOneOf(to, {from}) && isOneOf(to, inputs)) {
+      status = kRefused;
+    } else if (options.force && !own.contains(to) && read.contains(to)) {
       reportRefusal(console, from, "Its result would replace " + to + ", which this call is to convert.");
+      status = kRefused;
     } else if (convertFile(from, to, writer, options, console)) {
-      written.push_back(to);
+      written.add(to);
+    } else {
+      status = kRefused;
     }
   }
-  return written.size() == inputs.size() ? kDone : kRefused;
+  return status;
 }
 
 ExitStatus convert(const ConvertOptions& options, Console& console) {

@@ -67,7 +67,7 @@ void PaletteDocument::recordColor(std::int32_t index) {
   if (contains(index)) {
     push(std::make_unique<PaletteDifferenceColor>(palette_, index), getSize());
   } else {
-    // kept on purpose: a caller that goes on to change something unrecorded must still be asked to save.
+    // kept on purpose: the document counts as modified, although nothing can be undone.
     ++modificationCount_;
   }
 }
