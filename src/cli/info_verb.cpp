@@ -20,15 +20,6 @@ struct InfoOptions {
   bool json = false;
 };
 
-Json entriesOf(const Palette& palette) {
-  Json entries = Json::array();
-  for (std::int32_t i = 0; i < palette.getSize(); ++i) {
-    const PaletteEntry color = palette.entry(i);
-    entries.push_back({color.red, color.green, color.blue});
-  }
-  return entries;
-}
-
 void showFilePalette(const std::string& file, const Input& input, bool json, Console& console) {
   const auto& [palette, format] = std::get<FilePalette>(input.content);
   if (json) {
@@ -36,7 +27,7 @@ void showFilePalette(const std::string& file, const Input& input, bool json, Con
                         {"format", input.reader->name},
                         {"code", format},
                         {"size", palette.getSize()},
-                        {"entries", entriesOf(palette)}});
+                        {"entries", entriesJson(palette)}});
     return;
   }
   console.out << file << ": " << input.reader->title << ", " << palette.getSize()

@@ -11,11 +11,8 @@ namespace {
 // " 1023 " and " #RRGGBB ".
 constexpr int kCellWidth = 15;
 
-// Black or white, whichever is easier to read on the color (Rec. 601 luma).
-std::string textColorOn(PaletteEntry color) {
-  const int luma = (299 * color.red + 587 * color.green + 114 * color.blue) / 1000;
-  return luma < 128 ? "255;255;255" : "0;0;0";
-}
+// Black or white, whichever is easier to read on the color.
+std::string textColorOn(PaletteEntry color) { return lumaOf(color) < 128 ? "255;255;255" : "0;0;0"; }
 
 // "#RRGGBB".
 std::string hexOf(PaletteEntry color) {

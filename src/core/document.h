@@ -28,7 +28,9 @@ class PaletteDocument {
                   const AppSettings& settings, DocumentObserver& observer);
 
   [[nodiscard]] std::int32_t getSize() const { return palette_.getSize(); }
-  /// `index` is 0 .. getSize() - 1 in these four; it is not checked.
+  [[nodiscard]] bool contains(std::int32_t index) const { return index >= 0 && index < getSize(); }
+  /// `index` is 0 .. getSize() - 1 in these five; it is not checked.
+  [[nodiscard]] PaletteEntry getColor(std::int32_t index) const { return palette_.entry(index); }
   [[nodiscard]] std::uint8_t getRed(std::int32_t index) const { return palette_.entry(index).red; }
   [[nodiscard]] std::uint8_t getGreen(std::int32_t index) const { return palette_.entry(index).green; }
   [[nodiscard]] std::uint8_t getBlue(std::int32_t index) const { return palette_.entry(index).blue; }
@@ -39,6 +41,8 @@ class PaletteDocument {
   [[nodiscard]] bool isModified() const { return modificationCount_ != 0; }
   /// Recorded changes since the last save less those undone, so undoing back to the saved state gives 0 again.
   [[nodiscard]] std::int32_t modificationCount() const { return modificationCount_; }
+  [[nodiscard]] bool canUndo() const { return history_.canUndo(); }
+  [[nodiscard]] bool canRedo() const { return history_.canRedo(); }
   [[nodiscard]] PaletteFormat getFormat() const { return format_; }
   [[nodiscard]] const std::wstring& getFileName() const { return fileName_; }
 
@@ -74,7 +78,6 @@ class PaletteDocument {
   void markSaved(const std::wstring& fileName, PaletteFormat format);
 
  private:
-  [[nodiscard]] bool contains(std::int32_t index) const { return index >= 0 && index < getSize(); }
   void setChannel(std::int32_t index, Channel channel, std::uint8_t value);
   void setSelected(std::int32_t index, std::uint8_t flag);
   void push(std::unique_ptr<PaletteDifference> record, std::int32_t size);

@@ -24,6 +24,42 @@ Palette createPalette(std::int32_t size, PaletteEntry color) {
   return {static_cast<std::size_t>(std::max(1, size)), color};
 }
 
+Palette paletteOf(std::span<const PaletteEntry> entries) {
+  Palette palette = createPalette(static_cast<std::int32_t>(entries.size()));
+  std::int32_t index = 0;
+  for (const PaletteEntry& color : entries) {
+    palette.setEntry(index++, color);
+  }
+  return palette;
+}
+
+std::vector<PaletteEntry> entriesOf(const Palette& palette) {
+  std::vector<PaletteEntry> entries;
+  entries.reserve(static_cast<std::size_t>(palette.getSize()));
+  for (std::int32_t index = 0; index < palette.getSize(); ++index) {
+    entries.push_back(palette.entry(index));
+  }
+  return entries;
+}
+
+std::vector<std::int32_t> selectedIndexes(const Palette& palette) {
+  std::vector<std::int32_t> indexes;
+  for (std::int32_t index = 0; index < palette.getSize(); ++index) {
+    if (palette.selected()[static_cast<std::size_t>(index)] != 0) {
+      indexes.push_back(index);
+    }
+  }
+  return indexes;
+}
+
+std::vector<PaletteEntry> selectedColors(const Palette& palette) {
+  std::vector<PaletteEntry> colors;
+  for (const std::int32_t index : selectedIndexes(palette)) {
+    colors.push_back(palette.entry(index));
+  }
+  return colors;
+}
+
 Palette resizedCopy(const Palette& palette, std::int32_t newSize, PaletteEntry blank) {
   Palette resized = createPalette(newSize, blank);
   const auto kept = static_cast<std::size_t>(std::min(palette.getSize(), resized.getSize()));

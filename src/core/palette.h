@@ -9,13 +9,6 @@
 
 namespace quillhue {
 
-enum class Channel : std::uint8_t { red, green, blue };
-inline constexpr std::array<Channel, 3> kChannels{Channel::red, Channel::green, Channel::blue};
-
-/// A set of channels, bit 1 = red, 2 = green, 4 = blue.
-using ChannelMask = std::uint32_t;
-constexpr ChannelMask maskOf(Channel channel) { return ChannelMask{1} << static_cast<unsigned>(channel); }
-
 /// The most entries that a user can ask for, and that any reader accepts.
 inline constexpr std::int32_t kMaxPaletteSize = 1024;
 
@@ -52,6 +45,14 @@ class Palette {
 
 /// A palette of max(1, size) entries, all of one color, none selected.
 [[nodiscard]] Palette createPalette(std::int32_t size, PaletteEntry color = {});
+
+/// An unselected palette of these entries; one black entry when there are none.
+[[nodiscard]] Palette paletteOf(std::span<const PaletteEntry> entries);
+[[nodiscard]] std::vector<PaletteEntry> entriesOf(const Palette& palette);
+
+/// The selected entries in index order: their indexes, and their colors.
+[[nodiscard]] std::vector<std::int32_t> selectedIndexes(const Palette& palette);
+[[nodiscard]] std::vector<PaletteEntry> selectedColors(const Palette& palette);
 
 /// A palette of max(1, newSize) entries: those that `palette` has, selected flags included, then unselected ones in
 /// the blank color.

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "core/palette_entry.h"
 #include "core/palette_format.h"
 #include "core/settings.h"
 
@@ -17,6 +21,7 @@ class Messages {
  public:
   virtual ~Messages() = default;
 
+  virtual void information(std::string_view text) = 0;
   virtual void error(std::string_view text) = 0;
   /// Yes, No or Cancel under the caption "Warning"; closing the question is Cancel.
   virtual SaveChangesAnswer askSaveChanges(std::string_view text) = 0;
@@ -54,6 +59,38 @@ class FileQuestions {
   virtual std::int32_t askPaletteFromImage(std::uint64_t distinctColors) = 0;
 };
 
+/// The place where palettes are exchanged with other programs.
+class PaletteClipboard {
+ public:
+  virtual ~PaletteClipboard() = default;
+
+  /// Replaces whatever the clipboard holds. Without entries it is left empty: no palette has none.
+  virtual void put(std::span<const PaletteEntry> entries) = 0;
+  /// The palette's first kMaxPaletteSize entries; nothing when the clipboard holds no palette or can't be opened.
+  [[nodiscard]] virtual std::optional<std::vector<PaletteEntry>> get() = 0;
+};
+
+/// What the screen tells about its colors.
+class ScreenPalette {
+ public:
+  virtual ~ScreenPalette() = default;
+
+  /// The system's halftone palette for the screen, at most kMaxPaletteSize entries.
+  [[nodiscard]] virtual std::vector<PaletteEntry> halftone() = 0;
+};
+
+/// The system's dialog for one color.
+class ColorChooser {
+ public:
+  static constexpr std::size_t kCustomColors = 16;
+
+  virtual ~ColorChooser() = default;
+
+  /// Starts at `initial` and offers `custom` beside the basic colors; nothing when the user cancels.
+  [[nodiscard]] virtual std::optional<PaletteEntry> chooseColor(
+      PaletteEntry initial, std::span<const PaletteEntry, kCustomColors> custom) = 0;
+};
+
 /// What the logic asks of the program around it. The program owns all of it and keeps it alive longer than any
 /// document.
 struct Services {
@@ -61,6 +98,8 @@ struct Services {
   Messages& messages;
   DocumentObserver& observer;
   FileQuestions& fileQuestions;
+  PaletteClipboard& clipboard;
+  ScreenPalette& screen;
 };
 
 }  // namespace quillhue

@@ -9,6 +9,7 @@
 #include "core/utf8.h"
 #include "formats/image_colors.h"
 #include "formats/readers/palette_readers.h"
+#include "support/checksum.h"
 #include "support/palettes.h"
 #include "support/table.h"
 
@@ -57,19 +58,10 @@ std::string read(Bytes content, const std::string& name, ShowPalette showPalette
 
 std::string withAllEntries(const FilePalette& file) { return show(file.palette); }
 
-// Code, size and the Adler-32 checksum (RFC 1950) of the entries.
+// Code, size and the checksum of the entries.
 std::string withChecksum(const FilePalette& file) {
-  std::uint32_t low = 1;
-  std::uint32_t high = 0;
-  for (std::int32_t i = 0; i < file.palette.getSize(); ++i) {
-    const PaletteEntry color = file.palette.entry(i);
-    for (const std::uint8_t byte : {color.red, color.green, color.blue}) {
-      low = (low + byte) % 65521;
-      high = (high + low) % 65521;
-    }
-  }
   return std::to_string(file.format) + ' ' + std::to_string(file.palette.getSize()) + ' ' +
-         std::to_string(high << 16 | low);
+         std::to_string(checksumOf(file.palette));
 }
 
 TEST(Samples, HoldWhatTheirListTells) {

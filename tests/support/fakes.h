@@ -9,14 +9,21 @@
 namespace quillhue {
 
 /// Services that note what is asked of them, a line each, and answer as the test has told them to.
-class RecordingServices : public Messages, public DocumentObserver, public FileQuestions {
+class RecordingServices : public Messages,
+                          public DocumentObserver,
+                          public FileQuestions,
+                          public PaletteClipboard,
+                          public ScreenPalette {
  public:
   AppSettings settings;
-  Services services{settings, *this, *this, *this};
+  Services services{settings, *this, *this, *this, *this, *this};
   SaveChangesAnswer saveChanges = SaveChangesAnswer::cancel;
   bool replaceFile = false;
   std::optional<SaveAsAnswer> saveAs;
   std::int32_t paletteFromImage = 0;
+  /// What the clipboard holds, if it is a palette.
+  std::optional<std::vector<PaletteEntry>> clipboard;
+  std::vector<PaletteEntry> screenColors;
 
   /// The lines since the last call.
   std::string takeLines() { return std::exchange(lines_, {}); }
@@ -28,6 +35,7 @@ class RecordingServices : public Messages, public DocumentObserver, public FileQ
                                    : lines.substr(at + beginning.size(), lines.find('\n', at) - at - beginning.size());
   }
 
+  void information(std::string_view text) override { note("information: ", text); }
   void error(std::string_view text) override { note("error: ", text); }
   SaveChangesAnswer askSaveChanges(std::string_view text) override {
     note("save? ", text);
@@ -51,6 +59,14 @@ class RecordingServices : public Messages, public DocumentObserver, public FileQ
     note("from image? ", std::to_string(distinctColors));
     return paletteFromImage;
   }
+  void put(std::span<const PaletteEntry> entries) override {
+    clipboard.reset();
+    if (!entries.empty()) {
+      clipboard.emplace(entries.begin(), entries.end());
+    }
+  }
+  std::optional<std::vector<PaletteEntry>> get() override { return clipboard; }
+  std::vector<PaletteEntry> halftone() override { return screenColors; }
 
  private:
   void note(std::string_view what, std::string_view text) { lines_.append(what).append(text).append("\n"); }

@@ -31,11 +31,7 @@ ReadResult read(const ReaderInput& input) {
     kept.insert(kept.begin(), PaletteEntry{});
   }
   kept.resize(std::min<std::size_t>(kept.size(), kMaxPaletteSize));
-  Palette palette = createPalette(static_cast<std::int32_t>(kept.size()));
-  for (std::int32_t i = 0; i < palette.getSize(); ++i) {
-    palette.setEntry(i, kept[static_cast<std::size_t>(i)]);
-  }
-  return FilePalette{std::move(palette), palette_format::kMsDraw};
+  return FilePalette{paletteOf(kept), palette_format::kMsDraw};
 }
 
 }  // namespace

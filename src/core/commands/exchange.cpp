@@ -1,0 +1,59 @@
+#include "core/commands/exchange.h"
+
+namespace quillhue {
+
+void copySelection(const PaletteDocument& document, PaletteClipboard& clipboard) {
+  clipboard.put(selectedColors(document.getPalette()));
+}
+
+void clearSelection(PaletteDocument& document, ChannelMask mask, PaletteEntry blank) {
+  document.recordColors();
+  for (const std::int32_t index : selectedIndexes(document.getPalette())) {
+    document.setColor(index, withChannels(document.getColor(index), mask, blank));
+  }
+}
+
+void cutSelection(PaletteDocument& document, ChannelMask mask, PaletteEntry blank, PaletteClipboard& clipboard) {
+  copySelection(document, clipboard);
+  clearSelection(document, mask, blank);
+}
+
+void pasteIntoSelection(PaletteDocument& document, ChannelMask mask, PaletteClipboard& clipboard) {
+  const auto entries = clipboard.get();
+  if (!entries) {
+    return;
+  }
+  document.recordColors();
+  if (!entries->empty()) {
+    document.applyChannels(mask, paletteOf(*entries));
+  }
+}
+
+void copyEntry(const PaletteDocument& document, std::int32_t index, PaletteClipboard& clipboard) {
+  if (document.contains(index)) {
+    const PaletteEntry color = document.getColor(index);
+    clipboard.put({&color, 1});
+  }
+}
+
+void clearEntry(PaletteDocument& document, std::int32_t index, PaletteEntry blank) {
+  replaceColor(document, index, blank);
+}
+
+bool pasteEntry(PaletteDocument& document, std::int32_t index, PaletteClipboard& clipboard) {
+  const auto entries = clipboard.get();
+  if (!entries || entries->empty()) {
+    return false;
+  }
+  replaceColor(document, index, entries->front());
+  return true;
+}
+
+void replaceColor(PaletteDocument& document, std::int32_t index, PaletteEntry color) {
+  if (document.contains(index)) {
+    document.recordColor(index);
+    document.setColor(index, color);
+  }
+}
+
+}  // namespace quillhue

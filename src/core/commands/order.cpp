@@ -1,0 +1,98 @@
+#include "core/commands/order.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace quillhue {
+
+namespace {
+
+constexpr PaletteEntry kWhite{255, 255, 255};
+
+// The selected entries' colors in index order; empty when there is nothing to put into order.
+std::vector<PaletteEntry> colorsToOrder(const PaletteDocument& document, ChannelMask mask) {
+  std::vector<PaletteEntry> colors;
+  if ((mask & kAllChannels) != 0 && document.countSelected() >= 2) {
+    colors = selectedColors(document.getPalette());
+  }
+  return colors;
+}
+
+// Colors in the order in which they are to be, with what they are sorted by.
+struct WorkList {
+  std::vector<PaletteEntry> colors;
+  std::vector<std::int32_t> keys;
+
+  void insert(std::vector<std::int32_t>::const_iterator place, std::int32_t key, const PaletteEntry& color) {
+    colors.insert(std::next(colors.begin(), std::distance(keys.cbegin(), place)), color);
+    keys.insert(place, key);
+  }
+};
+
+void applyOrder(PaletteDocument& document, ChannelMask mask, const std::vector<PaletteEntry>& colors) {
+  document.recordColors();
+  document.applyChannels(mask, paletteOf(colors));
+}
+
+// Channels outside the mask count as 0.
+PaletteEntry meanColor(const std::vector<PaletteEntry>& colors, ChannelMask mask) {
+  PaletteEntry mean;
+  for (const Channel channel : kChannels) {
+    std::int32_t sum = 0;
+    for (const PaletteEntry& color : colors) {
+      sum += channelSum(color, mask & maskOf(channel));
+    }
+    channelOf(mean, channel) = static_cast<std::uint8_t>(sum / static_cast<std::int32_t>(colors.size()));
+  }
+  return mean;
+}
+
+std::int32_t squaredDistance(const PaletteEntry& a, const PaletteEntry& b, ChannelMask mask) {
+  std::int32_t sum = 0;
+  for (const Channel channel : kChannels) {
+    const std::int32_t difference = channelOf(a, channel) - channelOf(b, channel);
+    sum += contains(mask, channel) ? difference * difference : 0;
+  }
+  return sum;
+}
+
+}  // namespace
+
+void reverseSelection(PaletteDocument& document, ChannelMask mask) {
+  std::vector<PaletteEntry> colors = colorsToOrder(document, mask);
+  if (!colors.empty()) {
+    std::ranges::reverse(colors);
+    applyOrder(document, mask, colors);
+  }
+}
+
+void sortByChannels(PaletteDocument& document, ChannelMask keyMask, ChannelMask mask) {
+  const std::vector<PaletteEntry> colors = colorsToOrder(document, mask);
+  if (colors.empty()) {
+    return;
+  }
+  // kept on purpose: an entry's own key is compared with the keys of the list, whose entries are white but for the
+  // channels in the mask. So the list's keys are either sorted or all the same, and bisection finds the place.
+  WorkList list;
+  for (const PaletteEntry& color : colors) {
+    const PaletteEntry moved = withChannels(kWhite, mask, color);
+    list.insert(std::ranges::upper_bound(list.keys, channelSum(color, keyMask)), channelSum(moved, keyMask), moved);
+  }
+  applyOrder(document, mask, list.colors);
+}
+
+void sortByDeviation(PaletteDocument& document, ChannelMask mask) {
+  const std::vector<PaletteEntry> colors = colorsToOrder(document, mask);
+  if (colors.empty()) {
+    return;
+  }
+  const PaletteEntry mean = meanColor(colors, mask);
+  WorkList list;
+  for (const PaletteEntry& color : colors) {
+    const std::int32_t distance = squaredDistance(color, mean, mask);
+    list.insert(std::ranges::lower_bound(list.keys, distance), distance, color);
+  }
+  applyOrder(document, mask, list.colors);
+}
+
+}  // namespace quillhue

@@ -1,0 +1,71 @@
+#include "core/commands/selection.h"
+
+#include <set>
+
+namespace quillhue {
+
+namespace {
+
+// `wanted` is asked for every entry, in order.
+template <typename Predicate>
+void selectWhere(PaletteDocument& document, Predicate wanted) {
+  document.recordSelection();
+  for (std::int32_t index = 0; index < document.getSize(); ++index) {
+    if (wanted(index)) {
+      document.select(index);
+    } else {
+      document.deselect(index);
+    }
+  }
+}
+
+// `wanted` compares an entry's color with the current one.
+template <typename Predicate>
+void selectByCurrent(PaletteDocument& document, std::int32_t current, Predicate wanted) {
+  if (document.contains(current)) {
+    const PaletteEntry reference = document.getColor(current);
+    selectWhere(document, [&](std::int32_t index) { return wanted(document.getColor(index), reference); });
+  }
+}
+
+std::int32_t brightness(const PaletteEntry& color) { return channelSum(color, kAllChannels); }
+
+}  // namespace
+
+void selectAll(PaletteDocument& document) {
+  selectWhere(document, [](std::int32_t) { return true; });
+}
+
+void selectNone(PaletteDocument& document) {
+  selectWhere(document, [](std::int32_t) { return false; });
+}
+
+void invertSelection(PaletteDocument& document) {
+  selectWhere(document, [&](std::int32_t index) { return !document.isSelected(index); });
+}
+
+void selectEntries(PaletteDocument& document, std::span<const std::int32_t> indexes) {
+  const std::set<std::int32_t> wanted(indexes.begin(), indexes.end());
+  selectWhere(document, [&](std::int32_t index) { return wanted.contains(index); });
+}
+
+void selectMatches(PaletteDocument& document, std::int32_t current) {
+  selectByCurrent(document, current, [](const PaletteEntry& a, const PaletteEntry& b) { return a == b; });
+}
+
+void selectBrighter(PaletteDocument& document, std::int32_t current) {
+  selectByCurrent(document, current,
+                  [](const PaletteEntry& a, const PaletteEntry& b) { return brightness(a) > brightness(b); });
+}
+
+void selectDarker(PaletteDocument& document, std::int32_t current) {
+  selectByCurrent(document, current,
+                  [](const PaletteEntry& a, const PaletteEntry& b) { return brightness(a) < brightness(b); });
+}
+
+void selectRedundant(PaletteDocument& document) {
+  std::set<PaletteEntry> seen;
+  selectWhere(document, [&](std::int32_t index) { return !seen.insert(document.getColor(index)).second; });
+}
+
+}  // namespace quillhue
