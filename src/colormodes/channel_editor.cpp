@@ -1,0 +1,171 @@
+#include "colormodes/channel_editor.h"
+
+#include <algorithm>
+#include <array>
+
+#include "colormodes/color_models.h"
+#include "core/commands/exchange.h"
+
+namespace quillhue {
+
+namespace {
+
+constexpr std::int32_t kWheelNotch = 120;
+
+std::int32_t clampTo(const ChannelRange& range, std::int64_t value) {
+  return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, range.minimum, range.maximum));
+}
+
+using CustomColors = std::array<PaletteEntry, ColorChooser::kCustomColors>;
+
+CustomColors customColorsFor(const PaletteDocument& document, std::int32_t index, PaletteEntry blank) {
+  CustomColors colors{};
+  std::int32_t entry = index - index % static_cast<std::int32_t>(colors.size());
+  for (PaletteEntry& color : colors) {
+    color = document.contains(entry) ? document.getColor(entry) : blank;
+    ++entry;
+  }
+  return colors;
+}
+
+}  // namespace
+
+ChannelEditor::ChannelEditor(const DocumentSlot& slot, AppSettings& settings, ChannelView& view)
+    : slot_(slot), settings_(settings), view_(view) {
+  createColorMode(settings.colorMode, currentEntry_, slot, mode_);
+}
+
+void ChannelEditor::setCurrentEntry(std::int32_t index) {
+  currentEntry_ = index;
+  refreshAndRepaint();
+}
+
+void ChannelEditor::chooseModel(std::int32_t index) {
+  settings_.colorMode = static_cast<std::uint8_t>(index);
+  createColorMode(settings_.colorMode, currentEntry_, slot_, mode_);
+  refreshAndRepaint();
+}
+
+// Locked, so that setting the numbers again builds the bars and writes nothing, whoever does it: a control that
+// reports its new number as a change, or this function where the number was there before.
+void ChannelEditor::refreshValues() {
+  mode_->setEntry(currentEntry_);
+  document().lock();
+  recordArmed_ = false;
+  for (const Bar bar : kBars) {
+    view_.showChannel(bar, mode_->channelRange(bar), mode_->getValue(bar));
+    mode_->setValue(bar, mode_->getValue(bar));
+  }
+  document().unlock();
+  recordArmed_ = true;
+}
+
+void ChannelEditor::paletteChanged() {
+  currentEntry_ = std::min(currentEntry_, document().getSize() - 1);
+  refreshAndRepaint();
+}
+
+void ChannelEditor::documentReplaced() {
+  currentEntry_ = 0;
+  releaseBar();
+  createColorMode(settings_.colorMode, currentEntry_, slot_, mode_);
+  refreshAndRepaint();
+}
+
+void ChannelEditor::recordOnce() {
+  if (recordArmed_) {
+    document().recordColor(currentEntry_);
+  }
+  recordArmed_ = false;
+}
+
+void ChannelEditor::refreshAndRepaint() {
+  refreshValues();
+  view_.entryChanged(currentEntry_);
+}
+
+void ChannelEditor::changeChannel(Bar bar, std::int32_t value) {
+  const ChannelRange& range = mode_->channelRange(bar);
+  value = clampTo(range, value);
+  if (value == mode_->getValue(bar)) {
+    return;
+  }
+  recordOnce();
+  mode_->setValue(bar, value);
+  view_.showChannel(bar, range, value);
+  view_.entryChanged(currentEntry_);
+}
+
+void ChannelEditor::fieldChanged(Bar bar, std::int32_t value) {
+  recordOnce();
+  mode_->setValue(bar, clampTo(mode_->channelRange(bar), value));
+  view_.entryChanged(currentEntry_);
+}
+
+std::int32_t ChannelEditor::stepField(Bar bar, std::int32_t position, std::int32_t step) {
+  const ChannelRange& range = mode_->channelRange(bar);
+  const std::int64_t wanted = std::int64_t{position} + step;
+  const std::int32_t target = clampTo(range, wanted);
+  // A step is only ever shortened: from outside the range none that is too short leads back.
+  const bool leadsThere = step > 0 ? target > position && target <= wanted : target < position && target >= wanted;
+  if (!leadsThere) {
+    return 0;
+  }
+  recordOnce();
+  mode_->setValue(bar, target);
+  view_.entryChanged(currentEntry_);
+  return target - position;
+}
+
+void ChannelEditor::turnWheel(Bar bar, std::int32_t delta) {
+  changeChannel(bar, mode_->getValue(bar) + delta / kWheelNotch);
+}
+
+void ChannelEditor::pressBar(Bar bar, std::int32_t y, std::int32_t height) {
+  dragTarget_ = bar;
+  dragBar(y, height);
+}
+
+void ChannelEditor::dragBar(std::int32_t y, std::int32_t height) {
+  if (!dragTarget_ || height <= 0) {
+    return;
+  }
+  const ChannelRange& range = mode_->channelRange(*dragTarget_);
+  const std::int64_t risen = std::int64_t{y} * (range.maximum - range.minimum) / height;
+  changeChannel(*dragTarget_, clampTo(range, range.minimum + risen));
+}
+
+void ChannelEditor::editEntry(std::int32_t index, ColorChooser& chooser) {
+  if (!document().contains(index)) {
+    return;
+  }
+  // kept on purpose: recorded before the chooser opens, so that cancelling it leaves an undo step too.
+  document().recordColor(index);
+  const CustomColors custom = customColorsFor(document(), index, settings_.blank);
+  if (const auto chosen = chooser.chooseColor(document().getColor(index), custom)) {
+    document().setColor(index, *chosen);
+  }
+  if (index == currentEntry_) {
+    refreshAndRepaint();
+  } else {
+    view_.entryChanged(index);
+  }
+}
+
+void ChannelEditor::copy(PaletteClipboard& clipboard) {
+  copyEntry(document(), currentEntry_, clipboard);
+  recordArmed_ = true;
+}
+
+void ChannelEditor::paste(PaletteClipboard& clipboard) {
+  if (pasteEntry(document(), currentEntry_, clipboard)) {
+    refreshAndRepaint();
+  }
+}
+
+void ChannelEditor::blank() {
+  clearEntry(document(), currentEntry_, settings_.blank);
+  refreshAndRepaint();
+}
+
+}  // namespace quillhue

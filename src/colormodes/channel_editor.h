@@ -1,0 +1,89 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "colormodes/color_mode.h"
+#include "core/services.h"
+#include "core/settings.h"
+
+namespace quillhue {
+
+/// What shows a channel editor's numbers.
+class ChannelView {
+ public:
+  virtual ~ChannelView() = default;
+
+  /// Puts a channel's range and number into its control. A control that reports this like a change by the user calls
+  /// fieldChanged, which is fine.
+  virtual void showChannel(Bar bar, const ChannelRange& range, std::int32_t value) = 0;
+  /// The entry may have another color: repaints its cell. Of the current entry the bars too.
+  virtual void entryChanged(std::int32_t index) = 0;
+};
+
+/// Edits the current entry of the open palette as three numbers of the chosen color model. All changes between two
+/// calls of refreshValues are one undo step, however many they are. The slot holds a document as long as an editor
+/// lives.
+class ChannelEditor {
+ public:
+  /// Starts with entry 0 and the color model of the settings.
+  ChannelEditor(const DocumentSlot& slot, AppSettings& settings, ChannelView& view);
+
+  [[nodiscard]] const ColorMode& mode() const { return *mode_; }
+  [[nodiscard]] std::int32_t currentEntry() const { return currentEntry_; }
+
+  /// Another current entry, as the user chose it.
+  void setCurrentEntry(std::int32_t index);
+  /// Another color model, of which the settings keep the index.
+  void chooseModel(std::int32_t index);
+  /// Brings numbers, controls and bars up to date with the entry; the next change is a new undo step. Called whenever
+  /// the editor is shown, and after a save.
+  void refreshValues();
+  /// After undo, redo and resizing: a current entry past the end becomes the last one.
+  void paletteChanged();
+  /// Another document was opened: its entry 0 becomes the current one.
+  void documentReplaced();
+
+  /// The user's ways to change a number. A value outside the channel's range counts as the nearest one inside.
+  ///
+  /// The common one: the number it already has changes nothing.
+  void changeChannel(Bar bar, std::int32_t value);
+  /// An edit field has another text: its number is set and recorded also where it is the same.
+  void fieldChanged(Bar bar, std::int32_t value);
+  /// An arrow of a field at `position` asks for a step. Shortens it to the range, sets the number that it leads to,
+  /// and answers how far the control is to go; 0 for a step that is refused.
+  std::int32_t stepField(Bar bar, std::int32_t position, std::int32_t step);
+  /// The wheel turned over a bar, 120 a notch.
+  void turnWheel(Bar bar, std::int32_t delta);
+  /// A bar is pressed, dragged and released. `y` is the pointer's height above the bar's bottom edge in pixels,
+  /// `height` the bar's usable height; a bar without one can't be dragged.
+  void pressBar(Bar bar, std::int32_t y, std::int32_t height);
+  void dragBar(std::int32_t y, std::int32_t height);
+  void releaseBar() { dragTarget_.reset(); }
+  [[nodiscard]] std::optional<Bar> dragTarget() const { return dragTarget_; }
+
+  /// The system's color chooser for any entry, one undo step also when it is cancelled. Beside the basic colors it
+  /// offers the entry's group of sixteen, filled up with the blank color.
+  void editEntry(std::int32_t index, ColorChooser& chooser);
+  /// The current entry and the clipboard. The next change after a copy is a new undo step.
+  void copy(PaletteClipboard& clipboard);
+  void paste(PaletteClipboard& clipboard);
+  /// The blank color for the current entry.
+  void blank();
+
+ private:
+  [[nodiscard]] PaletteDocument& document() const { return *slot_.document(); }
+  void recordOnce();
+  void refreshAndRepaint();
+
+  const DocumentSlot& slot_;
+  AppSettings& settings_;
+  ChannelView& view_;
+  std::int32_t currentEntry_ = 0;
+  std::unique_ptr<ColorMode> mode_;
+  bool recordArmed_ = true;
+  std::optional<Bar> dragTarget_;
+};
+
+}  // namespace quillhue

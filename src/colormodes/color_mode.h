@@ -1,0 +1,103 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "core/document.h"
+
+namespace quillhue {
+
+/// The three channels of a color model, as they stand side by side.
+enum class Bar : std::uint8_t { left, middle, right };
+inline constexpr std::array<Bar, 3> kBars{Bar::left, Bar::middle, Bar::right};
+
+/// Both ends belong to the range.
+struct ChannelRange {
+  std::int32_t minimum = 0;
+  std::int32_t maximum = 255;
+};
+inline constexpr ChannelRange kHueRange{0, 359};
+inline constexpr ChannelRange kByteRange{0, 255};
+inline constexpr ChannelRange kChromaRange{-128, 127};
+
+struct ChannelDescription {
+  std::string_view name;
+  ChannelRange range;
+};
+using ChannelDescriptions = std::array<ChannelDescription, 3>;
+
+/// One number a channel, left to right.
+using ChannelValues = std::array<std::int32_t, 3>;
+
+/// The positions of a gradient bar, from the channel's least value to its greatest.
+inline constexpr std::int32_t kBarPositions = 256;
+using BarColors = std::array<PaletteEntry, kBarPositions>;
+
+/// Shows one entry of the open palette as three numbers of a color model, and writes changed numbers back. With each
+/// channel goes a gradient bar: what the entry would look like with only that channel moved along its range.
+///
+/// Models other than RGB and CMY are not exact both ways, so they keep the numbers that were set, and an entry is
+/// only rewritten by a setter.
+class ColorMode {
+ public:
+  /// The document that is edited is the one that `slot` holds at each call.
+  ColorMode(const ChannelDescriptions& channels, const DocumentSlot& slot) : channels_(channels), slot_(slot) {}
+  ColorMode(const ColorMode&) = delete;
+  ColorMode& operator=(const ColorMode&) = delete;
+  virtual ~ColorMode() = default;
+
+  [[nodiscard]] std::int32_t getValue(Bar bar) const { return currentValues()[at(bar)]; }
+  [[nodiscard]] std::int32_t getLeftValue() const { return getValue(Bar::left); }
+  [[nodiscard]] std::int32_t getMiddleValue() const { return getValue(Bar::middle); }
+  [[nodiscard]] std::int32_t getRightValue() const { return getValue(Bar::right); }
+
+  /// Makes this the edited entry and derives the numbers from its color. The bars stay as they are. Where there is no
+  /// such entry the color counts as black, and the setters write nothing.
+  void setEntry(std::int32_t index);
+  [[nodiscard]] std::int32_t entryIndex() const { return entryIndex_; }
+
+  /// Sets one number, within the channel's range; rebuilds the other two bars and writes the entry. Makes no record.
+  void setValue(Bar bar, std::int32_t value);
+  void setLeftValue(std::int32_t value) { setValue(Bar::left, value); }
+  void setMiddleValue(std::int32_t value) { setValue(Bar::middle, value); }
+  void setRightValue(std::int32_t value) { setValue(Bar::right, value); }
+
+  [[nodiscard]] const ChannelRange& channelRange(Bar bar) const { return channels_[at(bar)].range; }
+  /// The entry's bar of a channel, and the strip beside it: the same as it was when the mode was created.
+  [[nodiscard]] const BarColors& bar(Bar bar) const { return bars_[at(bar)]; }
+  [[nodiscard]] const BarColors& fixedStrip(Bar bar) const { return fixedStrips_[at(bar)]; }
+
+  /// The color that the entry would get if the channel took the value of `position`, 0 .. kBarPositions - 1, and the
+  /// other two kept the numbers last set or derived.
+  [[nodiscard]] PaletteEntry barColor(Bar bar, std::int32_t position) const;
+
+ protected:
+  [[nodiscard]] PaletteEntry entryColor() const;
+
+ private:
+  friend ColorMode& createColorMode(std::int32_t index, std::int32_t entry, const DocumentSlot& document,
+                                    std::unique_ptr<ColorMode>& slot);
+
+  static constexpr std::size_t at(Bar bar) { return static_cast<std::size_t>(bar); }
+
+  /// The model's arithmetic. All divisions truncate toward zero; their order decides which color a triple gives.
+  [[nodiscard]] virtual ChannelValues toValues(const PaletteEntry& color) const = 0;
+  [[nodiscard]] virtual PaletteEntry toColor(const ChannelValues& values) const = 0;
+  /// Those last set or derived, unless a model is exact and reads them off the entry.
+  [[nodiscard]] virtual ChannelValues currentValues() const { return values_; }
+
+  void start(std::int32_t entry);
+  void rebuildBar(Bar bar);
+
+  const ChannelDescriptions& channels_;
+  const DocumentSlot& slot_;
+  std::int32_t entryIndex_ = 0;
+  ChannelValues values_{};
+  std::array<BarColors, kBars.size()> bars_{};
+  std::array<BarColors, kBars.size()> fixedStrips_{};
+};
+
+}  // namespace quillhue

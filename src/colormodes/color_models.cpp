@@ -1,0 +1,31 @@
+#include "colormodes/color_models.h"
+
+#include <array>
+#include <cstddef>
+
+namespace quillhue {
+
+namespace {
+
+constexpr std::array kModels{&kCmyModel,   &kHsiModel,   &kHslModel, &kHsvModel, &kRgbModel,
+                             &kYcbcrModel, &kYdbdrModel, &kYiqModel, &kYuvModel};
+
+}  // namespace
+
+std::span<const ColorModel* const> colorModels() { return kModels; }
+
+const ColorModel& colorModelOf(std::int32_t index) {
+  const auto at = static_cast<std::size_t>(index);
+  return at < kModels.size() ? *kModels[at] : kRgbModel;
+}
+
+ColorMode& createColorMode(std::int32_t index, std::int32_t entry, const DocumentSlot& document,
+                           std::unique_ptr<ColorMode>& slot) {
+  slot.reset();
+  const ColorModel& model = colorModelOf(index);
+  slot = model.create(model, document);
+  slot->start(entry);
+  return *slot;
+}
+
+}  // namespace quillhue

@@ -1,0 +1,225 @@
+#include <gtest/gtest.h>
+
+#include "colormodes/channel_editor.h"
+#include "support/fakes.h"
+#include "support/palettes.h"
+
+namespace quillhue {
+namespace {
+
+constexpr std::int32_t kHsv = 3;
+constexpr std::int32_t kYuv = 8;
+
+// Controls that report what is put into them like changes by the user, as edit fields do.
+class ReportingView : public ChannelView {
+ public:
+  ChannelEditor* editor = nullptr;
+  std::array<std::int32_t, 3> shown{};
+  std::array<std::int32_t, 3> greatest{};
+  std::vector<std::int32_t> repainted;
+
+  void showChannel(Bar bar, const ChannelRange& range, std::int32_t value) override {
+    greatest[static_cast<std::size_t>(bar)] = range.maximum;
+    shown[static_cast<std::size_t>(bar)] = value;
+    if (editor != nullptr) {
+      editor->fieldChanged(bar, value);
+    }
+  }
+  void entryChanged(std::int32_t index) override { repainted.push_back(index); }
+};
+
+class ChannelEditorTest : public testing::Test, public ColorChooser {
+ protected:
+  RecordingServices fakes;
+  DocumentSlot slot;
+  ReportingView view;
+  std::unique_ptr<ChannelEditor> editor;
+  std::optional<PaletteEntry> chosen;
+  std::string offered;
+
+  PaletteDocument& open(Palette palette = createPalette(3, {200, 100, 50})) {
+    slot.replaceDocument(std::move(palette), false, {}, 0, fakes.services);
+    if (editor == nullptr) {
+      view.editor = nullptr;
+      editor = std::make_unique<ChannelEditor>(slot, fakes.settings, view);
+      view.editor = editor.get();
+      editor->refreshValues();
+    }
+    view.repainted.clear();
+    return *slot.document();
+  }
+  [[nodiscard]] std::string palette() const { return show(slot.document()->getPalette()); }
+  std::optional<PaletteEntry> chooseColor(PaletteEntry initial,
+                                          std::span<const PaletteEntry, kCustomColors> custom) override {
+    offered = show(createPalette(1, initial)) + ": " + show(paletteOf(custom));
+    return chosen;
+  }
+};
+
+TEST_F(ChannelEditorTest, ChangesBetweenTwoRefreshesAreOneStep) {
+  PaletteDocument& document = open();
+  document.select(0);
+  document.select(2);
+  editor->setCurrentEntry(1);
+  editor->changeChannel(Bar::left, 200);
+  EXPECT_FALSE(document.canUndo());
+  editor->changeChannel(Bar::left, 10);
+  editor->turnWheel(Bar::middle, 240);
+  editor->changeChannel(Bar::right, 999);
+  EXPECT_EQ(palette(), "200,100,50 10,102,255 200,100,50");
+  EXPECT_EQ(view.shown, (std::array<std::int32_t, 3>{10, 102, 255}));
+  EXPECT_EQ(document.modificationCount(), 1);
+  editor->refreshValues();
+  EXPECT_EQ(editor->stepField(Bar::left, 10, 5), 5);
+  EXPECT_EQ(document.modificationCount(), 2);
+  // Copying ends the run; so does choosing the entry again.
+  editor->copy(fakes);
+  EXPECT_EQ(fakes.clipboard, (std::vector<PaletteEntry>{{15, 102, 255}}));
+  editor->changeChannel(Bar::left, 16);
+  editor->setCurrentEntry(1);
+  editor->changeChannel(Bar::left, 17);
+  EXPECT_EQ(document.modificationCount(), 4);
+  for (const char* expected : {"16,102,255", "15,102,255", "10,102,255", "200,100,50"}) {
+    document.undo();
+    EXPECT_EQ(show(createPalette(1, document.getColor(1))), expected);
+  }
+  // A field's new text counts, also when it means the same number.
+  editor->paletteChanged();
+  editor->fieldChanged(Bar::left, 200);
+  EXPECT_EQ(document.modificationCount(), 1);
+}
+
+TEST_F(ChannelEditorTest, DragsToTheValueUnderThePointer) {
+  const struct {
+    std::int32_t model;
+    Bar bar;
+    std::int32_t y;
+    std::int32_t height;
+    std::int32_t value;
+  } cases[] = {
+      {kHsv, Bar::left, 100, 100, 359}, {kHsv, Bar::left, 5000, 100, 359},      {kHsv, Bar::left, 50, 100, 179},
+      {kHsv, Bar::left, -9, 100, 0},    {kYuv, Bar::middle, -1, 100, -128},     {kYuv, Bar::middle, 1, 100, -126},
+      {kYuv, Bar::right, 99, 99, 127},  {kYuv, Bar::right, 2000000000, 1, 127},
+  };
+  for (const auto& [model, bar, y, height, value] : cases) {
+    PaletteDocument& document = open();
+    editor->documentReplaced();
+    editor->chooseModel(model);
+    EXPECT_EQ(fakes.settings.colorMode, model);
+    editor->pressBar(bar, y, height);
+    EXPECT_EQ(editor->dragTarget(), bar);
+    EXPECT_EQ(editor->mode().getValue(bar), value) << model << ' ' << y << '/' << height;
+    editor->dragBar(20, 100);
+    editor->dragBar(y, height);
+    editor->releaseBar();
+    EXPECT_EQ(document.modificationCount(), 1) << y;
+    editor->dragBar(70, 100);
+    EXPECT_EQ(editor->mode().getValue(bar), value);
+    document.undo();
+    EXPECT_EQ(document.getColor(0), (PaletteEntry{200, 100, 50}));
+  }
+}
+
+TEST_F(ChannelEditorTest, PressingWhereTheValueIsChangesNothing) {
+  const PaletteDocument& document = open();
+  editor->pressBar(Bar::left, 200, 255);
+  // Nor does a bar that the window is too low for.
+  editor->dragBar(7, 0);
+  EXPECT_EQ(document.modificationCount(), 0);
+}
+
+TEST_F(ChannelEditorTest, ShortensSteps) {
+  const struct {
+    std::int32_t position;
+    std::int32_t step;
+    std::int32_t taken;
+  } cases[] = {{200, 10, 10}, {250, 10, 5}, {255, 1, 0},         {255, -300, -255}, {0, -1, 0},
+               {3, -10, -3},  {200, 0, 0},  {300, 10, 0},        {300, -10, 0},     {300, -60, -60},
+               {-5, 2, 0},    {-5, 6, 6},   {0, 2147483647, 255}};
+  for (const auto& [position, step, taken] : cases) {
+    const PaletteDocument& document = open();
+    editor->documentReplaced();
+    EXPECT_EQ(editor->stepField(Bar::left, position, step), taken) << position << ' ' << step;
+    EXPECT_EQ(document.modificationCount(), taken == 0 ? 0 : 1);
+    EXPECT_EQ(document.getRed(0), taken == 0 ? 200 : position + taken);
+  }
+}
+
+TEST_F(ChannelEditorTest, TheWheelStopsAtTheEnds) {
+  const PaletteDocument& document = open(createPalette(1, {255, 0, 5}));
+  editor->chooseModel(kHsv);
+  EXPECT_EQ(view.greatest[0], 359);
+  EXPECT_EQ(editor->mode().getLeftValue(), 359);
+  editor->turnWheel(Bar::left, 120);
+  editor->turnWheel(Bar::left, -119);
+  EXPECT_FALSE(document.canUndo());
+  editor->turnWheel(Bar::left, -120 * 400);
+  EXPECT_EQ(editor->mode().getLeftValue(), 0);
+}
+
+TEST_F(ChannelEditorTest, BarsFollowTheEntryWithoutWritingIt) {
+  const PaletteDocument& document = open(variedPalette(3));
+  for (std::int32_t model = 0; model < 9; ++model) {
+    editor->chooseModel(model);
+    const BarColors strip = editor->mode().fixedStrip(Bar::left);
+    editor->setCurrentEntry(2);
+    EXPECT_EQ(editor->mode().fixedStrip(Bar::left), strip);
+    for (const Bar bar : kBars) {
+      EXPECT_EQ(editor->mode().bar(bar)[33], editor->mode().barColor(bar, 33)) << model;
+    }
+    editor->setCurrentEntry(0);
+  }
+  EXPECT_EQ(palette(), show(variedPalette(3)));
+  EXPECT_EQ(document.modificationCount(), 0);
+}
+
+TEST_F(ChannelEditorTest, FollowsTheDocument) {
+  PaletteDocument& document = open(variedPalette(3));
+  editor->setCurrentEntry(2);
+  document.resize(2);
+  editor->paletteChanged();
+  EXPECT_EQ(editor->currentEntry(), 1);
+  EXPECT_EQ(view.shown[0], 2);
+  open(createPalette(1, {7, 8, 9}));
+  editor->documentReplaced();
+  EXPECT_EQ(editor->currentEntry(), 0);
+  EXPECT_EQ(view.shown, (std::array<std::int32_t, 3>{7, 8, 9}));
+  EXPECT_EQ(editor->mode().fixedStrip(Bar::middle)[5], (PaletteEntry{7, 5, 9}));
+}
+
+TEST_F(ChannelEditorTest, EntryCommandsAreStepsOfTheirOwn) {
+  const PaletteDocument& document = open(variedPalette(3));
+  fakes.settings.blank = {9, 9, 9};
+  editor->blank();
+  EXPECT_EQ(view.shown[0], 9);
+  editor->paste(fakes);
+  EXPECT_EQ(document.modificationCount(), 1);
+  fakes.clipboard = {{4, 5, 6}, {7, 7, 7}};
+  editor->paste(fakes);
+  EXPECT_EQ(view.shown[2], 6);
+  editor->changeChannel(Bar::left, 0);
+  EXPECT_EQ(palette().substr(0, 6), "0,5,6 ");
+  EXPECT_EQ(document.modificationCount(), 3);
+}
+
+TEST_F(ChannelEditorTest, TheChooserOffersTheGroupOfSixteen) {
+  PaletteDocument& document = open(variedPalette(18));
+  fakes.settings.blank = {9, 9, 9};
+  editor->editEntry(17, *this);
+  EXPECT_EQ(offered,
+            "18,200,119: 17,200,112 18,200,119 9,9,9 9,9,9 9,9,9 9,9,9 9,9,9 9,9,9 9,9,9 9,9,9 9,9,9 9,9,9 "
+            "9,9,9 9,9,9 9,9,9 9,9,9");
+  // Cancelled, but a step.
+  EXPECT_EQ(document.modificationCount(), 1);
+  EXPECT_EQ(view.repainted, std::vector{17});
+  chosen = {1, 1, 1};
+  editor->editEntry(0, *this);
+  EXPECT_EQ(view.shown[1], 1);
+  editor->editEntry(18, *this);
+  EXPECT_EQ(document.modificationCount(), 2);
+  document.undo();
+  EXPECT_EQ(palette(), show(variedPalette(18)));
+}
+
+}  // namespace
+}  // namespace quillhue

@@ -1,0 +1,194 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+
+#include "colormodes/color_models.h"
+#include "support/checksum.h"
+#include "support/fakes.h"
+#include "support/palettes.h"
+#include "support/table.h"
+
+namespace quillhue {
+namespace {
+
+#ifdef __SANITIZE_ADDRESS__
+// With both ends among them.
+constexpr int kStep = 5;
+#else
+constexpr int kStep = 1;
+#endif
+
+class ColorModesTest : public testing::Test {
+ protected:
+  RecordingServices fakes;
+  DocumentSlot slot;
+  std::unique_ptr<ColorMode> mode;
+
+  void SetUp() override { slot.replaceDocument(createPalette(2), false, {}, 0, fakes.services); }
+
+  void open(std::int32_t index, PaletteEntry color) {
+    slot.document()->setColor(1, color);
+    createColorMode(index, 1, slot, mode);
+  }
+  [[nodiscard]] std::string values() const {
+    return std::to_string(mode->getLeftValue()) + ' ' + std::to_string(mode->getMiddleValue()) + ' ' +
+           std::to_string(mode->getRightValue());
+  }
+  [[nodiscard]] PaletteEntry color() const { return slot.document()->getColor(1); }
+  [[nodiscard]] std::string shownColor() const { return show(createPalette(1, color())); }
+};
+
+std::int32_t indexOf(const std::string& name) {
+  const auto models = colorModels();
+  return static_cast<std::int32_t>(std::ranges::find(models, name, &ColorModel::name) - models.begin());
+}
+
+PaletteEntry parsed(const std::string& text) {
+  std::istringstream stream(text);
+  int red = 0;
+  int green = 0;
+  int blue = 0;
+  char comma = 0;
+  stream >> red >> comma >> green >> comma >> blue;
+  return {static_cast<std::uint8_t>(red), static_cast<std::uint8_t>(green), static_cast<std::uint8_t>(blue)};
+}
+
+TEST_F(ColorModesTest, ConvertAsTheTableSays) {
+  for (const auto& row : readTable("color_modes.txt")) {
+    open(indexOf(row.at(0)), parsed(row.at(1)));
+    EXPECT_EQ(values(), row.at(2)) << row[0] << ' ' << row[1];
+    if (row.size() > 3) {
+      const Bar bar = kBars.at(static_cast<std::size_t>(std::stoi(row.at(3))));
+      mode->setValue(bar, std::stoi(row.at(4)));
+      EXPECT_EQ(shownColor(), row.at(5)) << row[0] << ' ' << row[1] << ' ' << row[3] << ' ' << row[4];
+      EXPECT_EQ(mode->getValue(bar), std::stoi(row.at(4)));
+    }
+  }
+}
+
+// The sums come from another program, which was written from the formulas.
+TEST_F(ColorModesTest, ConvertALatticeOfColorsAndNumbers) {
+  const struct {
+    std::uint32_t toValues;
+    std::uint32_t toColors;
+  } expected[] = {{1156451283, 2107335090}, {927391644, 3334128259},  {3319334832, 352690648},
+                  {4024984117, 2494082298}, {4079356883, 1648255365}, {47259241, 612508179},
+                  {1050746473, 4200112540}, {3135321621, 1006919625}, {47259241, 612508179}};
+  for (std::int32_t index = 0; index < 9; ++index) {
+    Checksum toValues;
+    open(index, {});
+    for (int red = 0; red < 256; red += 15) {
+      for (int green = 0; green < 256; green += 15) {
+        for (int blue = 0; blue < 256; blue += 15) {
+          slot.document()->setColor(1, {clampToByte(red), clampToByte(green), clampToByte(blue)});
+          mode->setEntry(1);
+          for (const Bar bar : kBars) {
+            toValues.add(static_cast<std::uint8_t>(mode->getValue(bar)));
+            toValues.add(static_cast<std::uint8_t>(mode->getValue(bar) >> 8));
+          }
+        }
+      }
+    }
+    EXPECT_EQ(toValues.value(), expected[index].toValues) << index;
+    Checksum toColors;
+    const auto [leftLeast, leftGreatest] = mode->channelRange(Bar::left);
+    const auto [middleLeast, middleGreatest] = mode->channelRange(Bar::middle);
+    for (std::int32_t left = leftLeast; left <= leftGreatest; left += 11) {
+      mode->setLeftValue(left);
+      for (std::int32_t middle = middleLeast; middle <= middleGreatest; middle += 17) {
+        mode->setMiddleValue(middle);
+        std::ranges::for_each(mode->bar(Bar::right), [&](const PaletteEntry& shown) { toColors.add(shown); });
+      }
+    }
+    EXPECT_EQ(toColors.value(), expected[index].toColors) << index;
+  }
+}
+
+// What must hold for every color there is.
+TEST_F(ColorModesTest, KeepTheirRangesAndGreys) {
+  for (std::int32_t index = 0; index < 9; ++index) {
+    open(index, {});
+    const bool hasHue = mode->channelRange(Bar::left).maximum == 359;
+    const bool hasChroma = mode->channelRange(Bar::middle).minimum < 0;
+    bool fine = true;
+    for (int red = 0; red < 256; red += kStep) {
+      for (int green = 0; green < 256; green += kStep) {
+        for (int blue = 0; blue < 256; blue += kStep) {
+          slot.document()->setColor(1, {clampToByte(red), clampToByte(green), clampToByte(blue)});
+          mode->setEntry(1);
+          for (const Bar bar : kBars) {
+            const auto [minimum, maximum] = mode->channelRange(bar);
+            fine &= mode->getValue(bar) >= (minimum < 0 ? -127 : minimum) && mode->getValue(bar) <= maximum;
+          }
+          if (red == green && green == blue) {
+            fine &=
+                !hasHue || (mode->getLeftValue() == 0 && mode->getMiddleValue() == 0 && mode->getRightValue() == red);
+            fine &= !hasChroma ||
+                    (mode->getLeftValue() == red && mode->getMiddleValue() == 0 && mode->getRightValue() == 0);
+          } else if (hasHue) {
+            // Of two greatest channels the first decides: yellow and magenta belong to red, cyan to green.
+            const int least = std::min({red, green, blue});
+            fine &= red != green || blue != least || mode->getLeftValue() == 60;
+            fine &= red != blue || green != least || mode->getLeftValue() == 300;
+            fine &= green != blue || red != least || mode->getLeftValue() == 180;
+          }
+        }
+      }
+    }
+    EXPECT_TRUE(fine) << colorModels()[static_cast<std::size_t>(index)]->name;
+  }
+}
+
+TEST_F(ColorModesTest, SettersBuildTheOtherBars) {
+  for (std::int32_t index = 0; index < 9; ++index) {
+    open(index, {200, 60, 110});
+    const BarColors strip = mode->fixedStrip(Bar::left);
+    EXPECT_EQ(strip, mode->bar(Bar::left)) << index;
+    for (const Bar set : kBars) {
+      const auto before = mode->bar(set);
+      mode->setValue(set, 77);
+      EXPECT_EQ(mode->bar(set), before) << index;
+      // A bar tells what its channel would make of the entry.
+      for (const Bar other : kBars) {
+        const auto [minimum, maximum] = mode->channelRange(other);
+        const PaletteEntry shown = mode->bar(other)[201];
+        const std::int32_t kept = mode->getValue(other);
+        mode->setValue(other, minimum + 201 * (maximum - minimum) / 255);
+        EXPECT_TRUE(other == set || color() == shown) << index;
+        mode->setValue(other, kept);
+      }
+    }
+    EXPECT_EQ(mode->fixedStrip(Bar::left), strip) << index;
+  }
+}
+
+TEST_F(ColorModesTest, SettersWriteNothingIntoALockedDocumentOrPastItsEnd) {
+  for (std::int32_t index = 0; index < 9; ++index) {
+    open(index, {200, 60, 110});
+    slot.document()->lock();
+    mode->setLeftValue(0);
+    mode->setMiddleValue(99);
+    slot.document()->unlock();
+    EXPECT_EQ(color(), (PaletteEntry{200, 60, 110})) << index;
+    mode->setEntry(2);
+    mode->setRightValue(50);
+    EXPECT_EQ(show(slot.document()->getPalette()), "0,0,0 200,60,110") << index;
+    EXPECT_EQ(slot.document()->modificationCount(), 0);
+  }
+  // While locked, the bars still follow the number that was set.
+  open(4, {1, 2, 3});
+  slot.document()->lock();
+  mode->setLeftValue(9);
+  EXPECT_EQ(mode->bar(Bar::right)[7], (PaletteEntry{9, 2, 7}));
+}
+
+TEST_F(ColorModesTest, AnyOtherIndexIsRgb) {
+  for (const std::int32_t index : {-1, 9, 255}) {
+    open(index, {1, 2, 3});
+    EXPECT_EQ(values(), "1 2 3");
+  }
+}
+
+}  // namespace
+}  // namespace quillhue
