@@ -1,0 +1,24 @@
+#include "effects/effects.h"
+
+namespace quillhue {
+
+namespace {
+
+// Between the entry's grey, the mean of all its channels, and its color, and beyond.
+class colorEffect final : public ChannelEffect {
+ public:
+  using ChannelEffect::ChannelEffect;
+
+ private:
+  [[nodiscard]] std::int32_t transform(std::int32_t value, const PaletteEntry& color,
+                                       ChannelMask /*mask*/) const override {
+    return ((100 - getValue()) * channelSum(color, kAllChannels) + 3 * getValue() * value) / 300;
+  }
+};
+
+}  // namespace
+
+constinit const EffectDescription kColorEffect{
+    "color", "Color", "saturation in percent (0 = grey, 100 = unchanged)", {-100, 200}, 100, makeEffect<colorEffect>};
+
+}  // namespace quillhue

@@ -1,0 +1,26 @@
+#include "effects/effects.h"
+
+namespace quillhue {
+
+namespace {
+
+// kept on purpose: not 128, so that 127 is the grey that stays what it is.
+constexpr std::int32_t kPivot = 127;
+
+class contrastEffect final : public ChannelEffect {
+ public:
+  using ChannelEffect::ChannelEffect;
+
+ private:
+  [[nodiscard]] std::int32_t transform(std::int32_t value, const PaletteEntry& /*color*/,
+                                       ChannelMask /*mask*/) const override {
+    return (value - kPivot) * getValue() / 100 + kPivot;
+  }
+};
+
+}  // namespace
+
+constinit const EffectDescription kContrastEffect{"contrast",  "Contrast", "contrast in percent around 127",
+                                                  {-100, 200}, 100,        makeEffect<contrastEffect>};
+
+}  // namespace quillhue

@@ -1,0 +1,34 @@
+#include "effects/effects.h"
+
+#include <array>
+#include <cstddef>
+
+namespace quillhue {
+
+namespace {
+
+constexpr std::array kEffects{
+    &kAndEffect,      &kOrEffect,       &kXorEffect,    &kBrightnessEffect, &kMultBrightnessEffect,
+    &kColorEffect,    &kContrastEffect, &kGammaEffect,  &kMaxEffect,        &kMinEffect,
+    &kNegativeEffect, &kQuantiseEffect, &kRotateEffect, &kPasteEffect,      &kTwistEffect,
+};
+
+}  // namespace
+
+std::span<const EffectDescription* const> effects() { return kEffects; }
+
+bool followsPaletteSize(const EffectDescription& description) {
+  return description.range.minimum == description.range.maximum;
+}
+
+Effect& createEffect(std::int32_t index, std::int32_t paletteSize, std::unique_ptr<Effect>& slot) {
+  slot.reset();
+  const auto at = static_cast<std::size_t>(index);
+  const EffectDescription& description = at < kEffects.size() ? *kEffects[at] : kColorEffect;
+  const EffectRange range =
+      followsPaletteSize(description) ? EffectRange{-paletteSize, paletteSize} : description.range;
+  slot = description.create(range, description.defaultValue);
+  return *slot;
+}
+
+}  // namespace quillhue

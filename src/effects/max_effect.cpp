@@ -1,0 +1,25 @@
+#include <algorithm>
+
+#include "effects/effects.h"
+
+namespace quillhue {
+
+namespace {
+
+class maxEffect final : public ChannelEffect {
+ public:
+  using ChannelEffect::ChannelEffect;
+
+ private:
+  [[nodiscard]] std::int32_t transform(std::int32_t value, const PaletteEntry& /*color*/,
+                                       ChannelMask /*mask*/) const override {
+    return std::min(value, getValue());
+  }
+};
+
+}  // namespace
+
+constinit const EffectDescription kMaxEffect{"maximum", "Maximum", "largest value a channel may keep",
+                                             {0, 255},  255,       makeEffect<maxEffect>};
+
+}  // namespace quillhue

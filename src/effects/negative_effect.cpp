@@ -1,0 +1,33 @@
+#include <algorithm>
+#include <bit>
+
+#include "effects/effects.h"
+
+namespace quillhue {
+
+namespace {
+
+// An inversion of the entries whose mean over the channels in the mask is above a threshold. Below 128 the entries up
+// to the threshold are raised instead.
+class negativeEffect final : public ChannelEffect {
+ public:
+  using ChannelEffect::ChannelEffect;
+
+ private:
+  [[nodiscard]] std::int32_t transform(std::int32_t value, const PaletteEntry& color, ChannelMask mask) const override {
+    const std::int32_t threshold = getValue();
+    const bool isAbove = channelSum(color, mask) / std::popcount(mask & kAllChannels) > threshold;
+    if (threshold <= 127) {
+      return isAbove ? 255 - value : value + 255 - 2 * threshold;
+    }
+    return isAbove ? 2 * threshold - value : value;
+  }
+};
+
+}  // namespace
+
+// kept on purpose: the default changes nothing, and 0 is the plain negative.
+constinit const EffectDescription kNegativeEffect{"negative", "Negative", "inversion threshold",
+                                                  {0, 255},   255,        makeEffect<negativeEffect>};
+
+}  // namespace quillhue

@@ -1,0 +1,30 @@
+#include <cmath>
+
+#include "effects/effects.h"
+
+namespace quillhue {
+
+namespace {
+
+// An S around the middle of the range for exponents below 1, the inverse of one above.
+class twistEffect final : public ChannelEffect {
+ public:
+  using ChannelEffect::ChannelEffect;
+
+ private:
+  [[nodiscard]] std::int32_t transform(std::int32_t value, const PaletteEntry& /*color*/,
+                                       ChannelMask /*mask*/) const override {
+    const double exponent = getValue() / 100.0;
+    const auto bent = [exponent](std::int32_t distance) {
+      return static_cast<std::int32_t>(std::pow(distance / 127.0, exponent) * 127.0);
+    };
+    return value <= 127 ? 127 - bent(127 - value) : 128 + bent(value - 128);
+  }
+};
+
+}  // namespace
+
+constinit const EffectDescription kTwistEffect{"twist",   "Twist", "curve exponent x 100",
+                                               {1, 1000}, 100,     makeEffect<twistEffect>};
+
+}  // namespace quillhue

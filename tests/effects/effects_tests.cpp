@@ -1,0 +1,135 @@
+#include <gtest/gtest.h>
+
+#include "core/generators.h"
+#include "effects/effect_editor.h"
+#include "effects/effects.h"
+#include "support/checksum.h"
+#include "support/fakes.h"
+#include "support/palettes.h"
+
+namespace quillhue {
+namespace {
+
+constexpr std::int32_t kGamma = 7;
+constexpr std::int32_t kRotate = 12;
+constexpr std::int32_t kPaste = 13;
+constexpr std::int32_t kTwist = 14;
+
+// What effects do to colors is tested through the tool, where a line is a test.
+class EffectsTest : public testing::Test {
+ protected:
+  RecordingServices fakes;
+  DocumentSlot slot;
+
+  PaletteDocument& open(Palette palette) {
+    std::ranges::fill(palette.selected(), 1);
+    slot.replaceDocument(std::move(palette), false, {}, 0, fakes.services);
+    return *slot.document();
+  }
+};
+
+// All values of both curves, as they are with powers rounded correctly; another program computed the sums with 60
+// digits. So the systems' libraries agree.
+TEST_F(EffectsTest, CurvesAreExact) {
+  const Palette greys = open(createGreyscalePalette(256)).getPalette();
+  for (const auto& [index, expected] : {std::pair{kGamma, 213053814U}, {kTwist, 2968004911U}}) {
+    Checksum sum;
+    std::unique_ptr<Effect> effect;
+    createEffect(index, 256, effect);
+    for (std::int32_t value = effect->getMinimum(); value <= effect->getMaximum(); ++value) {
+      Palette output = greys;
+      effect->setValue(value);
+      effect->apply({greys, fakes}, kAllChannels, output);
+      std::ranges::for_each(output.channel(Channel::green), [&](std::uint8_t grey) { sum.add(grey); });
+    }
+    EXPECT_EQ(sum.value(), expected);
+  }
+}
+
+TEST_F(EffectsTest, AnyOtherIndexIsColor) {
+  for (const std::int32_t index : {15, 255, -1}) {
+    std::unique_ptr<Effect> effect;
+    createEffect(index, 8, effect);
+    EXPECT_EQ(std::tuple(effect->getMinimum(), effect->getMaximum(), effect->getValue()), std::tuple(-100, 200, 100));
+  }
+}
+
+TEST_F(EffectsTest, ThoseWithoutEffectWriteNothing) {
+  const Palette palette = open(variedPalette(3)).getPalette();
+  for (const std::int32_t index : {kRotate, kPaste}) {
+    std::unique_ptr<Effect> effect;
+    createEffect(index, 3, effect).setValue(1);
+    Palette output = createPalette(3, {1, 1, 1});
+    // One selected entry; no palette on the clipboard.
+    Palette input = palette;
+    input.selected()[1] = input.selected()[2] = 0;
+    effect->apply({input, fakes}, kAllChannels, output);
+    EXPECT_EQ(output, createPalette(3, {1, 1, 1})) << index;
+  }
+}
+
+TEST_F(EffectsTest, EveryEffectLeavesTheRestAsItIs) {
+  fakes.clipboard = {{1, 2, 3}, {4, 5, 6}};
+  for (std::int32_t index = 0; index < 15; ++index) {
+    PaletteDocument& document = open(variedPalette(40));
+    for (std::int32_t entry = 0; entry < 40; entry += 3) {
+      document.deselect(entry);
+    }
+    EffectEditor editor(slot, fakes.settings, fakes);
+    editor.choose(index);
+    const std::int32_t least = editor.effect().getMinimum();
+    for (ChannelMask mask = 0; mask <= kAllChannels; ++mask) {
+      for (const std::int32_t value : {least, least + 40, editor.effect().getMaximum()}) {
+        editor.setValue(value);
+        const Palette& output = editor.preview(mask);
+        for (std::int32_t entry = 0; entry < 40; ++entry) {
+          const PaletteEntry color = document.getColor(entry);
+          const ChannelMask reached = document.isSelected(entry) ? mask : 0;
+          EXPECT_EQ(output.entry(entry), withChannels(color, reached, output.entry(entry))) << index << ' ' << mask;
+        }
+      }
+    }
+    EXPECT_EQ(document.modificationCount(), 0);
+  }
+}
+
+TEST_F(EffectsTest, PreviewShowsAndApplyWrites) {
+  PaletteDocument& document = open(createPalette(2, {10, 20, 30}));
+  fakes.settings.effect = 3;
+  EffectEditor editor(slot, fakes.settings, fakes);
+  editor.setValue(5);
+  EXPECT_EQ(show(editor.preview(5)), "15,20,35 15,20,35");
+  EXPECT_EQ(show(document.getPalette()), "10,20,30 10,20,30");
+  editor.setValue(1000);
+  EXPECT_EQ(editor.effect().getValue(), 255);
+  editor.setValue(-1000);
+  EXPECT_EQ(show(editor.preview(4)), "10,20,0 10,20,0");
+  editor.apply(4);
+  EXPECT_EQ(show(document.getPalette()), "10,20,0 10,20,0");
+  EXPECT_EQ(editor.effect().getValue(), 0);
+  editor.apply(7);
+  EXPECT_EQ(document.modificationCount(), 2);
+  document.undo();
+  document.undo();
+  EXPECT_EQ(show(document.getPalette()), "10,20,30 10,20,30");
+  // The preview follows the document's size.
+  document.resize(1);
+  EXPECT_EQ(editor.preview(7).getSize(), 1);
+  editor.choose(255);
+  EXPECT_EQ(fakes.settings.effect, 255);
+  EXPECT_EQ(editor.effect().getValue(), 100);
+}
+
+TEST_F(EffectsTest, RotateTakesItsRangeFromTheSizeWhenItIsChosen) {
+  PaletteDocument& document = open(createPalette(9));
+  EffectEditor editor(slot, fakes.settings, fakes);
+  editor.choose(kRotate);
+  document.resize(4);
+  editor.setValue(-20);
+  EXPECT_EQ(editor.effect().getValue(), -9);
+  editor.reset();
+  EXPECT_EQ(std::pair(editor.effect().getMinimum(), editor.effect().getMaximum()), std::pair(-4, 4));
+}
+
+}  // namespace
+}  // namespace quillhue
