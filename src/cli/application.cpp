@@ -14,13 +14,18 @@ constexpr const char* kVersion = "quillhue-cli " QUILLHUE_VERSION;
 }  // namespace
 
 int run(std::vector<std::string> arguments, Console& console) {
-  CLI::App tool("Shows and converts palettes: ordered lists of red-green-blue entries.", "quillhue-cli");
+  CLI::App tool("Makes, shows, edits and converts palettes: ordered lists of red-green-blue entries.", "quillhue-cli");
   tool.allow_windows_style_options(false);
   tool.require_subcommand(1);
   ExitStatus status = kDone;
   addFormatsVerb(tool, console, status);
   addInfoVerb(tool, console, status);
   addConvertVerb(tool, console, status);
+  addNewVerb(tool, console, status);
+  addEditVerb(tool, console, status);
+  addValuesVerb(tool, console, status);
+  addEffectsVerb(tool, console, status);
+  addModelsVerb(tool, console, status);
   tool.set_version_flag("--version", kVersion);
   for (CLI::App* verb : tool.get_subcommands({})) {
     verb->set_version_flag("--version", kVersion);

@@ -1,30 +1,105 @@
 #include "cli/arguments.h"
 
-#include <array>
 #include <charconv>
-#include <cstddef>
+#include <numeric>
+#include <sstream>
 #include <system_error>
+
+#include "cli/refusal.h"
 
 namespace quillhue::cli {
 
-std::optional<PaletteEntry> parseColor(std::string_view text) {
-  std::array<std::uint8_t, 3> values{};
-  const char* at = text.data();
-  const char* const end = at + text.size();
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    if (i > 0) {
-      if (at == end || *at != ',') {
-        return std::nullopt;
-      }
-      ++at;
+std::optional<std::int32_t> parseNumber(std::string_view text) {
+  std::int32_t number = 0;
+  const char* const begin = text.data();
+  const char* const end = begin + text.size();
+  const auto parsed = std::from_chars(begin, end, number);
+  return parsed.ec == std::errc() && parsed.ptr == end ? std::optional(number) : std::nullopt;
+}
+
+std::vector<std::string> split(const std::string& text, char separator) {
+  std::vector<std::string> parts(1);
+  for (const char letter : text) {
+    if (letter == separator) {
+      parts.emplace_back();
+    } else {
+      parts.back() += letter;
     }
-    const auto parsed = std::from_chars(at, end, values[i]);
-    if (parsed.ec != std::errc()) {
+  }
+  return parts;
+}
+
+std::optional<PaletteEntry> parseColor(std::string_view text) {
+  const std::vector<std::string> parts = split(std::string(text), ',');
+  PaletteEntry color;
+  for (const Channel channel : kChannels) {
+    const auto at = static_cast<std::size_t>(channel);
+    const auto value = at < parts.size() ? parseNumber(parts[at]) : std::nullopt;
+    if (!value || *value != clampToByte(*value)) {
       return std::nullopt;
     }
-    at = parsed.ptr;
+    channelOf(color, channel) = clampToByte(*value);
   }
-  return at == end ? std::optional(PaletteEntry{values[0], values[1], values[2]}) : std::nullopt;
+  return parts.size() == kChannels.size() ? std::optional(color) : std::nullopt;
+}
+
+std::string listed(std::span<const std::string> names) {
+  std::string text;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    text += i == 0 ? "" : (i + 1 == names.size() ? " or " : ", ");
+    text += names[i];
+  }
+  return text;
+}
+
+std::expected<EntryList, std::string> EntryList::parse(const std::string& text) {
+  EntryList list;
+  for (const std::string& part : split(text, ',')) {
+    const std::vector<std::string> ends = split(part, '-');
+    const auto first = parseNumber(ends.front());
+    const auto last = parseNumber(ends.back());
+    if (ends.size() > 2 || !first || !last || *first > *last) {
+      return Refusal(text + " is not a list of entries like 0-15,20");
+    }
+    list.ranges_.emplace_back(*first, *last);
+  }
+  return list;
+}
+
+std::expected<std::vector<std::int32_t>, std::string> EntryList::within(std::int32_t size) const {
+  std::vector<std::int32_t> indexes;
+  for (const auto& [first, last] : ranges_) {
+    if (const auto checked = checkEntry(last, size); !checked) {
+      return Refusal(checked.error());
+    }
+    for (std::int32_t index = first; index <= last; ++index) {
+      indexes.push_back(index);
+    }
+  }
+  return indexes;
+}
+
+std::expected<void, std::string> checkEntry(std::int32_t entry, std::int32_t size) {
+  if (entry >= 0 && entry < size) {
+    return {};
+  }
+  std::ostringstream text;
+  text << "There is no entry " << entry << "; the palette has 0 to " << size - 1 << '.';
+  return Refusal(text.str());
+}
+
+void addColorOption(CLI::App& verb, const std::string& name, PaletteEntry& color, const std::string& help) {
+  verb.add_option_function<std::string>(
+          name,
+          [name, &color](const std::string& text) {
+            const auto parsed = parseColor(text);
+            if (!parsed) {
+              throw CLI::ValidationError(name, text + " is not a color like 255,128,0");
+            }
+            color = *parsed;
+          },
+          help)
+      ->type_name("R,G,B");
 }
 
 }  // namespace quillhue::cli

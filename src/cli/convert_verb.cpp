@@ -12,11 +12,11 @@
 
 #include "cli/arguments.h"
 #include "cli/input.h"
+#include "cli/output.h"
 #include "cli/verbs.h"
 #include "core/utf8.h"
 #include "formats/files.h"
 #include "formats/image_colors.h"
-#include "formats/writers/palette_writers.h"
 
 namespace quillhue::cli {
 
@@ -35,11 +35,6 @@ struct ConvertOptions {
 };
 
 constexpr std::int32_t kReducedSize = 256;
-
-// A file was refused; the text says why.
-using Refusal = std::unexpected<std::string>;
-
-Refusal refusal(Failure failure) { return Refusal(std::string(textOf(failure))); }
 
 std::expected<Palette, std::string> paletteOfImage(const std::string& file, const TrueColorBitmap& bitmap,
                                                    const ConvertOptions& options, Console& console) {
@@ -78,24 +73,6 @@ std::expected<Palette, std::string> readPaletteOf(const std::string& file, const
   return refusal(Failure::notEnoughMemory);
 }
 
-std::expected<void, std::string> writeOutput(const std::string& file, const std::vector<std::uint8_t>& content,
-                                             bool force, Console& console) {
-  if (file == "-") {
-    for (const std::uint8_t byte : content) {
-      console.out.put(static_cast<char>(byte));
-    }
-    return {};
-  }
-  const std::wstring name = fromUtf8(file);
-  if (!force && fileExists(name)) {
-    return Refusal("This file already exists. Replace it with --force.");
-  }
-  if (!writeFile(name, content)) {
-    return refusal(Failure::couldNotCreate);
-  }
-  return {};
-}
-
 // Reports a refusal and answers false.
 bool convertFile(const std::string& from, const std::string& to, const PaletteWriter& writer,
                  const ConvertOptions& options, Console& console) {
@@ -104,29 +81,11 @@ bool convertFile(const std::string& from, const std::string& to, const PaletteWr
     reportRefusal(console, from, palette.error());
     return false;
   }
-  const auto content = composePaletteFile(*palette, writer.format, options.blank);
-  if (!content) {
-    reportRefusal(console, from, textOf(content.error()));
-    return false;
-  }
-  const auto written = writeOutput(to, *content, options.force, console);
+  const auto written = writePalette(from, *palette, to, writer, options.blank, options.force, console);
   if (!written) {
-    reportRefusal(console, to, written.error());
+    reportRefusal(console, written.error().file, written.error().text);
   }
   return written.has_value();
-}
-
-// The writer that --format names, or else the one that the file's extension stands for.
-const PaletteWriter& chooseWriter(const std::string& format, const std::string& file) {
-  for (const PaletteWriter* writer : paletteWriters()) {
-    std::string ending(".");
-    ending += writer->extension;
-    std::ranges::transform(ending, ending.begin(), [](unsigned char letter) { return std::toupper(letter); });
-    if (format.empty() ? writer->ownsExtension && nameEndsWith(fromUtf8(file), ending) : writer->name == format) {
-      return *writer;
-    }
-  }
-  throw CLI::ValidationError("--format", "is needed where the output's extension does not tell the format");
 }
 
 // Files that exist, found again under any name that leads to them. Only those whose own names are alike are compared on
@@ -216,14 +175,6 @@ ExitStatus convert(const ConvertOptions& options, Console& console) {
   return convertFile(options.files[0], to, chooseWriter(options.format, to), options, console) ? kDone : kRefused;
 }
 
-std::vector<std::string> writerNames() {
-  std::vector<std::string> names;
-  for (const PaletteWriter* writer : paletteWriters()) {
-    names.emplace_back(writer->name);
-  }
-  return names;
-}
-
 }  // namespace
 
 void addConvertVerb(CLI::App& tool, Console& console, ExitStatus& status) {
@@ -234,24 +185,14 @@ void addConvertVerb(CLI::App& tool, Console& console, ExitStatus& status) {
       ->required();
   verb->add_option("--name", options->name, "The file name that standard input is taken to have");
   verb->add_option("--out-dir", options->outDir, "Convert all files into this folder");
-  verb->add_option("--format", options->format, "The format to write (default: what OUT's extension stands for)")
-      ->check(CLI::IsMember(writerNames()));
+  addFormatOption(*verb, options->format);
   verb->add_option("--colors", options->colors, "How an image without a palette becomes one: its colors, or fewer")
       ->check(CLI::IsMember({"exact", "reduce"}));
   verb->add_option("--size", options->size, "The number of entries for --colors (default: all colors, reduced 256)")
       ->check(CLI::Range(1, kMaxPaletteSize));
-  verb->add_option_function<std::string>(
-          "--blank",
-          [options](const std::string& text) {
-            const auto color = parseColor(text);
-            if (!color) {
-              throw CLI::ValidationError("--blank", text + " is not a color like 255,128,0");
-            }
-            options->blank = *color;
-          },
-          "The color of entries that a format has and the palette has not (default 0,0,0)")
-      ->type_name("R,G,B");
-  verb->add_flag("--force", options->force, "Replace files that exist");
+  addColorOption(*verb, "--blank", options->blank,
+                 "The color of entries that a format has and the palette has not (default 0,0,0)");
+  addForceFlag(*verb, options->force);
   verb->callback([options, &console, &status] { status = convert(*options, console); });
 }
 

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <new>
 #include <system_error>
 #include <utility>
+#include <variant>
 
 #include "core/utf8.h"
 #include "formats/files.h"
@@ -51,13 +53,18 @@ std::vector<std::string> expandFolders(const std::vector<std::string>& files) {
   return expanded;
 }
 
-void reportRefusal(Console& console, const std::string& file, std::string_view text) {
-  std::string line(text);
-  std::ranges::replace(line, '\n', ' ');
-  line.insert(0, file + ": ");
-  // A name may hold line feeds and what drives a terminal.
-  std::ranges::replace_if(line, [](unsigned char letter) { return letter < ' '; }, '?');
-  console.err << line << '\n';
+std::expected<FilePalette, std::string> readFilePalette(const std::string& file, const std::string& streamName,
+                                                        Console& console) try {
+  auto input = openInput(file, streamName, console);
+  if (!input) {
+    return refusal(input.error());
+  }
+  if (!std::holds_alternative<FilePalette>(input->content)) {
+    return Refusal("The image has no palette. The verb convert makes one of its colors.");
+  }
+  return std::move(std::get<FilePalette>(input->content));
+} catch (const std::bad_alloc&) {
+  return refusal(Failure::notEnoughMemory);
 }
 
 }  // namespace quillhue::cli

@@ -4,10 +4,10 @@
 #include <expected>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "cli/console.h"
+#include "cli/refusal.h"
 #include "formats/readers/palette_readers.h"
 
 namespace quillhue::cli {
@@ -23,10 +23,11 @@ struct Input {
 [[nodiscard]] std::expected<Input, Failure> openInput(const std::string& file, const std::string& streamName,
                                                       Console& console);
 
+/// The palette of such a file; true colors are refused.
+[[nodiscard]] std::expected<FilePalette, std::string> readFilePalette(const std::string& file,
+                                                                      const std::string& streamName, Console& console);
+
 /// The files with every folder among them replaced by the regular files in it, by name.
 [[nodiscard]] std::vector<std::string> expandFolders(const std::vector<std::string>& files);
-
-/// Tells why a file was refused: one line.
-void reportRefusal(Console& console, const std::string& file, std::string_view text);
 
 }  // namespace quillhue::cli

@@ -1,0 +1,45 @@
+#include <iomanip>
+#include <memory>
+
+#include "cli/json.h"
+#include "cli/verbs.h"
+#include "effects/effects.h"
+
+namespace quillhue::cli {
+
+namespace {
+
+void showJson(Console& console) {
+  for (const EffectDescription* effect : effects()) {
+    const bool bySize = followsPaletteSize(*effect);
+    writeJson(console, {{"name", effect->name},
+                        {"label", effect->label},
+                        {"minimum", bySize ? Json() : Json(effect->range.minimum)},
+                        {"maximum", bySize ? Json() : Json(effect->range.maximum)},
+                        {"default", effect->defaultValue},
+                        {"meaning", effect->meaning}});
+  }
+}
+
+void showText(Console& console) {
+  console.out << "Effects (name for --effect, least and greatest value, default, what the value is):\n";
+  for (const EffectDescription* effect : effects()) {
+    const bool bySize = followsPaletteSize(*effect);
+    std::string range = bySize ? "-size" : std::to_string(effect->range.minimum);
+    range += "..";
+    range += bySize ? "size" : std::to_string(effect->range.maximum);
+    console.out << "  " << std::left << std::setw(20) << effect->name << std::setw(13) << range << std::setw(5)
+                << effect->defaultValue << effect->meaning << '\n';
+  }
+}
+
+}  // namespace
+
+void addEffectsVerb(CLI::App& tool, Console& console, ExitStatus& /*status*/) {
+  CLI::App* const verb = tool.add_subcommand("effects", "List the effects: name, values, default");
+  const auto json = std::make_shared<bool>(false);
+  verb->add_flag("--json", *json, "Write JSON, one object a line for each effect (null: the palette's size)");
+  verb->callback([json, &console] { *json ? showJson(console) : showText(console); });
+}
+
+}  // namespace quillhue::cli

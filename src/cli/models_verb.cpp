@@ -1,0 +1,50 @@
+#include <iomanip>
+#include <memory>
+#include <sstream>
+
+#include "cli/json.h"
+#include "cli/verbs.h"
+#include "colormodes/color_models.h"
+
+namespace quillhue::cli {
+
+namespace {
+
+Json channelJson(const ChannelDescription& channel) {
+  return {{"name", channel.name}, {"minimum", channel.range.minimum}, {"maximum", channel.range.maximum}};
+}
+
+void showJson(Console& console) {
+  for (const ColorModel* model : colorModels()) {
+    const auto& [left, middle, right] = model->channels;
+    writeJson(console, {{"name", model->name},
+                        {"left", channelJson(left)},
+                        {"middle", channelJson(middle)},
+                        {"right", channelJson(right)}});
+  }
+}
+
+void showText(Console& console) {
+  console.out << "Color models (name for --model; left, middle and right channel):\n";
+  for (const ColorModel* model : colorModels()) {
+    console.out << "  " << std::left << std::setw(7) << model->name;
+    for (const ChannelDescription& channel : model->channels) {
+      std::ostringstream text;
+      text << channel.name << ' ' << channel.range.minimum << ".." << channel.range.maximum;
+      const bool isLast = &channel == &model->channels.back();
+      console.out << std::setw(isLast ? 0 : 20) << text.str();
+    }
+    console.out << '\n';
+  }
+}
+
+}  // namespace
+
+void addModelsVerb(CLI::App& tool, Console& console, ExitStatus& /*status*/) {
+  CLI::App* const verb = tool.add_subcommand("models", "List the color models: left, middle and right channel");
+  const auto json = std::make_shared<bool>(false);
+  verb->add_flag("--json", *json, "Write JSON, one object a line for each model");
+  verb->callback([json, &console] { *json ? showJson(console) : showText(console); });
+}
+
+}  // namespace quillhue::cli

@@ -1,0 +1,143 @@
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <sstream>
+
+#include "cli/arguments.h"
+#include "cli/json.h"
+#include "cli/output.h"
+#include "cli/verbs.h"
+#include "core/new_palette.h"
+#include "core/system_palettes.h"
+
+namespace quillhue::cli {
+
+namespace {
+
+struct NewOptions {
+  std::string kind;
+  std::string file;
+  std::optional<std::int32_t> size;
+  std::optional<RgbLevels> levels;
+  bool windowsColors = false;
+  PaletteEntry blank;
+  std::string format;
+  bool force = false;
+  bool json = false;
+};
+
+// A palette that is made as the user wants it.
+struct Generator {
+  std::string_view name;
+  NewPaletteKind kind;
+  Palette (*create)(const NewPaletteFields& fields, PaletteEntry blank);
+};
+
+constexpr std::array<Generator, 3> kGenerators{{
+    {"blank", NewPaletteKind::blank,
+     [](const NewPaletteFields& fields, PaletteEntry blank) {
+       return createBlankPalette(fields.size, fields.windowsColors, blank);
+     }},
+    {"greyscale", NewPaletteKind::sizeOnly,
+     [](const NewPaletteFields& fields, PaletteEntry /*blank*/) { return createGreyscalePalette(fields.size); }},
+    {"rgb", NewPaletteKind::rgb,
+     [](const NewPaletteFields& fields, PaletteEntry blank) {
+       return createRgbPalette(fields.size, fields.levels, fields.windowsColors, blank);
+     }},
+}};
+
+void refuseOption(bool given, const char* option, const char* kinds) {
+  if (given) {
+    throw CLI::ValidationError(option, std::string("goes with ") + kinds);
+  }
+}
+
+Palette generate(const Generator& generator, const NewOptions& options) {
+  refuseOption(options.windowsColors && !asksWindowsColors(generator.kind), "--windows-colors", "blank or rgb");
+  refuseOption(options.levels && !asksLevels(generator.kind), "--levels", "rgb");
+  AppSettings settings;
+  NewPaletteFields fields = newPaletteFields(settings);
+  fields.size = options.size.value_or(fields.size);
+  fields.windowsColors = options.windowsColors;
+  fields.levels = options.levels.value_or(fields.levels);
+  const auto accepted = acceptNewPalette(generator.kind, fields, settings);
+  if (!accepted) {
+    throw CLI::ValidationError("--size", std::string(accepted.error()) + ' ' + minimumSizeText(generator.kind, fields));
+  }
+  return generator.create(*accepted, options.blank);
+}
+
+Palette createPaletteFor(const NewOptions& options) {
+  const auto* const generator = std::ranges::find(kGenerators, options.kind, &Generator::name);
+  if (generator != kGenerators.end()) {
+    return generate(*generator, options);
+  }
+  refuseOption(options.size.has_value(), "--size", "blank, greyscale or rgb");
+  refuseOption(options.windowsColors, "--windows-colors", "blank or rgb");
+  refuseOption(options.levels.has_value(), "--levels", "rgb");
+  FixedHalftone screen;
+  const auto system = std::ranges::find(systemPalettes(), options.kind, &SystemPalette::name);
+  return system->create(screen);
+}
+
+std::vector<std::string> kindNames() {
+  std::vector<std::string> names;
+  names.reserve(kGenerators.size() + systemPalettes().size());
+  for (const Generator& generator : kGenerators) {
+    names.emplace_back(generator.name);
+  }
+  for (const SystemPalette& palette : systemPalettes()) {
+    names.emplace_back(palette.name);
+  }
+  return names;
+}
+
+ExitStatus makeNew(const NewOptions& options, Console& console) {
+  refuseJsonOnStandardOutput(options.json, options.file);
+  const PaletteWriter& writer = chooseWriter(options.format, options.file);
+  const Palette palette = createPaletteFor(options);
+  const auto written = writePalette(options.file, palette, options.file, writer, options.blank, options.force, console);
+  if (!written) {
+    return refuseFile(written.error(), options.json, console);
+  }
+  if (options.json) {
+    writeJson(console, writtenJson(options.file, writer, palette));
+  }
+  return kDone;
+}
+
+RgbLevels parseLevels(const std::string& text) {
+  RgbLevels levels{};
+  const std::vector<std::string> parts = split(text, ',');
+  for (std::size_t i = 0; i < levels.size(); ++i) {
+    const auto level = i < parts.size() ? parseNumber(parts[i]) : std::nullopt;
+    if (parts.size() != levels.size() || !level || *level < kMinRgbLevel || *level > kMaxRgbLevel) {
+      throw CLI::ValidationError("--levels", text + " is not three numbers of 1 to 256 like 6,7,6");
+    }
+    levels[i] = *level;
+  }
+  return levels;
+}
+
+}  // namespace
+
+void addNewVerb(CLI::App& tool, Console& console, ExitStatus& status) {
+  CLI::App* const verb = tool.add_subcommand("new", "Make a new palette");
+  const auto options = std::make_shared<NewOptions>();
+  verb->add_option("KIND", options->kind, "What to make")->required()->check(CLI::IsMember(kindNames()));
+  verb->add_option("OUT", options->file, "The file to write, or - for standard output")->required();
+  verb->add_option("--size", options->size, "The number of entries of blank, greyscale and rgb (default 256)")
+      ->check(CLI::Range(1, kMaxPaletteSize));
+  verb->add_option_function<std::string>(
+          "--levels", [options](const std::string& text) { options->levels = parseLevels(text); },
+          "How many values red, green and blue take in rgb (default 6,7,6)")
+      ->type_name("R,G,B");
+  verb->add_flag("--windows-colors", options->windowsColors, "Include the 20 Windows colors in blank or rgb");
+  addColorOption(*verb, "--blank", options->blank, "The color of unused entries (default 0,0,0)");
+  addFormatOption(*verb, options->format);
+  addForceFlag(*verb, options->force);
+  verb->add_flag("--json", options->json, "Write JSON: the palette that was written");
+  verb->callback([options, &console, &status] { status = makeNew(*options, console); });
+}
+
+}  // namespace quillhue::cli

@@ -1,0 +1,89 @@
+#include "cli/output.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "core/utf8.h"
+#include "formats/files.h"
+#include "formats/readers/palette_reader.h"
+
+namespace quillhue::cli {
+
+void addFormatOption(CLI::App& verb, std::string& format) {
+  std::vector<std::string> names;
+  for (const PaletteWriter* writer : paletteWriters()) {
+    names.emplace_back(writer->name);
+  }
+  verb.add_option("--format", format, "The format to write (default: what OUT's extension stands for)")
+      ->check(CLI::IsMember(names));
+}
+
+void addForceFlag(CLI::App& verb, bool& force) { verb.add_flag("--force", force, "Replace files that exist"); }
+
+const PaletteWriter& chooseWriter(const std::string& format, const std::string& file) {
+  for (const PaletteWriter* writer : paletteWriters()) {
+    std::string ending(".");
+    ending += writer->extension;
+    std::ranges::transform(ending, ending.begin(), [](unsigned char letter) { return std::toupper(letter); });
+    if (format.empty() ? writer->ownsExtension && nameEndsWith(fromUtf8(file), ending) : writer->name == format) {
+      return *writer;
+    }
+  }
+  throw CLI::ValidationError("--format", "is needed where the output's extension does not tell the format");
+}
+
+std::expected<void, FileRefusal> writePalette(const std::string& from, const Palette& palette, const std::string& to,
+                                              const PaletteWriter& writer, PaletteEntry blank, bool force,
+                                              Console& console) {
+  const auto content = composePaletteFile(palette, writer.format, blank);
+  if (!content) {
+    return std::unexpected(FileRefusal{from, std::string(textOf(content.error()))});
+  }
+  const auto written = writeOutput(to, *content, force, console);
+  if (!written) {
+    return std::unexpected(FileRefusal{to, written.error()});
+  }
+  return {};
+}
+
+ExitStatus refuseFile(const FileRefusal& refused, bool json, Console& console) {
+  reportRefusal(console, refused.file, refused.text);
+  if (json) {
+    writeJson(console, {{"file", refused.file}, {"error", refused.text}});
+  }
+  return kRefused;
+}
+
+void refuseJsonOnStandardOutput(bool json, const std::string& file) {
+  if (json && file == "-") {
+    throw CLI::ValidationError("--json", "goes to standard output, so the palette can't");
+  }
+}
+
+Json writtenJson(const std::string& file, const PaletteWriter& writer, const Palette& palette) {
+  return {{"file", file},
+          {"format", writer.name},
+          {"code", writer.format},
+          {"size", palette.getSize()},
+          {"entries", entriesJson(palette)}};
+}
+
+std::expected<void, std::string> writeOutput(const std::string& file, const std::vector<std::uint8_t>& content,
+                                             bool force, Console& console) {
+  if (file == "-") {
+    for (const std::uint8_t byte : content) {
+      console.out.put(static_cast<char>(byte));
+    }
+    return {};
+  }
+  const std::wstring name = fromUtf8(file);
+  if (!force && fileExists(name)) {
+    return Refusal("This file already exists. Replace it with --force.");
+  }
+  if (!writeFile(name, content)) {
+    return refusal(Failure::couldNotCreate);
+  }
+  return {};
+}
+
+}  // namespace quillhue::cli

@@ -1,0 +1,112 @@
+#include <array>
+
+#include "cli/input.h"
+#include "cli/steps/step.h"
+#include "core/commands/exchange.h"
+#include "core/commands/statistics.h"
+
+namespace quillhue::cli {
+
+namespace {
+
+PaletteClipboard& clipboardOf(EditSession& session) { return session.tool.services.clipboard; }
+
+ParsedStep parseCopy(const std::string& /*argument*/) {
+  return stepOf([](EditSession& session) { copySelection(session.document(), clipboardOf(session)); });
+}
+
+ParsedStep parseCut(const std::string& /*argument*/) {
+  return stepOf([](EditSession& session) {
+    cutSelection(session.document(), session.mask, session.tool.settings.blank, clipboardOf(session));
+  });
+}
+
+ParsedStep parseClear(const std::string& /*argument*/) {
+  return stepOf(
+      [](EditSession& session) { clearSelection(session.document(), session.mask, session.tool.settings.blank); });
+}
+
+ParsedStep parsePaste(const std::string& /*argument*/) {
+  return [](EditSession& session) -> StepResult {
+    if (!clipboardOf(session).get()) {
+      return Refusal(kNothingToPaste);
+    }
+    pasteIntoSelection(session.document(), session.mask, clipboardOf(session));
+    return {};
+  };
+}
+
+ParsedStep parseClipboard(const std::string& argument) {
+  return [argument](EditSession& session) -> StepResult {
+    const auto read = readFilePalette(argument, {}, session.console);
+    if (!read) {
+      return Refusal(read.error());
+    }
+    clipboardOf(session).put(entriesOf(read->palette));
+    return {};
+  };
+}
+
+ParsedStep parseResize(const std::string& argument) {
+  const auto size = parseNumber(argument);
+  if (!size || *size < 1 || *size > kMaxPaletteSize) {
+    return Refusal(argument + " is not a size from 1 to " + std::to_string(kMaxPaletteSize));
+  }
+  return stepOf([size = *size](EditSession& session) { session.document().resize(size); });
+}
+
+ParsedStep parseUndo(const std::string& /*argument*/) {
+  return [](EditSession& session) -> StepResult {
+    if (!session.document().canUndo()) {
+      return Refusal("There is no step before it to undo.");
+    }
+    session.document().undo();
+    return {};
+  };
+}
+
+ParsedStep parseRedo(const std::string& /*argument*/) {
+  return [](EditSession& session) -> StepResult {
+    if (!session.document().canRedo()) {
+      return Refusal("No --undo stands before it, or a later step took its place.");
+    }
+    session.document().redo();
+    return {};
+  };
+}
+
+ParsedStep parseBlank(const std::string& argument) {
+  const auto color = parseColor(argument);
+  if (!color) {
+    return Refusal(argument + " is not a color like 255,128,0");
+  }
+  return stepOf([color = *color](EditSession& session) { session.tool.settings.blank = color; });
+}
+
+ParsedStep parseCountColors(const std::string& /*argument*/) {
+  return stepOf([](EditSession& session) { reportColorCount(session.document(), session.tool.services.messages); });
+}
+
+ParsedStep parseAverageColor(const std::string& /*argument*/) {
+  return stepOf([](EditSession& session) { reportAverageColor(session.document(), session.tool.services.messages); });
+}
+
+constexpr std::array<StepKind, 11> kSteps{{
+    {"--copy", nullptr, "Copy the selected entries to the tool's own clipboard", parseCopy},
+    {"--cut", nullptr, "Copy them and clear them", parseCut},
+    {"--clear", nullptr, "Give them the blank color", parseClear},
+    {"--paste", nullptr, "Replace them, in turn, by what the clipboard holds", parsePaste},
+    {"--clipboard", "FILE", "Put the palette of a file on the clipboard", parseClipboard},
+    {"--resize", "N", "Give the palette another size; new entries are blank", parseResize},
+    {"--undo", nullptr, "Take the last step back", parseUndo},
+    {"--redo", nullptr, "Do the step again that was taken back", parseRedo},
+    {"--blank", "R,G,B", "The blank color of the following steps (first: 0,0,0)", parseBlank},
+    {"--count-colors", nullptr, "Tell, on standard error, how many colors are different", parseCountColors},
+    {"--average-color", nullptr, "Tell the mean of all entries", parseAverageColor},
+}};
+
+}  // namespace
+
+std::span<const StepKind> documentSteps() { return kSteps; }
+
+}  // namespace quillhue::cli

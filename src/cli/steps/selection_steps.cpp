@@ -1,0 +1,78 @@
+#include <array>
+#include <string_view>
+
+#include "cli/steps/step.h"
+#include "core/commands/selection.h"
+
+namespace quillhue::cli {
+
+namespace {
+
+struct Selection {
+  std::string_view name;
+  void (*select)(PaletteDocument& document);
+};
+constexpr std::array<Selection, 4> kSelections{
+    {{"all", selectAll}, {"none", selectNone}, {"invert", invertSelection}, {"redundant", selectRedundant}}};
+
+struct Comparison {
+  std::string_view name;
+  void (*select)(PaletteDocument& document, std::int32_t current);
+};
+constexpr std::array<Comparison, 3> kComparisons{
+    {{"matches", selectMatches}, {"brighter", selectBrighter}, {"darker", selectDarker}}};
+
+ParsedStep parseSelect(const std::string& argument) {
+  if (const Selection* const selection = findByName(kSelections, argument)) {
+    return stepOf([select = selection->select](EditSession& session) { select(session.document()); });
+  }
+  const auto colon = argument.find(':');
+  const Comparison* const comparison = findByName(kComparisons, argument.substr(0, colon));
+  if (colon != std::string::npos && comparison != nullptr) {
+    return entryStepOf(
+        argument.substr(colon + 1),
+        [select = comparison->select](EditSession& session, std::int32_t entry) { select(session.document(), entry); });
+  }
+  auto entries = EntryList::parse(argument);
+  if (!entries) {
+    return Refusal(entries.error() + ", nor all, none, invert, redundant, matches:N, brighter:N or darker:N");
+  }
+  return [entries = *std::move(entries)](EditSession& session) -> StepResult {
+    const auto indexes = entries.within(session.document().getSize());
+    if (!indexes) {
+      return Refusal(indexes.error());
+    }
+    selectEntries(session.document(), *indexes);
+    return {};
+  };
+}
+
+ParsedStep parseChannels(const std::string& argument) {
+  constexpr std::string_view kLetters = "rgb";
+  ChannelMask mask = 0;
+  for (const char letter : argument == "none" ? std::string() : argument) {
+    const auto at = kLetters.find(letter);
+    if (at == std::string_view::npos) {
+      return Refusal(argument + " is not none, nor any of the letters r, g and b");
+    }
+    mask |= maskOf(kChannels[at]);
+  }
+  if (argument.empty()) {
+    return Refusal("needs none, or any of the letters r, g and b");
+  }
+  return stepOf([mask](EditSession& session) { session.mask = mask; });
+}
+
+constexpr std::array<StepKind, 2> kSteps{{
+    {"--select", "WHICH",
+     "Select entries as in 0-15,20, or all, none, invert, redundant, matches:N, brighter:N, darker:N (first: all)",
+     parseSelect},
+    {"--channels", "RGB", "The channels that the following steps may change: any of r, g, b, or none (first: rgb)",
+     parseChannels},
+}};
+
+}  // namespace
+
+std::span<const StepKind> selectionSteps() { return kSteps; }
+
+}  // namespace quillhue::cli

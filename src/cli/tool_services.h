@@ -1,0 +1,42 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "cli/console.h"
+#include "core/services.h"
+#include "core/system_palettes.h"
+
+namespace quillhue::cli {
+
+/// What the logic gets in the tool: messages go to standard error, every question is answered with no, the clipboard
+/// is the tool's own, and the halftone palette the fixed one.
+class ToolServices : private Messages, private DocumentObserver, private FileQuestions, private PaletteClipboard {
+ public:
+  explicit ToolServices(Console& console) : console_(console) {}
+
+  AppSettings settings;
+  FixedHalftone screen;
+  Services services{settings, *this, *this, *this, *this, screen};
+
+ private:
+  void information(std::string_view text) override { console_.err << text << '\n'; }
+  void error(std::string_view text) override { console_.err << text << '\n'; }
+  SaveChangesAnswer askSaveChanges(std::string_view /*text*/) override { return SaveChangesAnswer::no; }
+  bool askReplaceFile(std::string_view /*text*/) override { return false; }
+  void titleChanged(std::wstring_view /*title*/) override {}
+  void statusChanged(std::string_view /*text*/) override {}
+  void undoRedoChanged(bool /*canUndo*/, bool /*canRedo*/) override {}
+  void documentReplaced() override {}
+  std::optional<SaveAsAnswer> askSaveAs(PaletteFormat /*preselected*/) override { return std::nullopt; }
+  std::int32_t askPaletteFromImage(std::uint64_t /*distinctColors*/) override { return 0; }
+  void put(std::span<const PaletteEntry> entries) override { clipboard_ = {entries.begin(), entries.end()}; }
+  std::optional<std::vector<PaletteEntry>> get() override {
+    return clipboard_.empty() ? std::nullopt : std::optional(clipboard_);
+  }
+
+  Console& console_;
+  std::vector<PaletteEntry> clipboard_;
+};
+
+}  // namespace quillhue::cli

@@ -1,0 +1,111 @@
+#include <iomanip>
+#include <memory>
+#include <numeric>
+#include <sstream>
+
+#include "cli/arguments.h"
+#include "cli/input.h"
+#include "cli/model_names.h"
+#include "cli/output.h"
+#include "cli/tool_services.h"
+#include "cli/verbs.h"
+#include "colormodes/color_models.h"
+
+namespace quillhue::cli {
+
+namespace {
+
+struct ValuesOptions {
+  std::string file;
+  std::string name;
+  // Those to show; all without a choice.
+  std::vector<std::int32_t> models;
+  std::optional<EntryList> entries;
+  bool json = false;
+};
+
+void showEntry(const ColorModel& model, const ColorMode& mode, bool json, Console& console) {
+  if (json) {
+    writeJson(console, {{"index", mode.entryIndex()},
+                        {"model", model.name},
+                        {"left", mode.getLeftValue()},
+                        {"middle", mode.getMiddleValue()},
+                        {"right", mode.getRightValue()}});
+    return;
+  }
+  console.out << std::right << std::setw(4) << mode.entryIndex() << "  " << std::left << std::setw(5) << model.name;
+  for (const Bar bar : kBars) {
+    std::ostringstream text;
+    text << model.channels[static_cast<std::size_t>(bar)].name << ' ' << mode.getValue(bar);
+    console.out << "  " << std::setw(bar == Bar::right ? 0 : 14) << text.str();
+  }
+  console.out << '\n';
+}
+
+ExitStatus showValues(const ValuesOptions& options, Console& console) {
+  auto read = readFilePalette(options.file, options.name, console);
+  if (!read) {
+    return refuseFile({options.file, read.error()}, options.json, console);
+  }
+  const std::int32_t size = read->palette.getSize();
+  std::vector<std::int32_t> entries(static_cast<std::size_t>(size));
+  std::iota(entries.begin(), entries.end(), 0);
+  if (options.entries) {
+    auto chosen = options.entries->within(size);
+    if (!chosen) {
+      return refuseFile({options.file, chosen.error()}, options.json, console);
+    }
+    entries = std::move(*chosen);
+  }
+  ToolServices tool(console);
+  DocumentSlot slot;
+  slot.replaceDocument(std::move(read->palette), false, {}, palette_format::kNone, tool.services);
+  std::vector<std::unique_ptr<ColorMode>> modes(options.models.size());
+  for (std::size_t i = 0; i < modes.size(); ++i) {
+    createColorMode(options.models[i], 0, slot, modes[i]);
+  }
+  for (const std::int32_t entry : entries) {
+    for (std::size_t i = 0; i < modes.size(); ++i) {
+      modes[i]->setEntry(entry);
+      showEntry(colorModelOf(options.models[i]), *modes[i], options.json, console);
+    }
+  }
+  return kDone;
+}
+
+}  // namespace
+
+void addValuesVerb(CLI::App& tool, Console& console, ExitStatus& status) {
+  CLI::App* const verb = tool.add_subcommand("values", "Show the entries of a palette in the color models");
+  const auto options = std::make_shared<ValuesOptions>();
+  options->models.resize(colorModels().size());
+  std::iota(options->models.begin(), options->models.end(), 0);
+  verb->add_option("FILE", options->file, "A palette or image file, or - for standard input")->required();
+  verb->add_option("--name", options->name, "The file name that standard input is taken to have");
+  verb->add_option_function<std::string>(
+          "--model",
+          [options](const std::string& name) {
+            const auto model = findModel(name);
+            if (!model) {
+              throw CLI::ValidationError("--model", name + " is not " + listed(modelNames()));
+            }
+            options->models = {*model};
+          },
+          "One color model (default: all)")
+      ->type_name("NAME");
+  verb->add_option_function<std::string>(
+          "--entry",
+          [options](const std::string& text) {
+            auto entries = EntryList::parse(text);
+            if (!entries) {
+              throw CLI::ValidationError("--entry", entries.error());
+            }
+            options->entries = std::move(*entries);
+          },
+          "Only these entries, as in 0-15,20")
+      ->type_name("LIST");
+  verb->add_flag("--json", options->json, "Write JSON, one object a line for each entry and model");
+  verb->callback([options, &console, &status] { status = showValues(*options, console); });
+}
+
+}  // namespace quillhue::cli
