@@ -1,7 +1,7 @@
 #include <iomanip>
-#include <memory>
 
 #include "cli/json.h"
+#include "cli/list_verb.h"
 #include "cli/verbs.h"
 #include "effects/effects.h"
 
@@ -36,10 +36,8 @@ void showText(Console& console) {
 }  // namespace
 
 void addEffectsVerb(CLI::App& tool, Console& console, ExitStatus& /*status*/) {
-  CLI::App* const verb = tool.add_subcommand("effects", "List the effects: name, values, default");
-  const auto json = std::make_shared<bool>(false);
-  verb->add_flag("--json", *json, "Write JSON, one object a line for each effect (null: the palette's size)");
-  verb->callback([json, &console] { *json ? showJson(console) : showText(console); });
+  addListVerb(tool, console, "effects", "List the effects: name, values, default",
+              "Write JSON, one object a line for each effect (null: the palette's size)", showText, showJson);
 }
 
 }  // namespace quillhue::cli

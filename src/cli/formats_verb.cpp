@@ -1,7 +1,7 @@
 #include <iomanip>
-#include <memory>
 
 #include "cli/json.h"
+#include "cli/list_verb.h"
 #include "cli/verbs.h"
 #include "formats/readers/palette_readers.h"
 #include "formats/writers/palette_writers.h"
@@ -49,10 +49,8 @@ void showText(Console& console) {
 }  // namespace
 
 void addFormatsVerb(CLI::App& tool, Console& console, ExitStatus& /*status*/) {
-  CLI::App* const verb = tool.add_subcommand("formats", "List the formats that can be written and read");
-  const auto json = std::make_shared<bool>(false);
-  verb->add_flag("--json", *json, "Write JSON");
-  verb->callback([json, &console] { *json ? showJson(console) : showText(console); });
+  addListVerb(tool, console, "formats", "List the formats that can be written and read", "Write JSON", showText,
+              showJson);
 }
 
 }  // namespace quillhue::cli

@@ -1,8 +1,8 @@
 #include <iomanip>
-#include <memory>
 #include <sstream>
 
 #include "cli/json.h"
+#include "cli/list_verb.h"
 #include "cli/verbs.h"
 #include "colormodes/color_models.h"
 
@@ -41,10 +41,8 @@ void showText(Console& console) {
 }  // namespace
 
 void addModelsVerb(CLI::App& tool, Console& console, ExitStatus& /*status*/) {
-  CLI::App* const verb = tool.add_subcommand("models", "List the color models: left, middle and right channel");
-  const auto json = std::make_shared<bool>(false);
-  verb->add_flag("--json", *json, "Write JSON, one object a line for each model");
-  verb->callback([json, &console] { *json ? showJson(console) : showText(console); });
+  addListVerb(tool, console, "models", "List the color models: left, middle and right channel",
+              "Write JSON, one object a line for each model", showText, showJson);
 }
 
 }  // namespace quillhue::cli
