@@ -55,6 +55,14 @@ constexpr std::array kTexts{
     FailureText{tooLargeForFormat,
                 "The palette is too large for the selected format.\n"
                 "Use the Gimp, RIFF, or Windows Clipboard format instead."},
+    FailureText{clipboardNoImages, "This Windows Clipboard file has no recognisable images."},
+    FailureText{bitmapDepth,
+                "Windows Bitmap and Clipboard files must contain a 4-bit, 8-bit, 24-bit, or 32-bit bitmap."},
+    FailureText{clipboardDepth, "Clipboard must contain a 4-bit, 8-bit, 24-bit, or 32-bit bitmap."},
+    FailureText{pcxDepth, "PCX files must contain an 8-bit or 24-bit bitmap."},
+    FailureText{noMemoryToDeinterleave, "There is not enough free memory to de-interleave this image."},
+    FailureText{lbmUnsupported, "Quillhue cannot load this type of LBM file."},
+    FailureText{lbmNot8Bit, "LBM files must contain an 8-bit bitmap."},
     FailureText{couldNotCreate, "Could not create the file."},
 };
 

@@ -39,6 +39,13 @@ enum class Failure : std::uint8_t {
   tooLargeForMsDraw,
   farTooLargeForMsDraw,
   tooLargeForFormat,
+  clipboardNoImages,
+  bitmapDepth,
+  clipboardDepth,
+  pcxDepth,
+  noMemoryToDeinterleave,
+  lbmUnsupported,
+  lbmNot8Bit,
   couldNotCreate,
 };
 

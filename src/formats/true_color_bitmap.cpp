@@ -5,21 +5,18 @@
 #include <cstdlib>
 #include <vector>
 
+#include "formats/image_limits.h"
+
 namespace quillhue {
 
 namespace {
 
-constexpr std::int64_t kMaxSide = 262144;
-constexpr std::int64_t kMaxPixels = 268435456;
 constexpr std::uint64_t kBlockBytes = std::uint64_t{1} << 18;
-
-// kept on purpose: a field of five bits is widened by repeating its low three bits.
-constexpr ColorWord widen(std::uint32_t field) { return field * 8 + field % 8; }
 
 void decode16(std::span<const std::uint8_t> row, std::span<ColorWord> words) {
   for (std::size_t i = 0; i < words.size(); ++i) {
     const std::uint32_t pixel = row[2 * i] | static_cast<std::uint32_t>(row[2 * i + 1]) << 8;
-    words[i] = widen(pixel & 31) | widen(pixel >> 5 & 31) << 8 | widen(pixel >> 10 & 31) << 16;
+    words[i] = widenField(pixel & 31) | widenField(pixel >> 5 & 31) << 8 | widenField(pixel >> 10 & 31) << 16;
   }
 }
 
@@ -44,11 +41,8 @@ std::expected<TrueColorBitmap, Failure> TrueColorBitmap::open(ByteSource& source
   const auto width = static_cast<std::int32_t>(source.u32le(18));
   // Negative in a bitmap whose first row is the upper one; colors have no order.
   const std::int64_t height = std::abs(std::int64_t{static_cast<std::int32_t>(source.u32le(22))});
-  if (width < 1 || height < 1) {
-    return std::unexpected(Failure::imageTooSmall);
-  }
-  if (width > kMaxSide || height > kMaxSide || width * height > kMaxPixels) {
-    return std::unexpected(Failure::imageTooLarge);
+  if (const auto failure = checkImageSize(width, height)) {
+    return std::unexpected(*failure);
   }
   TrueColorBitmap bitmap;
   bitmap.source_ = &source;

@@ -18,6 +18,9 @@ using ColorWord = std::uint32_t;
   return {static_cast<std::uint8_t>(word >> 16), static_cast<std::uint8_t>(word >> 8), static_cast<std::uint8_t>(word)};
 }
 
+/// A field of five bits as a whole byte. kept on purpose: widened by repeating its low three bits.
+[[nodiscard]] constexpr ColorWord widenField(std::uint32_t field) { return field * 8 + field % 8; }
+
 /// The pixels of a Windows Bitmap of 16, 24 or 32 bits a pixel. Holds no pixels itself: they are read from the source,
 /// which outlives it, whenever they are asked for.
 class TrueColorBitmap {

@@ -1,34 +1,20 @@
-#include <algorithm>
 #include <optional>
 
+#include "formats/clipboard_directory.h"
 #include "formats/readers/palette_readers.h"
 
 namespace quillhue {
 
 namespace {
 
-constexpr std::uint16_t kFileId = 0xC350;
-// The directory: a format id and the offset of the data in each of its entries.
-constexpr std::uint64_t kDirectory = 4;
-constexpr std::uint64_t kDirectoryEntry = 89;
-// The system's numbers for the clipboard's formats: device-independent bitmap and palette.
-constexpr std::uint16_t kBitmapItem = 8;
-constexpr std::uint16_t kPaletteItem = 9;
+bool matches(const ReaderInput& input) { return input.source.u16le(0) == kClipboardFileId; }
 
-bool matches(const ReaderInput& input) { return input.source.u16le(0) == kFileId; }
-
-// The data offset of the first item of this kind that is `usable`.
+// The data offset of the first item of this format that is `usable`.
 template <typename Usable>
-std::optional<std::uint64_t> findItem(ByteSource& source, std::uint16_t kind, Usable usable) {
-  // Behind the end of the file there is nothing but zeros, which are no kind.
-  const std::uint64_t end = std::min<std::uint64_t>(kDirectory + source.u16le(2) * kDirectoryEntry, source.size());
-  for (std::uint64_t entry = kDirectory; entry < end; entry += kDirectoryEntry) {
-    if (source.u16le(entry) != kind) {
-      continue;
-    }
-    const std::uint64_t data = source.u32le(entry + 6);
-    if (usable(data)) {
-      return data;
+std::optional<std::uint64_t> findItem(ByteSource& source, std::uint16_t format, Usable usable) {
+  for (const ClipboardItem& item : clipboardItems(source)) {
+    if (item.format == format && usable(item.data)) {
+      return item.data;
     }
   }
   return std::nullopt;

@@ -1,0 +1,36 @@
+// The input is an image file, and what a clipboard may hold as a bitmap.
+
+#include <algorithm>
+#include <vector>
+
+#include "formats/image_limits.h"
+#include "formats/images/image_loaders.h"
+#include "fuzz_target.h"
+
+namespace {
+
+void check(const quillhue::ImageResult& image) {
+  using namespace quillhue;
+  if (!image) {
+    require(!textOf(image.error()).empty(), "a text for every failure");
+    return;
+  }
+  require(!checkImageSize(image->width(), image->height()), "a size within the limits");
+  const auto pixels = static_cast<std::size_t>(image->width()) * static_cast<std::size_t>(image->height());
+  require(image->pixels().size() == pixels * image->bytesPerPixel(), "as many bytes as pixels");
+  const auto& palette = image->palette();
+  if (palette && palette->getSize() == 16 && pixels < 4096) {
+    require(std::ranges::all_of(image->pixels(), [](std::uint8_t index) { return index < 16; }), "4-bit indexes");
+  }
+}
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace quillhue;
+  const std::vector content(data, data + size);
+  MemorySource source(content);
+  check(loadImage(source));
+  check(loadClipboardImage(content));
+  return 0;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "formats/failure.h"
+
+namespace quillhue {
+
+/// The largest side and the most pixels of an image.
+inline constexpr std::int64_t kMaxImageSide = 262144;
+inline constexpr std::int64_t kMaxImagePixels = 268435456;
+
+/// What is wrong with an image of this size: imageTooSmall, imageTooLarge, or nothing.
+[[nodiscard]] constexpr std::optional<Failure> checkImageSize(std::int64_t width, std::int64_t height) {
+  if (width < 1 || height < 1) {
+    return Failure::imageTooSmall;
+  }
+  if (width > kMaxImageSide || height > kMaxImageSide || width * height > kMaxImagePixels) {
+    return Failure::imageTooLarge;
+  }
+  return std::nullopt;
+}
+
+}  // namespace quillhue

@@ -1,0 +1,90 @@
+#include "formats/images/dib.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
+
+#include "formats/image_limits.h"
+#include "formats/readers/palette_reader.h"
+#include "formats/true_color_bitmap.h"
+
+namespace quillhue {
+
+namespace {
+
+using Bytes = std::span<const std::uint8_t>;
+
+// Turns a row of the file into a row of the image.
+using DecodeRow = void (*)(Bytes stored, std::span<std::uint8_t> row);
+
+void decode4(Bytes stored, std::span<std::uint8_t> row) {
+  for (std::size_t x = 0; x < row.size(); ++x) {
+    row[x] = x % 2 == 0 ? stored[x / 2] >> 4 : stored[x / 2] & 15;
+  }
+}
+
+void decode16(Bytes stored, std::span<std::uint8_t> row) {
+  for (std::size_t x = 0; x < row.size() / 3; ++x) {
+    const auto pixel = static_cast<std::uint32_t>(stored[2 * x] | stored[2 * x + 1] << 8);
+    for (std::size_t field = 0; field < 3; ++field) {
+      row[3 * x + field] = static_cast<std::uint8_t>(widenField(pixel >> (5 * field) & 31));
+    }
+  }
+}
+
+void decode32(Bytes stored, std::span<std::uint8_t> row) {
+  for (std::size_t x = 0; x < row.size() / 3; ++x) {
+    std::ranges::copy(stored.subspan(4 * x, 3), row.subspan(3 * x).begin());
+  }
+}
+
+struct Depth {
+  std::uint32_t bits;
+  // Of the palette; 0 without one.
+  std::int32_t entries;
+  // Null where rows are stored as the image has them.
+  DecodeRow decode;
+};
+
+constexpr std::array<Depth, 6> kDepths{
+    // kept on purpose: a bitmap that does not tell its depth has 4 bits.
+    {{0, 16, decode4}, {4, 16, decode4}, {8, 256, nullptr}, {16, 0, decode16}, {24, 0, nullptr}, {32, 0, decode32}}};
+
+}  // namespace
+
+ImageResult loadDib(ByteSource& source, const DibLayout& layout, Failure unsupportedDepth) {
+  const auto* const depth = std::ranges::find(kDepths, source.u8(layout.header + 14), &Depth::bits);
+  if (depth == kDepths.end()) {
+    return std::unexpected(unsupportedDepth);
+  }
+  const auto width = static_cast<std::int32_t>(source.u32le(layout.header + 4));
+  const auto height = static_cast<std::int32_t>(source.u32le(layout.header + 8));
+  if (const auto failure = checkImageSize(width, height)) {
+    return std::unexpected(*failure);
+  }
+  std::optional<Palette> palette;
+  if (depth->entries > 0) {
+    palette = blueFirst(readQuads(source, layout.palette, depth->entries));
+  }
+  WorkImage image(width, height, std::move(palette));
+  const std::uint64_t pixels = layout.palette + 4 * static_cast<std::uint64_t>(depth->entries);
+  const std::uint64_t bits = std::max<std::uint64_t>(depth->bits, 4);
+  std::vector<std::uint8_t> stored(static_cast<std::size_t>((static_cast<std::uint64_t>(width) * bits + 31) / 32 * 4));
+  for (std::int32_t y = 0; y < height; ++y) {
+    const std::uint64_t offset = pixels + static_cast<std::uint64_t>(y) * stored.size();
+    if (offset >= source.size()) {
+      break;
+    }
+    const auto row = image.row(height - 1 - y);
+    if (depth->decode == nullptr) {
+      source.read(offset, row);
+    } else {
+      source.read(offset, stored);
+      depth->decode(stored, row);
+    }
+  }
+  return image;
+}
+
+}  // namespace quillhue
