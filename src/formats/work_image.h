@@ -10,6 +10,11 @@
 
 namespace quillhue {
 
+/// The length of a row of one byte a pixel as Windows has it: the width rounded up to a multiple of 4.
+[[nodiscard]] constexpr std::size_t paddedRowLength(std::int32_t width) {
+  return (static_cast<std::size_t>(width) + 3) / 4 * 4;
+}
+
 /// An image that is to be remapped, within the limits of image_limits.h. Rows stand from top to bottom without padding.
 /// A pixel is an index into the image's own palette, or without one three bytes: blue, green, red.
 class WorkImage {
