@@ -60,10 +60,11 @@ void effect(benchmark::State& state) {
 
 BENCHMARK_CAPTURE(command, gradient, [](PaletteDocument& document) { gradient(document, kAllChannels); });
 BENCHMARK_CAPTURE(command, bright_gradient, [](PaletteDocument& document) { brightGradient(document, kAllChannels); });
-BENCHMARK_CAPTURE(command, sort_intensity,
-                  [](PaletteDocument& document) { sortByChannels(document, kAllChannels, kAllChannels); });
-BENCHMARK_CAPTURE(command, sort_red, [](PaletteDocument& document) { sortByChannels(document, 1, kAllChannels); });
-BENCHMARK_CAPTURE(command, sort_outside_mask, [](PaletteDocument& document) { sortByChannels(document, 1, 6); });
+BENCHMARK_CAPTURE(command, sort_intensity, [](PaletteDocument& document) { sortByIntensity(document, kAllChannels); });
+BENCHMARK_CAPTURE(command, sort_red,
+                  [](PaletteDocument& document) { sortByChannel(document, Channel::red, kAllChannels); });
+BENCHMARK_CAPTURE(command, sort_outside_mask,
+                  [](PaletteDocument& document) { sortByChannel(document, Channel::red, 6); });
 BENCHMARK_CAPTURE(command, sort_deviation, [](PaletteDocument& document) { sortByDeviation(document, kAllChannels); });
 BENCHMARK_CAPTURE(command, select_redundant, selectRedundant);
 BENCHMARK(effect)->DenseRange(0, 14);

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <exception>
+#include <sstream>
 
+#include "cli/refusal.h"
 #include "cli/verbs.h"
 
 namespace quillhue::cli {
@@ -35,7 +37,9 @@ int run(std::vector<std::string> arguments, Console& console) {
     std::ranges::reverse(arguments);
     tool.parse(std::move(arguments));
   } catch (const CLI::ParseError& error) {
-    status = tool.exit(error, console.out, console.err) == 0 ? kDone : kWrongUsage;
+    std::ostringstream refused;
+    status = tool.exit(error, console.out, refused) == 0 ? kDone : kWrongUsage;
+    console.err << printable(refused.str());
   } catch (const std::exception& error) {
     console.err << error.what() << '\n';
     status = kRefused;

@@ -1,7 +1,8 @@
 #include "cli/arguments.h"
 
+#include <algorithm>
 #include <charconv>
-#include <numeric>
+#include <iterator>
 #include <sstream>
 #include <system_error>
 
@@ -10,6 +11,9 @@
 namespace quillhue::cli {
 
 std::optional<std::int32_t> parseNumber(std::string_view text) {
+  if (text.size() > 1 && text[0] == '+' && text[1] != '-') {
+    text.remove_prefix(1);
+  }
   std::int32_t number = 0;
   const char* const begin = text.data();
   const char* const end = begin + text.size();
@@ -43,8 +47,28 @@ std::optional<PaletteEntry> parseColor(std::string_view text) {
   return parts.size() == kChannels.size() ? std::optional(color) : std::nullopt;
 }
 
-std::string listed(std::span<const std::string> names) {
-  std::string text;
+std::string refusedColor(const std::string& text) { return text + " is not a color like 255,128,0"; }
+
+std::string refusedValue(std::int32_t value, const ValueRange& range) {
+  std::ostringstream text;
+  text << value << " is not from " << range.minimum << " to " << range.maximum;
+  return text.str();
+}
+
+std::optional<std::size_t> placeOf(const std::vector<std::string>& names, const std::string& name) {
+  const auto found = std::ranges::find(names, name);
+  return found == names.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - names.begin()));
+}
+
+std::optional<std::size_t> placeOfAnyCase(const std::vector<std::string>& names, const std::string& name) {
+  std::vector<std::string> lowerNames;
+  std::ranges::transform(names, std::back_inserter(lowerNames), CLI::detail::to_lower);
+  return placeOf(lowerNames, CLI::detail::to_lower(name));
+}
+
+std::string refusedName(const std::string& name, const std::vector<std::string>& names) {
+  std::string text = name;
+  text += " is not ";
   for (std::size_t i = 0; i < names.size(); ++i) {
     text += i == 0 ? "" : (i + 1 == names.size() ? " or " : ", ");
     text += names[i];
@@ -88,13 +112,29 @@ std::expected<void, std::string> checkEntry(std::int32_t entry, std::int32_t siz
   return Refusal(text.str());
 }
 
+void addNumberOption(CLI::App& verb, const std::string& name, std::optional<std::int32_t>& number,
+                     const ValueRange& range, const std::string& help) {
+  verb.add_option_function<std::string>(
+          name,
+          [name, range, &number](const std::string& text) {
+            number = parseNumber(text);
+            if (!number || !range.contains(*number)) {
+              std::ostringstream refused;
+              refused << text << " is not a number from " << range.minimum << " to " << range.maximum;
+              throw CLI::ValidationError(name, refused.str());
+            }
+          },
+          help)
+      ->type_name("N");
+}
+
 void addColorOption(CLI::App& verb, const std::string& name, PaletteEntry& color, const std::string& help) {
   verb.add_option_function<std::string>(
           name,
           [name, &color](const std::string& text) {
             const auto parsed = parseColor(text);
             if (!parsed) {
-              throw CLI::ValidationError(name, text + " is not a color like 255,128,0");
+              throw CLI::ValidationError(name, refusedColor(text));
             }
             color = *parsed;
           },

@@ -1,21 +1,16 @@
 #include <algorithm>
-#include <cctype>
-#include <filesystem>
-#include <map>
 #include <memory>
 #include <new>
 #include <optional>
 #include <string>
-#include <system_error>
 #include <variant>
 #include <vector>
 
 #include "cli/arguments.h"
 #include "cli/input.h"
 #include "cli/output.h"
+#include "cli/output_folder.h"
 #include "cli/verbs.h"
-#include "core/utf8.h"
-#include "formats/files.h"
 #include "formats/image_colors.h"
 
 namespace quillhue::cli {
@@ -28,8 +23,7 @@ struct ConvertOptions {
   std::optional<std::string> outDir;
   std::string format;
   std::string colors;
-  // 0 where none is given.
-  std::int32_t size = 0;
+  std::optional<std::int32_t> size;
   PaletteEntry blank;
   bool force = false;
 };
@@ -43,22 +37,22 @@ std::expected<Palette, std::string> paletteOfImage(const std::string& file, cons
   }
   const ImageColors colors(bitmap);
   if (options.colors == "reduce") {
-    return colors.reducedPalette(options.size > 0 ? options.size : kReducedSize, options.blank);
+    return colors.reducedPalette(options.size.value_or(kReducedSize), options.blank);
   }
   const std::uint64_t count = colors.distinctCount();
-  if (options.size == 0 && count > kMaxPaletteSize) {
+  if (!options.size && count > kMaxPaletteSize) {
     console.err << file << ": Of " << count << " different colors the first " << kMaxPaletteSize
                 << " are taken. Choose --colors reduce for a palette of them all.\n";
   }
   const auto all = static_cast<std::int32_t>(std::min<std::uint64_t>(count, kMaxPaletteSize));
-  return colors.exactPalette(options.size > 0 ? options.size : all, options.blank);
+  return colors.exactPalette(options.size.value_or(all), options.blank);
 }
 
 std::expected<Palette, std::string> readPaletteOf(const std::string& file, const ConvertOptions& options,
                                                   Console& console) try {
   auto input = openInput(file, options.name, console);
   if (!input) {
-    return refusal(input.error());
+    return refusalOf(input.error());
   }
   const auto* const bitmap = std::get_if<TrueColorBitmap>(&input->content);
   if (bitmap == nullptr) {
@@ -66,11 +60,11 @@ std::expected<Palette, std::string> readPaletteOf(const std::string& file, const
   }
   auto palette = paletteOfImage(file, *bitmap, options, console);
   if (input->source->failed()) {
-    return refusal(Failure::couldNotOpen);
+    return refusalOf(Failure::couldNotOpen);
   }
   return palette;
 } catch (const std::bad_alloc&) {
-  return refusal(Failure::notEnoughMemory);
+  return refusalOf(Failure::notEnoughMemory);
 }
 
 // Reports a refusal and answers false.
@@ -88,85 +82,23 @@ bool convertFile(const std::string& from, const std::string& to, const PaletteWr
   return written.has_value();
 }
 
-// Files that exist, found again under any name that leads to them. Only those whose own names are alike are compared on
-// the disk, so that thousands of files cost no more than a look each.
-class FileSet {
- public:
-  void add(const std::string& file) { files_.emplace(keyOf(file), toPath(fromUtf8(file))); }
-
-  [[nodiscard]] bool contains(const std::string& file) const {
-    const auto [first, last] = files_.equal_range(keyOf(file));
-    return std::any_of(first, last, [path = toPath(fromUtf8(file))](const auto& known) {
-      std::error_code unknown;
-      return std::filesystem::equivalent(path, known.second, unknown);
-    });
-  }
-
- private:
-  // The file's own name behind all links, in lower case, since some systems take upper and lower case for the same.
-  static std::string keyOf(const std::string& file) {
-    std::error_code unknown;
-    const auto path = std::filesystem::weakly_canonical(toPath(fromUtf8(file)), unknown);
-    std::string name = toUtf8(toFileName(path.filename()));
-    std::ranges::transform(name, name.begin(), [](unsigned char letter) { return std::tolower(letter); });
-    return name;
-  }
-
-  std::multimap<std::string, std::filesystem::path> files_;
-};
-
-ExitStatus convertIntoFolder(const std::string& outDir, const ConvertOptions& options, Console& console) {
+ExitStatus convertAll(const std::string& outDir, const ConvertOptions& options, Console& console) {
   if (options.format.empty()) {
     throw CLI::ValidationError("--format", "is needed with --out-dir");
   }
   const PaletteWriter& writer = chooseWriter(options.format, {});
-  const std::filesystem::path folder = toPath(fromUtf8(outDir));
-  std::error_code error;
-  std::filesystem::create_directories(folder, error);
-  if (error) {
-    reportRefusal(console, outDir, "Could not create the folder.");
-    return kRefused;
-  }
-  const std::vector<std::string> inputs = expandFolders(options.files);
-  FileSet read;
-  std::ranges::for_each(inputs, [&](const std::string& file) { read.add(file); });
-  FileSet written;
-  ExitStatus status = kDone;
-  for (const std::string& from : inputs) {
-    FileSet own;
-    own.add(from);
-    std::filesystem::path target = folder / toPath(fromUtf8(from == "-" ? options.name : from)).stem();
-    target += '.';
-    target += writer.extension;
-    const std::string to = toUtf8(toFileName(target));
-    if (written.contains(to)) {
-      reportRefusal(console, from, "Another file of this call is converted to " + to + " already.");
-      status = kRefused;
-    } else if (options.force && !own.contains(to) && read.contains(to)) {
-      reportRefusal(console, from, "Its result would replace " + to + ", which this call is to convert.");
-      status = kRefused;
-    } else if (convertFile(from, to, writer, options, console)) {
-      written.add(to);
-    } else {
-      status = kRefused;
-    }
-  }
-  return status;
+  const FolderOutput output{outDir, writer.extension, options.name, options.force};
+  return writeIntoFolder(output, options.files, console, [&](const std::string& from, const std::string& to) {
+    return convertFile(from, to, writer, options, console);
+  });
 }
 
 ExitStatus convert(const ConvertOptions& options, Console& console) {
-  if (options.size > 0 && options.colors.empty()) {
+  if (options.size && options.colors.empty()) {
     throw CLI::ValidationError("--size", "goes with --colors");
   }
   if (options.outDir) {
-    // An unset variable of a script must not turn the last file into the output.
-    if (options.outDir->empty()) {
-      throw CLI::ValidationError("--out-dir", "names no folder");
-    }
-    if (std::ranges::find(options.files, "-") != options.files.end() && options.name.empty()) {
-      throw CLI::ValidationError("--name", "is needed for standard input with --out-dir");
-    }
-    return convertIntoFolder(*options.outDir, options, console);
+    return convertAll(*options.outDir, options, console);
   }
   if (options.files.size() != 2) {
     throw CLI::ValidationError("convert", "takes IN and OUT, or any number of files with --out-dir");
@@ -188,8 +120,8 @@ void addConvertVerb(CLI::App& tool, Console& console, ExitStatus& status) {
   addFormatOption(*verb, options->format);
   verb->add_option("--colors", options->colors, "How an image without a palette becomes one: its colors, or fewer")
       ->check(CLI::IsMember({"exact", "reduce"}));
-  verb->add_option("--size", options->size, "The number of entries for --colors (default: all colors, reduced 256)")
-      ->check(CLI::Range(1, kMaxPaletteSize));
+  addNumberOption(*verb, "--size", options->size, {1, kMaxPaletteSize},
+                  "The number of entries for --colors (default: all colors, reduced 256)");
   addColorOption(*verb, "--blank", options->blank,
                  "The color of entries that a format has and the palette has not (default 0,0,0)");
   addForceFlag(*verb, options->force);

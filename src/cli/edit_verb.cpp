@@ -13,12 +13,18 @@ namespace quillhue::cli {
 
 namespace {
 
+struct WrittenStep {
+  const StepKind* kind;
+  // The option and its argument.
+  std::string text;
+  Step run;
+};
+
 struct EditOptions {
   std::string from;
   std::string to;
   std::string name;
-  // As they are written, and what they do.
-  std::vector<std::pair<std::string, Step>> steps;
+  std::vector<WrittenStep> steps;
   std::string format;
   bool force = false;
   bool json = false;
@@ -26,9 +32,9 @@ struct EditOptions {
 
 Json editedJson(const EditOptions& options, const PaletteWriter& writer, const PaletteDocument& document) {
   const ColorCount count = countColors(document);
-  Json json = writtenJson(options.to, writer, document.getPalette());
+  Json json = paletteJson(options.to, writer.name, writer.format, document.getPalette());
   json["selected"] = selectedIndexes(document.getPalette());
-  json["modified"] = document.modificationCount();
+  json["modificationCount"] = document.modificationCount();
   json["canUndo"] = document.canUndo();
   json["canRedo"] = document.canRedo();
   json["different"] = {{"palette", count.palette}, {"selection", count.selection}};
@@ -44,8 +50,12 @@ ExitStatus edit(const EditOptions& options, Console& console) {
     return refuseFile({options.from, read.error()}, options.json, console);
   }
   EditSession session(std::move(read->palette), console);
-  for (const auto& [text, step] : options.steps) {
-    if (const auto done = step(session); !done) {
+  const StepKind* last = nullptr;
+  for (const auto& [kind, text, run] : options.steps) {
+    if (std::exchange(last, kind) != kind) {
+      session.channels.reset();
+    }
+    if (const auto done = run(session); !done) {
       return refuseFile({options.from, text + ": " + done.error()}, options.json, console);
     }
   }
@@ -68,15 +78,16 @@ void addStep(CLI::App& verb, const StepKind& kind, const std::shared_ptr<EditOpt
     if (!step) {
       throw CLI::ValidationError(kind.option, step.error());
     }
-    options->steps.emplace_back(kind.argument == nullptr ? kind.option : kind.option + (' ' + argument),
-                                *std::move(step));
+    const std::string text = kind.argument == nullptr ? kind.option : kind.option + (' ' + argument);
+    options->steps.push_back({&kind, text, *std::move(step)});
   };
   CLI::Option* const option =
       kind.argument == nullptr
           ? verb.add_flag_callback(
                 kind.option, [keep] { keep({}); }, kind.help)
           : verb.add_option_function<std::string>(kind.option, keep, kind.help)->type_name(kind.argument);
-  option->trigger_on_parse()->group("Steps, in the order in which they are written");
+  // A flag takes no value, not even the parser's own "=false".
+  option->disable_flag_override()->trigger_on_parse()->group("Steps, in the order in which they are written");
 }
 
 }  // namespace

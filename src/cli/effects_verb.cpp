@@ -11,7 +11,7 @@ namespace {
 
 void showJson(Console& console) {
   for (const EffectDescription* effect : effects()) {
-    const bool bySize = followsPaletteSize(*effect);
+    const bool bySize = effect->followsPaletteSize;
     writeJson(console, {{"name", effect->name},
                         {"label", effect->label},
                         {"minimum", bySize ? Json() : Json(effect->range.minimum)},
@@ -24,7 +24,7 @@ void showJson(Console& console) {
 void showText(Console& console) {
   console.out << "Effects (name for --effect, least and greatest value, default, what the value is):\n";
   for (const EffectDescription* effect : effects()) {
-    const bool bySize = followsPaletteSize(*effect);
+    const bool bySize = effect->followsPaletteSize;
     std::string range = bySize ? "-size" : std::to_string(effect->range.minimum);
     range += "..";
     range += bySize ? "size" : std::to_string(effect->range.maximum);

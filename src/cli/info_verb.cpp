@@ -23,11 +23,7 @@ struct InfoOptions {
 void showFilePalette(const std::string& file, const Input& input, bool json, Console& console) {
   const auto& [palette, format] = std::get<FilePalette>(input.content);
   if (json) {
-    writeJson(console, {{"file", file},
-                        {"format", input.reader->name},
-                        {"code", format},
-                        {"size", palette.getSize()},
-                        {"entries", entriesJson(palette)}});
+    writeJson(console, paletteJson(file, input.reader->name, format, palette));
     return;
   }
   console.out << file << ": " << input.reader->title << ", " << palette.getSize()
@@ -69,11 +65,7 @@ ExitStatus showAll(const InfoOptions& options, Console& console) {
   for (const std::string& file : expandFolders(options.files)) {
     const auto shown = show(file, options, console);
     if (!shown) {
-      status = kRefused;
-      reportRefusal(console, file, textOf(shown.error()));
-      if (options.json) {
-        writeJson(console, {{"file", file}, {"error", textOf(shown.error())}});
-      }
+      status = refuseFile({file, std::string(textOf(shown.error()))}, options.json, console);
     }
   }
   return status;

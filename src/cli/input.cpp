@@ -57,14 +57,14 @@ std::expected<FilePalette, std::string> readFilePalette(const std::string& file,
                                                         Console& console) try {
   auto input = openInput(file, streamName, console);
   if (!input) {
-    return refusal(input.error());
+    return refusalOf(input.error());
   }
   if (!std::holds_alternative<FilePalette>(input->content)) {
     return Refusal("The image has no palette. The verb convert makes one of its colors.");
   }
   return std::move(std::get<FilePalette>(input->content));
 } catch (const std::bad_alloc&) {
-  return refusal(Failure::notEnoughMemory);
+  return refusalOf(Failure::notEnoughMemory);
 }
 
 }  // namespace quillhue::cli

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <nlohmann/json.hpp>
+#include <string>
+#include <string_view>
 
 #include "cli/console.h"
 #include "core/palette.h"
+#include "core/palette_format.h"
 
 namespace quillhue::cli {
 
@@ -18,6 +21,16 @@ using Json = nlohmann::ordered_json;
     entries.push_back(colorJson(color));
   }
   return entries;
+}
+
+/// What `info` tells of a palette, and what was written tells of itself.
+[[nodiscard]] inline Json paletteJson(const std::string& file, std::string_view format, PaletteFormat code,
+                                      const Palette& palette) {
+  return {{"file", file},
+          {"format", format},
+          {"code", code},
+          {"size", palette.getSize()},
+          {"entries", entriesJson(palette)}};
 }
 
 /// Writes one value on a line of its own. Text that is not UTF-8 (a file name) is mended, not refused.

@@ -1,7 +1,7 @@
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <optional>
-#include <sstream>
 
 #include "cli/arguments.h"
 #include "cli/json.h"
@@ -81,14 +81,8 @@ Palette createPaletteFor(const NewOptions& options) {
 }
 
 std::vector<std::string> kindNames() {
-  std::vector<std::string> names;
-  names.reserve(kGenerators.size() + systemPalettes().size());
-  for (const Generator& generator : kGenerators) {
-    names.emplace_back(generator.name);
-  }
-  for (const SystemPalette& palette : systemPalettes()) {
-    names.emplace_back(palette.name);
-  }
+  std::vector<std::string> names = namesOf(kGenerators);
+  std::ranges::copy(namesOf(systemPalettes()), std::back_inserter(names));
   return names;
 }
 
@@ -101,7 +95,7 @@ ExitStatus makeNew(const NewOptions& options, Console& console) {
     return refuseFile(written.error(), options.json, console);
   }
   if (options.json) {
-    writeJson(console, writtenJson(options.file, writer, palette));
+    writeJson(console, paletteJson(options.file, writer.name, writer.format, palette));
   }
   return kDone;
 }
@@ -126,8 +120,8 @@ void addNewVerb(CLI::App& tool, Console& console, ExitStatus& status) {
   const auto options = std::make_shared<NewOptions>();
   verb->add_option("KIND", options->kind, "What to make")->required()->check(CLI::IsMember(kindNames()));
   verb->add_option("OUT", options->file, "The file to write, or - for standard output")->required();
-  verb->add_option("--size", options->size, "The number of entries of blank, greyscale and rgb (default 256)")
-      ->check(CLI::Range(1, kMaxPaletteSize));
+  addNumberOption(*verb, "--size", options->size, {1, kMaxPaletteSize},
+                  "The number of entries of blank, greyscale and rgb (default 256)");
   verb->add_option_function<std::string>(
           "--levels", [options](const std::string& text) { options->levels = parseLevels(text); },
           "How many values red, green and blue take in rgb (default 6,7,6)")

@@ -46,26 +46,10 @@ std::expected<void, FileRefusal> writePalette(const std::string& from, const Pal
   return {};
 }
 
-ExitStatus refuseFile(const FileRefusal& refused, bool json, Console& console) {
-  reportRefusal(console, refused.file, refused.text);
-  if (json) {
-    writeJson(console, {{"file", refused.file}, {"error", refused.text}});
-  }
-  return kRefused;
-}
-
 void refuseJsonOnStandardOutput(bool json, const std::string& file) {
   if (json && file == "-") {
     throw CLI::ValidationError("--json", "goes to standard output, so the palette can't");
   }
-}
-
-Json writtenJson(const std::string& file, const PaletteWriter& writer, const Palette& palette) {
-  return {{"file", file},
-          {"format", writer.name},
-          {"code", writer.format},
-          {"size", palette.getSize()},
-          {"entries", entriesJson(palette)}};
 }
 
 std::expected<void, std::string> writeOutput(const std::string& file, const std::vector<std::uint8_t>& content,
@@ -81,7 +65,7 @@ std::expected<void, std::string> writeOutput(const std::string& file, const std:
     return Refusal("This file already exists. Replace it with --force.");
   }
   if (!writeFile(name, content)) {
-    return refusal(Failure::couldNotCreate);
+    return refusalOf(Failure::couldNotCreate);
   }
   return {};
 }

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "cli/console.h"
-#include "cli/json.h"
 #include "cli/refusal.h"
 #include "formats/writers/palette_writers.h"
 
@@ -21,26 +20,14 @@ void addForceFlag(CLI::App& verb, bool& force);
 /// when that tells none.
 [[nodiscard]] const PaletteWriter& chooseWriter(const std::string& format, const std::string& file);
 
-/// A file that was refused, and why.
-struct FileRefusal {
-  std::string file;
-  std::string text;
-};
-
 /// Composes the palette in the writer's format and writes it to the file `to`. `from` is what a palette that the
 /// format can't hold is reported for.
 [[nodiscard]] std::expected<void, FileRefusal> writePalette(const std::string& from, const Palette& palette,
                                                             const std::string& to, const PaletteWriter& writer,
                                                             PaletteEntry blank, bool force, Console& console);
 
-/// Reports it on standard error, and with `json` on standard output too.
-ExitStatus refuseFile(const FileRefusal& refused, bool json, Console& console);
-
 /// Throws CLI::ValidationError when data and JSON would both go to standard output.
 void refuseJsonOnStandardOutput(bool json, const std::string& file);
-
-/// What was written: file, format, code, size and entries.
-[[nodiscard]] Json writtenJson(const std::string& file, const PaletteWriter& writer, const Palette& palette);
 
 /// Writes a whole file, or for "-" to standard output. A file that exists is replaced only with `force`.
 [[nodiscard]] std::expected<void, std::string> writeOutput(const std::string& file,

@@ -2,15 +2,32 @@
 
 #include <algorithm>
 
+#include "cli/json.h"
+
 namespace quillhue::cli {
 
+ExitStatus refuseFile(const FileRefusal& refused, bool json, Console& console) {
+  reportRefusal(console, refused.file, refused.text);
+  if (json) {
+    writeJson(console, {{"file", refused.file}, {"error", refused.text}});
+  }
+  return kRefused;
+}
+
+std::string printable(std::string text) {
+  std::ranges::replace_if(
+      text, [](unsigned char letter) { return (letter < ' ' && letter != '\n') || letter == 0x7F; }, '?');
+  return text;
+}
+
 void reportRefusal(Console& console, const std::string& file, std::string_view text) {
-  std::string line(text);
-  std::ranges::replace(line, '\n', ' ');
-  line.insert(0, file + ": ");
-  // A name may hold line feeds and what drives a terminal.
-  std::ranges::replace_if(line, [](unsigned char letter) { return letter < ' '; }, '?');
-  console.err << line << '\n';
+  std::string reason(text);
+  std::ranges::replace(reason, '\n', ' ');
+  std::string line = file;
+  std::ranges::replace(line, '\n', '?');
+  line += ": ";
+  line += reason;
+  console.err << printable(line) << '\n';
 }
 
 }  // namespace quillhue::cli

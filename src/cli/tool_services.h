@@ -14,6 +14,9 @@ namespace quillhue::cli {
 class ToolServices : private Messages, private DocumentObserver, private FileQuestions, private PaletteClipboard {
  public:
   explicit ToolServices(Console& console) : console_(console) {}
+  ToolServices(const ToolServices&) = delete;
+  ToolServices& operator=(const ToolServices&) = delete;
+  ~ToolServices() override = default;
 
   AppSettings settings;
   FixedHalftone screen;

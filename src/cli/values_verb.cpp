@@ -5,8 +5,8 @@
 
 #include "cli/arguments.h"
 #include "cli/input.h"
-#include "cli/model_names.h"
-#include "cli/output.h"
+#include "cli/json.h"
+#include "cli/refusal.h"
 #include "cli/tool_services.h"
 #include "cli/verbs.h"
 #include "colormodes/color_models.h"
@@ -85,11 +85,11 @@ void addValuesVerb(CLI::App& tool, Console& console, ExitStatus& status) {
   verb->add_option_function<std::string>(
           "--model",
           [options](const std::string& name) {
-            const auto model = findModel(name);
+            const auto model = placeOfAnyCase(namesOf(colorModels()), name);
             if (!model) {
-              throw CLI::ValidationError("--model", name + " is not " + listed(modelNames()));
+              throw CLI::ValidationError("--model", refusedName(name, namesOf(colorModels())));
             }
-            options->models = {*model};
+            options->models = {static_cast<std::int32_t>(*model)};
           },
           "One color model (default: all)")
       ->type_name("NAME");

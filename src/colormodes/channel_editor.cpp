@@ -12,10 +12,6 @@ namespace {
 
 constexpr std::int32_t kWheelNotch = 120;
 
-std::int32_t clampTo(const ChannelRange& range, std::int64_t value) {
-  return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, range.minimum, range.maximum));
-}
-
 using CustomColors = std::array<PaletteEntry, ColorChooser::kCustomColors>;
 
 CustomColors customColorsFor(const PaletteDocument& document, std::int32_t index, PaletteEntry blank) {
@@ -36,7 +32,7 @@ ChannelEditor::ChannelEditor(const DocumentSlot& slot, AppSettings& settings, Ch
 }
 
 void ChannelEditor::setCurrentEntry(std::int32_t index) {
-  currentEntry_ = index;
+  currentEntry_ = document().contains(index) ? index : -1;
   refreshAndRepaint();
 }
 
@@ -53,8 +49,9 @@ void ChannelEditor::refreshValues() {
   document().lock();
   recordArmed_ = false;
   for (const Bar bar : kBars) {
-    view_.showChannel(bar, mode_->channelRange(bar), mode_->getValue(bar));
-    mode_->setValue(bar, mode_->getValue(bar));
+    const std::int32_t value = mode_->getValue(bar);
+    view_.showChannel(bar, mode_->channelRange(bar), value);
+    mode_->setValue(bar, value);
   }
   document().unlock();
   recordArmed_ = true;
@@ -85,8 +82,8 @@ void ChannelEditor::refreshAndRepaint() {
 }
 
 void ChannelEditor::changeChannel(Bar bar, std::int32_t value) {
-  const ChannelRange& range = mode_->channelRange(bar);
-  value = clampTo(range, value);
+  const ValueRange& range = mode_->channelRange(bar);
+  value = range.clamp(value);
   if (value == mode_->getValue(bar)) {
     return;
   }
@@ -98,14 +95,14 @@ void ChannelEditor::changeChannel(Bar bar, std::int32_t value) {
 
 void ChannelEditor::fieldChanged(Bar bar, std::int32_t value) {
   recordOnce();
-  mode_->setValue(bar, clampTo(mode_->channelRange(bar), value));
+  mode_->setValue(bar, mode_->channelRange(bar).clamp(value));
   view_.entryChanged(currentEntry_);
 }
 
 std::int32_t ChannelEditor::stepField(Bar bar, std::int32_t position, std::int32_t step) {
-  const ChannelRange& range = mode_->channelRange(bar);
+  const ValueRange& range = mode_->channelRange(bar);
   const std::int64_t wanted = std::int64_t{position} + step;
-  const std::int32_t target = clampTo(range, wanted);
+  const std::int32_t target = range.clamp(wanted);
   // A step is only ever shortened: from outside the range none that is too short leads back.
   const bool leadsThere = step > 0 ? target > position && target <= wanted : target < position && target >= wanted;
   if (!leadsThere) {
@@ -121,18 +118,13 @@ void ChannelEditor::turnWheel(Bar bar, std::int32_t delta) {
   changeChannel(bar, mode_->getValue(bar) + delta / kWheelNotch);
 }
 
-void ChannelEditor::pressBar(Bar bar, std::int32_t y, std::int32_t height) {
-  dragTarget_ = bar;
-  dragBar(y, height);
-}
-
 void ChannelEditor::dragBar(std::int32_t y, std::int32_t height) {
   if (!dragTarget_ || height <= 0) {
     return;
   }
-  const ChannelRange& range = mode_->channelRange(*dragTarget_);
+  const ValueRange& range = mode_->channelRange(*dragTarget_);
   const std::int64_t risen = std::int64_t{y} * (range.maximum - range.minimum) / height;
-  changeChannel(*dragTarget_, clampTo(range, range.minimum + risen));
+  changeChannel(*dragTarget_, range.clamp(range.minimum + risen));
 }
 
 void ChannelEditor::editEntry(std::int32_t index, ColorChooser& chooser) {
@@ -154,7 +146,7 @@ void ChannelEditor::editEntry(std::int32_t index, ColorChooser& chooser) {
 
 void ChannelEditor::copy(PaletteClipboard& clipboard) {
   copyEntry(document(), currentEntry_, clipboard);
-  recordArmed_ = true;
+  endRun();
 }
 
 void ChannelEditor::paste(PaletteClipboard& clipboard) {

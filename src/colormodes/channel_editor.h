@@ -10,14 +10,14 @@
 
 namespace quillhue {
 
-/// What shows a channel editor's numbers.
+/// What shows a channel editor's numbers. Of the editor it may call fieldChanged only.
 class ChannelView {
  public:
   virtual ~ChannelView() = default;
 
   /// Puts a channel's range and number into its control. A control that reports this like a change by the user calls
-  /// fieldChanged, which is fine.
-  virtual void showChannel(Bar bar, const ChannelRange& range, std::int32_t value) = 0;
+  /// fieldChanged, which then changes nothing.
+  virtual void showChannel(Bar bar, const ValueRange& range, std::int32_t value) = 0;
   /// The entry may have another color: repaints its cell. Of the current entry the bars too.
   virtual void entryChanged(std::int32_t index) = 0;
 };
@@ -33,7 +33,7 @@ class ChannelEditor {
   [[nodiscard]] const ColorMode& mode() const { return *mode_; }
   [[nodiscard]] std::int32_t currentEntry() const { return currentEntry_; }
 
-  /// Another current entry, as the user chose it.
+  /// Another current entry, as the user chose it; an index that is no entry makes it none, -1.
   void setCurrentEntry(std::int32_t index);
   /// Another color model, of which the settings keep the index.
   void chooseModel(std::int32_t index);
@@ -56,9 +56,9 @@ class ChannelEditor {
   std::int32_t stepField(Bar bar, std::int32_t position, std::int32_t step);
   /// The wheel turned over a bar, 120 a notch.
   void turnWheel(Bar bar, std::int32_t delta);
-  /// A bar is pressed, dragged and released. `y` is the pointer's height above the bar's bottom edge in pixels,
-  /// `height` the bar's usable height; a bar without one can't be dragged.
-  void pressBar(Bar bar, std::int32_t y, std::int32_t height);
+  /// A bar is pressed, dragged and released; only dragging sets the number. `y` is the pointer's height above the
+  /// bar's bottom edge in pixels, `height` the bar's usable height; a bar without one can't be dragged.
+  void pressBar(Bar bar) { dragTarget_ = bar; }
   void dragBar(std::int32_t y, std::int32_t height);
   void releaseBar() { dragTarget_.reset(); }
   [[nodiscard]] std::optional<Bar> dragTarget() const { return dragTarget_; }
@@ -66,7 +66,9 @@ class ChannelEditor {
   /// The system's color chooser for any entry, one undo step also when it is cancelled. Beside the basic colors it
   /// offers the entry's group of sixteen, filled up with the blank color.
   void editEntry(std::int32_t index, ColorChooser& chooser);
-  /// The current entry and the clipboard. The next change after a copy is a new undo step.
+  /// The next change is a new undo step, but the numbers stay as they were set.
+  void endRun() { recordArmed_ = true; }
+  /// The current entry and the clipboard. A copy ends the run.
   void copy(PaletteClipboard& clipboard);
   void paste(PaletteClipboard& clipboard);
   /// The blank color for the current entry.

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "core/document.h"
+#include "core/value_range.h"
 
 namespace quillhue {
 
@@ -14,18 +15,13 @@ namespace quillhue {
 enum class Bar : std::uint8_t { left, middle, right };
 inline constexpr std::array<Bar, 3> kBars{Bar::left, Bar::middle, Bar::right};
 
-/// Both ends belong to the range.
-struct ChannelRange {
-  std::int32_t minimum = 0;
-  std::int32_t maximum = 255;
-};
-inline constexpr ChannelRange kHueRange{0, 359};
-inline constexpr ChannelRange kByteRange{0, 255};
-inline constexpr ChannelRange kChromaRange{-128, 127};
+inline constexpr ValueRange kHueRange{0, 359};
+inline constexpr ValueRange kByteRange{0, 255};
+inline constexpr ValueRange kChromaRange{-128, 127};
 
 struct ChannelDescription {
   std::string_view name;
-  ChannelRange range;
+  ValueRange range;
 };
 using ChannelDescriptions = std::array<ChannelDescription, 3>;
 
@@ -65,7 +61,7 @@ class ColorMode {
   void setMiddleValue(std::int32_t value) { setValue(Bar::middle, value); }
   void setRightValue(std::int32_t value) { setValue(Bar::right, value); }
 
-  [[nodiscard]] const ChannelRange& channelRange(Bar bar) const { return channels_[at(bar)].range; }
+  [[nodiscard]] const ValueRange& channelRange(Bar bar) const { return channels_[at(bar)].range; }
   /// The entry's bar of a channel, and the strip beside it: the same as it was when the mode was created.
   [[nodiscard]] const BarColors& bar(Bar bar) const { return bars_[at(bar)]; }
   [[nodiscard]] const BarColors& fixedStrip(Bar bar) const { return fixedStrips_[at(bar)]; }
@@ -78,8 +74,8 @@ class ColorMode {
   [[nodiscard]] PaletteEntry entryColor() const;
 
  private:
-  friend ColorMode& createColorMode(std::int32_t index, std::int32_t entry, const DocumentSlot& document,
-                                    std::unique_ptr<ColorMode>& slot);
+  friend ColorMode& createColorMode(std::int32_t index, std::int32_t entry, const DocumentSlot& slot,
+                                    std::unique_ptr<ColorMode>& mode);
 
   static constexpr std::size_t at(Bar bar) { return static_cast<std::size_t>(bar); }
 

@@ -19,13 +19,13 @@ const ColorModel& colorModelOf(std::int32_t index) {
   return at < kModels.size() ? *kModels[at] : kRgbModel;
 }
 
-ColorMode& createColorMode(std::int32_t index, std::int32_t entry, const DocumentSlot& document,
-                           std::unique_ptr<ColorMode>& slot) {
-  slot.reset();
+ColorMode& createColorMode(std::int32_t index, std::int32_t entry, const DocumentSlot& slot,
+                           std::unique_ptr<ColorMode>& mode) {
+  mode.reset();
   const ColorModel& model = colorModelOf(index);
-  slot = model.create(model, document);
-  slot->start(entry);
-  return *slot;
+  mode = model.create(model, slot);
+  mode->start(entry);
+  return *mode;
 }
 
 }  // namespace quillhue

@@ -38,9 +38,9 @@ extern const ColorModel kYuvModel;
 /// The model of the index, RGB for an index without one.
 [[nodiscard]] const ColorModel& colorModelOf(std::int32_t index);
 
-/// Destroys the mode in `slot`, then puts one of the model there that edits this entry of the document, with its bars
-/// and fixed strips built from the entry's color. Any index without a model gives RGB.
-ColorMode& createColorMode(std::int32_t index, std::int32_t entry, const DocumentSlot& document,
-                           std::unique_ptr<ColorMode>& slot);
+/// Destroys what `mode` holds, then puts a mode of the model there that edits this entry of the slot's document, with
+/// its bars and fixed strips built from the entry's color. Any index without a model gives RGB.
+ColorMode& createColorMode(std::int32_t index, std::int32_t entry, const DocumentSlot& slot,
+                           std::unique_ptr<ColorMode>& mode);
 
 }  // namespace quillhue

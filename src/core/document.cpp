@@ -49,7 +49,7 @@ void PaletteDocument::applyChannels(ChannelMask mask, const Palette& source) {
       continue;
     }
     for (const Channel channel : kChannels) {
-      if (quillhue::contains(mask, channel)) {
+      if (hasChannel(mask, channel)) {
         setChannel(index, channel, source.channel(channel)[static_cast<std::size_t>(next)]);
       }
     }

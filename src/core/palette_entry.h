@@ -24,7 +24,7 @@ inline constexpr std::array<Channel, 3> kChannels{Channel::red, Channel::green, 
 using ChannelMask = std::uint32_t;
 inline constexpr ChannelMask kAllChannels = 7;
 constexpr ChannelMask maskOf(Channel channel) { return ChannelMask{1} << static_cast<unsigned>(channel); }
-constexpr bool contains(ChannelMask mask, Channel channel) { return (mask & maskOf(channel)) != 0; }
+constexpr bool hasChannel(ChannelMask mask, Channel channel) { return (mask & maskOf(channel)) != 0; }
 
 /// A reference to one channel of `color`, a PaletteEntry or const PaletteEntry.
 constexpr auto& channelOf(auto& color, Channel channel) {
@@ -36,7 +36,7 @@ constexpr auto& channelOf(auto& color, Channel channel) {
 constexpr std::int32_t channelSum(const PaletteEntry& color, ChannelMask mask) {
   std::int32_t sum = 0;
   for (const Channel channel : kChannels) {
-    sum += contains(mask, channel) ? channelOf(color, channel) : 0;
+    sum += hasChannel(mask, channel) ? channelOf(color, channel) : 0;
   }
   return sum;
 }
@@ -52,7 +52,7 @@ constexpr std::uint8_t clampToByte(std::int32_t value) { return static_cast<std:
 /// `color` with its channels in `mask` replaced by those of `source`.
 constexpr PaletteEntry withChannels(PaletteEntry color, ChannelMask mask, const PaletteEntry& source) {
   for (const Channel channel : kChannels) {
-    if (contains(mask, channel)) {
+    if (hasChannel(mask, channel)) {
       channelOf(color, channel) = channelOf(source, channel);
     }
   }

@@ -29,7 +29,8 @@ class Messages {
   virtual bool askReplaceFile(std::string_view text) = 0;
 };
 
-/// Hears what the current document shows of itself around the palette.
+/// Hears what the current document shows of itself around the palette. While a document is being replaced the slot
+/// holds none until documentReplaced.
 class DocumentObserver {
  public:
   virtual ~DocumentObserver() = default;

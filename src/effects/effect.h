@@ -4,6 +4,7 @@
 
 #include "core/palette.h"
 #include "core/services.h"
+#include "core/value_range.h"
 
 namespace quillhue {
 
@@ -13,24 +14,19 @@ struct EffectInput {
   PaletteClipboard& clipboard;
 };
 
-/// Both ends belong to the range.
-struct EffectRange {
-  std::int32_t minimum = 0;
-  std::int32_t maximum = 255;
-};
-
 /// A computation of new colors for the selected entries, with one number as its parameter.
 class Effect {
  public:
-  Effect(EffectRange range, std::int32_t value) : range_(range), value_(value) {}
+  Effect(ValueRange range, std::int32_t value) : range_(range), value_(value) {}
   Effect(const Effect&) = delete;
   Effect& operator=(const Effect&) = delete;
   virtual ~Effect() = default;
 
   /// Computes the channels in `mask` of the selected entries into `output`, which is as large as the input's palette
-  /// and already holds its colors: what the effect does not reach is not written. The value is in its range.
+  /// and already holds its colors: what the effect does not reach may stay unwritten. The value is in its range.
   virtual void apply(const EffectInput& input, ChannelMask mask, Palette& output) const = 0;
 
+  [[nodiscard]] const ValueRange& range() const { return range_; }
   [[nodiscard]] std::int32_t getMinimum() const { return range_.minimum; }
   [[nodiscard]] std::int32_t getMaximum() const { return range_.maximum; }
   [[nodiscard]] std::int32_t getValue() const { return value_; }
@@ -38,7 +34,7 @@ class Effect {
   void setValue(std::int32_t value) { value_ = value; }
 
  private:
-  EffectRange range_;
+  ValueRange range_;
   std::int32_t value_;
 };
 

@@ -1,7 +1,5 @@
 #include "effects/effect_editor.h"
 
-#include <algorithm>
-
 #include "effects/effects.h"
 
 namespace quillhue {
@@ -16,9 +14,7 @@ void EffectEditor::choose(std::int32_t index) {
   reset();
 }
 
-void EffectEditor::setValue(std::int32_t value) {
-  effect_->setValue(std::clamp(value, effect_->getMinimum(), effect_->getMaximum()));
-}
+void EffectEditor::setValue(std::int32_t value) { effect_->setValue(effect_->range().clamp(value)); }
 
 void EffectEditor::reset() { createEffect(settings_.effect, document().getSize(), effect_); }
 

@@ -17,16 +17,11 @@ constexpr std::array kEffects{
 
 std::span<const EffectDescription* const> effects() { return kEffects; }
 
-bool followsPaletteSize(const EffectDescription& description) {
-  return description.range.minimum == description.range.maximum;
-}
-
 Effect& createEffect(std::int32_t index, std::int32_t paletteSize, std::unique_ptr<Effect>& slot) {
   slot.reset();
   const auto at = static_cast<std::size_t>(index);
   const EffectDescription& description = at < kEffects.size() ? *kEffects[at] : kColorEffect;
-  const EffectRange range =
-      followsPaletteSize(description) ? EffectRange{-paletteSize, paletteSize} : description.range;
+  const ValueRange range = description.followsPaletteSize ? ValueRange{-paletteSize, paletteSize} : description.range;
   slot = description.create(range, description.defaultValue);
   return *slot;
 }

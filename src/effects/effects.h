@@ -16,21 +16,20 @@ struct EffectDescription {
   std::string_view label;
   /// The parameter in words.
   std::string_view meaning;
-  EffectRange range;
+  ValueRange range;
   std::int32_t defaultValue;
-  std::unique_ptr<Effect> (*create)(EffectRange range, std::int32_t value);
+  std::unique_ptr<Effect> (*create)(ValueRange range, std::int32_t value);
+  /// The range is the palette's size both ways, and the one here is not used.
+  bool followsPaletteSize = false;
   /// Without a palette on the clipboard it changes nothing.
   bool readsClipboard = false;
 };
 
 /// For the rows of the catalogue.
 template <typename Kind>
-std::unique_ptr<Effect> makeEffect(EffectRange range, std::int32_t value) {
+std::unique_ptr<Effect> makeEffect(ValueRange range, std::int32_t value) {
   return std::make_unique<Kind>(range, value);
 }
-
-/// Stands for a range that is the palette's size both ways.
-inline constexpr EffectRange kPaletteSizeRange{0, 0};
 
 extern const EffectDescription kAndEffect;
 extern const EffectDescription kOrEffect;
@@ -50,9 +49,6 @@ extern const EffectDescription kTwistEffect;
 
 /// All effects, in the order of the list; an effect's place is its index.
 [[nodiscard]] std::span<const EffectDescription* const> effects();
-
-/// Whether the range follows the palette's size.
-[[nodiscard]] bool followsPaletteSize(const EffectDescription& description);
 
 /// Destroys the effect in `slot`, then puts the one of the index there, with its default value. Any index without an
 /// effect gives Color.

@@ -34,8 +34,13 @@ class pasteEffect final : public Effect {
 
 }  // namespace
 
-constinit const EffectDescription kPasteEffect{
-    "paste", "Translucent paste", "weight in percent of the clipboard palette", {0, 100}, 0, makeEffect<pasteEffect>,
-    true};
+constinit const EffectDescription kPasteEffect{"paste",
+                                               "Translucent paste",
+                                               "weight in percent of the clipboard palette",
+                                               {0, 100},
+                                               0,
+                                               makeEffect<pasteEffect>,
+                                               false,
+                                               true};
 
 }  // namespace quillhue

@@ -26,6 +26,6 @@ class rotateEffect final : public Effect {
 }  // namespace
 
 constinit const EffectDescription kRotateEffect{
-    "rotate", "Rotate", "places to move colors along the selection", kPaletteSizeRange, 0, makeEffect<rotateEffect>};
+    "rotate", "Rotate", "places to move colors along the selection", {}, 0, makeEffect<rotateEffect>, true};
 
 }  // namespace quillhue

@@ -59,7 +59,7 @@ TEST(Edit, StepsDoWhatTheTableSays) {
     EXPECT_EQ(shown(edited.json["entries"]), row.at(2)) << row[0] << ' ' << row[1];
     if (row.size() > 3) {
       EXPECT_EQ(shownIndexes(edited.json["selected"]), row.at(3)) << row[0] << ' ' << row[1];
-      EXPECT_EQ(edited.json["modified"].dump(), row.at(4)) << row[0] << ' ' << row[1];
+      EXPECT_EQ(edited.json["modificationCount"].dump(), row.at(4)) << row[0] << ' ' << row[1];
     }
   }
 }
@@ -86,9 +86,10 @@ TEST(Edit, TellsWhatIsLeft) {
             "Average red: 3\nAverage green: 4\nAverage blue: 4\n");
   Json json = edited.json;
   json.erase("file");
-  EXPECT_EQ(json.dump(),
-            R"({"format":"gimp","code":6,"size":3,"entries":[[1,2,3],[1,2,3],[8,8,8]],"selected":[0,1],)"
-            R"("modified":1,"canUndo":true,"canRedo":true,"different":{"palette":2,"selection":1},"average":[3,4,4]})");
+  EXPECT_EQ(
+      json.dump(),
+      R"({"format":"gimp","code":6,"size":3,"entries":[[1,2,3],[1,2,3],[8,8,8]],"selected":[0,1],)"
+      R"("modificationCount":1,"canUndo":true,"canRedo":true,"different":{"palette":2,"selection":1},"average":[3,4,4]})");
   EXPECT_EQ(edit("7,7,7", "--select none --count-colors", toUtf8(folder.name("out.gpl"))).err,
             "1 different entry found in the palette.\n");
 }

@@ -10,7 +10,8 @@ namespace {
 constexpr std::int32_t kHsv = 3;
 constexpr std::int32_t kYuv = 8;
 
-// Controls that report what is put into them like changes by the user, as edit fields do.
+// Controls that report what is put into them like changes by the user, as edit fields do, if there is an editor to
+// report to.
 class ReportingView : public ChannelView {
  public:
   ChannelEditor* editor = nullptr;
@@ -18,7 +19,7 @@ class ReportingView : public ChannelView {
   std::array<std::int32_t, 3> greatest{};
   std::vector<std::int32_t> repainted;
 
-  void showChannel(Bar bar, const ChannelRange& range, std::int32_t value) override {
+  void showChannel(Bar bar, const ValueRange& range, std::int32_t value) override {
     greatest[static_cast<std::size_t>(bar)] = range.maximum;
     shown[static_cast<std::size_t>(bar)] = value;
     if (editor != nullptr) {
@@ -87,6 +88,8 @@ TEST_F(ChannelEditorTest, ChangesBetweenTwoRefreshesAreOneStep) {
   editor->paletteChanged();
   editor->fieldChanged(Bar::left, 200);
   EXPECT_EQ(document.modificationCount(), 1);
+  editor->fieldChanged(Bar::left, -5);
+  EXPECT_EQ(document.getRed(1), 0);
 }
 
 TEST_F(ChannelEditorTest, DragsToTheValueUnderThePointer) {
@@ -106,7 +109,9 @@ TEST_F(ChannelEditorTest, DragsToTheValueUnderThePointer) {
     editor->documentReplaced();
     editor->chooseModel(model);
     EXPECT_EQ(fakes.settings.colorMode, model);
-    editor->pressBar(bar, y, height);
+    editor->pressBar(bar);
+    EXPECT_FALSE(document.canUndo());
+    editor->dragBar(y, height);
     EXPECT_EQ(editor->dragTarget(), bar);
     EXPECT_EQ(editor->mode().getValue(bar), value) << model << ' ' << y << '/' << height;
     editor->dragBar(20, 100);
@@ -122,7 +127,8 @@ TEST_F(ChannelEditorTest, DragsToTheValueUnderThePointer) {
 
 TEST_F(ChannelEditorTest, PressingWhereTheValueIsChangesNothing) {
   const PaletteDocument& document = open();
-  editor->pressBar(Bar::left, 200, 255);
+  editor->pressBar(Bar::left);
+  editor->dragBar(200, 255);
   // Nor does a bar that the window is too low for.
   editor->dragBar(7, 0);
   EXPECT_EQ(document.modificationCount(), 0);
@@ -173,6 +179,48 @@ TEST_F(ChannelEditorTest, BarsFollowTheEntryWithoutWritingIt) {
   EXPECT_EQ(document.modificationCount(), 0);
 }
 
+// Without controls that report, the editor does all by itself.
+TEST_F(ChannelEditorTest, RepaintsWhatChanged) {
+  fakes.settings.colorMode = kHsv;
+  open(variedPalette(3));
+  view.editor = nullptr;
+  EXPECT_EQ(editor->mode().channelRange(Bar::left).maximum, 359);
+  editor->setCurrentEntry(1);
+  EXPECT_EQ(editor->mode().bar(Bar::left)[33], editor->mode().barColor(Bar::left, 33));
+  const struct {
+    void (*change)(ChannelEditor& editor);
+    bool repaints;
+  } cases[] = {
+      {[](ChannelEditor& changed) { changed.changeChannel(Bar::left, 300); }, true},
+      {[](ChannelEditor& changed) { changed.changeChannel(Bar::left, 300); }, false},
+      {[](ChannelEditor& changed) { changed.fieldChanged(Bar::middle, 9999); }, true},
+      {[](ChannelEditor& changed) { changed.stepField(Bar::middle, 255, -5); }, true},
+      {[](ChannelEditor& changed) { changed.stepField(Bar::right, 255, 1); }, false},
+      {[](ChannelEditor& changed) { changed.paletteChanged(); }, true},
+      {[](ChannelEditor& changed) { changed.refreshValues(); }, false},
+      {[](ChannelEditor& changed) { changed.chooseModel(kHsv); }, true},
+      {[](ChannelEditor& changed) { changed.setCurrentEntry(1); }, true},
+  };
+  for (const auto& [change, repaints] : cases) {
+    view.repainted.clear();
+    change(*editor);
+    EXPECT_EQ(view.repainted, repaints ? std::vector{1} : std::vector<std::int32_t>()) << &change - &cases[0].change;
+    EXPECT_EQ(view.greatest[0], 359);
+    EXPECT_LE(editor->mode().getMiddleValue(), 255);
+  }
+}
+
+TEST_F(ChannelEditorTest, NoEntryStaysNone) {
+  PaletteDocument& document = open();
+  for (const std::int32_t none : {2147483647, 3, -1}) {
+    editor->setCurrentEntry(none);
+    editor->paletteChanged();
+    editor->changeChannel(Bar::left, 7);
+    EXPECT_EQ(palette(), show(createPalette(3, {200, 100, 50})));
+  }
+  document.undo();
+}
+
 TEST_F(ChannelEditorTest, FollowsTheDocument) {
   PaletteDocument& document = open(variedPalette(3));
   editor->setCurrentEntry(2);
@@ -180,8 +228,10 @@ TEST_F(ChannelEditorTest, FollowsTheDocument) {
   editor->paletteChanged();
   EXPECT_EQ(editor->currentEntry(), 1);
   EXPECT_EQ(view.shown[0], 2);
+  editor->pressBar(Bar::left);
   open(createPalette(1, {7, 8, 9}));
   editor->documentReplaced();
+  EXPECT_FALSE(editor->dragTarget());
   EXPECT_EQ(editor->currentEntry(), 0);
   EXPECT_EQ(view.shown, (std::array<std::int32_t, 3>{7, 8, 9}));
   EXPECT_EQ(editor->mode().fixedStrip(Bar::middle)[5], (PaletteEntry{7, 5, 9}));

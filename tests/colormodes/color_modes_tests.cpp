@@ -19,6 +19,8 @@ constexpr int kStep = 5;
 constexpr int kStep = 1;
 #endif
 
+const auto kModels = static_cast<std::int32_t>(colorModels().size());
+
 class ColorModesTest : public testing::Test {
  protected:
   RecordingServices fakes;
@@ -75,7 +77,7 @@ TEST_F(ColorModesTest, ConvertALatticeOfColorsAndNumbers) {
   } expected[] = {{1156451283, 2107335090}, {927391644, 3334128259},  {3319334832, 352690648},
                   {4024984117, 2494082298}, {4079356883, 1648255365}, {47259241, 612508179},
                   {1050746473, 4200112540}, {3135321621, 1006919625}, {47259241, 612508179}};
-  for (std::int32_t index = 0; index < 9; ++index) {
+  for (std::int32_t index = 0; index < kModels; ++index) {
     Checksum toValues;
     open(index, {});
     for (int red = 0; red < 256; red += 15) {
@@ -107,7 +109,7 @@ TEST_F(ColorModesTest, ConvertALatticeOfColorsAndNumbers) {
 
 // What must hold for every color there is.
 TEST_F(ColorModesTest, KeepTheirRangesAndGreys) {
-  for (std::int32_t index = 0; index < 9; ++index) {
+  for (std::int32_t index = 0; index < kModels; ++index) {
     open(index, {});
     const bool hasHue = mode->channelRange(Bar::left).maximum == 359;
     const bool hasChroma = mode->channelRange(Bar::middle).minimum < 0;
@@ -141,7 +143,7 @@ TEST_F(ColorModesTest, KeepTheirRangesAndGreys) {
 }
 
 TEST_F(ColorModesTest, SettersBuildTheOtherBars) {
-  for (std::int32_t index = 0; index < 9; ++index) {
+  for (std::int32_t index = 0; index < kModels; ++index) {
     open(index, {200, 60, 110});
     const BarColors strip = mode->fixedStrip(Bar::left);
     EXPECT_EQ(strip, mode->bar(Bar::left)) << index;
@@ -164,7 +166,7 @@ TEST_F(ColorModesTest, SettersBuildTheOtherBars) {
 }
 
 TEST_F(ColorModesTest, SettersWriteNothingIntoALockedDocumentOrPastItsEnd) {
-  for (std::int32_t index = 0; index < 9; ++index) {
+  for (std::int32_t index = 0; index < kModels; ++index) {
     open(index, {200, 60, 110});
     slot.document()->lock();
     mode->setLeftValue(0);
@@ -181,6 +183,17 @@ TEST_F(ColorModesTest, SettersWriteNothingIntoALockedDocumentOrPastItsEnd) {
   slot.document()->lock();
   mode->setLeftValue(9);
   EXPECT_EQ(mode->bar(Bar::right)[7], (PaletteEntry{9, 2, 7}));
+}
+
+// The exact models have no numbers of their own.
+TEST_F(ColorModesTest, RgbAndCmyReadTheEntryAsItIs) {
+  for (const auto& [index, expected] : {std::pair{4, "7 50 60"}, {0, "7 205 195"}}) {
+    open(index, {1, 2, 3});
+    slot.document()->setColor(1, {40, 50, 60});
+    mode->setLeftValue(7);
+    EXPECT_EQ(values(), expected);
+    EXPECT_EQ(color().blue, 60);
+  }
 }
 
 TEST_F(ColorModesTest, AnyOtherIndexIsRgb) {

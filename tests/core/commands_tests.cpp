@@ -58,7 +58,7 @@ TEST_F(CommandsTest, RecordAStepOrNone) {
       {[](auto& document, auto&) { brightGradient(document, 7); }, {0, 0, 1}},
       {[](auto& document, auto&) { reverseSelection(document, 0); }, {0, 0, 0}},
       {[](auto& document, auto&) { reverseSelection(document, 8 | 1); }, {0, 0, 1}},
-      {[](auto& document, auto&) { sortByChannels(document, 1, 8); }, {0, 0, 0}},
+      {[](auto& document, auto&) { sortByChannel(document, Channel::red, 8); }, {0, 0, 0}},
       {[](auto& document, auto&) { sortByDeviation(document, 4); }, {0, 0, 1}},
       {[](auto& document, auto&) { swapChannels(document, Channel::red, Channel::blue); }, {1, 1, 1}},
       {[](auto& document, auto&) { fill(document, 0, 0); }, {0, 1, 1}},
@@ -67,7 +67,16 @@ TEST_F(CommandsTest, RecordAStepOrNone) {
       {[](auto& document, auto&) { selectMatches(document, 2); }, {1, 1, 1}},
       // Copying leaves an empty clipboard where nothing is selected.
       {[](auto& document, auto& services) { cutSelection(document, 7, {}, services); }, {1, 1, 1}},
-      {[](auto& document, auto& services) { pasteIntoSelection(document, 7, services); }, {0, 1, 1}},
+      {[](auto& document, auto& services) {
+         services.clipboard = {{1, 1, 1}};
+         pasteIntoSelection(document, 7, services);
+       },
+       {1, 1, 1}},
+      {[](auto& document, auto& services) {
+         services.clipboard.reset();
+         pasteIntoSelection(document, 7, services);
+       },
+       {0, 0, 0}},
   };
   for (const auto& [command, steps] : cases) {
     for (int selected = 0; selected <= 2; ++selected) {

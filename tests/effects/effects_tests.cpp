@@ -11,6 +11,7 @@ namespace quillhue {
 namespace {
 
 constexpr std::int32_t kGamma = 7;
+constexpr std::int32_t kNegative = 10;
 constexpr std::int32_t kRotate = 12;
 constexpr std::int32_t kPaste = 13;
 constexpr std::int32_t kTwist = 14;
@@ -56,21 +57,21 @@ TEST_F(EffectsTest, AnyOtherIndexIsColor) {
 
 TEST_F(EffectsTest, ThoseWithoutEffectWriteNothing) {
   const Palette palette = open(variedPalette(3)).getPalette();
-  for (const std::int32_t index : {kRotate, kPaste}) {
+  for (const std::int32_t index : {kNegative, kRotate, kPaste}) {
     std::unique_ptr<Effect> effect;
     createEffect(index, 3, effect).setValue(1);
     Palette output = createPalette(3, {1, 1, 1});
-    // One selected entry; no palette on the clipboard.
+    // No channel; one selected entry; no palette on the clipboard.
     Palette input = palette;
     input.selected()[1] = input.selected()[2] = 0;
-    effect->apply({input, fakes}, kAllChannels, output);
+    effect->apply({input, fakes}, index == kNegative ? 0 : kAllChannels, output);
     EXPECT_EQ(output, createPalette(3, {1, 1, 1})) << index;
   }
 }
 
 TEST_F(EffectsTest, EveryEffectLeavesTheRestAsItIs) {
   fakes.clipboard = {{1, 2, 3}, {4, 5, 6}};
-  for (std::int32_t index = 0; index < 15; ++index) {
+  for (std::int32_t index = 0; index < static_cast<std::int32_t>(effects().size()); ++index) {
     PaletteDocument& document = open(variedPalette(40));
     for (std::int32_t entry = 0; entry < 40; entry += 3) {
       document.deselect(entry);

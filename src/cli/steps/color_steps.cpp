@@ -1,6 +1,4 @@
-#include <algorithm>
 #include <array>
-#include <sstream>
 #include <string_view>
 
 #include "cli/steps/step.h"
@@ -13,19 +11,11 @@ namespace quillhue::cli {
 
 namespace {
 
-// What the message of a value out of range says.
-std::string allowedValues(std::int32_t value, EffectRange range) {
-  std::ostringstream text;
-  text << value << " is not from " << range.minimum << " to " << range.maximum;
-  return text.str();
-}
-
 StepResult applyEffect(EditSession& session, std::int32_t index, std::int32_t value) {
   EffectEditor editor(session.slot, session.tool.settings, session.tool.services.clipboard);
   editor.choose(index);
-  const EffectRange range{editor.effect().getMinimum(), editor.effect().getMaximum()};
-  if (value < range.minimum || value > range.maximum) {
-    return Refusal(allowedValues(value, range) + '.');
+  if (!editor.effect().range().contains(value)) {
+    return Refusal(refusedValue(value, editor.effect().range()) + '.');
   }
   if (effects()[static_cast<std::size_t>(index)]->readsClipboard && !session.tool.services.clipboard.get()) {
     return Refusal(kNothingToPaste);
@@ -38,25 +28,21 @@ StepResult applyEffect(EditSession& session, std::int32_t index, std::int32_t va
 ParsedStep parseEffect(const std::string& argument) {
   const auto equals = argument.find('=');
   const std::string name = argument.substr(0, equals);
-  const auto kinds = effects();
-  const auto found = std::ranges::find(kinds, name, &EffectDescription::name);
-  if (found == kinds.end()) {
-    std::vector<std::string> names;
-    for (const EffectDescription* effect : kinds) {
-      names.emplace_back(effect->name);
-    }
-    return Refusal(name + " is not " + listed(names));
+  const auto place = placeOf(namesOf(effects()), name);
+  if (!place) {
+    return Refusal(refusedName(name, namesOf(effects())));
   }
-  const EffectDescription& effect = **found;
+  const EffectDescription& effect = *effects()[*place];
   const auto value = equals == std::string::npos ? std::nullopt : parseNumber(argument.substr(equals + 1));
   if (!value) {
     return Refusal(argument + " needs a number, as in " + name + '=' + std::to_string(effect.defaultValue));
   }
-  if (!followsPaletteSize(effect) && (*value < effect.range.minimum || *value > effect.range.maximum)) {
-    return Refusal(name + ": " + allowedValues(*value, effect.range));
+  if (!effect.followsPaletteSize && !effect.range.contains(*value)) {
+    return Refusal(name + ": " + refusedValue(*value, effect.range));
   }
-  const auto index = static_cast<std::int32_t>(found - kinds.begin());
-  return [index, value = *value](EditSession& session) { return applyEffect(session, index, value); };
+  return [index = static_cast<std::int32_t>(*place), value = *value](EditSession& session) {
+    return applyEffect(session, index, value);
+  };
 }
 
 struct Swap {
@@ -70,7 +56,7 @@ constexpr std::array<Swap, 3> kSwaps{
 ParsedStep parseSwap(const std::string& argument) {
   const Swap* const swap = findByName(kSwaps, argument);
   if (swap == nullptr) {
-    return refuseName(kSwaps, argument);
+    return Refusal(refusedName(argument, namesOf(kSwaps)));
   }
   return stepOf([swap](EditSession& session) { swapChannels(session.document(), swap->one, swap->other); });
 }
@@ -79,21 +65,20 @@ struct SortKey {
   std::string_view name;
   void (*sort)(PaletteDocument& document, ChannelMask mask);
 };
-template <ChannelMask kKey>
+template <Channel kKey>
 void sortBy(PaletteDocument& document, ChannelMask mask) {
-  sortByChannels(document, kKey, mask);
+  sortByChannel(document, kKey, mask);
 }
-constexpr std::array<SortKey, 5> kSortKeys{
-    {{"intensity", [](PaletteDocument& document, ChannelMask mask) { sortByChannels(document, mask, mask); }},
-     {"red", sortBy<maskOf(Channel::red)>},
-     {"green", sortBy<maskOf(Channel::green)>},
-     {"blue", sortBy<maskOf(Channel::blue)>},
-     {"deviation", sortByDeviation}}};
+constexpr std::array<SortKey, 5> kSortKeys{{{"intensity", sortByIntensity},
+                                            {"red", sortBy<Channel::red>},
+                                            {"green", sortBy<Channel::green>},
+                                            {"blue", sortBy<Channel::blue>},
+                                            {"deviation", sortByDeviation}}};
 
 ParsedStep parseSort(const std::string& argument) {
   const SortKey* const key = findByName(kSortKeys, argument);
   if (key == nullptr) {
-    return refuseName(kSortKeys, argument);
+    return Refusal(refusedName(argument, namesOf(kSortKeys)));
   }
   return stepOf([key](EditSession& session) { key->sort(session.document(), session.mask); });
 }

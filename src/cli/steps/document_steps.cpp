@@ -37,6 +37,9 @@ ParsedStep parsePaste(const std::string& /*argument*/) {
 }
 
 ParsedStep parseClipboard(const std::string& argument) {
+  if (argument == "-") {
+    return Refusal("needs a file: standard input has no name");
+  }
   return [argument](EditSession& session) -> StepResult {
     const auto read = readFilePalette(argument, {}, session.console);
     if (!read) {
@@ -78,7 +81,7 @@ ParsedStep parseRedo(const std::string& /*argument*/) {
 ParsedStep parseBlank(const std::string& argument) {
   const auto color = parseColor(argument);
   if (!color) {
-    return Refusal(argument + " is not a color like 255,128,0");
+    return Refusal(refusedColor(argument));
   }
   return stepOf([color = *color](EditSession& session) { session.tool.settings.blank = color; });
 }
@@ -100,9 +103,10 @@ constexpr std::array<StepKind, 11> kSteps{{
     {"--resize", "N", "Give the palette another size; new entries are blank", parseResize},
     {"--undo", nullptr, "Take the last step back", parseUndo},
     {"--redo", nullptr, "Do the step again that was taken back", parseRedo},
-    {"--blank", "R,G,B", "The blank color of the following steps (first: 0,0,0)", parseBlank},
+    {"--blank", "R,G,B", "The blank color of the following steps and of unused entries of OUT (first: 0,0,0)",
+     parseBlank},
     {"--count-colors", nullptr, "Tell, on standard error, how many colors are different", parseCountColors},
-    {"--average-color", nullptr, "Tell the mean of all entries", parseAverageColor},
+    {"--average-color", nullptr, "Tell the mean of all entries there too", parseAverageColor},
 }};
 
 }  // namespace

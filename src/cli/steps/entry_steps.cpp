@@ -1,7 +1,7 @@
+#include <algorithm>
 #include <array>
-#include <sstream>
+#include <iterator>
 
-#include "cli/model_names.h"
 #include "cli/steps/step.h"
 #include "colormodes/channel_editor.h"
 #include "colormodes/color_models.h"
@@ -14,7 +14,7 @@ namespace {
 
 // The editor has no controls here.
 class NoView final : public ChannelView {
-  void showChannel(Bar /*bar*/, const ChannelRange& /*range*/, std::int32_t /*value*/) override {}
+  void showChannel(Bar /*bar*/, const ValueRange& /*range*/, std::int32_t /*value*/) override {}
   void entryChanged(std::int32_t /*index*/) override {}
 };
 
@@ -29,24 +29,27 @@ ParsedStep parseSet(const std::string& argument) {
   });
 }
 
-// The channel by its place, or by its name in the model.
-std::optional<Bar> findBar(const ColorModel& model, const std::string& name) {
-  constexpr std::array<std::string_view, 3> kPlaces{"left", "middle", "right"};
-  for (const Bar bar : kBars) {
-    const auto at = static_cast<std::size_t>(bar);
-    if (name == kPlaces[at] || name == model.channels[at].name) {
-      return bar;
-    }
-  }
-  return std::nullopt;
+// The names that a channel has: its place, and what the model calls it.
+std::vector<std::string> channelNames(const ColorModel& model) {
+  std::vector<std::string> names{"left", "middle", "right"};
+  std::ranges::copy(namesOf(model.channels), std::back_inserter(names));
+  return names;
 }
 
-std::string channelNames(const ColorModel& model) {
-  std::vector<std::string> names{"left", "middle", "right"};
-  for (const ChannelDescription& channel : model.channels) {
-    names.emplace_back(channel.name);
+// A further change of the same entry in the same model goes on with the numbers that the last one set, as in the
+// window: they may be more than the color tells, such as the hue of a grey.
+void changeChannel(EditSession& session, std::int32_t entry, std::int32_t model, Bar bar, std::int32_t value) {
+  static NoView view;
+  const bool isSame = session.channels != nullptr && session.channels->currentEntry() == entry &&
+                      session.tool.settings.colorMode == model;
+  if (isSame) {
+    session.channels->endRun();
+  } else {
+    session.tool.settings.colorMode = static_cast<std::uint8_t>(model);
+    session.channels = std::make_unique<ChannelEditor>(session.slot, session.tool.settings, view);
+    session.channels->setCurrentEntry(entry);
   }
-  return listed(names);
+  session.channels->changeChannel(bar, value);
 }
 
 ParsedStep parseChannel(const std::string& argument) {
@@ -56,28 +59,23 @@ ParsedStep parseChannel(const std::string& argument) {
   if (parts.size() != 3 || !value) {
     return Refusal(argument + " is not an entry, a model, a channel and its value like 5:HSV:left=120");
   }
-  const auto model = findModel(parts[1]);
-  if (!model) {
-    return Refusal(parts[1] + " is not " + listed(modelNames()));
+  const auto place = placeOfAnyCase(namesOf(colorModels()), parts[1]);
+  if (!place) {
+    return Refusal(refusedName(parts[1], namesOf(colorModels())));
   }
-  const ColorModel& description = colorModelOf(*model);
-  const auto bar = findBar(description, parts[2]);
-  if (!bar) {
-    return Refusal(parts[2] + " is not " + channelNames(description));
+  const ColorModel& model = *colorModels()[*place];
+  const auto name = placeOfAnyCase(channelNames(model), parts[2]);
+  if (!name) {
+    return Refusal(refusedName(parts[2], channelNames(model)));
   }
-  const auto [minimum, maximum] = description.channels[static_cast<std::size_t>(*bar)].range;
-  if (*value < minimum || *value > maximum) {
-    std::ostringstream text;
-    text << parts[2] << ": " << *value << " is not from " << minimum << " to " << maximum;
-    return Refusal(text.str());
+  const Bar bar = kBars[*name % kBars.size()];
+  const ValueRange& range = model.channels[static_cast<std::size_t>(bar)].range;
+  if (!range.contains(*value)) {
+    return Refusal(parts[2] + ": " + refusedValue(*value, range));
   }
-  return entryStepOf(parts[0], [model = *model, bar = *bar, value = *value](EditSession& session, std::int32_t entry) {
-    NoView view;
-    ChannelEditor editor(session.slot, session.tool.settings, view);
-    editor.chooseModel(model);
-    editor.setCurrentEntry(entry);
-    editor.changeChannel(bar, value);
-  });
+  return entryStepOf(
+      parts[0], [index = static_cast<std::int32_t>(*place), bar, value = *value](
+                    EditSession& session, std::int32_t entry) { changeChannel(session, entry, index, bar, value); });
 }
 
 ParsedStep parseUseAsBlank(const std::string& argument) {

@@ -2,6 +2,7 @@
 
 #include <expected>
 #include <functional>
+#include <memory>
 #include <span>
 #include <string>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "cli/arguments.h"
 #include "cli/refusal.h"
 #include "cli/tool_services.h"
+#include "colormodes/channel_editor.h"
 #include "core/document.h"
 
 namespace quillhue::cli {
@@ -19,15 +21,14 @@ struct EditSession {
   EditSession(Palette palette, Console& toolConsole);
 
   [[nodiscard]] PaletteDocument& document() const { return *slot.document(); }
-  [[nodiscard]] std::expected<void, std::string> checkEntry(std::int32_t entry) const {
-    return quillhue::cli::checkEntry(entry, document().getSize());
-  }
 
   Console& console;
   ToolServices tool;
   DocumentSlot slot;
   /// The channels that commands may change.
   ChannelMask mask = kAllChannels;
+  /// The editor of the steps before this one that change channels; null when another kind of step came between.
+  std::unique_ptr<ChannelEditor> channels;
 };
 
 /// One thing that is done to the palette; refuses with a line that says what is allowed.
@@ -71,7 +72,7 @@ ParsedStep entryStepOf(const std::string& number, Command command) {
     return Refusal(number + " is not the index of an entry");
   }
   return [entry = *entry, command](EditSession& session) -> StepResult {
-    if (auto checked = session.checkEntry(entry); !checked) {
+    if (auto checked = checkEntry(entry, session.document().getSize()); !checked) {
       return checked;
     }
     command(session, entry);
@@ -82,23 +83,8 @@ ParsedStep entryStepOf(const std::string& number, Command command) {
 /// The row of a table of choices whose member `name` is `wanted`; null when there is none.
 template <typename Rows>
 auto findByName(const Rows& rows, const std::string& wanted) -> decltype(std::data(rows)) {
-  for (const auto& row : rows) {
-    if (row.name == wanted) {
-      return &row;
-    }
-  }
-  return nullptr;
-}
-
-/// Refuses an argument that is none of a table's names.
-template <typename Rows>
-Refusal refuseName(const Rows& rows, const std::string& argument) {
-  std::vector<std::string> names;
-  names.reserve(std::size(rows));
-  for (const auto& row : rows) {
-    names.emplace_back(row.name);
-  }
-  return Refusal(argument + " is not " + listed(names));
+  const auto place = placeOf(namesOf(rows), wanted);
+  return place ? std::data(rows) + *place : nullptr;
 }
 
 }  // namespace quillhue::cli

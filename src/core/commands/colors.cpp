@@ -3,8 +3,6 @@
 #include <cmath>
 #include <utility>
 
-#include "core/commands/exchange.h"
-
 namespace quillhue {
 
 namespace {
@@ -39,9 +37,16 @@ void swapChannels(PaletteDocument& document, Channel one, Channel other) {
   }
 }
 
+void recolorSelection(PaletteDocument& document, ChannelMask mask, PaletteEntry color) {
+  document.recordColors();
+  for (const std::int32_t index : selectedIndexes(document.getPalette())) {
+    document.setColor(index, withChannels(document.getColor(index), mask, color));
+  }
+}
+
 void fill(PaletteDocument& document, ChannelMask mask, std::int32_t current) {
   if (document.countSelected() > 0 && document.contains(current)) {
-    clearSelection(document, mask, document.getColor(current));
+    recolorSelection(document, mask, document.getColor(current));
   }
 }
 

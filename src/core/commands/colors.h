@@ -12,6 +12,9 @@ namespace quillhue {
 /// Exchanges the two channels of every selected entry. Recorded also when nothing is selected.
 void swapChannels(PaletteDocument& document, Channel one, Channel other);
 
+/// Gives the channels in `mask` of all selected entries those of `color`. Recorded also when nothing is selected.
+void recolorSelection(PaletteDocument& document, ChannelMask mask, PaletteEntry color);
+
 /// The current entry's color for every selected entry. Does nothing without a selection or a current entry.
 void fill(PaletteDocument& document, ChannelMask mask, std::int32_t current);
 

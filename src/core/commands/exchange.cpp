@@ -1,5 +1,7 @@
 #include "core/commands/exchange.h"
 
+#include "core/commands/colors.h"
+
 namespace quillhue {
 
 void copySelection(const PaletteDocument& document, PaletteClipboard& clipboard) {
@@ -7,10 +9,7 @@ void copySelection(const PaletteDocument& document, PaletteClipboard& clipboard)
 }
 
 void clearSelection(PaletteDocument& document, ChannelMask mask, PaletteEntry blank) {
-  document.recordColors();
-  for (const std::int32_t index : selectedIndexes(document.getPalette())) {
-    document.setColor(index, withChannels(document.getColor(index), mask, blank));
-  }
+  recolorSelection(document, mask, blank);
 }
 
 void cutSelection(PaletteDocument& document, ChannelMask mask, PaletteEntry blank, PaletteClipboard& clipboard) {

@@ -34,13 +34,12 @@ void applyOrder(PaletteDocument& document, ChannelMask mask, const std::vector<P
   document.applyChannels(mask, paletteOf(colors));
 }
 
-// Channels outside the mask count as 0.
-PaletteEntry meanColor(const std::vector<PaletteEntry>& colors, ChannelMask mask) {
+PaletteEntry meanColor(const std::vector<PaletteEntry>& colors) {
   PaletteEntry mean;
   for (const Channel channel : kChannels) {
     std::int32_t sum = 0;
     for (const PaletteEntry& color : colors) {
-      sum += channelSum(color, mask & maskOf(channel));
+      sum += channelOf(color, channel);
     }
     channelOf(mean, channel) = static_cast<std::uint8_t>(sum / static_cast<std::int32_t>(colors.size()));
   }
@@ -51,22 +50,13 @@ std::int32_t squaredDistance(const PaletteEntry& a, const PaletteEntry& b, Chann
   std::int32_t sum = 0;
   for (const Channel channel : kChannels) {
     const std::int32_t difference = channelOf(a, channel) - channelOf(b, channel);
-    sum += contains(mask, channel) ? difference * difference : 0;
+    sum += hasChannel(mask, channel) ? difference * difference : 0;
   }
   return sum;
 }
 
-}  // namespace
-
-void reverseSelection(PaletteDocument& document, ChannelMask mask) {
-  std::vector<PaletteEntry> colors = colorsToOrder(document, mask);
-  if (!colors.empty()) {
-    std::ranges::reverse(colors);
-    applyOrder(document, mask, colors);
-  }
-}
-
-void sortByChannels(PaletteDocument& document, ChannelMask keyMask, ChannelMask mask) {
+// `keyMask` is `mask` or one channel.
+void sortByKey(PaletteDocument& document, ChannelMask keyMask, ChannelMask mask) {
   const std::vector<PaletteEntry> colors = colorsToOrder(document, mask);
   if (colors.empty()) {
     return;
@@ -81,12 +71,26 @@ void sortByChannels(PaletteDocument& document, ChannelMask keyMask, ChannelMask 
   applyOrder(document, mask, list.colors);
 }
 
+}  // namespace
+
+void reverseSelection(PaletteDocument& document, ChannelMask mask) {
+  std::vector<PaletteEntry> colors = colorsToOrder(document, mask);
+  if (!colors.empty()) {
+    std::ranges::reverse(colors);
+    applyOrder(document, mask, colors);
+  }
+}
+
+void sortByIntensity(PaletteDocument& document, ChannelMask mask) { sortByKey(document, mask, mask); }
+
+void sortByChannel(PaletteDocument& document, Channel key, ChannelMask mask) { sortByKey(document, maskOf(key), mask); }
+
 void sortByDeviation(PaletteDocument& document, ChannelMask mask) {
   const std::vector<PaletteEntry> colors = colorsToOrder(document, mask);
   if (colors.empty()) {
     return;
   }
-  const PaletteEntry mean = meanColor(colors, mask);
+  const PaletteEntry mean = meanColor(colors);
   WorkList list;
   for (const PaletteEntry& color : colors) {
     const std::int32_t distance = squaredDistance(color, mean, mask);

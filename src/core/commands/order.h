@@ -11,9 +11,12 @@ namespace quillhue {
 /// First becomes last.
 void reverseSelection(PaletteDocument& document, ChannelMask mask);
 
-/// Rising by the sum of the channels in `keyMask`; entries with equal sums keep their order. A single channel that
-/// is not in `mask` sorts nothing: entries with 255 in it come last, in order, and the others before them, backwards.
-void sortByChannels(PaletteDocument& document, ChannelMask keyMask, ChannelMask mask);
+/// Rising by the sum of the channels in `mask`; entries with equal sums keep their order.
+void sortByIntensity(PaletteDocument& document, ChannelMask mask);
+
+/// Rising by one channel; entries with equal values keep their order. A channel that is not in `mask` sorts nothing:
+/// entries with 255 in it come last, in order, and the others before them, backwards.
+void sortByChannel(PaletteDocument& document, Channel key, ChannelMask mask);
 
 /// Rising by the squared distance from the mean color, over the channels in `mask`; of entries with equal distances
 /// the later one comes first.

@@ -1,6 +1,7 @@
 #include "core/commands/selection.h"
 
 #include <set>
+#include <vector>
 
 namespace quillhue {
 
@@ -45,8 +46,13 @@ void invertSelection(PaletteDocument& document) {
 }
 
 void selectEntries(PaletteDocument& document, std::span<const std::int32_t> indexes) {
-  const std::set<std::int32_t> wanted(indexes.begin(), indexes.end());
-  selectWhere(document, [&](std::int32_t index) { return wanted.contains(index); });
+  std::vector<bool> wanted(static_cast<std::size_t>(document.getSize()));
+  for (const std::int32_t index : indexes) {
+    if (document.contains(index)) {
+      wanted[static_cast<std::size_t>(index)] = true;
+    }
+  }
+  selectWhere(document, [&](std::int32_t index) { return wanted[static_cast<std::size_t>(index)]; });
 }
 
 void selectMatches(PaletteDocument& document, std::int32_t current) {

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+
+namespace quillhue {
+
+/// What a number may be; both ends belong to it.
+struct ValueRange {
+  std::int32_t minimum = 0;
+  std::int32_t maximum = 255;
+
+  [[nodiscard]] constexpr bool contains(std::int32_t value) const { return value >= minimum && value <= maximum; }
+  /// The nearest value inside.
+  [[nodiscard]] constexpr std::int32_t clamp(std::int64_t value) const {
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, minimum, maximum));
+  }
+};
+
+}  // namespace quillhue
