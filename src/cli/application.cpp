@@ -26,6 +26,7 @@ int run(std::vector<std::string> arguments, Console& console) {
   addNewVerb(tool, console, status);
   addEditVerb(tool, console, status);
   addValuesVerb(tool, console, status);
+  addRemapVerb(tool, console, status);
   addEffectsVerb(tool, console, status);
   addModelsVerb(tool, console, status);
   tool.set_version_flag("--version", kVersion);

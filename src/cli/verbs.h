@@ -11,6 +11,7 @@ namespace quillhue::cli {
 void addFormatsVerb(CLI::App& tool, Console& console, ExitStatus& status);
 void addInfoVerb(CLI::App& tool, Console& console, ExitStatus& status);
 void addConvertVerb(CLI::App& tool, Console& console, ExitStatus& status);
+void addRemapVerb(CLI::App& tool, Console& console, ExitStatus& status);
 void addNewVerb(CLI::App& tool, Console& console, ExitStatus& status);
 void addEditVerb(CLI::App& tool, Console& console, ExitStatus& status);
 void addValuesVerb(CLI::App& tool, Console& console, ExitStatus& status);

@@ -1,0 +1,177 @@
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <new>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/arguments.h"
+#include "cli/input.h"
+#include "cli/output.h"
+#include "cli/output_folder.h"
+#include "cli/verbs.h"
+#include "core/utf8.h"
+#include "formats/bitmap_writer.h"
+#include "formats/files.h"
+#include "formats/images/image_loaders.h"
+#include "remap/remap.h"
+
+namespace quillhue::cli {
+
+namespace {
+
+struct RemapVerbOptions {
+  std::vector<std::string> files;
+  std::string palette;
+  std::optional<std::string> outDir;
+  std::string name;
+  RemapOptions remap;
+  PaletteEntry blank;
+  bool force = false;
+};
+
+struct ModeName {
+  std::string_view name;
+  RemapMode mode;
+};
+constexpr std::array<ModeName, 3> kModes{
+    {{"maintain", RemapMode::maintain}, {"nearest", RemapMode::nearest}, {"dither", RemapMode::dither}}};
+
+// Nobody watches, and nobody stops a run.
+class NoProgress final : public RemapProgress {
+  [[nodiscard]] bool rowsDone(std::int32_t /*rows*/, const RemappedImage& /*result*/) override { return true; }
+};
+
+std::expected<WorkImage, std::string> readImage(const std::string& file, Console& console) {
+  const auto source = file == "-" ? readStream(console.in) : openFile(fromUtf8(file));
+  if (!source) {
+    return refusalOf(source.error());
+  }
+  auto image = loadImage(**source);
+  if (!image) {
+    return refusalOf(image.error());
+  }
+  return std::move(*image);
+}
+
+std::expected<std::vector<std::uint8_t>, std::string> remapFile(const std::string& file, const Palette& palette,
+                                                                const RemapVerbOptions& options, Console& console) try {
+  const auto image = readImage(file, console);
+  if (!image) {
+    return Refusal(image.error());
+  }
+  if (options.remap.mode == RemapMode::maintain && !image->palette()) {
+    return Refusal("The image has no indexes to maintain. Use --mode nearest or --mode dither.");
+  }
+  RemappedImage result;
+  NoProgress progress;
+  remapImage(*image, palette, options.remap, result, progress);
+  return composeBitmap({result.width(), result.height(), result.rows()}, palette, options.blank);
+} catch (const std::bad_alloc&) {
+  return refusalOf(Failure::notEnoughMemory);
+}
+
+// Reports a refusal and answers false.
+bool remapTo(const std::string& from, const std::string& to, const Palette& palette, const RemapVerbOptions& options,
+             Console& console) {
+  const auto bitmap = remapFile(from, palette, options, console);
+  if (!bitmap) {
+    reportRefusal(console, from, bitmap.error());
+    return false;
+  }
+  const auto written = writeOutput(to, *bitmap, options.force, console);
+  if (!written) {
+    reportRefusal(console, to, written.error());
+  }
+  return written.has_value();
+}
+
+void checkUsage(const RemapVerbOptions& options) {
+  const bool dithers = options.remap.mode == RemapMode::dither;
+  if (options.remap.protectedEntry && !dithers) {
+    throw CLI::ValidationError("--protect-color", "goes with --mode dither");
+  }
+  if (options.remap.protectGrid && !dithers) {
+    throw CLI::ValidationError("--protect-grid", "goes with --mode dither");
+  }
+  if (options.outDir && options.palette.empty()) {
+    throw CLI::ValidationError("--palette", "is needed with --out-dir");
+  }
+  if (!options.outDir && (!options.palette.empty() || options.files.size() != 3)) {
+    throw CLI::ValidationError("remap",
+                               "takes IMAGE, PALETTE and OUT, or any number of images with --palette and --out-dir");
+  }
+}
+
+ExitStatus remap(const RemapVerbOptions& options, Console& console) {
+  checkUsage(options);
+  const std::string& paletteFile = options.outDir ? options.palette : options.files[1];
+  const auto read = readFilePalette(paletteFile, {}, console);
+  if (!read) {
+    reportRefusal(console, paletteFile, read.error());
+    return kRefused;
+  }
+  const Palette& palette = read->palette;
+  if (const auto& entry = options.remap.protectedEntry) {
+    const auto usable = checkEntry(*entry, std::min(palette.getSize(), kMaxUsedEntries));
+    if (!usable) {
+      reportRefusal(console, paletteFile, "--protect-color: " + usable.error());
+      return kRefused;
+    }
+  }
+  if (!options.outDir) {
+    return remapTo(options.files[0], options.files[2], palette, options, console) ? kDone : kRefused;
+  }
+  return writeIntoFolder(
+      {*options.outDir, "bmp", options.name, options.force}, options.files, console,
+      [&](const std::string& from, const std::string& to) { return remapTo(from, to, palette, options, console); });
+}
+
+RemapMode parseMode(const std::string& text) {
+  const auto place = placeOf(namesOf(kModes), text);
+  if (!place) {
+    throw CLI::ValidationError("--mode", refusedName(text, namesOf(kModes)));
+  }
+  return kModes[*place].mode;
+}
+
+ProtectGrid parseGrid(const std::string& text) {
+  constexpr ValueRange kSide{1, ProtectGrid::kMaxSide};
+  const std::vector<std::string> sides = split(text, 'x');
+  const auto width = parseNumber(sides.front());
+  const auto height = parseNumber(sides.back());
+  if (sides.size() != 2 || !width || !height || !kSide.contains(*width) || !kSide.contains(*height)) {
+    throw CLI::ValidationError("--protect-grid", text + " is not a width and a height from 1 to 1000 like 16x16");
+  }
+  return {*width, *height};
+}
+
+}  // namespace
+
+void addRemapVerb(CLI::App& tool, Console& console, ExitStatus& status) {
+  CLI::App* const verb = tool.add_subcommand("remap", "Turn images into bitmaps that use the colors of a palette");
+  const auto options = std::make_shared<RemapVerbOptions>();
+  verb->add_option("FILE", options->files,
+                   "IMAGE (bitmap, clipboard file, PCX, LBM), PALETTE and OUT.bmp; with --out-dir any number of images "
+                   "and folders of them. - is standard input or output")
+      ->required();
+  verb->add_option("--palette", options->palette, "The palette or image file whose colors are used, with --out-dir");
+  verb->add_option("--out-dir", options->outDir, "Write all bitmaps into this folder");
+  verb->add_option("--name", options->name, "The file name that standard input is taken to have, with --out-dir");
+  verb->add_option_function<std::string>(
+          "--mode", [options](const std::string& text) { options->remap.mode = parseMode(text); },
+          "maintain the indexes of an indexed image, take the nearest colors, or dither (default: nearest)")
+      ->type_name("NAME");
+  addNumberOption(*verb, "--protect-color", options->remap.protectedEntry, {0, kMaxUsedEntries - 1},
+                  "An entry whose exact color is kept when dithering");
+  verb->add_option_function<std::string>(
+          "--protect-grid", [options](const std::string& text) { options->remap.protectGrid = parseGrid(text); },
+          "Cells that dithering treats each for itself, as in 16x16")
+      ->type_name("WxH");
+  addColorOption(*verb, "--blank", options->blank, "The color of unused entries of the bitmap (default 0,0,0)");
+  addForceFlag(*verb, options->force);
+  verb->callback([options, &console, &status] { status = remap(*options, console); });
+}
+
+}  // namespace quillhue::cli
