@@ -10,10 +10,6 @@ ErrorDiffusion::ErrorDiffusion(const NearestEntry& nearest, std::int32_t width, 
       above_(static_cast<std::size_t>(width)),
       below_(static_cast<std::size_t>(width)) {}
 
-bool ErrorDiffusion::isProtected(const ColorVector& pixel) const {
-  return limits_.protectedEntry && pixel == nearest_.color(*limits_.protectedEntry);
-}
-
 // The grid's cells do not stop these shares: what they leave across a border is not taken there.
 void ErrorDiffusion::spread(std::int32_t x, const ColorVector& error) {
   const auto column = static_cast<std::size_t>(x);
@@ -34,8 +30,8 @@ void ErrorDiffusion::remapRow(std::span<const std::uint8_t> source, std::span<st
   for (std::int32_t x = 0; x < static_cast<std::int32_t>(indexes.size()); ++x) {
     const auto column = static_cast<std::size_t>(x);
     const ColorVector pixel{source[3 * column], source[3 * column + 1], source[3 * column + 2]};
-    if (isProtected(pixel)) {
-      indexes[column] = *limits_.protectedEntry;
+    if (const auto& entry = limits_.protectedEntry; entry && pixel == nearest_.color(*entry)) {
+      indexes[column] = *entry;
       carried = {};
       continue;
     }

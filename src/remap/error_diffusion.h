@@ -25,7 +25,6 @@ class ErrorDiffusion {
   void remapRow(std::span<const std::uint8_t> source, std::span<std::uint8_t> indexes);
 
  private:
-  [[nodiscard]] bool isProtected(const ColorVector& pixel) const;
   void spread(std::int32_t x, const ColorVector& error);
 
   const NearestEntry& nearest_;
