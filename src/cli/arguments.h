@@ -24,7 +24,7 @@ namespace quillhue::cli {
 /// "R,G,B", each 0..255; nothing when `text` is anything else.
 [[nodiscard]] std::optional<PaletteEntry> parseColor(std::string_view text);
 
-/// "255,128,0" and "a color like it": why something else is refused.
+/// "x is not a color like 255,128,0".
 [[nodiscard]] std::string refusedColor(const std::string& text);
 /// "300 is not from 0 to 255".
 [[nodiscard]] std::string refusedValue(std::int32_t value, const ValueRange& range);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "cli/arguments.h"
 #include "core/utf8.h"
 #include "formats/files.h"
 #include "formats/readers/palette_reader.h"
@@ -10,12 +11,8 @@
 namespace quillhue::cli {
 
 void addFormatOption(CLI::App& verb, std::string& format) {
-  std::vector<std::string> names;
-  for (const PaletteWriter* writer : paletteWriters()) {
-    names.emplace_back(writer->name);
-  }
   verb.add_option("--format", format, "The format to write (default: what OUT's extension stands for)")
-      ->check(CLI::IsMember(names));
+      ->check(CLI::IsMember(namesOf(paletteWriters())));
 }
 
 void addForceFlag(CLI::App& verb, bool& force) { verb.add_flag("--force", force, "Replace files that exist"); }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <memory>
+#include <vector>
 
 #include "remap/error_diffusion.h"
 #include "remap/nearest_entry.h"

@@ -23,7 +23,7 @@ class StoppingProgress : public RemapProgress {
   }
 };
 
-Palette paletteOfText(std::initializer_list<PaletteEntry> entries) {
+Palette paletteWith(std::initializer_list<PaletteEntry> entries) {
   return paletteOf({entries.begin(), entries.size()});
 }
 
@@ -62,7 +62,7 @@ TEST(Remap, KeepsIndexesUpToTheNumberOfColors) {
   RemappedImage result;
   StoppingProgress progress;
   const WorkImage direct = imageOf(1, 1, {}, {9, 9, 9});
-  const Palette palette = paletteOfText({{0, 0, 0}, {9, 9, 9}});
+  const Palette palette = paletteWith({{0, 0, 0}, {9, 9, 9}});
   (void)remapImage(direct, palette, {RemapMode::nearest, {}, {}}, result, progress);
   EXPECT_EQ(rowsOf(result), "1 ");
   (void)remapImage(direct, palette, {RemapMode::maintain, {}, {}}, result, progress);
@@ -70,10 +70,10 @@ TEST(Remap, KeepsIndexesUpToTheNumberOfColors) {
 }
 
 TEST(Remap, TakesTheFirstOfTheNearest) {
-  const Palette palette = paletteOfText({{10, 0, 0}, {0, 10, 0}, {20, 0, 0}, {0, 10, 0}});
+  const Palette palette = paletteWith({{10, 0, 0}, {0, 10, 0}, {20, 0, 0}, {0, 10, 0}});
   const Bytes colors{0, 10, 0, 15, 0, 0, 0, 0, 0, 255, 255, 255, 255, 255, 254};
   EXPECT_EQ(remapped(imageOf(5, 1, {}, colors), palette, {}), "1 0 0 2 2 ");
-  const Palette own = paletteOfText({{0, 10, 0}, {15, 0, 0}, {0, 0, 0}, {255, 255, 255}});
+  const Palette own = paletteWith({{0, 10, 0}, {15, 0, 0}, {0, 0, 0}, {255, 255, 255}});
   EXPECT_EQ(remapped(imageOf(4, 1, resizedCopy(own, 16, {}), {3, 2, 1, 0}), palette, {}), "2 0 0 1 ");
   // Entries past 256 are never chosen.
   Palette large = createPalette(300, {100, 100, 100});
@@ -130,7 +130,7 @@ TEST(Remap, EqualsTheLiteralRules) {
 // Errors that nothing can make up for grow until they wrap.
 TEST(Remap, WrapsWhereErrorsOverflow) {
   const WorkImage white = imageOf(40, 70, {}, Bytes(3 * 40 * 70, 255));
-  const Palette dark = paletteOfText({{0, 0, 0}, {0, 0, 1}, {2, 0, 0}});
+  const Palette dark = paletteWith({{0, 0, 0}, {0, 0, 1}, {2, 0, 0}});
   RemappedImage result;
   StoppingProgress progress;
   EXPECT_TRUE(remapImage(white, dark, {RemapMode::dither, {}, {}}, result, progress));
@@ -144,7 +144,7 @@ TEST(Remap, WrapsWhereErrorsOverflow) {
 TEST(Remap, DithersIndexedImagesByTheirColors) {
   Palette own = createPalette(16, {100, 100, 100});
   own.setEntry(1, {200, 200, 200});
-  const Palette target = paletteOfText({{0, 0, 0}, {255, 255, 255}});
+  const Palette target = paletteWith({{0, 0, 0}, {255, 255, 255}});
   Bytes indexes;
   Bytes colors;
   for (std::uint32_t i = 0; i < 90; ++i) {
@@ -158,7 +158,7 @@ TEST(Remap, DithersIndexedImagesByTheirColors) {
 }
 
 TEST(Remap, ProtectionHasItsLimits) {
-  const Palette palette = paletteOfText({{0, 0, 0}, {255, 255, 255}, {120, 120, 120}});
+  const Palette palette = paletteWith({{0, 0, 0}, {255, 255, 255}, {120, 120, 120}});
   const WorkImage grey = imageOf(20, 20, {}, Bytes(3 * 20 * 20, 100));
   RemapOptions options{RemapMode::dither, {}, {}};
   const std::string plain = remapped(grey, palette, options);
@@ -179,7 +179,7 @@ TEST(Remap, ProtectionHasItsLimits) {
 
 TEST(Remap, StopsAtEveryReport) {
   const WorkImage image = imageOf(3, 50, {}, Bytes(3 * 3 * 50, 255));
-  const Palette palette = paletteOfText({{0, 0, 0}, {255, 255, 255}});
+  const Palette palette = paletteWith({{0, 0, 0}, {255, 255, 255}});
   for (const RemapMode mode : {RemapMode::nearest, RemapMode::dither}) {
     for (int stopAt = 1; stopAt <= 4; ++stopAt) {
       RemappedImage result;
