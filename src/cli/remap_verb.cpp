@@ -55,7 +55,13 @@ std::expected<WorkImage, std::string> readImage(const std::string& file, Console
   return std::move(*image);
 }
 
-std::expected<std::vector<std::uint8_t>, std::string> remapFile(const std::string& file, const Palette& palette,
+// The palette of all images, and what remaps them.
+struct Target {
+  const Palette& palette;
+  Remapper& remapper;
+};
+
+std::expected<std::vector<std::uint8_t>, std::string> remapFile(const std::string& file, const Target& target,
                                                                 const RemapVerbOptions& options, Console& console) try {
   const auto image = readImage(file, console);
   if (!image) {
@@ -66,16 +72,16 @@ std::expected<std::vector<std::uint8_t>, std::string> remapFile(const std::strin
   }
   RemappedImage result;
   NoProgress progress;
-  remapImage(*image, palette, options.remap, result, progress);
-  return composeBitmap({result.width(), result.height(), result.rows()}, palette, options.blank);
+  target.remapper.remap(*image, options.remap, result, progress);
+  return composeBitmap({result.width(), result.height(), result.rows()}, target.palette, options.blank);
 } catch (const std::bad_alloc&) {
   return refusalOf(Failure::notEnoughMemory);
 }
 
 // Reports a refusal and answers false.
-bool remapTo(const std::string& from, const std::string& to, const Palette& palette, const RemapVerbOptions& options,
+bool remapTo(const std::string& from, const std::string& to, const Target& target, const RemapVerbOptions& options,
              Console& console) {
-  const auto bitmap = remapFile(from, palette, options, console);
+  const auto bitmap = remapFile(from, target, options, console);
   if (!bitmap) {
     reportRefusal(console, from, bitmap.error());
     return false;
@@ -120,12 +126,14 @@ ExitStatus remap(const RemapVerbOptions& options, Console& console) {
       return kRefused;
     }
   }
+  Remapper remapper(palette);
+  const Target target{palette, remapper};
   if (!options.outDir) {
-    return remapTo(options.files[0], options.files[2], palette, options, console) ? kDone : kRefused;
+    return remapTo(options.files[0], options.files[2], target, options, console) ? kDone : kRefused;
   }
   return writeIntoFolder(
       {*options.outDir, "bmp", options.name, options.force}, options.files, console,
-      [&](const std::string& from, const std::string& to) { return remapTo(from, to, palette, options, console); });
+      [&](const std::string& from, const std::string& to) { return remapTo(from, to, target, options, console); });
 }
 
 RemapMode parseMode(const std::string& text) {

@@ -6,7 +6,7 @@
 #include <span>
 
 #include "core/palette.h"
-#include "core/zeroed_bytes.h"
+#include "core/zeroed_memory.h"
 
 namespace quillhue {
 
@@ -28,8 +28,8 @@ class WorkImage {
   [[nodiscard]] const std::optional<Palette>& palette() const { return palette_; }
   [[nodiscard]] std::size_t bytesPerPixel() const { return palette_ ? 1 : 3; }
 
-  [[nodiscard]] std::span<std::uint8_t> pixels() { return pixels_.bytes(); }
-  [[nodiscard]] std::span<const std::uint8_t> pixels() const { return pixels_.bytes(); }
+  [[nodiscard]] std::span<std::uint8_t> pixels() { return pixels_.all(); }
+  [[nodiscard]] std::span<const std::uint8_t> pixels() const { return pixels_.all(); }
   [[nodiscard]] std::span<std::uint8_t> row(std::int32_t y) { return pixels().subspan(rowStart(y), rowLength()); }
   [[nodiscard]] std::span<const std::uint8_t> row(std::int32_t y) const {
     return pixels().subspan(rowStart(y), rowLength());
@@ -42,7 +42,7 @@ class WorkImage {
   std::int32_t width_;
   std::int32_t height_;
   std::optional<Palette> palette_;
-  ZeroedBytes pixels_;
+  ZeroedMemory<std::uint8_t> pixels_;
 };
 
 }  // namespace quillhue

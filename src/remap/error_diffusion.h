@@ -1,15 +1,17 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
-#include <span>
-#include <vector>
 
+#include "formats/work_image.h"
 #include "remap/nearest_entry.h"
+#include "remap/remapped_image.h"
 
 namespace quillhue {
 
-/// Floyd and Steinberg's error diffusion, from left to right in every row, with errors in sixteenths of a step.
+/// Floyd and Steinberg's error diffusion, from left to right in every row, with errors in sixteenths of a step. Errors
+/// are 32-bit numbers, never clamped, and wrap.
 class ErrorDiffusion {
  public:
   /// What keeps errors back. The grid's sides are at least 1.
@@ -19,20 +21,23 @@ class ErrorDiffusion {
     std::int32_t gridHeight;
   };
 
-  ErrorDiffusion(const NearestEntry& nearest, std::int32_t width, const Limits& limits);
+  /// How many rows are remapped fastest together: one row waits for itself at each pixel, and the others fill the time.
+  static constexpr std::int32_t kRowsTogether = 4;
 
-  /// Remaps the next row: `source` has three bytes a pixel, blue, green, red; `indexes` takes one.
-  void remapRow(std::span<const std::uint8_t> source, std::span<std::uint8_t> indexes);
+  virtual ~ErrorDiffusion() = default;
+  ErrorDiffusion(const ErrorDiffusion&) = delete;
+  ErrorDiffusion& operator=(const ErrorDiffusion&) = delete;
 
- private:
-  void spread(std::int32_t x, const ColorVector& error);
+  /// Remaps the next `count` rows, 1 or kRowsTogether.
+  virtual void remapRows(std::int32_t count) = 0;
 
-  const NearestEntry& nearest_;
-  Limits limits_;
-  std::int32_t row_ = 0;
-  // For each column what the row above left, and what this row leaves for the next.
-  std::vector<ColorVector> above_;
-  std::vector<ColorVector> below_;
+ protected:
+  ErrorDiffusion() = default;
 };
+
+/// From the first row of `image` on into `result`, which are of the same size.
+[[nodiscard]] std::unique_ptr<ErrorDiffusion> diffuseErrors(const WorkImage& image, NearestEntry& nearest,
+                                                            const std::optional<ErrorDiffusion::Limits>& limits,
+                                                            RemappedImage& result);
 
 }  // namespace quillhue

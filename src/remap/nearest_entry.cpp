@@ -1,38 +1,101 @@
 #include "remap/nearest_entry.h"
 
+#include <algorithm>
+#include <bit>
+
 namespace quillhue {
 
 namespace {
 
-std::int32_t squaredDistance(const ColorVector& a, const ColorVector& b) {
-  std::int32_t sum = 0;
-  for (std::size_t channel = 0; channel < a.size(); ++channel) {
-    const std::int32_t difference = wrappingSum(a[channel], -b[channel]);
-    sum = wrappingSum(sum, wrappingProduct(difference, difference));
+constexpr std::int32_t kFarthest = 26000;
+
+// Around the middle of the cube slabs 8 to 15 are 64 wide each. On both sides follow slabs as wide as what is inside of
+// them, from 128 to 255 beyond the middle's sides on, and a last one for the rest.
+constexpr std::int32_t kLastSlab = FarCells::kSlabs - 1;
+
+std::int32_t slabOf(std::int32_t number) {
+  const std::int32_t mirrored = std::min(number, 255 - number);
+  if (mirrored >= -128) {
+    return (number + 640) / 64;
   }
-  return sum;
+  const auto doublings = std::bit_width(static_cast<std::uint32_t>(-mirrored - 1)) - 8;
+  const std::int32_t slab = 7 - std::min(static_cast<std::int32_t>(doublings), 7);
+  return number < 0 ? slab : kLastSlab - slab;
+}
+
+// The least number of a slab.
+std::int32_t startOf(std::int32_t slab) {
+  if (slab <= 0) {
+    return -kFarthest;
+  }
+  if (slab < 8) {
+    return -(256 << (7 - slab));
+  }
+  return slab <= 16 ? 64 * slab - 640 : 256 + (128 << (slab - 16));
 }
 
 }  // namespace
 
-NearestEntry::NearestEntry(std::span<const PaletteEntry> colors) {
-  colors_.reserve(colors.size());
-  for (const PaletteEntry& color : colors) {
-    colors_.push_back({color.blue, color.green, color.red});
+ColorBox NearCells::boxOf(std::size_t cell) {
+  ColorBox box{};
+  for (std::size_t channel = 0; channel < box.low.size(); ++channel) {
+    box.low[channel] = static_cast<std::int32_t>(cell >> (5 * channel) & 31) * 16 - 128;
+    box.high[channel] = box.low[channel] + 15;
+  }
+  return box;
+}
+
+bool FarCells::has(PackedColor target) {
+  const __m128i isBeyond = _mm_or_si128(_mm_cmpgt_epi16(target.lanes, _mm_set1_epi16(kFarthest)),
+                                        _mm_cmplt_epi16(target.lanes, _mm_set1_epi16(-kFarthest)));
+  return _mm_movemask_epi8(isBeyond) == 0;
+}
+
+std::size_t FarCells::cellOf(PackedColor target) {
+  const auto bits = static_cast<std::uint64_t>(_mm_cvtsi128_si64(target.lanes));
+  std::size_t cell = 0;
+  for (const int channel : {2, 1, 0}) {
+    cell = cell * kSlabs + static_cast<std::size_t>(slabOf(static_cast<std::int16_t>(bits >> (16 * channel))));
+  }
+  return cell;
+}
+
+ColorBox FarCells::boxOf(std::size_t cell) {
+  ColorBox box{};
+  for (std::size_t channel = 0; channel < box.low.size(); ++channel) {
+    const auto slab = static_cast<std::int32_t>(cell % kSlabs);
+    box.low[channel] = startOf(slab);
+    box.high[channel] = slab == kLastSlab ? kFarthest : startOf(slab + 1) - 1;
+    cell /= kSlabs;
+  }
+  return box;
+}
+
+NearestEntry::NearestEntry(std::span<const PaletteEntry> colors, std::size_t listBytes)
+    : colors_(colors.begin(), colors.end()), listBytes_(listBytes) {
+  if (hasFewColors()) {
+    all_ = groupsOf<KeyGroup>(colors);
+  } else {
+    near_ = std::make_unique<CandidateGrid<NearCells>>(colors, listBytes);
   }
 }
 
-std::uint8_t NearestEntry::find(const ColorVector& target) const {
-  std::size_t nearest = 0;
-  std::int32_t least = 0;
-  for (std::size_t index = 0; index < colors_.size(); ++index) {
-    const std::int32_t distance = squaredDistance(target, colors_[index]);
-    if (index == 0 || distance < least) {
-      nearest = index;
-      least = distance;
-    }
+std::uint8_t NearestEntry::findFar(ColorLanes target) {
+  if (allForFar_.empty()) {
+    allForFar_ = groupsOf<DistanceGroup>(colors_);
   }
-  return static_cast<std::uint8_t>(nearest);
+  const PackedColor color = packed(target);
+  if (!FarCells::has(color)) {
+    return DistanceGroup::nearestWrapping(allForFar_.data(), allForFar_.size(), target);
+  }
+  if (hasFewColors()) {
+    return DistanceGroup::nearest(allForFar_.data(), allForFar_.size(), color);
+  }
+  if (!far_) {
+    // Lists are short where only the direction counts.
+    far_ = std::make_unique<CandidateGrid<FarCells>>(colors_, listBytes_ / 4);
+  }
+  return far_->find(color);
 }
 
 }  // namespace quillhue

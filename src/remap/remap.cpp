@@ -6,6 +6,7 @@
 
 #include "remap/error_diffusion.h"
 #include "remap/nearest_entry.h"
+#include "remap/nearest_table.h"
 
 namespace quillhue {
 
@@ -13,7 +14,13 @@ namespace {
 
 constexpr std::int32_t kRowsBetweenReports = 16;
 
-ColorVector vectorOf(const PaletteEntry& color) { return {color.blue, color.green, color.red}; }
+// From so many pixels on a table of all colors is worth its memory.
+constexpr std::int64_t kPixelsForTable = 1 << 20;
+
+// What lists of candidates may take. Without dithering there are no targets outside of what pixels can be.
+constexpr std::size_t listBytesFor(RemapMode mode) {
+  return mode == RemapMode::dither ? std::size_t{11} << 17 : std::size_t{6} << 17;
+}
 
 // A table for every index that a pixel can have.
 using IndexTable = std::array<std::uint8_t, 256>;
@@ -27,10 +34,10 @@ IndexTable maintainedIndexes(std::size_t colors) {
   return table;
 }
 
-IndexTable nearestIndexes(const Palette& imagePalette, const NearestEntry& nearest) {
+IndexTable nearestIndexes(const Palette& imagePalette, NearestEntry& nearest) {
   IndexTable table{};
   for (std::int32_t index = 0; index < imagePalette.getSize(); ++index) {
-    table[static_cast<std::size_t>(index)] = nearest.find(vectorOf(imagePalette.entry(index)));
+    table[static_cast<std::size_t>(index)] = nearest.find(lanesOfPixel(pixelOf(imagePalette.entry(index))));
   }
   return table;
 }
@@ -41,49 +48,25 @@ void mapIndexes(const WorkImage& image, const IndexTable& table, RemappedImage& 
   }
 }
 
-// The row's pixels as three bytes each, in `expanded` where the image has indexes.
-std::span<const std::uint8_t> directRow(const WorkImage& image, std::int32_t y, std::vector<std::uint8_t>& expanded) {
-  const auto row = image.row(y);
-  const auto& palette = image.palette();
-  if (!palette) {
-    return row;
-  }
-  expanded.clear();
-  for (const std::uint8_t index : row) {
-    const PaletteEntry color = palette->entry(index);
-    expanded.insert(expanded.end(), {color.blue, color.green, color.red});
-  }
-  return expanded;
-}
-
-// `remapRow` gets each row's pixels and its place in the result.
-template <typename RemapRow>
-bool forEachRow(const WorkImage& image, RemappedImage& result, RemapProgress& progress, RemapRow remapRow) {
-  std::vector<std::uint8_t> expanded;
-  for (std::int32_t y = 0; y < image.height(); ++y) {
-    remapRow(directRow(image, y, expanded), result.row(y));
-    if (y % kRowsBetweenReports == 0 && !progress.rowsDone(y + 1, result)) {
-      return false;
-    }
-  }
-  return true;
-}
+bool isReportDue(std::int32_t y) { return y % kRowsBetweenReports == 0; }
 
 // Neighbors are often the same.
-void nearestRow(const NearestEntry& nearest, std::span<const std::uint8_t> source, std::span<std::uint8_t> indexes) {
-  ColorVector last{-1, -1, -1};
+void nearestRow(NearestEntry& nearest, std::span<const std::uint8_t> pixels, std::span<std::uint8_t> indexes) {
+  std::uint32_t last = 0xFFFFFFFF;
   std::uint8_t found = 0;
   for (std::size_t x = 0; x < indexes.size(); ++x) {
-    const ColorVector pixel{source[3 * x], source[3 * x + 1], source[3 * x + 2]};
+    const std::uint32_t pixel =
+        pixels[3 * x] | std::uint32_t{pixels[3 * x + 1]} << 8 | std::uint32_t{pixels[3 * x + 2]} << 16;
     if (pixel != last) {
-      found = nearest.find(pixel);
+      found = nearest.find(lanesOfPixel(pixel));
       last = pixel;
     }
     indexes[x] = found;
   }
 }
 
-ErrorDiffusion::Limits limitsOf(const RemapOptions& options, const WorkImage& image, std::size_t colors) {
+std::optional<ErrorDiffusion::Limits> limitsOf(const RemapOptions& options, const WorkImage& image,
+                                               std::size_t colors) {
   ErrorDiffusion::Limits limits{{}, image.width(), image.height()};
   if (options.protectGrid) {
     limits.gridWidth = std::clamp(options.protectGrid->width, 1, ProtectGrid::kMaxSide);
@@ -93,54 +76,89 @@ ErrorDiffusion::Limits limitsOf(const RemapOptions& options, const WorkImage& im
   if (entry >= 0 && entry < static_cast<std::int32_t>(colors)) {
     limits.protectedEntry = static_cast<std::uint8_t>(entry);
   }
+  if (!options.protectGrid && !limits.protectedEntry) {
+    return {};
+  }
   return limits;
 }
 
 }  // namespace
 
-void RemappedImage::prepare(std::int32_t width, std::int32_t height, const Palette& palette) {
-  if (width != width_ || height != height_) {
-    // The old rows go first, so that both need not fit into the memory.
-    rows_ = ZeroedBytes();
-    width_ = 0;
-    height_ = 0;
-    rows_ = ZeroedBytes(paddedRowLength(width) * static_cast<std::size_t>(height));
-    width_ = width;
-    height_ = height;
-  }
-  colors_ = entriesOf(palette);
+Remapper::Remapper(const Palette& palette) : colors_(entriesOf(palette)) {
   colors_.resize(std::min(colors_.size(), std::size_t{kMaxUsedEntries}));
 }
 
-void RemappedImage::clear() { std::ranges::fill(rows_.bytes(), std::uint8_t{0}); }
+Remapper::~Remapper() = default;
 
-bool remapImage(const WorkImage& image, const Palette& palette, const RemapOptions& options, RemappedImage& result,
-                RemapProgress& progress) {
-  result.prepare(image.width(), image.height(), palette);
-  const NearestEntry nearest(result.colors());
+NearestEntry& Remapper::nearest(RemapMode mode) {
+  if (!nearest_) {
+    nearest_ = std::make_unique<NearestEntry>(colors_, listBytesFor(mode));
+  }
+  return *nearest_;
+}
+
+bool Remapper::remap(const WorkImage& image, const RemapOptions& options, RemappedImage& result,
+                     RemapProgress& progress) {
+  result.prepare(image.width(), image.height(), colors_);
   const auto& imagePalette = image.palette();
   switch (options.mode) {
     case RemapMode::maintain:
       if (imagePalette) {
-        mapIndexes(image, maintainedIndexes(result.colors().size()), result);
+        mapIndexes(image, maintainedIndexes(colors_.size()), result);
       } else {
         result.clear();
       }
       return true;
     case RemapMode::nearest:
       if (imagePalette) {
-        mapIndexes(image, nearestIndexes(*imagePalette, nearest), result);
+        mapIndexes(image, nearestIndexes(*imagePalette, nearest(options.mode)), result);
         return true;
       }
-      return forEachRow(image, result, progress,
-                        [&](auto source, auto indexes) { nearestRow(nearest, source, indexes); });
-    case RemapMode::dither: {
-      ErrorDiffusion diffusion(nearest, image.width(), limitsOf(options, image, result.colors().size()));
-      return forEachRow(image, result, progress,
-                        [&](auto source, auto indexes) { diffusion.remapRow(source, indexes); });
+      return takeNearest(image, result, progress);
+    case RemapMode::dither:
+      return dither(image, options, result, progress);
+  }
+  return true;
+}
+
+bool Remapper::takeNearest(const WorkImage& image, RemappedImage& result, RemapProgress& progress) {
+  const auto pixels = static_cast<std::int64_t>(image.width()) * image.height();
+  if (!table_ && pixels >= kPixelsForTable) {
+    table_ = std::make_unique<NearestTable>(colors_);
+  }
+  for (std::int32_t y = 0; y < image.height(); ++y) {
+    if (table_) {
+      table_->remapRow(image.row(y), result.row(y));
+    } else {
+      nearestRow(nearest(RemapMode::nearest), image.row(y), result.row(y));
+    }
+    if (isReportDue(y) && !progress.rowsDone(y + 1, result)) {
+      return false;
     }
   }
   return true;
+}
+
+// The first row is reported alone. After it the rows that run together end where a report is due.
+bool Remapper::dither(const WorkImage& image, const RemapOptions& options, RemappedImage& result,
+                      RemapProgress& progress) {
+  static_assert(kRowsBetweenReports % ErrorDiffusion::kRowsTogether == 0);
+  const auto diffusion = diffuseErrors(image, nearest(options.mode), limitsOf(options, image, colors_.size()), result);
+  for (std::int32_t done = 0; done < image.height();) {
+    const bool areTogether = done > 0 && image.height() - done >= ErrorDiffusion::kRowsTogether;
+    const std::int32_t count = areTogether ? ErrorDiffusion::kRowsTogether : 1;
+    diffusion->remapRows(count);
+    done += count;
+    if (isReportDue(done - 1) && !progress.rowsDone(done, result)) {
+      return false;
+    }
+  }
+  return true;
+}
+
+bool remapImage(const WorkImage& image, const Palette& palette, const RemapOptions& options, RemappedImage& result,
+                RemapProgress& progress) {
+  return Remapper(palette).remap(image, options, result, progress);
 }
 
 }  // namespace quillhue

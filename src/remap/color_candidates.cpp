@@ -1,0 +1,86 @@
+#include "remap/color_candidates.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+
+namespace quillhue {
+
+namespace {
+
+constexpr std::int32_t squared(std::int32_t number) { return number * number; }
+
+}  // namespace
+
+ColorCandidates::ColorCandidates(std::span<const PaletteEntry> colors) : leastDistances_(colors.size()) {
+  colors_.reserve(colors.size());
+  squaredLengths_.reserve(colors.size());
+  for (const PaletteEntry& color : colors) {
+    colors_.push_back({color.blue, color.green, color.red});
+    squaredLengths_.push_back(squared(color.blue) + squared(color.green) + squared(color.red));
+  }
+  opponents_.reserve(colors.size());
+  candidates_.reserve(colors.size());
+}
+
+std::span<const std::uint8_t> ColorCandidates::within(const ColorBox& box, std::size_t opponents) {
+  keepReachable(box);
+  dropBeaten(box, opponents);
+  return candidates_;
+}
+
+// A color whose least distance to the box is more than the greatest distance of another one is never the nearest.
+void ColorCandidates::keepReachable(const ColorBox& box) {
+  std::int32_t limit = std::numeric_limits<std::int32_t>::max();
+  std::uint8_t nearest = 0;
+  for (std::size_t i = 0; i < colors_.size(); ++i) {
+    std::int32_t least = 0;
+    std::int32_t greatest = 0;
+    for (std::size_t channel = 0; channel < box.low.size(); ++channel) {
+      const std::int32_t fromLow = colors_[i][channel] - box.low[channel];
+      const std::int32_t toHigh = box.high[channel] - colors_[i][channel];
+      least += squared(std::max({0, -fromLow, -toHigh}));
+      greatest += squared(std::max(fromLow, toHigh));
+    }
+    leastDistances_[i] = least;
+    if (greatest < limit) {
+      limit = greatest;
+      nearest = static_cast<std::uint8_t>(i);
+    }
+  }
+  candidates_.clear();
+  for (std::size_t i = 0; i < colors_.size(); ++i) {
+    if (leastDistances_[i] <= limit) {
+      candidates_.push_back(static_cast<std::uint8_t>(i));
+    }
+  }
+  opponents_ = candidates_;
+  std::iter_swap(opponents_.begin(), std::ranges::find(opponents_, nearest));
+}
+
+// Of what is left, each is compared with some others, first with those that have beaten most lately.
+void ColorCandidates::dropBeaten(const ColorBox& box, std::size_t opponents) {
+  const auto tried = std::span(opponents_).first(std::min(opponents_.size(), opponents));
+  const auto isBeaten = [&](std::uint8_t candidate) {
+    const auto winner = std::ranges::find_if(tried, [&](std::uint8_t other) { return beats(other, candidate, box); });
+    if (winner == tried.end()) {
+      return false;
+    }
+    std::iter_swap(tried.begin(), winner);
+    return true;
+  };
+  std::erase_if(candidates_, isBeaten);
+}
+
+// Whether `winner` is nearer than `loser` everywhere in the box, or equally near and first. The difference of their
+// squared distances is linear in the color, so it is greatest in a corner of the box.
+bool ColorCandidates::beats(std::uint8_t winner, std::uint8_t loser, const ColorBox& box) const {
+  std::int32_t greatest = squaredLengths_[winner] - squaredLengths_[loser];
+  for (std::size_t channel = 0; channel < box.low.size(); ++channel) {
+    const std::int32_t step = colors_[winner][channel] - colors_[loser][channel];
+    greatest -= 2 * step * (step > 0 ? box.low[channel] : box.high[channel]);
+  }
+  return greatest < 0 || (greatest == 0 && winner < loser);
+}
+
+}  // namespace quillhue

@@ -1,0 +1,281 @@
+// The product against the literal rules, where a search that is not a scan and rows that run together can go wrong.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <numeric>
+#include <random>
+
+#include "remap/literal_remap.h"
+#include "remap/nearest_entry.h"
+#include "remap/nearest_table.h"
+#include "remap/remap.h"
+
+namespace quillhue {
+namespace {
+
+class StoppingProgress : public RemapProgress {
+ public:
+  explicit StoppingProgress(int reports) : left_(reports) {}
+
+  bool rowsDone(std::int32_t rows, const RemappedImage& /*result*/) override {
+    rowsDone_.push_back(rows);
+    return --left_ > 0;
+  }
+  [[nodiscard]] const std::vector<std::int32_t>& reports() const { return rowsDone_; }
+
+ private:
+  int left_;
+  std::vector<std::int32_t> rowsDone_;
+};
+
+// Numbers from 0 to `limit`.
+class Random {
+ public:
+  explicit Random(std::uint32_t seed) : engine_(seed) {}
+  std::uint8_t upTo(std::uint32_t limit) { return static_cast<std::uint8_t>((engine_() >> 8) % (limit + 1)); }
+  PaletteEntry colorUpTo(std::uint32_t limit) { return {upTo(limit), upTo(limit), upTo(limit)}; }
+
+ private:
+  std::minstd_rand engine_;
+};
+
+using MakeColor = std::function<PaletteEntry(Random& random)>;
+
+// On and beside the borders of cells of 16.
+std::uint8_t atBorder(Random& random) {
+  return static_cast<std::uint8_t>(std::clamp(16 * random.upTo(16) + random.upTo(2) - 1, 0, 255));
+}
+
+const std::vector<MakeColor> kColorKinds{
+    [](Random& random) { return random.colorUpTo(255); },
+    // With many duplicates.
+    [](Random& random) { return PaletteEntry{random.colorUpTo(1).red, 128, random.colorUpTo(2).blue}; },
+    [](Random& random) { return PaletteEntry{atBorder(random), atBorder(random), atBorder(random)}; },
+    // One-sided: dark, bright, a corner of its own, and one color.
+    [](Random& random) { return random.colorUpTo(20); },
+    [](Random& random) {
+      const PaletteEntry dark = random.colorUpTo(20);
+      return PaletteEntry{static_cast<std::uint8_t>(255 - dark.red), static_cast<std::uint8_t>(255 - dark.green),
+                          static_cast<std::uint8_t>(255 - dark.blue)};
+    },
+    [](Random& random) { return PaletteEntry{random.upTo(9), 255, random.upTo(200)}; },
+    [](Random& /*random*/) { return PaletteEntry{1, 2, 3}; },
+};
+
+Palette paletteOf(std::int32_t size, const MakeColor& make, Random& random) {
+  Palette palette = createPalette(size);
+  for (std::int32_t i = 0; i < size; ++i) {
+    palette.setEntry(i, make(random));
+  }
+  return palette;
+}
+
+// A color a pixel, in runs of `run` pixels.
+WorkImage imageOf(std::int32_t width, std::int32_t height, std::size_t run, const MakeColor& make, Random& random) {
+  WorkImage image(width, height, {});
+  const auto pixels = image.pixels();
+  PaletteEntry color;
+  for (std::size_t i = 0; i < pixels.size(); i += 3) {
+    if (i / 3 % run == 0) {
+      color = make(random);
+    }
+    std::ranges::copy(std::array{color.blue, color.green, color.red}, pixels.subspan(i).begin());
+  }
+  return image;
+}
+
+// Compares the bytes and the reports of both, when the run is stopped after so many reports.
+void expectLiteral(Remapper& remapper, const WorkImage& image, const Palette& palette, const RemapOptions& options,
+                   int reports = 1000) {
+  RemappedImage result;
+  RemappedImage expected;
+  StoppingProgress progress(reports);
+  StoppingProgress expectedProgress(reports);
+  EXPECT_EQ(remapper.remap(image, options, result, progress),
+            literalRemap(image, palette, options, expected, expectedProgress));
+  EXPECT_TRUE(std::ranges::equal(result.rows(), expected.rows()));
+  EXPECT_EQ(progress.reports(), expectedProgress.reports());
+}
+
+void expectLiteral(const WorkImage& image, const Palette& palette, const RemapOptions& options, int reports = 1000) {
+  Remapper remapper(palette);
+  expectLiteral(remapper, image, palette, options, reports);
+}
+
+const std::vector<RemapOptions> kOptions{
+    {RemapMode::nearest, {}, {}},
+    {RemapMode::dither, {}, {}},
+    {RemapMode::dither, {}, ProtectGrid{1, 1}},
+    {RemapMode::dither, {}, ProtectGrid{3, 5}},
+    {RemapMode::dither, {}, ProtectGrid{1000, 7}},
+    {RemapMode::dither, 0, {}},
+    {RemapMode::dither, 2, ProtectGrid{5, 3}},
+};
+
+TEST(RemapIdentity, HoldsForPalettesOfAllSizesAndKinds) {
+  std::uint32_t seed = 0;
+  for (const std::int32_t size : {1, 2, 3, 16, 17, 24, 25, 216, 255, 256, 300, 1024}) {
+    for (std::size_t paletteKind = 0; paletteKind < kColorKinds.size(); ++paletteKind) {
+      Random random(++seed);
+      const Palette palette = paletteOf(size, kColorKinds[paletteKind], random);
+      const MakeColor anEntry = [&](Random& source) { return palette.entry(source.upTo(255) % palette.getSize()); };
+      // Of the palette's own kind, of another one, and colors of the palette itself.
+      const std::array makers{kColorKinds[paletteKind], kColorKinds[seed % kColorKinds.size()], anEntry};
+      for (std::size_t kind = 0; kind < makers.size(); ++kind) {
+        const std::size_t run = kind == 0 ? 1 : 60;
+        const WorkImage image = imageOf(29, 23, run, makers[kind], random);
+        const RemapOptions& options = kOptions[(seed + kind) % kOptions.size()];
+        SCOPED_TRACE(testing::Message() << size << " entries of kind " << paletteKind << ", image " << kind);
+        expectLiteral(image, palette, options);
+        expectLiteral(image, palette, {RemapMode::nearest, {}, {}});
+        expectLiteral(image, palette, {RemapMode::dither, {}, {}});
+      }
+    }
+  }
+}
+
+TEST(RemapIdentity, HoldsForSmallSizesAndAllOptions) {
+  Random random(7);
+  for (std::int32_t width = 1; width <= 20; ++width) {
+    for (const std::int32_t height : {1, 2, 4, 5, 6, 17, 18, 21}) {
+      const Palette palette = paletteOf(width + 14, kColorKinds[0], random);
+      const WorkImage image = imageOf(width, height, 3, kColorKinds[0], random);
+      for (const RemapOptions& options : kOptions) {
+        SCOPED_TRACE(testing::Message() << width << " x " << height);
+        expectLiteral(image, palette, options);
+      }
+    }
+  }
+}
+
+TEST(RemapIdentity, HoldsForIndexedImages) {
+  Random random(8);
+  for (const std::int32_t colors : {16, 256}) {
+    WorkImage image(21, 35, paletteOf(colors, kColorKinds[0], random));
+    std::ranges::generate(image.pixels(), [&] { return static_cast<std::uint8_t>(random.upTo(255) % colors); });
+    for (const std::int32_t size : {2, 200}) {
+      const Palette palette = paletteOf(size, kColorKinds[0], random);
+      for (const RemapOptions& options : kOptions) {
+        expectLiteral(image, palette, options);
+      }
+      expectLiteral(image, palette, {RemapMode::maintain, {}, {}});
+    }
+  }
+}
+
+// A flat image that a palette can't make up for: errors grow over all borders of cells until they wrap.
+TEST(RemapIdentity, HoldsWhereErrorsLeaveAnyRange) {
+  const MakeColor white = [](Random& /*random*/) { return PaletteEntry{255, 255, 255}; };
+  const MakeColor black = [](Random& /*random*/) { return PaletteEntry{}; };
+  const MakeColor mixed = [](Random& random) { return random.colorUpTo(255); };
+  Random random(9);
+  for (const auto& [size, kind, color] : {std::tuple{3, 3, white},
+                                          {40, 3, white},
+                                          {1, 3, white},
+                                          {256, 3, white},
+                                          {30, 4, black},
+                                          {60, 5, black},
+                                          {60, 5, mixed},
+                                          {24, 4, mixed}}) {
+    const Palette palette = paletteOf(size, kColorKinds[static_cast<std::size_t>(kind)], random);
+    const WorkImage image = imageOf(101, 140, 500, color, random);
+    SCOPED_TRACE(testing::Message() << size << " entries of kind " << kind);
+    expectLiteral(image, palette, {RemapMode::dither, {}, {}});
+    expectLiteral(image, palette, {RemapMode::dither, {}, ProtectGrid{64, 1000}});
+  }
+}
+
+TEST(RemapIdentity, HoldsForProtectedColors) {
+  Random random(10);
+  Palette palette = paletteOf(50, kColorKinds[0], random);
+  palette.setEntry(7, {9, 9, 9});
+  palette.setEntry(30, {9, 9, 9});
+  const MakeColor everywhere = [](Random& /*random*/) { return PaletteEntry{9, 9, 9}; };
+  const MakeColor often = [](Random& source) {
+    return source.upTo(2) == 0 ? PaletteEntry{9, 9, 9} : source.colorUpTo(255);
+  };
+  for (const MakeColor& make : {everywhere, often, kColorKinds[4]}) {
+    const WorkImage image = imageOf(31, 33, 2, make, random);
+    for (const std::int32_t entry : {7, 30, 49, 50, 256, -1}) {
+      expectLiteral(image, palette, {RemapMode::dither, entry, {}});
+      expectLiteral(image, palette, {RemapMode::dither, entry, ProtectGrid{4, 4}});
+    }
+  }
+}
+
+TEST(RemapIdentity, HoldsWhereverARunIsStopped) {
+  Random random(11);
+  const Palette palette = paletteOf(30, kColorKinds[0], random);
+  const WorkImage image = imageOf(13, 70, 1, kColorKinds[0], random);
+  for (const RemapOptions& options : kOptions) {
+    for (int reports = 1; reports <= 6; ++reports) {
+      expectLiteral(image, palette, options, reports);
+    }
+  }
+}
+
+// What was learned from one image serves the next.
+TEST(RemapIdentity, HoldsForManyImagesOfOneRemapper) {
+  Random random(12);
+  const Palette palette = paletteOf(100, kColorKinds[0], random);
+  Remapper remapper(palette);
+  for (const std::int32_t side : {40, 20, 41}) {
+    const WorkImage image = imageOf(side, side, 2, kColorKinds[0], random);
+    for (const RemapOptions& options : kOptions) {
+      expectLiteral(remapper, image, palette, options);
+    }
+  }
+}
+
+// Large images take another way to the nearest colors.
+TEST(RemapIdentity, HoldsForLargeImages) {
+  Random random(13);
+  const Palette palette = paletteOf(3, kColorKinds[0], random);
+  Remapper remapper(palette);
+  expectLiteral(remapper, imageOf(1031, 1024, 1, kColorKinds[0], random), palette, {});
+  expectLiteral(remapper, imageOf(3, 3, 1, kColorKinds[0], random), palette, {});
+}
+
+TEST(NearestTable, EqualsTheLiteralRules) {
+  Random random(14);
+  for (const std::int32_t size : {1, 5, 255, 256}) {
+    for (const MakeColor& make : kColorKinds) {
+      const Palette palette = paletteOf(size, make, random);
+      const std::vector<PaletteEntry> entries = entriesOf(palette);
+      NearestTable table(entries);
+      const WorkImage image = imageOf(900, 1, 1, kColorKinds[random.upTo(2)], random);
+      RemappedImage expected;
+      StoppingProgress progress(1000);
+      (void)literalRemap(image, palette, {}, expected, progress);
+      std::vector<std::uint8_t> indexes(900);
+      // The second time everything is found already.
+      for (int time = 0; time < 2; ++time) {
+        std::ranges::fill(indexes, std::uint8_t{77});
+        table.remapRow(image.row(0), indexes);
+        EXPECT_TRUE(std::ranges::equal(indexes, expected.row(0)));
+      }
+    }
+  }
+}
+
+// Without memory for lists all colors are compared, with the same results.
+TEST(NearestEntry, WorksWithoutMemoryForLists) {
+  Random random(15);
+  const Palette palette = paletteOf(256, kColorKinds[3], random);
+  const std::vector<PaletteEntry> entries = entriesOf(palette);
+  NearestEntry without(entries, 0);
+  NearestEntry with(entries, std::size_t{1} << 20);
+  for (int i = 0; i < 30000; ++i) {
+    ColorLanes target = lanesOfPixel(pixelOf(random.colorUpTo(i % 3 == 0 ? 255 : 40)));
+    if (i % 2 == 0) {
+      target = shiftedLeft<3>(target) - shiftedLeft<2>(lanesOfPixel(0x40FFFF));
+    }
+    ASSERT_EQ(without.find(target), with.find(target)) << i;
+  }
+}
+
+}  // namespace
+}  // namespace quillhue
