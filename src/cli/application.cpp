@@ -1,24 +1,17 @@
 #include "cli/application.h"
 
-#include <algorithm>
 #include <exception>
 #include <sstream>
+#include <utility>
 
 #include "cli/refusal.h"
 #include "cli/verbs.h"
 
 namespace quillhue::cli {
 
-namespace {
-
-constexpr const char* kVersion = "quillhue-cli " QUILLHUE_VERSION;
-
-}  // namespace
-
 int run(std::vector<std::string> arguments, Console& console) {
-  CLI::App tool("Makes, shows, edits and converts palettes: ordered lists of red-green-blue entries.", "quillhue-cli");
-  tool.allow_windows_style_options(false);
-  tool.require_subcommand(1);
+  CommandLine tool("quillhue-cli", "quillhue-cli " QUILLHUE_VERSION,
+                   "Makes, shows, edits and converts palettes: ordered lists of red-green-blue entries.");
   ExitStatus status = kDone;
   addFormatsVerb(tool, console, status);
   addInfoVerb(tool, console, status);
@@ -29,18 +22,12 @@ int run(std::vector<std::string> arguments, Console& console) {
   addRemapVerb(tool, console, status);
   addEffectsVerb(tool, console, status);
   addModelsVerb(tool, console, status);
-  tool.set_version_flag("--version", kVersion);
-  for (CLI::App* verb : tool.get_subcommands({})) {
-    verb->set_version_flag("--version", kVersion);
-  }
   try {
-    // The parser takes its arguments last one first.
-    std::ranges::reverse(arguments);
-    tool.parse(std::move(arguments));
-  } catch (const CLI::ParseError& error) {
     std::ostringstream refused;
-    status = tool.exit(error, console.out, refused) == 0 ? kDone : kWrongUsage;
-    console.err << printable(refused.str());
+    if (!tool.run(std::move(arguments), console.out, refused)) {
+      console.err << printable(refused.str());
+      status = kWrongUsage;
+    }
   } catch (const std::exception& error) {
     console.err << error.what() << '\n';
     status = kRefused;

@@ -1,6 +1,7 @@
 #include "cli/arguments.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <iterator>
 #include <sstream>
@@ -9,6 +10,15 @@
 #include "cli/refusal.h"
 
 namespace quillhue::cli {
+
+namespace {
+
+std::string inLowerCase(std::string text) {
+  std::ranges::transform(text, text.begin(), [](unsigned char letter) { return std::tolower(letter); });
+  return text;
+}
+
+}  // namespace
 
 std::optional<std::int32_t> parseNumber(std::string_view text) {
   if (text.size() > 1 && text[0] == '+' && text[1] != '-') {
@@ -62,8 +72,8 @@ std::optional<std::size_t> placeOf(const std::vector<std::string>& names, const 
 
 std::optional<std::size_t> placeOfAnyCase(const std::vector<std::string>& names, const std::string& name) {
   std::vector<std::string> lowerNames;
-  std::ranges::transform(names, std::back_inserter(lowerNames), CLI::detail::to_lower);
-  return placeOf(lowerNames, CLI::detail::to_lower(name));
+  std::ranges::transform(names, std::back_inserter(lowerNames), inLowerCase);
+  return placeOf(lowerNames, inLowerCase(name));
 }
 
 std::string refusedName(const std::string& name, const std::vector<std::string>& names) {
@@ -112,34 +122,26 @@ std::expected<void, std::string> checkEntry(std::int32_t entry, std::int32_t siz
   return Refusal(text.str());
 }
 
-void addNumberOption(CLI::App& verb, const std::string& name, std::optional<std::int32_t>& number,
-                     const ValueRange& range, const std::string& help) {
-  verb.add_option_function<std::string>(
-          name,
-          [name, range, &number](const std::string& text) {
-            number = parseNumber(text);
-            if (!number || !range.contains(*number)) {
-              std::ostringstream refused;
-              refused << text << " is not a number from " << range.minimum << " to " << range.maximum;
-              throw CLI::ValidationError(name, refused.str());
-            }
-          },
-          help)
-      ->type_name("N");
+void addNumberOption(Verb& verb, const std::string& name, std::optional<std::int32_t>& number, const ValueRange& range,
+                     const std::string& help) {
+  verb.addAction({name, "N", help, [name, range, &number](const std::string& text) {
+                    number = parseNumber(text);
+                    if (!number || !range.contains(*number)) {
+                      std::ostringstream refused;
+                      refused << text << " is not a number from " << range.minimum << " to " << range.maximum;
+                      refuseUsage(name, refused.str());
+                    }
+                  }});
 }
 
-void addColorOption(CLI::App& verb, const std::string& name, PaletteEntry& color, const std::string& help) {
-  verb.add_option_function<std::string>(
-          name,
-          [name, &color](const std::string& text) {
-            const auto parsed = parseColor(text);
-            if (!parsed) {
-              throw CLI::ValidationError(name, refusedColor(text));
-            }
-            color = *parsed;
-          },
-          help)
-      ->type_name("R,G,B");
+void addColorOption(Verb& verb, const std::string& name, PaletteEntry& color, const std::string& help) {
+  verb.addAction({name, "R,G,B", help, [name, &color](const std::string& text) {
+                    const auto parsed = parseColor(text);
+                    if (!parsed) {
+                      refuseUsage(name, refusedColor(text));
+                    }
+                    color = *parsed;
+                  }});
 }
 
 }  // namespace quillhue::cli

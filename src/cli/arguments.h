@@ -1,6 +1,5 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <cstdint>
 #include <expected>
 #include <optional>
@@ -10,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "cli/command_line.h"
 #include "core/palette_entry.h"
 #include "core/value_range.h"
 
@@ -69,10 +69,10 @@ class EntryList {
 [[nodiscard]] std::expected<void, std::string> checkEntry(std::int32_t entry, std::int32_t size);
 
 /// Adds an option that takes a whole number in decimal digits.
-void addNumberOption(CLI::App& verb, const std::string& name, std::optional<std::int32_t>& number,
-                     const ValueRange& range, const std::string& help);
+void addNumberOption(Verb& verb, const std::string& name, std::optional<std::int32_t>& number, const ValueRange& range,
+                     const std::string& help);
 
 /// Adds an option that takes a color.
-void addColorOption(CLI::App& verb, const std::string& name, PaletteEntry& color, const std::string& help);
+void addColorOption(Verb& verb, const std::string& name, PaletteEntry& color, const std::string& help);
 
 }  // namespace quillhue::cli

@@ -84,7 +84,7 @@ bool convertFile(const std::string& from, const std::string& to, const PaletteWr
 
 ExitStatus convertAll(const std::string& outDir, const ConvertOptions& options, Console& console) {
   if (options.format.empty()) {
-    throw CLI::ValidationError("--format", "is needed with --out-dir");
+    refuseUsage("--format", "is needed with --out-dir");
   }
   const PaletteWriter& writer = chooseWriter(options.format, {});
   const FolderOutput output{outDir, writer.extension, options.name, options.force};
@@ -95,13 +95,13 @@ ExitStatus convertAll(const std::string& outDir, const ConvertOptions& options, 
 
 ExitStatus convert(const ConvertOptions& options, Console& console) {
   if (options.size && options.colors.empty()) {
-    throw CLI::ValidationError("--size", "goes with --colors");
+    refuseUsage("--size", "goes with --colors");
   }
   if (options.outDir) {
     return convertAll(*options.outDir, options, console);
   }
   if (options.files.size() != 2) {
-    throw CLI::ValidationError("convert", "takes IN and OUT, or any number of files with --out-dir");
+    refuseUsage("convert", "takes IN and OUT, or any number of files with --out-dir");
   }
   const std::string& to = options.files[1];
   return convertFile(options.files[0], to, chooseWriter(options.format, to), options, console) ? kDone : kRefused;
@@ -109,23 +109,22 @@ ExitStatus convert(const ConvertOptions& options, Console& console) {
 
 }  // namespace
 
-void addConvertVerb(CLI::App& tool, Console& console, ExitStatus& status) {
-  CLI::App* const verb = tool.add_subcommand("convert", "Convert palettes from one format to another");
+void addConvertVerb(CommandLine& tool, Console& console, ExitStatus& status) {
+  Verb verb = tool.addVerb("convert", "Convert palettes from one format to another");
   const auto options = std::make_shared<ConvertOptions>();
-  verb->add_option("FILE", options->files,
-                   "IN and OUT; with --out-dir any number of files and folders of them. - is standard input or output")
-      ->required();
-  verb->add_option("--name", options->name, "The file name that standard input is taken to have");
-  verb->add_option("--out-dir", options->outDir, "Convert all files into this folder");
-  addFormatOption(*verb, options->format);
-  verb->add_option("--colors", options->colors, "How an image without a palette becomes one: its colors, or fewer")
-      ->check(CLI::IsMember({"exact", "reduce"}));
-  addNumberOption(*verb, "--size", options->size, {1, kMaxPaletteSize},
+  verb.addArgument("FILE", options->files,
+                   "IN and OUT; with --out-dir any number of files and folders of them. - is standard input or output");
+  verb.addOption("--name", options->name, "The file name that standard input is taken to have");
+  verb.addOption("--out-dir", options->outDir, "Convert all files into this folder");
+  addFormatOption(verb, options->format);
+  verb.addChoice("--colors", options->colors, {"exact", "reduce"},
+                 "How an image without a palette becomes one: its colors, or fewer");
+  addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},
                   "The number of entries for --colors (default: all colors, reduced 256)");
-  addColorOption(*verb, "--blank", options->blank,
+  addColorOption(verb, "--blank", options->blank,
                  "The color of entries that a format has and the palette has not (default 0,0,0)");
-  addForceFlag(*verb, options->force);
-  verb->callback([options, &console, &status] { status = convert(*options, console); });
+  addForceFlag(verb, options->force);
+  verb.onRun([options, &console, &status] { status = convert(*options, console); });
 }
 
 }  // namespace quillhue::cli

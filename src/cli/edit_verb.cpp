@@ -30,16 +30,15 @@ struct EditOptions {
   bool json = false;
 };
 
-Json editedJson(const EditOptions& options, const PaletteWriter& writer, const PaletteDocument& document) {
+JsonObject editedJson(const EditOptions& options, const PaletteWriter& writer, const PaletteDocument& document) {
   const ColorCount count = countColors(document);
-  Json json = paletteJson(options.to, writer.name, writer.format, document.getPalette());
-  json["selected"] = selectedIndexes(document.getPalette());
-  json["modificationCount"] = document.modificationCount();
-  json["canUndo"] = document.canUndo();
-  json["canRedo"] = document.canRedo();
-  json["different"] = {{"palette", count.palette}, {"selection", count.selection}};
-  json["average"] = colorJson(averageColor(document));
-  return json;
+  JsonObject json = paletteJson(options.to, writer.name, writer.format, document.getPalette());
+  return json.add("selected", selectedIndexes(document.getPalette()))
+      .add("modificationCount", document.modificationCount())
+      .add("canUndo", document.canUndo())
+      .add("canRedo", document.canRedo())
+      .add("different", JsonObject().add("palette", count.palette).add("selection", count.selection))
+      .add("average", averageColor(document));
 }
 
 ExitStatus edit(const EditOptions& options, Console& console) {
@@ -72,41 +71,36 @@ ExitStatus edit(const EditOptions& options, Console& console) {
 }
 
 // Steps are kept in the order in which they are written.
-void addStep(CLI::App& verb, const StepKind& kind, const std::shared_ptr<EditOptions>& options) {
+void addStep(Verb& verb, const StepKind& kind, const std::shared_ptr<EditOptions>& options) {
   const auto keep = [options, &kind](const std::string& argument) {
     auto step = kind.parse(argument);
     if (!step) {
-      throw CLI::ValidationError(kind.option, step.error());
+      refuseUsage(kind.option, step.error());
     }
     const std::string text = kind.argument == nullptr ? kind.option : kind.option + (' ' + argument);
     options->steps.push_back({&kind, text, *std::move(step)});
   };
-  CLI::Option* const option =
-      kind.argument == nullptr
-          ? verb.add_flag_callback(
-                kind.option, [keep] { keep({}); }, kind.help)
-          : verb.add_option_function<std::string>(kind.option, keep, kind.help)->type_name(kind.argument);
-  // A flag takes no value, not even the parser's own "=false".
-  option->disable_flag_override()->trigger_on_parse()->group("Steps, in the order in which they are written");
+  verb.addOrderedAction({kind.option, kind.argument == nullptr ? "" : kind.argument, kind.help, keep},
+                        "Steps, in the order in which they are written");
 }
 
 }  // namespace
 
-void addEditVerb(CLI::App& tool, Console& console, ExitStatus& status) {
-  CLI::App* const verb = tool.add_subcommand("edit", "Change a palette, step by step");
+void addEditVerb(CommandLine& tool, Console& console, ExitStatus& status) {
+  Verb verb = tool.addVerb("edit", "Change a palette, step by step");
   const auto options = std::make_shared<EditOptions>();
-  verb->add_option("IN", options->from, "The palette or image file to read, or - for standard input")->required();
-  verb->add_option("OUT", options->to, "The file to write, or - for standard output")->required();
-  verb->add_option("--name", options->name, "The file name that standard input is taken to have");
-  addFormatOption(*verb, options->format);
-  addForceFlag(*verb, options->force);
-  verb->add_flag("--json", options->json, "Write JSON: the palette that was written, and what the steps left");
+  verb.addArgument("IN", options->from, "The palette or image file to read, or - for standard input");
+  verb.addArgument("OUT", options->to, "The file to write, or - for standard output");
+  verb.addOption("--name", options->name, "The file name that standard input is taken to have");
+  addFormatOption(verb, options->format);
+  addForceFlag(verb, options->force);
+  verb.addFlag("--json", options->json, "Write JSON: the palette that was written, and what the steps left");
   for (const auto& kinds : {selectionSteps(), colorSteps(), documentSteps(), entrySteps()}) {
     for (const StepKind& kind : kinds) {
-      addStep(*verb, kind, options);
+      addStep(verb, kind, options);
     }
   }
-  verb->callback([options, &console, &status] { status = edit(*options, console); });
+  verb.onRun([options, &console, &status] { status = edit(*options, console); });
 }
 
 }  // namespace quillhue::cli

@@ -12,12 +12,13 @@ namespace {
 void showJson(Console& console) {
   for (const EffectDescription* effect : effects()) {
     const bool bySize = effect->followsPaletteSize;
-    writeJson(console, {{"name", effect->name},
-                        {"label", effect->label},
-                        {"minimum", bySize ? Json() : Json(effect->range.minimum)},
-                        {"maximum", bySize ? Json() : Json(effect->range.maximum)},
-                        {"default", effect->defaultValue},
-                        {"meaning", effect->meaning}});
+    writeJson(console, JsonObject()
+                           .add("name", effect->name)
+                           .add("label", effect->label)
+                           .add("minimum", bySize ? Json() : jsonOf(effect->range.minimum))
+                           .add("maximum", bySize ? Json() : jsonOf(effect->range.maximum))
+                           .add("default", effect->defaultValue)
+                           .add("meaning", effect->meaning));
   }
 }
 
@@ -35,7 +36,7 @@ void showText(Console& console) {
 
 }  // namespace
 
-void addEffectsVerb(CLI::App& tool, Console& console, ExitStatus& /*status*/) {
+void addEffectsVerb(CommandLine& tool, Console& console, ExitStatus& /*status*/) {
   addListVerb(tool, console, "effects", "List the effects: name, values, default",
               "Write JSON, one object a line for each effect (null: the palette's size)", showText, showJson);
 }

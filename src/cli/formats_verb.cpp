@@ -1,4 +1,5 @@
 #include <iomanip>
+#include <vector>
 
 #include "cli/json.h"
 #include "cli/list_verb.h"
@@ -11,20 +12,22 @@ namespace quillhue::cli {
 namespace {
 
 void showJson(Console& console) {
-  Json written = Json::array();
+  std::vector<JsonObject> written;
   for (const PaletteWriter* writer : paletteWriters()) {
     const bool limited = writer->maxSize != kAnySize;
-    written.push_back({{"name", writer->name},
-                       {"code", writer->format},
-                       {"fileType", writer->fileType},
-                       {"extension", writer->extension},
-                       {"maxSize", limited ? Json(writer->maxSize) : Json()}});
+    written.push_back(JsonObject()
+                          .add("name", writer->name)
+                          .add("code", writer->format)
+                          .add("fileType", writer->fileType)
+                          .add("extension", writer->extension)
+                          .add("maxSize", limited ? jsonOf(writer->maxSize) : Json()));
   }
-  Json read = Json::array();
+  std::vector<JsonObject> read;
   for (const PaletteReader* reader : paletteReaders()) {
-    read.push_back({{"name", reader->name}, {"title", reader->title}, {"recognisedBy", reader->recognisedBy}});
+    read.push_back(
+        JsonObject().add("name", reader->name).add("title", reader->title).add("recognisedBy", reader->recognisedBy));
   }
-  writeJson(console, {{"written", written}, {"read", read}});
+  writeJson(console, JsonObject().add("written", written).add("read", read));
 }
 
 void showText(Console& console) {
@@ -48,7 +51,7 @@ void showText(Console& console) {
 
 }  // namespace
 
-void addFormatsVerb(CLI::App& tool, Console& console, ExitStatus& /*status*/) {
+void addFormatsVerb(CommandLine& tool, Console& console, ExitStatus& /*status*/) {
   addListVerb(tool, console, "formats", "List the formats that can be written and read", "Write JSON", showText,
               showJson);
 }

@@ -33,7 +33,7 @@ void showFilePalette(const std::string& file, const Input& input, bool json, Con
 
 void showImage(const std::string& file, const Input& input, std::uint64_t colors, bool json, Console& console) {
   if (json) {
-    writeJson(console, {{"file", file}, {"format", input.reader->name}, {"colors", colors}});
+    writeJson(console, JsonObject().add("file", file).add("format", input.reader->name).add("colors", colors));
     return;
   }
   console.out << file << ": " << input.reader->title << " without a palette, " << colors
@@ -73,14 +73,13 @@ ExitStatus showAll(const InfoOptions& options, Console& console) {
 
 }  // namespace
 
-void addInfoVerb(CLI::App& tool, Console& console, ExitStatus& status) {
-  CLI::App* const verb = tool.add_subcommand("info", "Show the palettes of files");
+void addInfoVerb(CommandLine& tool, Console& console, ExitStatus& status) {
+  Verb verb = tool.addVerb("info", "Show the palettes of files");
   const auto options = std::make_shared<InfoOptions>();
-  verb->add_option("FILE", options->files, "Palette or image files, folders of them, or - for standard input")
-      ->required();
-  verb->add_option("--name", options->name, "The file name that standard input is taken to have");
-  verb->add_flag("--json", options->json, "Write JSON, one object a line for each file");
-  verb->callback([options, &console, &status] { status = showAll(*options, console); });
+  verb.addArgument("FILE", options->files, "Palette or image files, folders of them, or - for standard input");
+  verb.addOption("--name", options->name, "The file name that standard input is taken to have");
+  verb.addFlag("--json", options->json, "Write JSON, one object a line for each file");
+  verb.onRun([options, &console, &status] { status = showAll(*options, console); });
 }
 
 }  // namespace quillhue::cli

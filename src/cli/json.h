@@ -1,8 +1,9 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
+#include <concepts>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "cli/console.h"
 #include "core/palette.h"
@@ -10,32 +11,62 @@
 
 namespace quillhue::cli {
 
-/// Fields stay in the order in which they are set.
-using Json = nlohmann::ordered_json;
+/// A value in JSON; the default is null.
+struct Json {
+  std::string text = "null";
+};
 
-[[nodiscard]] inline Json colorJson(const PaletteEntry& color) { return {color.red, color.green, color.blue}; }
+class JsonObject;
 
-[[nodiscard]] inline Json entriesJson(const Palette& palette) {
-  Json entries = Json::array();
-  for (const PaletteEntry& color : entriesOf(palette)) {
-    entries.push_back(colorJson(color));
+/// Text that is not UTF-8 (a file name) is mended, not refused.
+[[nodiscard]] Json jsonOf(std::string_view text);
+[[nodiscard]] Json jsonOf(const JsonObject& object);
+[[nodiscard]] Json jsonOf(const PaletteEntry& color);
+[[nodiscard]] inline Json jsonOf(const Json& value) { return value; }
+
+template <std::integral Number>
+[[nodiscard]] Json jsonOf(Number number) {
+  if constexpr (std::same_as<Number, bool>) {
+    return {number ? "true" : "false"};
+  } else {
+    return {std::to_string(number)};
   }
-  return entries;
 }
+
+/// The array of such values.
+[[nodiscard]] Json jsonArray(const std::vector<Json>& values);
+
+template <typename Value>
+[[nodiscard]] Json jsonOf(const std::vector<Value>& values) {
+  std::vector<Json> converted;
+  converted.reserve(values.size());
+  for (const Value& value : values) {
+    converted.push_back(jsonOf(value));
+  }
+  return jsonArray(converted);
+}
+
+/// An object whose fields stay in the order in which they are added.
+class JsonObject {
+ public:
+  template <typename Value>
+  JsonObject& add(std::string_view name, const Value& value) {
+    return addField(name, jsonOf(value));
+  }
+
+  [[nodiscard]] std::string text() const { return '{' + fields_ + '}'; }
+
+ private:
+  JsonObject& addField(std::string_view name, const Json& value);
+
+  std::string fields_;
+};
 
 /// What `info` tells of a palette, and what was written tells of itself.
-[[nodiscard]] inline Json paletteJson(const std::string& file, std::string_view format, PaletteFormat code,
-                                      const Palette& palette) {
-  return {{"file", file},
-          {"format", format},
-          {"code", code},
-          {"size", palette.getSize()},
-          {"entries", entriesJson(palette)}};
-}
+[[nodiscard]] JsonObject paletteJson(const std::string& file, std::string_view format, PaletteFormat code,
+                                     const Palette& palette);
 
-/// Writes one value on a line of its own. Text that is not UTF-8 (a file name) is mended, not refused.
-inline void writeJson(Console& console, const Json& value) {
-  console.out << value.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
-}
+/// Writes one object on a line of its own.
+void writeJson(Console& console, const JsonObject& object);
 
 }  // namespace quillhue::cli

@@ -4,12 +4,12 @@
 
 namespace quillhue::cli {
 
-void addListVerb(CLI::App& tool, Console& console, const std::string& name, const std::string& help,
+void addListVerb(CommandLine& tool, Console& console, const std::string& name, const std::string& help,
                  const std::string& jsonHelp, void (*showText)(Console& console), void (*showJson)(Console& console)) {
-  CLI::App* const verb = tool.add_subcommand(name, help);
+  Verb verb = tool.addVerb(name, help);
   const auto json = std::make_shared<bool>(false);
-  verb->add_flag("--json", *json, jsonHelp);
-  verb->callback([json, showText, showJson, &console] { *json ? showJson(console) : showText(console); });
+  verb.addFlag("--json", *json, jsonHelp);
+  verb.onRun([json, showText, showJson, &console] { *json ? showJson(console) : showText(console); });
 }
 
 }  // namespace quillhue::cli

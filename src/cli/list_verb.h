@@ -1,14 +1,14 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <string>
 
+#include "cli/command_line.h"
 #include "cli/console.h"
 
 namespace quillhue::cli {
 
 /// Adds a verb that lists what the tool knows, as text or with --json as JSON. `jsonHelp` says what that looks like.
-void addListVerb(CLI::App& tool, Console& console, const std::string& name, const std::string& help,
+void addListVerb(CommandLine& tool, Console& console, const std::string& name, const std::string& help,
                  const std::string& jsonHelp, void (*showText)(Console& console), void (*showJson)(Console& console));
 
 }  // namespace quillhue::cli

@@ -10,17 +10,21 @@ namespace quillhue::cli {
 
 namespace {
 
-Json channelJson(const ChannelDescription& channel) {
-  return {{"name", channel.name}, {"minimum", channel.range.minimum}, {"maximum", channel.range.maximum}};
+JsonObject channelJson(const ChannelDescription& channel) {
+  return JsonObject()
+      .add("name", channel.name)
+      .add("minimum", channel.range.minimum)
+      .add("maximum", channel.range.maximum);
 }
 
 void showJson(Console& console) {
   for (const ColorModel* model : colorModels()) {
     const auto& [left, middle, right] = model->channels;
-    writeJson(console, {{"name", model->name},
-                        {"left", channelJson(left)},
-                        {"middle", channelJson(middle)},
-                        {"right", channelJson(right)}});
+    writeJson(console, JsonObject()
+                           .add("name", model->name)
+                           .add("left", channelJson(left))
+                           .add("middle", channelJson(middle))
+                           .add("right", channelJson(right)));
   }
 }
 
@@ -40,7 +44,7 @@ void showText(Console& console) {
 
 }  // namespace
 
-void addModelsVerb(CLI::App& tool, Console& console, ExitStatus& /*status*/) {
+void addModelsVerb(CommandLine& tool, Console& console, ExitStatus& /*status*/) {
   addListVerb(tool, console, "models", "List the color models: left, middle and right channel",
               "Write JSON, one object a line for each model", showText, showJson);
 }

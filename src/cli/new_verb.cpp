@@ -48,7 +48,7 @@ constexpr std::array<Generator, 3> kGenerators{{
 
 void refuseOption(bool given, const char* option, const char* kinds) {
   if (given) {
-    throw CLI::ValidationError(option, std::string("goes with ") + kinds);
+    refuseUsage(option, std::string("goes with ") + kinds);
   }
 }
 
@@ -62,7 +62,7 @@ Palette generate(const Generator& generator, const NewOptions& options) {
   fields.levels = options.levels.value_or(fields.levels);
   const auto accepted = acceptNewPalette(generator.kind, fields, settings);
   if (!accepted) {
-    throw CLI::ValidationError("--size", std::string(accepted.error()) + ' ' + minimumSizeText(generator.kind, fields));
+    refuseUsage("--size", std::string(accepted.error()) + ' ' + minimumSizeText(generator.kind, fields));
   }
   return generator.create(*accepted, options.blank);
 }
@@ -106,7 +106,7 @@ RgbLevels parseLevels(const std::string& text) {
   for (std::size_t i = 0; i < levels.size(); ++i) {
     const auto level = i < parts.size() ? parseNumber(parts[i]) : std::nullopt;
     if (parts.size() != levels.size() || !level || *level < kMinRgbLevel || *level > kMaxRgbLevel) {
-      throw CLI::ValidationError("--levels", text + " is not three numbers of 1 to 256 like 6,7,6");
+      refuseUsage("--levels", text + " is not three numbers of 1 to 256 like 6,7,6");
     }
     levels[i] = *level;
   }
@@ -115,23 +115,21 @@ RgbLevels parseLevels(const std::string& text) {
 
 }  // namespace
 
-void addNewVerb(CLI::App& tool, Console& console, ExitStatus& status) {
-  CLI::App* const verb = tool.add_subcommand("new", "Make a new palette");
+void addNewVerb(CommandLine& tool, Console& console, ExitStatus& status) {
+  Verb verb = tool.addVerb("new", "Make a new palette");
   const auto options = std::make_shared<NewOptions>();
-  verb->add_option("KIND", options->kind, "What to make")->required()->check(CLI::IsMember(kindNames()));
-  verb->add_option("OUT", options->file, "The file to write, or - for standard output")->required();
-  addNumberOption(*verb, "--size", options->size, {1, kMaxPaletteSize},
+  verb.addChoiceArgument("KIND", options->kind, kindNames(), "What to make");
+  verb.addArgument("OUT", options->file, "The file to write, or - for standard output");
+  addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},
                   "The number of entries of blank, greyscale and rgb (default 256)");
-  verb->add_option_function<std::string>(
-          "--levels", [options](const std::string& text) { options->levels = parseLevels(text); },
-          "How many values red, green and blue take in rgb (default 6,7,6)")
-      ->type_name("R,G,B");
-  verb->add_flag("--windows-colors", options->windowsColors, "Include the 20 Windows colors in blank or rgb");
-  addColorOption(*verb, "--blank", options->blank, "The color of unused entries (default 0,0,0)");
-  addFormatOption(*verb, options->format);
-  addForceFlag(*verb, options->force);
-  verb->add_flag("--json", options->json, "Write JSON: the palette that was written");
-  verb->callback([options, &console, &status] { status = makeNew(*options, console); });
+  verb.addAction({"--levels", "R,G,B", "How many values red, green and blue take in rgb (default 6,7,6)",
+                  [options](const std::string& text) { options->levels = parseLevels(text); }});
+  verb.addFlag("--windows-colors", options->windowsColors, "Include the 20 Windows colors in blank or rgb");
+  addColorOption(verb, "--blank", options->blank, "The color of unused entries (default 0,0,0)");
+  addFormatOption(verb, options->format);
+  addForceFlag(verb, options->force);
+  verb.addFlag("--json", options->json, "Write JSON: the palette that was written");
+  verb.onRun([options, &console, &status] { status = makeNew(*options, console); });
 }
 
 }  // namespace quillhue::cli

@@ -10,12 +10,12 @@
 
 namespace quillhue::cli {
 
-void addFormatOption(CLI::App& verb, std::string& format) {
-  verb.add_option("--format", format, "The format to write (default: what OUT's extension stands for)")
-      ->check(CLI::IsMember(namesOf(paletteWriters())));
+void addFormatOption(Verb& verb, std::string& format) {
+  verb.addChoice("--format", format, namesOf(paletteWriters()),
+                 "The format to write (default: what OUT's extension stands for)");
 }
 
-void addForceFlag(CLI::App& verb, bool& force) { verb.add_flag("--force", force, "Replace files that exist"); }
+void addForceFlag(Verb& verb, bool& force) { verb.addFlag("--force", force, "Replace files that exist"); }
 
 const PaletteWriter& chooseWriter(const std::string& format, const std::string& file) {
   for (const PaletteWriter* writer : paletteWriters()) {
@@ -26,7 +26,7 @@ const PaletteWriter& chooseWriter(const std::string& format, const std::string& 
       return *writer;
     }
   }
-  throw CLI::ValidationError("--format", "is needed where the output's extension does not tell the format");
+  refuseUsage("--format", "is needed where the output's extension does not tell the format");
 }
 
 std::expected<void, FileRefusal> writePalette(const std::string& from, const Palette& palette, const std::string& to,
@@ -45,7 +45,7 @@ std::expected<void, FileRefusal> writePalette(const std::string& from, const Pal
 
 void refuseJsonOnStandardOutput(bool json, const std::string& file) {
   if (json && file == "-") {
-    throw CLI::ValidationError("--json", "goes to standard output, so the palette can't");
+    refuseUsage("--json", "goes to standard output, so the palette can't");
   }
 }
 

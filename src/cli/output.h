@@ -1,11 +1,11 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <cstdint>
 #include <expected>
 #include <string>
 #include <vector>
 
+#include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/refusal.h"
 #include "formats/writers/palette_writers.h"
@@ -13,10 +13,10 @@
 namespace quillhue::cli {
 
 /// The options of every verb that writes palettes.
-void addFormatOption(CLI::App& verb, std::string& format);
-void addForceFlag(CLI::App& verb, bool& force);
+void addFormatOption(Verb& verb, std::string& format);
+void addForceFlag(Verb& verb, bool& force);
 
-/// The writer that --format names, or else the one that the file's extension stands for; throws CLI::ValidationError
+/// The writer that --format names, or else the one that the file's extension stands for; refuses the usage
 /// when that tells none.
 [[nodiscard]] const PaletteWriter& chooseWriter(const std::string& format, const std::string& file);
 
@@ -26,7 +26,7 @@ void addForceFlag(CLI::App& verb, bool& force);
                                                             const std::string& to, const PaletteWriter& writer,
                                                             PaletteEntry blank, bool force, Console& console);
 
-/// Throws CLI::ValidationError when data and JSON would both go to standard output.
+/// Refuses the usage when data and JSON would both go to standard output.
 void refuseJsonOnStandardOutput(bool json, const std::string& file);
 
 /// Writes a whole file, or for "-" to standard output. A file that exists is replaced only with `force`.

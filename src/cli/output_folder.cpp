@@ -1,12 +1,12 @@
 #include "cli/output_folder.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
 #include <map>
 #include <system_error>
 
+#include "cli/command_line.h"
 #include "cli/input.h"
 #include "core/utf8.h"
 #include "formats/files.h"
@@ -48,10 +48,10 @@ ExitStatus writeIntoFolder(const FolderOutput& output, const std::vector<std::st
                            const WriteResult& write) {
   // An unset variable of a script must not turn the last file into the output.
   if (output.folder.empty()) {
-    throw CLI::ValidationError("--out-dir", "names no folder");
+    refuseUsage("--out-dir", "names no folder");
   }
   if (std::ranges::find(files, "-") != files.end() && output.streamName.empty()) {
-    throw CLI::ValidationError("--name", "is needed for standard input with --out-dir");
+    refuseUsage("--name", "is needed for standard input with --out-dir");
   }
   const std::filesystem::path folder = toPath(fromUtf8(output.folder));
   std::error_code error;

@@ -25,7 +25,7 @@ using WriteResult = std::function<bool(const std::string& from, const std::strin
 
 /// Calls `write` for every file, and for the files in every folder, with the name of its result, which has the file's
 /// own name and the extension. Within one call no result replaces another one, nor a file that is still to be read.
-/// Throws CLI::ValidationError when the folder or standard input has no name.
+/// Refuses the usage when the folder or standard input has no name.
 ExitStatus writeIntoFolder(const FolderOutput& output, const std::vector<std::string>& files, Console& console,
                            const WriteResult& write);
 

@@ -9,7 +9,7 @@ namespace quillhue::cli {
 ExitStatus refuseFile(const FileRefusal& refused, bool json, Console& console) {
   reportRefusal(console, refused.file, refused.text);
   if (json) {
-    writeJson(console, {{"file", refused.file}, {"error", refused.text}});
+    writeJson(console, JsonObject().add("file", refused.file).add("error", refused.text));
   }
   return kRefused;
 }

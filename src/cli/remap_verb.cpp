@@ -96,17 +96,16 @@ bool remapTo(const std::string& from, const std::string& to, const Target& targe
 void checkUsage(const RemapVerbOptions& options) {
   const bool dithers = options.remap.mode == RemapMode::dither;
   if (options.remap.protectedEntry && !dithers) {
-    throw CLI::ValidationError("--protect-color", "goes with --mode dither");
+    refuseUsage("--protect-color", "goes with --mode dither");
   }
   if (options.remap.protectGrid && !dithers) {
-    throw CLI::ValidationError("--protect-grid", "goes with --mode dither");
+    refuseUsage("--protect-grid", "goes with --mode dither");
   }
   if (options.outDir && options.palette.empty()) {
-    throw CLI::ValidationError("--palette", "is needed with --out-dir");
+    refuseUsage("--palette", "is needed with --out-dir");
   }
   if (!options.outDir && (!options.palette.empty() || options.files.size() != 3)) {
-    throw CLI::ValidationError("remap",
-                               "takes IMAGE, PALETTE and OUT, or any number of images with --palette and --out-dir");
+    refuseUsage("remap", "takes IMAGE, PALETTE and OUT, or any number of images with --palette and --out-dir");
   }
 }
 
@@ -139,7 +138,7 @@ ExitStatus remap(const RemapVerbOptions& options, Console& console) {
 RemapMode parseMode(const std::string& text) {
   const auto place = placeOf(namesOf(kModes), text);
   if (!place) {
-    throw CLI::ValidationError("--mode", refusedName(text, namesOf(kModes)));
+    refuseUsage("--mode", refusedName(text, namesOf(kModes)));
   }
   return kModes[*place].mode;
 }
@@ -150,36 +149,32 @@ ProtectGrid parseGrid(const std::string& text) {
   const auto width = parseNumber(sides.front());
   const auto height = parseNumber(sides.back());
   if (sides.size() != 2 || !width || !height || !kSide.contains(*width) || !kSide.contains(*height)) {
-    throw CLI::ValidationError("--protect-grid", text + " is not a width and a height from 1 to 1000 like 16x16");
+    refuseUsage("--protect-grid", text + " is not a width and a height from 1 to 1000 like 16x16");
   }
   return {*width, *height};
 }
 
 }  // namespace
 
-void addRemapVerb(CLI::App& tool, Console& console, ExitStatus& status) {
-  CLI::App* const verb = tool.add_subcommand("remap", "Turn images into bitmaps that use the colors of a palette");
+void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
+  Verb verb = tool.addVerb("remap", "Turn images into bitmaps that use the colors of a palette");
   const auto options = std::make_shared<RemapVerbOptions>();
-  verb->add_option("FILE", options->files,
+  verb.addArgument("FILE", options->files,
                    "IMAGE (bitmap, clipboard file, PCX, LBM), PALETTE and OUT.bmp; with --out-dir any number of images "
-                   "and folders of them. - is standard input or output")
-      ->required();
-  verb->add_option("--palette", options->palette, "The palette or image file whose colors are used, with --out-dir");
-  verb->add_option("--out-dir", options->outDir, "Write all bitmaps into this folder");
-  verb->add_option("--name", options->name, "The file name that standard input is taken to have, with --out-dir");
-  verb->add_option_function<std::string>(
-          "--mode", [options](const std::string& text) { options->remap.mode = parseMode(text); },
-          "maintain the indexes of an indexed image, take the nearest colors, or dither (default: nearest)")
-      ->type_name("NAME");
-  addNumberOption(*verb, "--protect-color", options->remap.protectedEntry, {0, kMaxUsedEntries - 1},
+                   "and folders of them. - is standard input or output");
+  verb.addOption("--palette", options->palette, "The palette or image file whose colors are used, with --out-dir");
+  verb.addOption("--out-dir", options->outDir, "Write all bitmaps into this folder");
+  verb.addOption("--name", options->name, "The file name that standard input is taken to have, with --out-dir");
+  verb.addAction({"--mode", "NAME",
+                  "maintain the indexes of an indexed image, take the nearest colors, or dither (default: nearest)",
+                  [options](const std::string& text) { options->remap.mode = parseMode(text); }});
+  addNumberOption(verb, "--protect-color", options->remap.protectedEntry, {0, kMaxUsedEntries - 1},
                   "An entry whose exact color is kept when dithering");
-  verb->add_option_function<std::string>(
-          "--protect-grid", [options](const std::string& text) { options->remap.protectGrid = parseGrid(text); },
-          "Cells that dithering treats each for itself, as in 16x16")
-      ->type_name("WxH");
-  addColorOption(*verb, "--blank", options->blank, "The color of unused entries of the bitmap (default 0,0,0)");
-  addForceFlag(*verb, options->force);
-  verb->callback([options, &console, &status] { status = remap(*options, console); });
+  verb.addAction({"--protect-grid", "WxH", "Cells that dithering treats each for itself, as in 16x16",
+                  [options](const std::string& text) { options->remap.protectGrid = parseGrid(text); }});
+  addColorOption(verb, "--blank", options->blank, "The color of unused entries of the bitmap (default 0,0,0)");
+  addForceFlag(verb, options->force);
+  verb.onRun([options, &console, &status] { status = remap(*options, console); });
 }
 
 }  // namespace quillhue::cli

@@ -26,11 +26,12 @@ struct ValuesOptions {
 
 void showEntry(const ColorModel& model, const ColorMode& mode, bool json, Console& console) {
   if (json) {
-    writeJson(console, {{"index", mode.entryIndex()},
-                        {"model", model.name},
-                        {"left", mode.getLeftValue()},
-                        {"middle", mode.getMiddleValue()},
-                        {"right", mode.getRightValue()}});
+    writeJson(console, JsonObject()
+                           .add("index", mode.entryIndex())
+                           .add("model", model.name)
+                           .add("left", mode.getLeftValue())
+                           .add("middle", mode.getMiddleValue())
+                           .add("right", mode.getRightValue()));
     return;
   }
   console.out << std::right << std::setw(4) << mode.entryIndex() << "  " << std::left << std::setw(5) << model.name;
@@ -75,37 +76,29 @@ ExitStatus showValues(const ValuesOptions& options, Console& console) {
 
 }  // namespace
 
-void addValuesVerb(CLI::App& tool, Console& console, ExitStatus& status) {
-  CLI::App* const verb = tool.add_subcommand("values", "Show the entries of a palette in the color models");
+void addValuesVerb(CommandLine& tool, Console& console, ExitStatus& status) {
+  Verb verb = tool.addVerb("values", "Show the entries of a palette in the color models");
   const auto options = std::make_shared<ValuesOptions>();
   options->models.resize(colorModels().size());
   std::iota(options->models.begin(), options->models.end(), 0);
-  verb->add_option("FILE", options->file, "A palette or image file, or - for standard input")->required();
-  verb->add_option("--name", options->name, "The file name that standard input is taken to have");
-  verb->add_option_function<std::string>(
-          "--model",
-          [options](const std::string& name) {
-            const auto model = placeOfAnyCase(namesOf(colorModels()), name);
-            if (!model) {
-              throw CLI::ValidationError("--model", refusedName(name, namesOf(colorModels())));
-            }
-            options->models = {static_cast<std::int32_t>(*model)};
-          },
-          "One color model (default: all)")
-      ->type_name("NAME");
-  verb->add_option_function<std::string>(
-          "--entry",
-          [options](const std::string& text) {
-            auto entries = EntryList::parse(text);
-            if (!entries) {
-              throw CLI::ValidationError("--entry", entries.error());
-            }
-            options->entries = std::move(*entries);
-          },
-          "Only these entries, as in 0-15,20")
-      ->type_name("LIST");
-  verb->add_flag("--json", options->json, "Write JSON, one object a line for each entry and model");
-  verb->callback([options, &console, &status] { status = showValues(*options, console); });
+  verb.addArgument("FILE", options->file, "A palette or image file, or - for standard input");
+  verb.addOption("--name", options->name, "The file name that standard input is taken to have");
+  verb.addAction({"--model", "NAME", "One color model (default: all)", [options](const std::string& name) {
+                    const auto model = placeOfAnyCase(namesOf(colorModels()), name);
+                    if (!model) {
+                      refuseUsage("--model", refusedName(name, namesOf(colorModels())));
+                    }
+                    options->models = {static_cast<std::int32_t>(*model)};
+                  }});
+  verb.addAction({"--entry", "LIST", "Only these entries, as in 0-15,20", [options](const std::string& text) {
+                    auto entries = EntryList::parse(text);
+                    if (!entries) {
+                      refuseUsage("--entry", entries.error());
+                    }
+                    options->entries = std::move(*entries);
+                  }});
+  verb.addFlag("--json", options->json, "Write JSON, one object a line for each entry and model");
+  verb.onRun([options, &console, &status] { status = showValues(*options, console); });
 }
 
 }  // namespace quillhue::cli

@@ -1,15 +1,17 @@
 #include <gtest/gtest.h>
 
+#include <nlohmann/json.hpp>
 #include <sstream>
 
 #include "cli/application.h"
-#include "cli/json.h"
 #include "core/utf8.h"
 #include "support/scratch_folder.h"
 #include "support/table.h"
 
 namespace quillhue::cli {
 namespace {
+
+using Json = nlohmann::ordered_json;
 
 std::string shown(const Json& entries) {
   std::string text;
