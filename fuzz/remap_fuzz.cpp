@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "fuzz_target.h"
-#include "remap/literal_remap.h"
+#include "support/literal_remap.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <numeric>
 #include <random>
 
-#include "remap/literal_remap.h"
+#include "support/literal_remap.h"
 #include "remap/nearest_entry.h"
 #include "remap/nearest_table.h"
 #include "remap/remap.h"

@@ -1,4 +1,4 @@
-#include "remap/literal_remap.h"
+#include "support/literal_remap.h"
 
 #include <algorithm>
 #include <array>
