@@ -58,8 +58,8 @@ void Verb::addOrderedAction(const Action& action, const std::string& group) {
 
 void Verb::onRun(const std::function<void()>& run) { parser_->callback(run); }
 
-CommandLine::CommandLine(const std::string& name, const std::string& version, const std::string& help)
-    : version_(version), parser_(std::make_unique<CLI::App>(help, name)) {
+CommandLine::CommandLine(const std::string& name, std::string version, const std::string& help)
+    : version_(std::move(version)), parser_(std::make_unique<CLI::App>(help, name)) {
   parser_->allow_windows_style_options(false);
   parser_->require_subcommand(1);
 }

@@ -58,7 +58,7 @@ class Verb {
 /// The command line of the tool.
 class CommandLine {
  public:
-  CommandLine(const std::string& name, const std::string& version, const std::string& help);
+  CommandLine(const std::string& name, std::string version, const std::string& help);
   CommandLine(const CommandLine&) = delete;
   CommandLine& operator=(const CommandLine&) = delete;
   ~CommandLine();
