@@ -4,46 +4,52 @@
 
 namespace quillhue::cli {
 
-Json jsonOf(std::string_view text) {
-  return {nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace)};
-}
+namespace {
 
-Json jsonOf(const JsonObject& object) { return {object.text()}; }
+using nlohmann::ordered_json;
 
-Json jsonOf(const PaletteEntry& color) {
-  return jsonArray({jsonOf(color.red), jsonOf(color.green), jsonOf(color.blue)});
-}
+ordered_json valueOf(const Json& json) { return json ? *json : ordered_json(); }
+
+Json make(ordered_json value) { return std::make_shared<const ordered_json>(std::move(value)); }
+
+}  // namespace
+
+Json jsonOf(std::string_view text) { return make(text); }
+
+Json jsonOf(const JsonObject& object) { return object.value(); }
+
+Json jsonOf(const PaletteEntry& color) { return make({color.red, color.green, color.blue}); }
+
+Json jsonOfNumber(std::int64_t number) { return make(number); }
+
+Json jsonOfFlag(bool flag) { return make(flag); }
 
 Json jsonArray(const std::vector<Json>& values) {
-  std::string text;
+  ordered_json array = ordered_json::array();
   for (const Json& value : values) {
-    text += text.empty() ? '[' : ',';
-    text += value.text;
+    array.push_back(valueOf(value));
   }
-  return {text.empty() ? "[]" : text + ']'};
+  return make(std::move(array));
 }
 
+JsonObject::JsonObject() : fields_(std::make_shared<ordered_json>(ordered_json::object())) {}
+
 JsonObject& JsonObject::addField(std::string_view name, const Json& value) {
-  fields_ += fields_.empty() ? "" : ",";
-  fields_ += jsonOf(name).text;
-  fields_ += ':';
-  fields_ += value.text;
+  (*fields_)[std::string(name)] = valueOf(value);
   return *this;
 }
 
 JsonObject paletteJson(const std::string& file, std::string_view format, PaletteFormat code, const Palette& palette) {
-  std::vector<Json> entries;
-  for (const PaletteEntry& color : entriesOf(palette)) {
-    entries.push_back(jsonOf(color));
-  }
   return JsonObject()
       .add("file", file)
       .add("format", format)
       .add("code", code)
       .add("size", palette.getSize())
-      .add("entries", jsonArray(entries));
+      .add("entries", entriesOf(palette));
 }
 
-void writeJson(Console& console, const JsonObject& object) { console.out << object.text() << '\n'; }
+void writeJson(Console& console, const JsonObject& object) {
+  console.out << object.value()->dump(-1, ' ', false, ordered_json::error_handler_t::replace) << '\n';
+}
 
 }  // namespace quillhue::cli

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <concepts>
+#include <cstdint>
+#include <memory>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,10 +14,8 @@
 
 namespace quillhue::cli {
 
-/// A value in JSON; the default is null.
-struct Json {
-  std::string text = "null";
-};
+/// A value in JSON; the default is null. Only json.cpp includes the library behind it, which takes long to compile.
+using Json = std::shared_ptr<const nlohmann::ordered_json>;
 
 class JsonObject;
 
@@ -22,14 +23,16 @@ class JsonObject;
 [[nodiscard]] Json jsonOf(std::string_view text);
 [[nodiscard]] Json jsonOf(const JsonObject& object);
 [[nodiscard]] Json jsonOf(const PaletteEntry& color);
+[[nodiscard]] Json jsonOfNumber(std::int64_t number);
+[[nodiscard]] Json jsonOfFlag(bool flag);
 [[nodiscard]] inline Json jsonOf(const Json& value) { return value; }
 
 template <std::integral Number>
 [[nodiscard]] Json jsonOf(Number number) {
   if constexpr (std::same_as<Number, bool>) {
-    return {number ? "true" : "false"};
+    return jsonOfFlag(number);
   } else {
-    return {std::to_string(number)};
+    return jsonOfNumber(static_cast<std::int64_t>(number));
   }
 }
 
@@ -46,20 +49,22 @@ template <typename Value>
   return jsonArray(converted);
 }
 
-/// An object whose fields stay in the order in which they are added.
+/// An object whose fields stay in the order in which they are added. Copies are the same object.
 class JsonObject {
  public:
+  JsonObject();
+
   template <typename Value>
   JsonObject& add(std::string_view name, const Value& value) {
     return addField(name, jsonOf(value));
   }
 
-  [[nodiscard]] std::string text() const { return '{' + fields_ + '}'; }
+  [[nodiscard]] Json value() const { return fields_; }
 
  private:
   JsonObject& addField(std::string_view name, const Json& value);
 
-  std::string fields_;
+  std::shared_ptr<nlohmann::ordered_json> fields_;
 };
 
 /// What `info` tells of a palette, and what was written tells of itself.

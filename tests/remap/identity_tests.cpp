@@ -8,10 +8,10 @@
 #include <numeric>
 #include <random>
 
-#include "support/literal_remap.h"
 #include "remap/nearest_entry.h"
 #include "remap/nearest_table.h"
 #include "remap/remap.h"
+#include "support/literal_remap.h"
 
 namespace quillhue {
 namespace {
