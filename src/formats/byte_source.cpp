@@ -21,7 +21,7 @@ std::uint32_t ByteSource::u32be(std::uint64_t offset) {
 }
 
 void ByteSource::read(std::uint64_t offset, std::span<std::uint8_t> out) {
-  if (out.size() >= kBlockSize) {
+  if (out.size() >= kDirectSize) {
     fetch(offset, out);
     return;
   }

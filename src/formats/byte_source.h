@@ -56,7 +56,9 @@ class ByteSource {
     }
   }
 
-  static constexpr std::size_t kBlockSize = 4096;
+  static constexpr std::size_t kBlockSize = 16384;
+  // Reads of this size and more go past the block.
+  static constexpr std::size_t kDirectSize = 4096;
 
   std::uint64_t size_;
   bool failed_ = false;

@@ -13,7 +13,7 @@ namespace {
 
 // Longer than a block, so that values straddle the border.
 Bytes twoBlocks() {
-  Bytes bytes(4110);
+  Bytes bytes(16'398);
   for (std::size_t i = 0; i < bytes.size(); ++i) {
     bytes[i] = static_cast<std::uint8_t>(i % 251 + 1);
   }
@@ -22,7 +22,8 @@ Bytes twoBlocks() {
 
 void expectReads(ByteSource& source, const Bytes& content) {
   EXPECT_EQ(source.size(), content.size());
-  for (const std::uint64_t i : {0ULL, 4093ULL, 4095ULL, 4106ULL, 4108ULL, 4109ULL, 4110ULL, 8190ULL, 1ULL << 33}) {
+  for (const std::uint64_t i :
+       {0ULL, 16381ULL, 16383ULL, 16394ULL, 16396ULL, 16397ULL, 16398ULL, 32766ULL, 1ULL << 33}) {
     Bytes expected(4);
     for (std::size_t k = 0; k < expected.size() && i + k < content.size(); ++k) {
       expected[k] = content[static_cast<std::size_t>(i) + k];
@@ -49,25 +50,25 @@ TEST(ByteSource, ReadsMemoryAndFilesAndStreamsAlike) {
 
 TEST(ByteSource, FindsTags) {
   Bytes content = twoBlocks();
-  std::ranges::copy(bytesOf("PLTE"), content.begin() + 4094);
+  std::ranges::copy(bytesOf("PLTE"), content.begin() + 16382);
   std::ranges::copy(bytesOf("PLT"), content.end() - 3);
   MemorySource source(content);
-  EXPECT_EQ(findTag(source, 0, "PLTE"), 4094U);
-  EXPECT_EQ(findTag(source, 4094, "PLTE"), 4094U);
-  EXPECT_EQ(findTag(source, 4095, "PLTE"), content.size());
-  EXPECT_EQ(findTag(source, 9999, "PLTE"), content.size());
+  EXPECT_EQ(findTag(source, 0, "PLTE"), 16382U);
+  EXPECT_EQ(findTag(source, 16382, "PLTE"), 16382U);
+  EXPECT_EQ(findTag(source, 16383, "PLTE"), content.size());
+  EXPECT_EQ(findTag(source, 99999, "PLTE"), content.size());
 }
 
 // Gives ones, but ends before its time.
 class HalfSource : public ByteSource {
  public:
-  HalfSource() : ByteSource(20'000) {}
+  HalfSource() : ByteSource(80'000) {}
   int reads = 0;
 
  private:
   std::size_t readStored(std::uint64_t offset, std::span<std::uint8_t> out) override {
     ++reads;
-    const std::size_t got = offset < 10'000 ? std::min<std::size_t>(out.size(), 10'000 - offset) : 0;
+    const std::size_t got = offset < 40'000 ? std::min<std::size_t>(out.size(), 40'000 - offset) : 0;
     std::ranges::fill(out.first(got), std::uint8_t{1});
     return got;
   }
@@ -75,13 +76,13 @@ class HalfSource : public ByteSource {
 
 TEST(ByteSource, ReadsBlocksAndTellsWhenTheMediumFails) {
   HalfSource source;
-  for (std::uint64_t offset = 0; offset < 8000; offset += 14) {
+  for (std::uint64_t offset = 0; offset < 32'000; offset += 14) {
     EXPECT_EQ(source.bytes(offset, 14), Bytes(14, 1));
     EXPECT_EQ(source.u32le(offset), 0x01010101U);
   }
   EXPECT_LE(source.reads, 10);
   EXPECT_FALSE(source.failed());
-  EXPECT_EQ(source.bytes(9999, 3), (Bytes{1, 0, 0}));
+  EXPECT_EQ(source.bytes(39'999, 3), (Bytes{1, 0, 0}));
   EXPECT_TRUE(source.failed());
   EXPECT_EQ(readPalette({source, L"x.act"}).error(), Failure::couldNotOpen);
 }
