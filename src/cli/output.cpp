@@ -52,9 +52,7 @@ void refuseJsonOnStandardOutput(bool json, const std::string& file) {
 std::expected<void, std::string> writeOutput(const std::string& file, const std::vector<std::uint8_t>& content,
                                              bool force, Console& console) {
   if (file == "-") {
-    for (const std::uint8_t byte : content) {
-      console.out.put(static_cast<char>(byte));
-    }
+    console.out.write(reinterpret_cast<const char*>(content.data()), static_cast<std::streamsize>(content.size()));
     return {};
   }
   const std::wstring name = fromUtf8(file);

@@ -61,8 +61,9 @@ struct Target {
   Remapper& remapper;
 };
 
-std::expected<std::vector<std::uint8_t>, std::string> remapFile(const std::string& file, const Target& target,
-                                                                const RemapVerbOptions& options, Console& console) try {
+// The image is gone when the result is written: they need not fit into the memory with the bitmap.
+std::expected<RemappedImage, std::string> remapFile(const std::string& file, Remapper& remapper,
+                                                    const RemapVerbOptions& options, Console& console) {
   const auto image = readImage(file, console);
   if (!image) {
     return Refusal(image.error());
@@ -72,8 +73,18 @@ std::expected<std::vector<std::uint8_t>, std::string> remapFile(const std::strin
   }
   RemappedImage result;
   NoProgress progress;
-  target.remapper.remap(*image, options.remap, result, progress);
-  return composeBitmap({result.width(), result.height(), result.rows()}, target.palette, options.blank);
+  remapper.remap(*image, options.remap, result, progress);
+  return result;
+}
+
+std::expected<std::vector<std::uint8_t>, std::string> remappedBitmap(const std::string& file, const Target& target,
+                                                                     const RemapVerbOptions& options,
+                                                                     Console& console) try {
+  const auto result = remapFile(file, target.remapper, options, console);
+  if (!result) {
+    return Refusal(result.error());
+  }
+  return composeBitmap({result->width(), result->height(), result->rows()}, target.palette, options.blank);
 } catch (const std::bad_alloc&) {
   return refusalOf(Failure::notEnoughMemory);
 }
@@ -81,7 +92,7 @@ std::expected<std::vector<std::uint8_t>, std::string> remapFile(const std::strin
 // Reports a refusal and answers false.
 bool remapTo(const std::string& from, const std::string& to, const Target& target, const RemapVerbOptions& options,
              Console& console) {
-  const auto bitmap = remapFile(from, target, options, console);
+  const auto bitmap = remappedBitmap(from, target, options, console);
   if (!bitmap) {
     reportRefusal(console, from, bitmap.error());
     return false;

@@ -12,11 +12,10 @@ namespace {
 
 constexpr std::size_t kHeaders = 14 + 40;
 
-// Two pixels a byte, the left one in the high half.
+// Two pixels a byte, the left one in the high half. `row` has an even length.
 void packRow(std::span<const std::uint8_t> row, std::span<std::uint8_t> packed) {
-  for (std::size_t x = 0; x < row.size(); ++x) {
-    const auto index = static_cast<std::uint32_t>(row[x] & 15);
-    packed[x / 2] = static_cast<std::uint8_t>(packed[x / 2] | (x % 2 == 0 ? index << 4 : index));
+  for (std::size_t x = 0; x < row.size() / 2; ++x) {
+    packed[x] = static_cast<std::uint8_t>(row[2 * x] << 4 | (row[2 * x + 1] & 15));
   }
 }
 
@@ -30,10 +29,10 @@ std::vector<std::uint8_t> composeBitmap(const IndexedPixels& pixels, const Palet
   const std::size_t stored = paddedRowLength(pixels.width);
   const std::size_t stride = isPacked ? (width + 7) / 2 / 4 * 4 : stored;
   const std::size_t offset = kHeaders + 4 * static_cast<std::size_t>(entries);
+  const std::size_t size = offset + stride * height;
   ByteSink sink;
-  sink.extend(offset + stride * height);
   sink.text(0, "BM");
-  sink.u32le(2, static_cast<std::uint32_t>(sink.size()));
+  sink.u32le(2, static_cast<std::uint32_t>(size));
   sink.u32le(10, static_cast<std::uint32_t>(offset));
   sink.u32le(14, 40);
   sink.u32le(18, static_cast<std::uint32_t>(pixels.width));
@@ -44,14 +43,17 @@ std::vector<std::uint8_t> composeBitmap(const IndexedPixels& pixels, const Palet
     const PaletteEntry color = entryOr(palette, i, blank);
     sink.bytes(kHeaders + 4 * static_cast<std::size_t>(i), {color.blue, color.green, color.red, 0});
   }
+  // Rows are appended: room that is filled with zeros first is touched twice.
   std::vector<std::uint8_t> file = sink.take();
-  for (std::size_t y = 0; y < height; ++y) {
+  file.reserve(size);
+  for (std::size_t y = height; y-- > 0;) {
     const auto row = pixels.rows.subspan(y * stored, stored);
-    const auto out = std::span(file).subspan(offset + (height - 1 - y) * stride, stride);
     if (isPacked) {
-      packRow(row.first(width), out);
+      const std::size_t start = file.size();
+      file.resize(start + stride);
+      packRow(row, std::span(file).subspan(start));
     } else {
-      std::ranges::copy(row, out.begin());
+      file.insert(file.end(), row.begin(), row.end());
     }
   }
   return file;
