@@ -122,8 +122,9 @@ void plainRead(benchmark::State& state, const ImageFile& image) {
   constexpr std::size_t kBlock = std::size_t{1} << 20;
   const std::filesystem::path path = toPath(image.write(state));
   const std::size_t size = std::filesystem::file_size(path);
-  for (auto _ : state) {
-    const auto content = std::make_unique_for_overwrite<char[]>(size);
+  for (auto unused : state) {
+    // A vector would fill it with zeros first.
+    const auto content = std::make_unique_for_overwrite<char[]>(size);  // NOLINT(modernize-avoid-c-arrays)
     std::filebuf file;
     file.pubsetbuf(nullptr, 0);
     file.open(path, std::ios::in | std::ios::binary);
@@ -136,7 +137,7 @@ void plainRead(benchmark::State& state, const ImageFile& image) {
 
 void loader(benchmark::State& state, const ImageFile& file) {
   const std::wstring name = file.write(state);
-  for (auto _ : state) {
+  for (auto unused : state) {
     auto image = loadImage(*openFile(name).value()).value();
     benchmark::DoNotOptimize(image);
   }
@@ -145,7 +146,7 @@ void loader(benchmark::State& state, const ImageFile& file) {
 void bitmapWriter(benchmark::State& state) {
   const Bytes indexes = indexesOf(bench::photoLikeImage(bench::kLarge));
   const Palette palette = createGreyscalePalette(static_cast<std::int32_t>(state.range(0)));
-  for (auto _ : state) {
+  for (auto unused : state) {
     benchmark::DoNotOptimize(composeBitmap({bench::kLarge.width, bench::kLarge.height, indexes}, palette, {}));
   }
 }
@@ -155,7 +156,7 @@ void bitmapWriter(benchmark::State& state) {
   for (const auto& entry : std::filesystem::directory_iterator(QUILLHUE_SAMPLES)) {
     const std::string name = "reader/" + entry.path().filename().string();
     benchmark::RegisterBenchmark(name.c_str(), [file = toFileName(entry.path())](auto& state) {
-      for (auto _ : state) {
+      for (auto unused : state) {
         const auto source = openFile(file).value();
         benchmark::DoNotOptimize(readPalette({*source, file}));
       }

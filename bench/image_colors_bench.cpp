@@ -33,7 +33,7 @@ void runOn(benchmark::State& state, std::uint64_t (*count)(const TrueColorBitmap
   const std::wstring name =
       bench::bitmapFileOf({static_cast<std::int32_t>(state.range(0)), static_cast<std::int32_t>(state.range(1))});
   std::uint64_t colors = 0;
-  for (auto _ : state) {
+  for (auto unused : state) {
     const auto source = openFile(name).value();
     colors = count(TrueColorBitmap::open(*source).value());
   }
@@ -45,7 +45,7 @@ void product(benchmark::State& state) { runOn(state, countProduct); }
 
 void reducedPalette(benchmark::State& state) {
   const std::wstring name = bench::bitmapFileOf(bench::kLarge);
-  for (auto _ : state) {
+  for (auto unused : state) {
     const auto source = openFile(name).value();
     const ImageColors colors(TrueColorBitmap::open(*source).value());
     benchmark::DoNotOptimize(colors.reducedPalette(static_cast<std::int32_t>(state.range(0)), {}));

@@ -50,7 +50,7 @@ void add(const std::string& prefix, const Side& side, const Work& work, const be
         const WorkImage& image = getImage(size);
         const Palette colors = palette.create(size);
         NoProgress progress;
-        for (auto _ : state) {
+        for (auto unused : state) {
           RemappedImage result;
           side.remap(image, colors, options, result, progress);
           benchmark::DoNotOptimize(result);
