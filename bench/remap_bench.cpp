@@ -1,5 +1,5 @@
 // Images onto palettes: the product against the literal loops that define the result, both on the same pixels. Names
-// are remap/SIDE/MODE/PALETTE/SIZE. Compare medians of CPU time with both sides interleaved:
+// are KIND/SIDE/MODE/PALETTE/SIZE. Compare medians of CPU time with both sides interleaved:
 //   --benchmark_repetitions=5 --benchmark_enable_random_interleaving=true --benchmark_report_aggregates_only=true
 
 #include <benchmark/benchmark.h>
@@ -8,6 +8,7 @@
 #include <string>
 
 #include "bench/images.h"
+#include "bench/no_progress.h"
 #include "bench/palettes.h"
 #include "remap/remap.h"
 #include "support/literal_remap.h"
@@ -33,10 +34,6 @@ const Work kDither{"dither", {RemapMode::dither, {}, {}}};
 const std::array<Work, 2> kProtecting{{{"dither-protecting-color", {RemapMode::dither, 0, {}}},
                                        {"dither-protecting-grid", {RemapMode::dither, {}, ProtectGrid{}}}}};
 
-class NoProgress final : public RemapProgress {
-  [[nodiscard]] bool rowsDone(std::int32_t /*rows*/, const RemappedImage& /*result*/) override { return true; }
-};
-
 using GetImage = const WorkImage& (*)(bench::ImageSize size);
 
 void add(const std::string& prefix, const Side& side, const Work& work, const bench::BenchPalette& palette,
@@ -49,7 +46,7 @@ void add(const std::string& prefix, const Side& side, const Work& work, const be
       (name + '/' + nameOf(size)).c_str(), [&side, &palette, getImage, size, options = work.options](auto& state) {
         const WorkImage& image = getImage(size);
         const Palette colors = palette.create(size);
-        NoProgress progress;
+        bench::NoProgress progress;
         for (auto unused : state) {
           RemappedImage result;
           side.remap(image, colors, options, result, progress);
