@@ -1,0 +1,92 @@
+"""main.py BUILD WORK OUT: measures everything and writes the report OUT. WORK is an empty folder."""
+
+import json
+import subprocess
+import sys
+from collections import defaultdict
+from pathlib import Path
+
+import report
+import sides
+
+ROUNDS = 5
+# A side that has used so much CPU time for one work is measured well enough.
+ENOUGH_SECONDS = 8
+PALETTES = ["regular-216", "adaptive-256", "adaptive-16"]
+WORKS = [(mode, palette) for mode in ("nearest", "dither") for palette in PALETTES]
+
+
+def measure_sides(build, folder, product, peers):
+    """Lists of runs by (side, work); the work `rest` is all but the remapping, `tool` is quillhue-cli as a whole."""
+    runs = defaultdict(list)
+
+    def once(name, work, run):
+        done = runs[name, work]
+        if sum(one.cost for one in done) < ENOUGH_SECONDS:
+            done.append(run())
+
+    for number in range(ROUNDS):
+        print(f"Round {number + 1} of {ROUNDS}", file=sys.stderr)
+        for peer in peers:
+            if peer.rest:
+                once(peer.name, "rest", lambda peer=peer: peer.rest(folder))
+        for mode in ("nearest", "dither"):
+            once("tool", mode, lambda mode=mode: run_tool(build, folder, mode))
+        for work in WORKS:
+            for side in [product, *peers]:
+                once(side.name, work, lambda side=side, work=work: side.remap(folder, work[1], work[0]))
+    return runs
+
+
+def run_tool(build, folder, mode):
+    files = [folder / f"{sides.LARGE}.bmp", folder / "regular-216.gpl", folder / "answer.bmp"]
+    return sides.Run([build / "src/quillhue-cli", "remap", *files, "--mode", mode, "--force"])
+
+
+def judge_answers(build, folder, peers):
+    """The share of pixels that are not a nearest entry, by (peer, palette). The product's share is checked
+    to be none."""
+    faults = {}
+    for palette in PALETTES:
+        judge = [build / "bench/quillhue_bench_peers", "judge", folder / f"{sides.MEDIUM}.bmp", folder / f"{palette}.gpl"]
+        if float(sides.Run(judge).output) != 0:
+            sys.exit(f"Quillhue's answer for {palette} is not the nearest: nothing here is worth measuring.")
+        for peer in peers:
+            faults[peer.name, palette] = float(sides.Run([*judge, peer.answer(folder, palette)]).output)
+    return faults
+
+
+def measure_benchmarks(build, filters):
+    """Medians of CPU time in seconds, by the benchmark's name."""
+    command = [
+        build / "bench/quillhue_bench",
+        "--benchmark_filter=" + filters,
+        "--benchmark_repetitions=3",
+        "--benchmark_min_time=0.1",
+        "--benchmark_enable_random_interleaving=true",
+        "--benchmark_report_aggregates_only=true",
+        "--benchmark_format=json",
+    ]
+    found = json.loads(subprocess.run(command, check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout)
+    units = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}
+    return {
+        row["run_name"].removesuffix("/iterations:1"): row["cpu_time"] * units[row["time_unit"]]
+        for row in found["benchmarks"]
+        if row["aggregate_name"] == "median"
+    }
+
+
+def main():
+    build, folder, out = (Path(word) for word in sys.argv[1:4])
+    product = sides.product(build)
+    candidates = sides.peers()
+    peers = [peer for peer in candidates if peer.present]
+    subprocess.run([build / "bench/quillhue_bench_peers", "make", folder], check=True)
+    faults = judge_answers(build, folder, peers)
+    runs = measure_sides(build, folder, product, peers)
+    print("Plain loops", file=sys.stderr)
+    benchmarks = measure_benchmarks(build, "^(remap|noise|setup|plain-read|loader|bitmapWriter)/")
+    out.write_text(report.compose(candidates, PALETTES, runs, faults, benchmarks), encoding="utf-8")
+
+
+main()

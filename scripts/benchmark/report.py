@@ -1,0 +1,195 @@
+"""Turns what was measured into docs/benchmarks.md."""
+
+import os
+import platform
+from statistics import median
+
+import sides
+
+SIZES = [sides.LARGE, sides.MEDIUM, "64x48"]
+MODES = {"nearest": "nearest", "dither": "error diffusion"}
+NOT_MEASURED = "–"
+
+
+def shown(number, unit=""):
+    """With two significant digits, three from 100 on."""
+    if number is None:
+        return NOT_MEASURED
+    digits = 0 if number >= 10 else 1 if number >= 1 else 2
+    return f"{number:.{digits}f}{unit}"
+
+
+def table(head, rows):
+    lines = [head, ["---"] + ["--:"] * (len(head) - 1), *rows]
+    return "".join("| " + " | ".join(line) + " |\n" for line in lines)
+
+
+def ratio(of, to):
+    return of / to if of is not None and to else None
+
+
+class Medians:
+    """Of the sides' runs."""
+
+    def __init__(self, runs):
+        self.runs = {key: found for key, found in runs.items() if found}
+
+    def seconds(self, side, work):
+        found = self.runs.get((side, work))
+        return median(run.seconds for run in found) if found else None
+
+    def remapping(self, side, work):
+        """Of the remapping alone; never less than nothing."""
+        whole = self.seconds(side, work)
+        return None if whole is None else max(whole - (self.seconds(side, "rest") or 0), 0)
+
+    def memory(self, side, work):
+        found = self.runs.get((side, work))
+        return median(run.memory for run in found) if found else None
+
+    def spread(self, side):
+        """The middle half of the runs around their median, at its widest, as a share of the median."""
+        widest = 0
+        for (name, _), found in self.runs.items():
+            if name == side and len(found) >= 4:
+                ordered = sorted(run.seconds for run in found)
+                quarter = len(ordered) // 4
+                widest = max(widest, (ordered[-1 - quarter] - ordered[quarter]) / median(ordered))
+        return widest
+
+
+def machine():
+    with open("/proc/cpuinfo", encoding="utf-8") as file:
+        kind = "virtual machine" if "hypervisor" in file.read() else "machine"
+    return f"{os.cpu_count()}-core {platform.machine().replace('_', '-')} {kind}"
+
+
+def peer_table(peers, palettes, medians):
+    works = [(mode, palette) for mode in MODES for palette in palettes]
+    rows = []
+    for peer in peers:
+        label = f"{peer.name} {sides.version(peer.package)}" if peer.present else f"{peer.name}: not installed"
+        rows.append(
+            [label] + [shown(ratio(medians.remapping(peer.name, w), medians.seconds("Quillhue", w))) for w in works]
+        )
+    return table([""] + [f"{MODES[mode]}, {palette}" for mode, palette in works], rows)
+
+
+def fault_table(peers, palettes, faults):
+    rows = [["Quillhue"] + ["0 %"] * len(palettes)]
+    for peer in peers:
+        shares = [faults.get((peer.name, palette)) for palette in palettes]
+        rows.append([peer.name] + [NOT_MEASURED if share is None else f"{100 * share:.2g} %" for share in shares])
+    return table([""] + palettes, rows)
+
+
+def literal_table(benchmarks):
+    """A row for each work that both sides did, named by what stands between the side and the size."""
+    ratios = {}
+    for name, seconds in benchmarks.items():
+        kind, side, *work, size = name.split("/")
+        if side == "literal":
+            ratios.setdefault((kind, *work), {})[size] = seconds / benchmarks[name.replace("literal", "product")]
+    rows = []
+    for (kind, mode, palette), found in sorted(ratios.items(), key=lambda row: (row[0][0] == "noise", row[0][1])):
+        words = MODES.get(mode) or mode.replace("dither-protecting-", "error diffusion protecting a ")
+        label = f"{words}, {palette}" + (", uniform noise" if kind == "noise" else "")
+        rows.append([label] + [shown(found.get(size)) for size in SIZES])
+    return table([""] + SIZES, rows)
+
+
+def file_table(benchmarks):
+    sizes = {"4096/3072": sides.LARGE, "1024/768": sides.MEDIUM}
+    rows = {}
+    for name, seconds in benchmarks.items():
+        kind, *rest = name.split("/", 2)
+        if kind == "loader":
+            plain = benchmarks[f"plain-read/bitmap-24/{rest[1]}"]
+            rows.setdefault(rest[0], {})[rest[1]] = shown(seconds / plain)
+    return table(
+        [""] + list(sizes.values()), [[name] + [found[size] for size in sizes] for name, found in sorted(rows.items())]
+    )
+
+
+def program_table(peers, medians):
+    """Of the whole programs, with the regular colors."""
+    decoding = medians.seconds("ImageMagick", "rest")
+    rows = []
+    for name, works in [("quillhue-cli", {mode: ("tool", mode) for mode in MODES})] + [
+        (peer.name, {mode: (peer.name, (mode, "regular-216")) for mode in MODES}) for peer in peers if peer.rest
+    ]:
+        times = [shown(ratio(medians.seconds(*works[mode]), decoding)) for mode in MODES]
+        memory = [shown(medians.memory(*works[mode])) for mode in MODES]
+        rows.append([name, *times, *memory])
+    head = ["", *MODES.values(), *(f"peak memory, {words}, MiB" for words in MODES.values())]
+    return table(head, rows)
+
+
+def setup_line(benchmarks):
+    longest = max(seconds for name, seconds in benchmarks.items() if name.startswith("setup/"))
+    return f"A run on one pixel, which is what it costs to set up, takes at most {shown(1e6 * longest)} µs."
+
+
+def absolute_table(palettes, medians, benchmarks):
+    rows = []
+    for mode, words in MODES.items():
+        for palette in palettes:
+            literal = benchmarks[f"remap/literal/{mode}/{palette}/{sides.LARGE}"]
+            rows.append(
+                [f"{words}, {palette}", shown(1e3 * medians.seconds("Quillhue", (mode, palette))), shown(1e3 * literal)]
+            )
+    return table(["ms of CPU time", "Quillhue", "plain loops"], rows)
+
+
+def compose(peers, palettes, runs, faults, benchmarks):
+    medians = Medians(runs)
+    plain = benchmarks["plain-read/bitmap-24/4096/3072"]
+    return f"""# Benchmarks
+
+`scripts/benchmark.sh` writes this page. Numbers without a unit are ratios: how many times as long as Quillhue the other
+side takes, so that more than 1 says that Quillhue is faster. They compare medians of CPU time (user and system) of
+single-threaded runs, all sides taking turns.
+
+The image is a made landscape with gradients, sharp outlines, fine texture and mild noise, the same at every run:
+4096 x 3072 pixels (12.6 megapixels) with some 300,000 colors where no other size stands. The palettes: the regular 216
+colors, and 256 and 16 that Quillhue's median cut makes of the image.
+
+## Against other programs
+
+{peer_table(peers, palettes, medians)}
+The remapping alone is compared. Quillhue and the libraries are timed inside the process, around the one call, with the
+image in memory. Programs are timed as a whole without an output, and what the same program takes to do all but the
+remapping, measured in the same rounds, is subtracted: it decodes the image and drops it (ffmpeg also converts it to the
+pixels that its remapping wants, Netpbm copies it row by row). libimagequant has made its palette before the clock
+starts, and measures differences as the eye sees them. Error diffusion differs in detail: some go back and forth, along a
+curve, or limit the errors, and ImageMagick and Pillow look colors up with fewer than 8 bits.
+
+The share of pixels, of 1024 x 768, that do not get an entry with the least distance in red, green and blue, found by
+trying all. Another entry that is equally near is no fault.
+
+{fault_table(peers, palettes, faults)}
+## Against plain loops
+
+Loops over all pixels and all entries define what Quillhue answers; `tests/support/literal_remap.cpp` has them.
+
+{literal_table(benchmarks)}
+{setup_line(benchmarks)} The 256 greys are there because no color can be dithered onto
+them: the errors grow without end.
+
+## Whole programs
+
+In multiples of what ImageMagick takes to decode the image, which is the least of what a program has to do. `quillhue-cli
+remap` goes from file to file; the others write nothing. All with the 216 colors.
+
+{program_table(peers, medians)}
+## Files
+
+Loading an image of the same pixels, in multiples of a plain read of the 24-bit bitmap in blocks of 1 MiB.
+
+{file_table(benchmarks)}
+## In milliseconds
+
+On a {machine()}, a plain read of the 24-bit bitmap taking {shown(1e3 * plain)} ms. The middle half of
+Quillhue's own runs lay within {100 * medians.spread("Quillhue"):.0f} % of their median, at most.
+
+{absolute_table(palettes, medians, benchmarks)}"""

@@ -1,0 +1,157 @@
+"""The programs and libraries that remap, each with how it is run and timed."""
+
+import ctypes.util
+import importlib.util
+import os
+import shutil
+import subprocess
+import sys
+from pathlib import Path
+
+LARGE = "4096x3072"
+MEDIUM = "1024x768"
+
+
+class Run:
+    """CPU seconds (user and system) and peak memory (MiB) of a command, and what it printed. `seconds` are those of the
+    work that is compared, `cost` those of the whole process."""
+
+    def __init__(self, command, stdin=None):
+        with open(stdin or os.devnull, "rb") as source:
+            process = subprocess.Popen(command, stdin=source, stdout=subprocess.PIPE)
+            self.output = process.stdout.read()
+            _, status, usage = os.wait4(process.pid, 0)
+        process.returncode = os.waitstatus_to_exitcode(status)
+        process.stdout.close()
+        if process.returncode != 0:
+            raise RuntimeError(f"{command[0]} ends with {process.returncode}")
+        self.cost = self.seconds = usage.ru_utime + usage.ru_stime
+        self.memory = usage.ru_maxrss / 1024
+
+
+def version(package):
+    """The upstream part of a Debian package's version."""
+    found = subprocess.run(
+        ["dpkg-query", "-W", "-f=${Version}", package], capture_output=True, text=True, check=False
+    ).stdout
+    return found.split(":")[-1].rsplit("-", 1)[0].split("+dfsg")[0]
+
+
+class Library:
+    """Timed from inside: the call that remaps, the image being in memory."""
+
+    how = "the call alone, timed in its process"
+    rest = None
+
+    def __init__(self, name, package, command, extension="ppm", present=True):
+        self.name, self.package, self.command, self.extension = name, package, command, extension
+        self.present = present
+
+    def remap(self, folder, palette, mode):
+        image = folder / f"{LARGE}.{'bmp' if self.extension == 'gpl' else 'ppm'}"
+        run = Run([*self.command, image, folder / f"{palette}.{self.extension}", mode])
+        run.seconds = float(run.output)
+        return run
+
+    def answer(self, folder, palette):
+        out = folder / "answer.ppm"
+        Run([*self.command, folder / f"{MEDIUM}.ppm", folder / f"{palette}.ppm", "nearest", out])
+        return out
+
+
+class Program:
+    """Timed as a whole, without an output. `rest` is the command that does all but the remapping."""
+
+    how = "the program without an output, less the same program without remapping"
+
+    def __init__(self, name, package, rest, remap, to_nothing, to_file, reads_stdin=False):
+        self.name, self.package, self.reads_stdin = name, package, reads_stdin
+        self.rest_command, self.remap_command = rest, remap
+        self.to_nothing, self.to_file = to_nothing, to_file
+        self.present = shutil.which(rest("")[0]) is not None
+
+    def _run(self, command, folder, size):
+        return Run(command, folder / f"{size}.ppm" if self.reads_stdin else None)
+
+    def rest(self, folder):
+        return self._run([*self.rest_command(folder / f"{LARGE}.bmp"), *self.to_nothing], folder, LARGE)
+
+    def remap(self, folder, palette, mode, size=LARGE, out=None):
+        command = self.remap_command(folder / f"{size}.bmp", f"{folder / palette}", mode == "dither")
+        return self._run([*command, *(self.to_nothing if out is None else [*self.to_file, out])], folder, size)
+
+    def answer(self, folder, palette):
+        out = folder / "answer.ppm"
+        if self.to_file is None:
+            out.write_bytes(self.remap(folder, palette, "nearest", MEDIUM).output)
+        else:
+            self.remap(folder, palette, "nearest", MEDIUM, out)
+        return out
+
+
+CONVERT = "/usr/bin/convert"
+FFMPEG = "ffmpeg -v error -nostdin -y -threads 1 -filter_threads 1 -filter_complex_threads 1 -i".split()
+
+
+def product(build):
+    return Library("Quillhue", None, [build / "bench/quillhue_bench_peers", "time"], "gpl")
+
+
+def peers():
+    in_process = [sys.executable, Path(__file__).with_name("in_process.py")]
+    return [
+        Program(
+            "ImageMagick",
+            "imagemagick",
+            lambda image: [CONVERT, image],
+            lambda image, palette, dithers: [
+                CONVERT, image, *(["-dither", "FloydSteinberg"] if dithers else ["+dither"]), "-remap", palette + ".ppm",
+            ],
+            ["null:"],
+            ["-depth", "8"],
+        ),
+        Program(
+            "GraphicsMagick",
+            "graphicsmagick",
+            lambda image: ["gm", "convert", image],
+            lambda image, palette, dithers: [
+                "gm", "convert", image, "-dither" if dithers else "+dither", "-map", palette + ".ppm",
+            ],
+            ["null:"],
+            ["-depth", "8"],
+        ),
+        Program(
+            "Netpbm",
+            "netpbm",
+            lambda image: ["pamtopam"],
+            lambda image, palette, dithers: [
+                "pnmremap", "-quiet", "-floyd" if dithers else "-nofloyd", f"-mapfile={palette}.ppm",
+            ],
+            [],
+            None,
+            reads_stdin=True,
+        ),
+        Program(
+            "ffmpeg",
+            "ffmpeg",
+            lambda image: [*FFMPEG, image, "-vf", "format=bgra"],
+            lambda image, palette, dithers: [
+                *FFMPEG, image, "-i", palette + "-square.ppm",
+                "-lavfi", "paletteuse=dither=" + ("floyd_steinberg" if dithers else "none"),
+            ],
+            ["-f", "null", "-"],
+            ["-pix_fmt", "rgb24"],
+        ),
+        Library(
+            "libimagequant (pngquant)",
+            "libimagequant0",
+            [*in_process, "libimagequant"],
+            present=ctypes.util.find_library("imagequant") is not None,
+        ),
+        Library(
+            "Pillow",
+            "python3-pil",
+            [*in_process, "pillow"],
+            present=importlib.util.find_spec("PIL") is not None,
+        ),
+    ]
