@@ -87,11 +87,12 @@ def literal_table(benchmarks):
     """A row for each work that both sides did, named by what stands between the side and the size."""
     ratios = {}
     for name, seconds in benchmarks.items():
-        kind, side, *work, size = name.split("/")
-        if side == "literal":
-            ratios.setdefault((kind, *work), {})[size] = seconds / benchmarks[name.replace("literal", "product")]
+        kind, *parts = name.split("/")
+        if kind in ("remap", "noise") and parts[0] == "literal":
+            _, mode, palette, size = parts
+            ratios.setdefault((kind, mode, palette), {})[size] = seconds / benchmarks[name.replace("literal", "product")]
     rows = []
-    for (kind, mode, palette), found in sorted(ratios.items(), key=lambda row: (row[0][0] == "noise", row[0][1])):
+    for (kind, mode, palette), found in sorted(ratios.items(), key=lambda row: (row[0][0] == "noise", row[0][1] != "nearest")):
         words = MODES.get(mode) or mode.replace("dither-protecting-", "error diffusion protecting a ")
         label = f"{words}, {palette}" + (", uniform noise" if kind == "noise" else "")
         rows.append([label] + [shown(found.get(size)) for size in SIZES])
@@ -146,9 +147,9 @@ def compose(peers, palettes, runs, faults, benchmarks):
     plain = benchmarks["plain-read/bitmap-24/4096/3072"]
     return f"""# Benchmarks
 
-`scripts/benchmark.sh` writes this page. Numbers without a unit are ratios: how many times as long as Quillhue the other
-side takes, so that more than 1 says that Quillhue is faster. They compare medians of CPU time (user and system) of
-single-threaded runs, all sides taking turns.
+`scripts/benchmark.sh` writes this page. Where a section says nothing else, its numbers are how many times as long as
+Quillhue the other side takes: more than 1 says that Quillhue is faster. They compare medians of CPU time (user and
+system) of single-threaded runs, all sides taking turns: five runs each, fewer of what takes long.
 
 The image is a made landscape with gradients, sharp outlines, fine texture and mild noise, the same at every run:
 4096 x 3072 pixels (12.6 megapixels) with some 300,000 colors where no other size stands. The palettes: the regular 216
@@ -162,7 +163,7 @@ image in memory. Programs are timed as a whole without an output, and what the s
 remapping, measured in the same rounds, is subtracted: it decodes the image and drops it (ffmpeg also converts it to the
 pixels that its remapping wants, Netpbm copies it row by row). libimagequant has made its palette before the clock
 starts, and measures differences as the eye sees them. Error diffusion differs in detail: some go back and forth, along a
-curve, or limit the errors, and ImageMagick and Pillow look colors up with fewer than 8 bits.
+curve, or limit the errors, and ImageMagick and Pillow look colors up with six bits a channel.
 
 The share of pixels, of 1024 x 768, that do not get an entry with the least distance in red, green and blue, found by
 trying all. Another entry that is equally near is no fault.

@@ -34,13 +34,12 @@ def version(package):
     found = subprocess.run(
         ["dpkg-query", "-W", "-f=${Version}", package], capture_output=True, text=True, check=False
     ).stdout
-    return found.split(":")[-1].rsplit("-", 1)[0].split("+dfsg")[0]
+    return found.split(":")[-1].split("+really")[-1].rsplit("-", 1)[0].split("+dfsg")[0]
 
 
 class Library:
     """Timed from inside: the call that remaps, the image being in memory."""
 
-    how = "the call alone, timed in its process"
     rest = None
 
     def __init__(self, name, package, command, extension="ppm", present=True):
@@ -61,8 +60,6 @@ class Library:
 
 class Program:
     """Timed as a whole, without an output. `rest` is the command that does all but the remapping."""
-
-    how = "the program without an output, less the same program without remapping"
 
     def __init__(self, name, package, rest, remap, to_nothing, to_file, reads_stdin=False):
         self.name, self.package, self.reads_stdin = name, package, reads_stdin
