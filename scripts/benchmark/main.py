@@ -44,15 +44,15 @@ def run_tool(build, folder, mode):
 
 
 def judge_answers(build, folder, peers):
-    """The share of pixels that are not a nearest entry, by (peer, palette). The product's share is checked
-    to be none."""
+    """The share of pixels that are not a nearest entry, by (peer, palette). The product's is checked to be none."""
     faults = {}
     for palette in PALETTES:
-        judge = [build / "bench/quillhue_bench_peers", "judge", folder / f"{sides.MEDIUM}.bmp", folder / f"{palette}.gpl"]
-        if float(sides.Run(judge).output) != 0:
+        judge = [build / "bench/quillhue_bench_peers", "judge"]
+        judge += [folder / f"{sides.MEDIUM}.bmp", folder / f"{palette}.gpl"]
+        if sides.printed_number(judge) != 0:
             sys.exit(f"Quillhue's answer for {palette} is not the nearest: nothing here is worth measuring.")
         for peer in peers:
-            faults[peer.name, palette] = float(sides.Run([*judge, peer.answer(folder, palette)]).output)
+            faults[peer.name, palette] = sides.printed_number([*judge, peer.answer(folder, palette)])
     return faults
 
 

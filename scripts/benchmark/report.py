@@ -8,6 +8,7 @@ import sides
 
 SIZES = [sides.LARGE, sides.MEDIUM, "64x48"]
 MODES = {"nearest": "nearest", "dither": "error diffusion"}
+PALETTES = ["regular-216", "adaptive-256", "adaptive-16", "greys-256"]
 NOT_MEASURED = "–"
 
 
@@ -83,6 +84,11 @@ def fault_table(peers, palettes, faults):
     return table([""] + palettes, rows)
 
 
+def order(row):
+    kind, mode, palette = row[0]
+    return kind == "noise", mode != "nearest", mode, PALETTES.index(palette)
+
+
 def literal_table(benchmarks):
     """A row for each work that both sides did, named by what stands between the side and the size."""
     ratios = {}
@@ -92,7 +98,7 @@ def literal_table(benchmarks):
             _, mode, palette, size = parts
             ratios.setdefault((kind, mode, palette), {})[size] = seconds / benchmarks[name.replace("literal", "product")]
     rows = []
-    for (kind, mode, palette), found in sorted(ratios.items(), key=lambda row: (row[0][0] == "noise", row[0][1] != "nearest")):
+    for (kind, mode, palette), found in sorted(ratios.items(), key=order):
         words = MODES.get(mode) or mode.replace("dither-protecting-", "error diffusion protecting a ")
         label = f"{words}, {palette}" + (", uniform noise" if kind == "noise" else "")
         rows.append([label] + [shown(found.get(size)) for size in SIZES])
@@ -174,8 +180,9 @@ trying all. Another entry that is equally near is no fault.
 Loops over all pixels and all entries define what Quillhue answers; `tests/support/literal_remap.cpp` has them.
 
 {literal_table(benchmarks)}
-{setup_line(benchmarks)} The 256 greys are there because no color can be dithered onto
-them: the errors grow without end.
+{setup_line(benchmarks)}
+
+The 256 greys are there because no color can be dithered onto them: the errors grow without end.
 
 ## Whole programs
 

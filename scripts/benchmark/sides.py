@@ -13,16 +13,16 @@ MEDIUM = "1024x768"
 
 
 class Run:
-    """CPU seconds (user and system) and peak memory (MiB) of a command, and what it printed. `seconds` are those of the
-    work that is compared, `cost` those of the whole process."""
+    """CPU seconds (user and system) and peak memory (MiB) of a command. `seconds` are those of the work that is
+    compared, `cost` those of the whole process. What it prints goes into the file `stdout`.
 
-    def __init__(self, command, stdin=None):
-        with open(stdin or os.devnull, "rb") as source:
-            process = subprocess.Popen(command, stdin=source, stdout=subprocess.PIPE)
-            self.output = process.stdout.read()
+    This process has to stay small and hold no image: the peak of a new process counts what the old one had."""
+
+    def __init__(self, command, stdin=os.devnull, stdout=os.devnull):
+        with open(stdin, "rb") as source, open(stdout, "wb") as sink:
+            process = subprocess.Popen(command, stdin=source, stdout=sink)
             _, status, usage = os.wait4(process.pid, 0)
         process.returncode = os.waitstatus_to_exitcode(status)
-        process.stdout.close()
         if process.returncode != 0:
             raise RuntimeError(f"{command[0]} ends with {process.returncode}")
         self.cost = self.seconds = usage.ru_utime + usage.ru_stime
@@ -37,6 +37,10 @@ def version(package):
     return found.split(":")[-1].split("+really")[-1].rsplit("-", 1)[0].split("+dfsg")[0]
 
 
+def printed_number(command):
+    return float(subprocess.run(command, check=True, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE).stdout)
+
+
 class Library:
     """Timed from inside: the call that remaps, the image being in memory."""
 
@@ -48,8 +52,9 @@ class Library:
 
     def remap(self, folder, palette, mode):
         image = folder / f"{LARGE}.{'bmp' if self.extension == 'gpl' else 'ppm'}"
-        run = Run([*self.command, image, folder / f"{palette}.{self.extension}", mode])
-        run.seconds = float(run.output)
+        printed = folder / "seconds"
+        run = Run([*self.command, image, folder / f"{palette}.{self.extension}", mode], stdout=printed)
+        run.seconds = float(printed.read_text())
         return run
 
     def answer(self, folder, palette):
@@ -59,7 +64,8 @@ class Library:
 
 
 class Program:
-    """Timed as a whole, without an output. `rest` is the command that does all but the remapping."""
+    """Timed as a whole, without an output. `rest` is the command that does all but the remapping; one without `to_file`
+    writes to standard output."""
 
     def __init__(self, name, package, rest, remap, to_nothing, to_file, reads_stdin=False):
         self.name, self.package, self.reads_stdin = name, package, reads_stdin
@@ -67,22 +73,23 @@ class Program:
         self.to_nothing, self.to_file = to_nothing, to_file
         self.present = shutil.which(rest("")[0]) is not None
 
-    def _run(self, command, folder, size):
-        return Run(command, folder / f"{size}.ppm" if self.reads_stdin else None)
+    def _run(self, command, folder, size, stdout=os.devnull):
+        return Run(command, folder / f"{size}.ppm" if self.reads_stdin else os.devnull, stdout)
 
     def rest(self, folder):
         return self._run([*self.rest_command(folder / f"{LARGE}.bmp"), *self.to_nothing], folder, LARGE)
 
-    def remap(self, folder, palette, mode, size=LARGE, out=None):
-        command = self.remap_command(folder / f"{size}.bmp", f"{folder / palette}", mode == "dither")
-        return self._run([*command, *(self.to_nothing if out is None else [*self.to_file, out])], folder, size)
+    def remap(self, folder, palette, mode):
+        command = self.remap_command(folder / f"{LARGE}.bmp", f"{folder / palette}", mode == "dither")
+        return self._run([*command, *self.to_nothing], folder, LARGE)
 
     def answer(self, folder, palette):
         out = folder / "answer.ppm"
+        command = self.remap_command(folder / f"{MEDIUM}.bmp", f"{folder / palette}", False)
         if self.to_file is None:
-            out.write_bytes(self.remap(folder, palette, "nearest", MEDIUM).output)
+            self._run(command, folder, MEDIUM, out)
         else:
-            self.remap(folder, palette, "nearest", MEDIUM, out)
+            self._run([*command, *self.to_file, out], folder, MEDIUM)
         return out
 
 
