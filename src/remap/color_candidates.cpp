@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <limits>
 
 namespace quillhue {
 
@@ -12,7 +11,8 @@ constexpr std::int32_t squared(std::int32_t number) { return number * number; }
 
 }  // namespace
 
-ColorCandidates::ColorCandidates(std::span<const PaletteEntry> colors) : leastDistances_(colors.size()) {
+ColorCandidates::ColorCandidates(std::span<const PaletteEntry> colors)
+    : leastDistances_(colors.size()), greatestDistances_(colors.size()) {
   colors_.reserve(colors.size());
   squaredLengths_.reserve(colors.size());
   for (const PaletteEntry& color : colors) {
@@ -31,8 +31,6 @@ std::span<const std::uint8_t> ColorCandidates::within(const ColorBox& box, std::
 
 // A color whose least distance to the box is more than the greatest distance of another one is never the nearest.
 void ColorCandidates::keepReachable(const ColorBox& box) {
-  std::int32_t limit = std::numeric_limits<std::int32_t>::max();
-  std::uint8_t nearest = 0;
   for (std::size_t i = 0; i < colors_.size(); ++i) {
     std::int32_t least = 0;
     std::int32_t greatest = 0;
@@ -43,30 +41,30 @@ void ColorCandidates::keepReachable(const ColorBox& box) {
       greatest += squared(std::max(fromLow, toHigh));
     }
     leastDistances_[i] = least;
-    if (greatest < limit) {
-      limit = greatest;
-      nearest = static_cast<std::uint8_t>(i);
-    }
+    greatestDistances_[i] = greatest;
   }
+  const std::int32_t limit = *std::ranges::min_element(greatestDistances_);
   candidates_.clear();
   for (std::size_t i = 0; i < colors_.size(); ++i) {
     if (leastDistances_[i] <= limit) {
       candidates_.push_back(static_cast<std::uint8_t>(i));
     }
   }
-  opponents_ = candidates_;
-  std::iter_swap(opponents_.begin(), std::ranges::find(opponents_, nearest));
 }
 
-// Of what is left, each is compared with some others, first with those that have beaten most lately.
+// Of what is left, each is compared with those that are nearest at their farthest, first with what has beaten most
+// lately.
 void ColorCandidates::dropBeaten(const ColorBox& box, std::size_t opponents) {
-  const auto tried = std::span(opponents_).first(std::min(opponents_.size(), opponents));
+  opponents_ = candidates_;
+  const auto last = opponents_.begin() + static_cast<std::ptrdiff_t>(std::min(opponents_.size(), opponents));
+  std::ranges::partial_sort(opponents_, last, {}, [&](std::uint8_t index) { return greatestDistances_[index]; });
   const auto isBeaten = [&](std::uint8_t candidate) {
-    const auto winner = std::ranges::find_if(tried, [&](std::uint8_t other) { return beats(other, candidate, box); });
-    if (winner == tried.end()) {
+    const auto winner =
+        std::find_if(opponents_.begin(), last, [&](std::uint8_t other) { return beats(other, candidate, box); });
+    if (winner == last) {
       return false;
     }
-    std::iter_swap(tried.begin(), winner);
+    std::iter_swap(opponents_.begin(), winner);
     return true;
   };
   std::erase_if(candidates_, isBeaten);

@@ -37,7 +37,9 @@ class ColorCandidates {
 
   std::vector<ColorVector> colors_;
   std::vector<std::int32_t> squaredLengths_;
+  // To the box.
   std::vector<std::int32_t> leastDistances_;
+  std::vector<std::int32_t> greatestDistances_;
   std::vector<std::uint8_t> candidates_;
   std::vector<std::uint8_t> opponents_;
 };

@@ -61,7 +61,8 @@ class LeastDistances {
 
 }  // namespace
 
-KeyGroup::KeyGroup(std::span<const PaletteEntry> colors, std::span<const std::uint8_t, kColors> indexes) : quads_{} {
+template <int indexBits>
+KeyGroup<indexBits>::KeyGroup(std::span<const PaletteEntry> colors, std::span<const std::uint8_t, kColors> indexes) {
   constexpr std::int32_t kPositive = 1 << 30;
   for (std::size_t half = 0; half < quads_.size(); ++half) {
     const std::span<const std::uint8_t, 4> four(indexes.data() + 4 * half, 4);
@@ -69,11 +70,14 @@ KeyGroup::KeyGroup(std::span<const PaletteEntry> colors, std::span<const std::ui
     for (std::size_t lane = 0; lane < four.size(); ++lane) {
       const PaletteEntry& color = colors[four[lane]];
       const std::int32_t squaredLength = color.red * color.red + color.green * color.green + color.blue * color.blue;
-      start[lane] = 256 * squaredLength + four[lane] + kPositive;
+      start[lane] = (squaredLength << indexBits) + four[lane] + kPositive;
     }
-    quads_[half] = {lanesOf(start), quadOf(colors, four, -128)};
+    quads_[half] = {lanesOf(start), quadOf(colors, four, -(1 << kColorShift))};
   }
 }
+
+template class KeyGroup<8>;
+template class KeyGroup<5>;
 
 DistanceGroup::DistanceGroup(std::span<const PaletteEntry> colors, std::span<const std::uint8_t, kColors> indexes)
     : colors_(quadOf(colors, indexes, 1)), indexes_(_mm_setr_epi32(indexes[0], indexes[1], indexes[2], indexes[3])) {}

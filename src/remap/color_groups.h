@@ -28,44 +28,55 @@ struct ColorQuad {
   return _mm_add_epi32(_mm_madd_epi16(a.blueGreen, b.blueGreen), _mm_madd_epi16(a.red, b.red));
 }
 
-/// Eight colors and their indexes, compared with targets from -1024 to 1023 in each channel by keys: for color p, its
-/// index i and target t the key is 256 (|p|^2 - 2 t.p) + i + 2^30. It is least for the nearest color and, of equally
-/// near ones, for the first, whose index is then the low byte. 2^30 keeps keys positive, and the bits of positive
-/// floats have the order of the floats: SSE2 has a minimum for these, but none for integers of 32 bits.
+/// Eight colors and their indexes, compared with a target by keys: for color p, its index i and target t the key is
+/// f (|p|^2 - 2 t.p) + i + 2^30, where f is above all indexes. It is least for the nearest color and, of equally near
+/// ones, for the first, whose index is then in the low bits. 2^30 keeps keys positive, and the bits of positive floats
+/// have the order of the floats: SSE2 has a minimum for these, but none for integers of 32 bits.
+///
+/// With indexes of 8 bits each channel of a target is from -1024 to 1023, with 5 bits from -16384 to 16383.
+template <int indexBits>
 class KeyGroup {
  public:
   static constexpr std::size_t kColors = 8;
 
   KeyGroup(std::span<const PaletteEntry> colors, std::span<const std::uint8_t, kColors> indexes);
 
+  [[nodiscard]] static bool has(PackedColor target) {
+    constexpr int kTargetBits = indexBits == 8 ? 11 : 15;
+    return isWithin<-(1 << (kTargetBits - 1)), kTargetBits>(target);
+  }
+
   /// The index of the nearest color of all groups, at least one.
   [[nodiscard]] static std::uint8_t nearest(const KeyGroup* groups, std::size_t count, PackedColor target) {
-    const ColorQuad fourfold = fourTimes({_mm_slli_epi16(target.lanes, 2)});
-    __m128 least = groups->leastKeys(fourfold);
+    const ColorQuad targets = fourTimes({_mm_slli_epi16(target.lanes, kTargetShift)});
+    __m128 least = groups->leastKeys(targets);
     while (--count > 0) {
-      least = _mm_min_ps(least, (++groups)->leastKeys(fourfold));
+      least = _mm_min_ps(least, (++groups)->leastKeys(targets));
     }
     least = _mm_min_ps(least, _mm_shuffle_ps(least, least, _MM_SHUFFLE(1, 0, 3, 2)));
     least = _mm_min_ps(least, _mm_shuffle_ps(least, least, _MM_SHUFFLE(2, 3, 0, 1)));
-    return static_cast<std::uint8_t>(_mm_cvtsi128_si32(_mm_castps_si128(least)));
+    return static_cast<std::uint8_t>(_mm_cvtsi128_si32(_mm_castps_si128(least)) & ((1 << indexBits) - 1));
   }
 
  private:
-  // The part of four keys that does not depend on the target, and the colors times -128: with the target times 4 the
-  // products have their factor of -512.
+  // 2 f is the product of what multiplies the colors and what multiplies the target, so that both fit into 16 bits.
+  static constexpr int kTargetShift = indexBits == 8 ? 2 : 0;
+  static constexpr int kColorShift = indexBits + 1 - kTargetShift;
+
+  // The part of four keys that does not depend on the target, and what the target multiplies.
   struct Quad {
     __m128i start;
     ColorQuad colors;
   };
 
-  [[nodiscard]] static __m128 keys(const Quad& quad, const ColorQuad& fourfold) {
-    return _mm_castsi128_ps(_mm_add_epi32(quad.start, dotProducts(quad.colors, fourfold)));
+  [[nodiscard]] static __m128 keys(const Quad& quad, const ColorQuad& targets) {
+    return _mm_castsi128_ps(_mm_add_epi32(quad.start, dotProducts(quad.colors, targets)));
   }
-  [[nodiscard]] __m128 leastKeys(const ColorQuad& fourfold) const {
-    return _mm_min_ps(keys(quads_[0], fourfold), keys(quads_[1], fourfold));
+  [[nodiscard]] __m128 leastKeys(const ColorQuad& targets) const {
+    return _mm_min_ps(keys(quads_[0], targets), keys(quads_[1], targets));
   }
 
-  std::array<Quad, 2> quads_;
+  std::array<Quad, 2> quads_{};
 };
 
 /// Four colors and their indexes, compared by squared distances.

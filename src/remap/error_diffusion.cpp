@@ -210,6 +210,22 @@ class Diffusion final : public ErrorDiffusion {
   std::vector<ColorLanes> left_;
 };
 
+// One color leaves nothing to choose, whatever the errors.
+class OneColor final : public ErrorDiffusion {
+ public:
+  explicit OneColor(RemappedImage& result) : result_(result) {}
+
+  void remapRows(std::int32_t count) override {
+    for (const std::int32_t end = row_ + count; row_ < end; ++row_) {
+      std::ranges::fill(result_.row(row_), std::uint8_t{0});
+    }
+  }
+
+ private:
+  RemappedImage& result_;
+  std::int32_t row_ = 0;
+};
+
 using Limits = std::optional<ErrorDiffusion::Limits>;
 
 template <typename Colors, typename Pixels>
@@ -236,6 +252,9 @@ std::unique_ptr<ErrorDiffusion> diffuse(Pixels pixels, NearestEntry& nearest, co
 std::unique_ptr<ErrorDiffusion> diffuseErrors(const WorkImage& image, NearestEntry& nearest,
                                               const std::optional<ErrorDiffusion::Limits>& limits,
                                               RemappedImage& result) {
+  if (nearest.colors().size() == 1) {
+    return std::make_unique<OneColor>(result);
+  }
   if (const auto& palette = image.palette()) {
     return diffuse(IndexedPixels(image, *palette), nearest, limits, result);
   }

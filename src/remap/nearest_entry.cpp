@@ -34,6 +34,16 @@ std::int32_t startOf(std::int32_t slab) {
   return slab <= 16 ? 64 * slab - 640 : 256 + (128 << (slab - 16));
 }
 
+// How near a grey is depends on nothing but the sum of the channels. Colors that dithering can't make with greys drive
+// targets far off, and this brings them back.
+ColorLanes leveled(ColorLanes target) {
+  const auto numbers = numbersOf(target);
+  const std::int32_t sum = numbers[0] + numbers[1] + numbers[2];
+  const std::int32_t rest = (sum % 3 + 3) % 3;
+  const std::int32_t level = (sum - rest) / 3;
+  return {_mm_setr_epi32(level + (rest > 0 ? 1 : 0), level + (rest > 1 ? 1 : 0), level, 0)};
+}
+
 }  // namespace
 
 ColorBox NearCells::boxOf(std::size_t cell) {
@@ -72,9 +82,12 @@ ColorBox FarCells::boxOf(std::size_t cell) {
 }
 
 NearestEntry::NearestEntry(std::span<const PaletteEntry> colors, std::size_t listBytes)
-    : colors_(colors.begin(), colors.end()), listBytes_(listBytes) {
+    : colors_(colors.begin(), colors.end()),
+      areGreys_(std::ranges::all_of(
+          colors, [](const PaletteEntry& color) { return color.red == color.green && color.green == color.blue; })),
+      listBytes_(listBytes) {
   if (hasFewColors()) {
-    all_ = groupsOf<KeyGroup>(colors);
+    all_ = groupsOf<FewGroup>(colors);
   } else {
     near_ = std::make_unique<CandidateGrid<NearCells>>(colors, listBytes);
   }
@@ -84,12 +97,18 @@ std::uint8_t NearestEntry::findFar(ColorLanes target) {
   if (allForFar_.empty()) {
     allForFar_ = groupsOf<DistanceGroup>(colors_);
   }
-  const PackedColor color = packed(target);
+  PackedColor color = packed(target);
   if (!FarCells::has(color)) {
     return DistanceGroup::nearestWrapping(allForFar_.data(), allForFar_.size(), target);
   }
   if (hasFewColors()) {
     return DistanceGroup::nearest(allForFar_.data(), allForFar_.size(), color);
+  }
+  if (areGreys_) {
+    color = packed(leveled(target));
+    if (NearCells::has(color)) {
+      return near_->find(color);
+    }
   }
   if (!far_) {
     // Lists are short where only the direction counts.

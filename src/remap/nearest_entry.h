@@ -16,7 +16,7 @@ namespace quillhue {
 /// The cube from -128 to 383 in each channel, in 32 x 32 x 32 cells: what images hold and most of what error diffusion
 /// makes of it.
 struct NearCells {
-  using Group = KeyGroup;
+  using Group = KeyGroup<8>;
   static constexpr std::size_t kCount = std::size_t{1} << 15;
   static constexpr std::uint32_t kVisitsBeforeList = 24;
   static constexpr std::size_t kMostOpponents = 32;
@@ -38,7 +38,7 @@ struct FarCells {
   static constexpr std::int32_t kSlabs = 24;
   static constexpr std::size_t kCount = std::size_t{kSlabs} * kSlabs * kSlabs;
   static constexpr std::uint32_t kVisitsBeforeList = 48;
-  static constexpr std::size_t kMostOpponents = 256;
+  static constexpr std::size_t kMostOpponents = 64;
 
   [[nodiscard]] static bool has(PackedColor target);
   [[nodiscard]] static std::size_t cellOf(PackedColor target);
@@ -64,7 +64,7 @@ class NearestEntry {
   /// The same for a caller who has asked hasFewColors before.
   [[nodiscard]] std::uint8_t findOfFew(ColorLanes target) {
     const PackedColor color = packed(target);
-    return isWithin<-1024, 11>(color) ? KeyGroup::nearest(all_.data(), all_.size(), color) : findFar(target);
+    return FewGroup::has(color) ? FewGroup::nearest(all_.data(), all_.size(), color) : findFar(target);
   }
   [[nodiscard]] std::uint8_t findOfMany(ColorLanes target) {
     const PackedColor color = packed(target);
@@ -72,10 +72,15 @@ class NearestEntry {
   }
 
  private:
+  using FewGroup = KeyGroup<5>;
+  static_assert(kFewColors <= 1 << 5);
+
   [[gnu::noinline]] std::uint8_t findFar(ColorLanes target);
 
   std::vector<PaletteEntry> colors_;
-  std::vector<KeyGroup> all_;
+  bool areGreys_;
+  // Of few colors.
+  std::vector<FewGroup> all_;
   std::size_t listBytes_;
   // Of many colors.
   std::unique_ptr<CandidateGrid<NearCells>> near_;

@@ -63,6 +63,15 @@ const std::vector<MakeColor> kColorKinds{
     },
     [](Random& random) { return PaletteEntry{random.upTo(9), 255, random.upTo(200)}; },
     [](Random& /*random*/) { return PaletteEntry{1, 2, 3}; },
+    // Greys, and nearly so.
+    [](Random& random) {
+      const std::uint8_t level = random.upTo(255);
+      return PaletteEntry{level, level, level};
+    },
+    [](Random& random) {
+      const std::uint8_t level = random.upTo(254);
+      return PaletteEntry{level, level, static_cast<std::uint8_t>(level + random.upTo(1))};
+    },
 };
 
 Palette paletteOf(std::int32_t size, const MakeColor& make, Random& random) {
@@ -178,6 +187,8 @@ TEST(RemapIdentity, HoldsWhereErrorsLeaveAnyRange) {
                                           {256, 3, white},
                                           {30, 4, black},
                                           {60, 5, black},
+                                          {200, 7, mixed},
+                                          {200, 8, mixed},
                                           {60, 5, mixed},
                                           {24, 4, mixed}}) {
     const Palette palette = paletteOf(size, kColorKinds[static_cast<std::size_t>(kind)], random);
