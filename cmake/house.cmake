@@ -28,10 +28,11 @@ endforeach()
 add_library(quillhue_headers INTERFACE)
 target_include_directories(quillhue_headers SYSTEM INTERFACE ${headers})
 
-# A folder of src/ as a static library; NAME is also its target quillhue_NAME.
-function(quillhue_library name)
+# A folder of src/ as a static library: of ui/logic the target quillhue_ui_logic.
+function(quillhue_library folder)
   cmake_parse_arguments(PARSE_ARGV 1 library "" "" "EXCLUDE;LINK")
-  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+  string(REPLACE "/" "_" name ${folder})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
   foreach(pattern IN LISTS library_EXCLUDE)
     list(FILTER sources EXCLUDE REGEX ${pattern})
   endforeach()
