@@ -34,6 +34,8 @@ class GridLayout {
   [[nodiscard]] std::int32_t margin() const { return margin_; }
   /// Where the grid ends with its margins, and the tab's controls begin.
   [[nodiscard]] std::int32_t rightEdge() const { return columns_ * cell_ + margin_ + 2; }
+  /// The line around which the controls stand, in the main window: the middle of what the grid leaves free.
+  [[nodiscard]] std::int32_t controlsCenter() const { return area_.left + (rightEdge() + area_.width()) / 2; }
   /// The palette's part of the area.
   [[nodiscard]] Rect paletteArea() const { return {0, 0, rightEdge(), area_.height()}; }
 

@@ -57,6 +57,8 @@ TEST(GridLayout, PaintsCellsAndMargins) {
   const std::array<Rect, 4> margins{{{0, 0, 333, 11}, {0, 10, 11, 331}, {330, 10, 333, 331}, {0, 330, 333, 346}}};
   EXPECT_EQ(grid.marginBoxes(), margins);
   EXPECT_EQ(grid.paletteArea(), (Rect{0, 0, 332, 345}));
+  // 7 + (332 + 480) / 2
+  EXPECT_EQ(grid.controlsCenter(), 413);
 }
 
 TEST(GridLayout, FindsTheCellUnderAPoint) {

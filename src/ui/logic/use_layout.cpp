@@ -1,0 +1,54 @@
+#include "ui/logic/use_layout.h"
+
+#include <algorithm>
+
+namespace quillhue {
+
+namespace {
+
+// The view with its bars, from the area's left edge on.
+void layOutView(UseLayout& layout, Size scrollBar, Scale scale) {
+  const Rect& area = layout.surface;
+  const std::int32_t top = area.top + scale(24);
+  layout.statusText = {area.left + scale(8), area.top + scale(8)};
+  layout.imageArea = {area.left, area.top, area.right - scale(147), area.bottom};
+  layout.statusArea = {area.left, area.top, layout.imageArea.right, top};
+  const std::int32_t right = std::max(layout.imageArea.right - scrollBar.width, area.left);
+  const std::int32_t bottom = std::max(area.bottom - scrollBar.height, top);
+  layout.view = {area.left, top, right, bottom};
+  layout.horizontalBar = boxAt({area.left, bottom}, {right - area.left, scrollBar.height});
+  layout.verticalBar = boxAt({right, top}, {scrollBar.width, bottom - top});
+}
+
+}  // namespace
+
+UseLayout useLayout(const Rect& area, Size scrollBar, Scale scale) {
+  UseLayout layout;
+  layout.surface = area;
+  layOutView(layout, scrollBar, scale);
+  // The column, measured from its right.
+  const auto corner = [&](std::int32_t fromRight, std::int32_t top) {
+    return Point{area.right - scale(fromRight), area.top + scale(top)};
+  };
+  const auto box = [&](std::int32_t fromRight, std::int32_t top, Size size) {
+    return boxAt(corner(fromRight, top), scale(size));
+  };
+  layout.load = box(139, 4, {60, 22});
+  layout.maintain = box(139, 30, {131, 20});
+  layout.nearest = box(139, 50, {131, 20});
+  layout.dither = box(139, 70, {131, 20});
+  layout.protectColor = box(139, 92, {131, 18});
+  layout.color = box(56, 110, {48, 22});
+  layout.protectGrid = box(139, 138, {131, 18});
+  layout.gridWidth = box(56, 160, {48, 22});
+  layout.gridHeight = box(56, 184, {48, 22});
+  layout.widthLabel = corner(104, 162);
+  layout.heightLabel = corner(104, 186);
+  const Point labelEnd = corner(56, 204);
+  layout.labelArea = {layout.widthLabel.x, layout.widthLabel.y, labelEnd.x, labelEnd.y};
+  layout.process = box(139, 216, {60, 22});
+  layout.saveAs = box(68, 216, {60, 22});
+  return layout;
+}
+
+}  // namespace quillhue
