@@ -1,0 +1,214 @@
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+#include "ui/logic/command_table.h"
+#include "ui/logic/menus.h"
+
+namespace quillhue {
+namespace {
+
+// Id, text, and where the command is offered: on the intro screen and in the tabs Values, Effects and Use, with
+// everything there that a command can need (x), or when there is no undo step (u), redo step (r) or current entry (c)
+// then not (any of these in place of x).
+const struct {
+  std::int32_t id;
+  const char* text;
+  const char* offered;
+} kExpected[] = {
+    {1, "&New blank palette...\tCtrl+N", "xxxx"},
+    {2, "CGA (cold 2-bit)", "xxxx"},
+    {3, "CGA (warm 2-bit)", "xxxx"},
+    {4, "CGA (mode 5 2-bit)", "xxxx"},
+    {5, "&CGA (4-bit)", "xxxx"},
+    {6, "&EGA", "xxxx"},
+    {7, "&VGA", "xxxx"},
+    {8, "Web &safe", "xxxx"},
+    {9, "&Windows (4-bit)", "xxxx"},
+    {10, "Windows &halftone", "xxxx"},
+    {11, "New &greyscale palette...", "xxxx"},
+    {12, "New &RGB palette...", "xxxx"},
+    {13, "&Open...\tCtrl+O", "xxxx"},
+    {14, "&Save\tCtrl+S", "-xxx"},
+    {15, "Save &as...\tCtrl+Shift+S", "-xxx"},
+    {16, "E&xit", "xxxx"},
+    {20, "&Undo\tCtrl+Z", "-uuu"},
+    {21, "&Redo\tCtrl+Y", "-rrr"},
+    {22, "Cu&t\tCtrl+X", "-xxx"},
+    {23, "&Copy\tCtrl+C", "-xxx"},
+    {24, "&Paste\tCtrl+V", "-xxx"},
+    {25, "C&lear\tDel", "-xxx"},
+    {26, "R&esize...", "-xxx"},
+    {27, "C&ount colors", "-xxx"},
+    {28, "&Average color", "-xxx"},
+    {30, "Free selection", "--x-"},
+    {31, "Row selection\tCtrl+R", "--x-"},
+    {32, "Range selection", "--x-"},
+    {33, "Select &all\tCtrl+A", "--x-"},
+    {34, "Select &none", "--x-"},
+    {35, "&Invert selection\tCtrl+I", "--x-"},
+    {36, "Select &matches", "--c-"},
+    {37, "Select &brighter", "--c-"},
+    {38, "Select &darker", "--c-"},
+    {39, "Select &redundant", "--x-"},
+    {40, "&Gradient", "--x-"},
+    {41, "&Bright gradient", "--x-"},
+    {42, "&Red and green", "--x-"},
+    {43, "&Green and blue", "--x-"},
+    {44, "&Blue and red", "--x-"},
+    {45, "&Reverse", "--x-"},
+    {46, "By &intensity", "--x-"},
+    {47, "By &red value", "--x-"},
+    {48, "By &green value", "--x-"},
+    {49, "By &blue value", "--x-"},
+    {50, "By &deviation", "--x-"},
+    {60, "&Read me", "xxxx"},
+    {61, "&About...", "xxxx"},
+    {70, "&Edit...", "-c--"},
+    {71, "&Fill", "--c-"},
+    {72, "Use as &blank color", "-cc-"},
+};
+
+bool offeredWithout(char needed, char offered) { return offered != '-' && offered != needed; }
+
+TEST(CommandTable, HasEveryCommandOnce) {
+  ASSERT_EQ(commands().size(), std::size(kExpected));
+  for (std::size_t i = 0; i < std::size(kExpected); ++i) {
+    EXPECT_EQ(commands()[i].id, kExpected[i].id);
+    EXPECT_EQ(menuText(commands()[i]), kExpected[i].text);
+    EXPECT_EQ(findCommand(kExpected[i].id), &commands()[i]);
+  }
+  for (const std::int32_t none : {-1, 0, 17, 29, 51, 62, 73}) {
+    EXPECT_EQ(findCommand(none), nullptr) << none;
+  }
+}
+
+TEST(CommandTable, OffersWhatHasAnEffect) {
+  for (const auto& [id, text, offered] : kExpected) {
+    const Command& command = *findCommand(id);
+    for (int tab = 0; tab < 4; ++tab) {
+      const auto active = static_cast<ActiveTab>(tab);
+      EXPECT_EQ(isEnabled(command, {active, true, true, true}), offered[tab] != '-') << text << ' ' << tab;
+      EXPECT_EQ(isEnabled(command, {active, false, true, true}), offeredWithout('u', offered[tab])) << text << tab;
+      EXPECT_EQ(isEnabled(command, {active, true, false, true}), offeredWithout('r', offered[tab])) << text << tab;
+      EXPECT_EQ(isEnabled(command, {active, true, true, false}), offeredWithout('c', offered[tab])) << text << tab;
+      EXPECT_EQ(isHandled(command.handler, active), offered[tab] != '-') << text << tab;
+    }
+  }
+}
+
+TEST(CommandTable, KnowsKeysOnce) {
+  const struct {
+    std::int32_t id;
+    Accelerator accelerator;
+  } cases[] = {
+      {1, {true, false, 'N'}},  {15, {true, true, 'S'}},  {25, {false, false, 0x2E}},
+      {31, {true, false, 'R'}}, {33, {true, false, 'A'}}, {70, {false, false, 0}},
+  };
+  for (const auto& [id, accelerator] : cases) {
+    EXPECT_EQ(findCommand(id)->accelerator, accelerator) << id;
+  }
+  std::set<std::string> texts;
+  for (const Command& command : commands()) {
+    if (command.accelerator.key != 0) {
+      EXPECT_TRUE(texts.insert(acceleratorText(command.accelerator)).second) << command.text;
+    }
+  }
+  EXPECT_EQ(texts.size(), 13U);
+}
+
+TEST(CommandTable, MapsSelectionModes) {
+  for (const SelectionMode mode : {SelectionMode::free, SelectionMode::row, SelectionMode::range}) {
+    EXPECT_EQ(selectionModeOf(commandOf(mode)), mode);
+  }
+  EXPECT_EQ(commandOf(SelectionMode::row), 31);
+}
+
+// "1 | 2 (3 4)" for a command, a separator and a menu of its own.
+std::string show(const std::vector<MenuItem>& items) {
+  std::string text;
+  for (const MenuItem& item : items) {
+    text += text.empty() ? "" : " ";
+    if (item.isSeparator()) {
+      text += '|';
+    } else if (item.command != 0) {
+      text += std::to_string(item.command);
+    } else {
+      text += item.text + " (" + show(item.items) + ')';
+    }
+  }
+  return text;
+}
+
+TEST(Menus, HoldTheCommands) {
+  EXPECT_EQ(show(mainMenu()),
+            "&File (1 New system palette (2 3 4 5 6 7 8 9 10) 11 12 | 13 14 15 | 16) "
+            "&Edit (20 21 | 22 23 24 25 | 26 | 27 28) "
+            "&Select (30 31 32 | 33 34 35 | 36 37 38 39) "
+            "&Colors (40 41 | S&wap channels (42 43 44) 45 &Sort (46 47 48 49 50)) "
+            "&Help (60 61)");
+  EXPECT_EQ(show(contextMenus()),
+            "NewPopup (2 3 4 5 6 7 8 9 10) "
+            "ValuesPopup (70 | 22 23 24 25 | 72) "
+            "EffectsPopup (30 31 32 | 33 34 35 36 37 38 39 | 40 41 S&wap channels (42 43 44) 45 "
+            "&Sort (46 47 48 49 50) | 71 72)");
+  EXPECT_EQ(contextMenus()[kValuesPopup].text, "ValuesPopup");
+  EXPECT_EQ(contextMenus()[kEffectsPopup].text, "EffectsPopup");
+  EXPECT_EQ(contextMenus()[kNewPopup].text, "NewPopup");
+}
+
+TEST(Menus, UseTheCommandsTexts) {
+  // The texts of a context menu that are not those of the menu bar.
+  const std::map<std::int32_t, std::string> others{{39, "Select re&dundant"}, {41, "Bright gradient"}};
+  for (const bool isContext : {false, true}) {
+    std::vector<MenuItem> open = isContext ? contextMenus() : mainMenu();
+    while (!open.empty()) {
+      const MenuItem item = open.back();
+      open.pop_back();
+      open.insert(open.end(), item.items.begin(), item.items.end());
+      if (item.command != 0) {
+        const auto other = others.find(item.command);
+        EXPECT_EQ(item.text, isContext && other != others.end() ? other->second : menuText(*findCommand(item.command)));
+      }
+    }
+  }
+}
+
+void expectDifferentLetters(const std::vector<MenuItem>& items) {
+  std::set<int> letters;
+  for (const MenuItem& item : items) {
+    const auto at = item.text.find('&');
+    if (at != std::string::npos) {
+      EXPECT_TRUE(letters.insert(std::tolower(item.text[at + 1])).second) << item.text;
+    }
+    expectDifferentLetters(item.items);
+  }
+}
+
+TEST(Menus, AreChosenFromByDifferentLetters) { expectDifferentLetters(mainMenu()); }
+
+TEST(Menus, AreGreyedWhereTheyHaveNoEffect) {
+  const struct {
+    ActiveTab tab;
+    const char* offered;
+  } cases[] = {
+      {ActiveTab::none, "File, Help, "},
+      {ActiveTab::values, "File, Edit, Help, "},
+      {ActiveTab::effects, "File, Edit, Select, Colors, Help, "},
+      {ActiveTab::use, "File, Edit, Help, "},
+  };
+  for (const auto& [tab, offered] : cases) {
+    std::string found;
+    for (const MenuItem& menu : mainMenu()) {
+      found += isEnabled(menu, {.tab = tab}) ? menu.text.substr(1) + ", " : "";
+    }
+    EXPECT_EQ(found, offered);
+    const MenuItem& swap = mainMenu()[3].items[3];
+    EXPECT_EQ(swap.text, "S&wap channels");
+    EXPECT_EQ(isEnabled(swap, {.tab = tab}), tab == ActiveTab::effects);
+  }
+}
+
+}  // namespace
+}  // namespace quillhue
