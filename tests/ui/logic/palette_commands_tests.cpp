@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+
+#include "support/fakes.h"
+#include "support/palettes.h"
+#include "ui/logic/command_table.h"
+#include "ui/logic/palette_commands.h"
+
+namespace quillhue {
+namespace {
+
+// What each command does is tested with the commands themselves; here, that each id means the right one.
+TEST(PaletteCommands, AreRunByTheirNumbers) {
+  const struct {
+    std::int32_t command;
+    const char* palette;
+    const char* selected;
+  } cases[] = {
+      // From 9,1,5 1,9,5 9,1,5 4,6,0 with all but the second selected; red and green ticked; the last is the current.
+      {33, "9,1,5 1,9,5 9,1,5 4,6,0", "####"},
+      {34, "9,1,5 1,9,5 9,1,5 4,6,0", "...."},
+      {35, "9,1,5 1,9,5 9,1,5 4,6,0", ".#.."},
+      {36, "9,1,5 1,9,5 9,1,5 4,6,0", "...#"},
+      {37, "9,1,5 1,9,5 9,1,5 4,6,0", "###."},
+      {38, "9,1,5 1,9,5 9,1,5 4,6,0", "...."},
+      {39, "9,1,5 1,9,5 9,1,5 4,6,0", "..#."},
+      // (9 + 4) / 2, (1 + 6) / 2; the roots of (81 + 16) / 2 and (1 + 36) / 2
+      {40, "9,1,5 1,9,5 6,3,5 4,6,0", "#.##"},
+      {41, "9,1,5 1,9,5 6,4,5 4,6,0", "#.##"},
+      {42, "1,9,5 1,9,5 1,9,5 6,4,0", "#.##"},
+      {43, "9,5,1 1,9,5 9,5,1 4,0,6", "#.##"},
+      {44, "5,1,9 1,9,5 5,1,9 0,6,4", "#.##"},
+      {45, "4,6,5 1,9,5 9,1,5 9,1,0", "#.##"},
+      // All three sums of red and green are 10.
+      {46, "9,1,5 1,9,5 9,1,5 4,6,0", "#.##"},
+      {47, "4,6,5 1,9,5 9,1,5 9,1,0", "#.##"},
+      {48, "9,1,5 1,9,5 9,1,5 4,6,0", "#.##"},
+      // The mean is (7, 2): the distances are 5, 5 and 25; of equal ones the later comes first.
+      {50, "9,1,5 1,9,5 9,1,5 4,6,0", "#.##"},
+      {71, "4,6,5 1,9,5 4,6,5 4,6,0", "#.##"},
+  };
+  RecordingServices fakes;
+  DocumentSlot slot;
+  const PaletteEntry colors[] = {{9, 1, 5}, {1, 9, 5}, {9, 1, 5}, {4, 6, 0}};
+  for (const auto& [command, palette, selected] : cases) {
+    slot.replaceDocument(paletteOf(colors), false, {}, 0, fakes.services);
+    PaletteDocument& document = *slot.document();
+    for (const std::int32_t index : {0, 2, 3}) {
+      document.select(index);
+    }
+    EXPECT_TRUE(runPaletteCommand(command, {document, fakes.settings, 3, 3})) << command;
+    EXPECT_EQ(show(document.getPalette()), palette) << command;
+    std::string flags;
+    for (std::int32_t index = 0; index < 4; ++index) {
+      flags += document.isSelected(index) ? '#' : '.';
+    }
+    EXPECT_EQ(flags, selected) << command;
+    EXPECT_EQ(document.modificationCount(), 1) << command;
+  }
+}
+
+TEST(PaletteCommands, SortByTheChannelOfTheirNumber) {
+  RecordingServices fakes;
+  DocumentSlot slot;
+  const PaletteEntry colors[] = {{2, 3, 1}, {1, 2, 3}, {3, 1, 2}};
+  const struct {
+    std::int32_t command;
+    const char* palette;
+  } cases[] = {{47, "1,2,3 2,3,1 3,1,2"}, {48, "3,1,2 1,2,3 2,3,1"}, {49, "2,3,1 3,1,2 1,2,3"}};
+  for (const auto& [command, palette] : cases) {
+    slot.replaceDocument(paletteOf(colors), false, {}, 0, fakes.services);
+    runPaletteCommand(33, {*slot.document(), fakes.settings});
+    runPaletteCommand(command, {*slot.document(), fakes.settings});
+    EXPECT_EQ(show(slot.document()->getPalette()), palette) << command;
+  }
+}
+
+TEST(PaletteCommands, ChangeSettingsWithoutAStep) {
+  RecordingServices fakes;
+  DocumentSlot slot;
+  slot.replaceDocument(createPalette(2, {7, 8, 9}), false, {}, 0, fakes.services);
+  const PaletteCommandInput input{*slot.document(), fakes.settings, kAllChannels, 1};
+  for (const SelectionMode mode : {SelectionMode::range, SelectionMode::row, SelectionMode::free}) {
+    EXPECT_TRUE(runPaletteCommand(commandOf(mode), input));
+    EXPECT_EQ(fakes.settings.selectionMode, mode);
+  }
+  EXPECT_TRUE(runPaletteCommand(72, input));
+  EXPECT_EQ(fakes.settings.blank, (PaletteEntry{7, 8, 9}));
+  EXPECT_EQ(slot.document()->modificationCount(), 0);
+}
+
+// One that is for the effects tab has to be run there, and no other.
+TEST(PaletteCommands, AreThoseOfTheEffectsTab) {
+  RecordingServices fakes;
+  DocumentSlot slot;
+  slot.replaceDocument(createPalette(2), false, {}, 0, fakes.services);
+  for (const Command& command : commands()) {
+    const bool isHere = command.handler == CommandHandler::effectsTab || command.handler == CommandHandler::paletteTabs;
+    EXPECT_EQ(runPaletteCommand(command.id, {*slot.document(), fakes.settings}), isHere) << command.text;
+  }
+}
+
+}  // namespace
+}  // namespace quillhue
