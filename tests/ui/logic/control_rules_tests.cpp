@@ -1,0 +1,141 @@
+#include <gtest/gtest.h>
+
+#include "ui/logic/from_image_dialog.h"
+#include "ui/logic/typed_number.h"
+#include "ui/logic/use_controls.h"
+
+namespace quillhue {
+namespace {
+
+constexpr auto kMaintain = RemapMode::maintain;
+constexpr auto kNearest = RemapMode::nearest;
+constexpr auto kDither = RemapMode::dither;
+
+TEST(UseControls, FollowImageAndMode) {
+  const struct {
+    UseState state;
+    LoadControls load;
+    ProtectControls protect;
+    bool labelsGrey;
+  } cases[] = {
+      // hasImage, isIndexed, hasResult, isBusy, mode, protectColor, protectGrid
+      {{}, {true}, {}, true},
+      {{true, true, false, false, kMaintain}, {true, true, true, true, true, false}, {}, true},
+      {{true, false, false, false, kNearest}, {true, false, true, true, true, false}, {}, true},
+      {{true, false, true, false, kNearest}, {true, false, true, true, true, true}, {}, true},
+      {{true, true, false, false, kDither}, {true, true, true, true, true, false}, {true, false, true, false}, true},
+      {{true, true, false, false, kDither, true},
+       {true, true, true, true, true, false},
+       {true, true, true, false},
+       true},
+      {{true, false, false, false, kDither, false, true},
+       {true, false, true, true, true, false},
+       {true, false, true, true},
+       false},
+      // Ticked, but in another mode.
+      {{true, true, false, false, kNearest, true, true}, {true, true, true, true, true, false}, {}, false},
+      // The image was cleared.
+      {{false, false, false, false, kDither, true, true}, {true}, {true, true, true, true}, false},
+      {{true, false, true, true, kDither, true, true}, {}, {}, false},
+  };
+  for (const auto& [state, load, protect, labelsGrey] : cases) {
+    EXPECT_EQ(loadControls(state), load) << &state - &cases[0].state;
+    EXPECT_EQ(protectControls(state), protect);
+    EXPECT_EQ(areLabelsGrey(state), labelsGrey);
+  }
+}
+
+TEST(UseControls, ChangeTheMode) {
+  const struct {
+    bool hasImage;
+    bool isIndexed;
+    RemapMode mode;
+    RemapMode afterLoad;
+    std::optional<RemapMode> clicked[3];
+  } cases[] = {
+      {false, false, kMaintain, kMaintain, {std::nullopt, kNearest, kDither}},
+      {true, true, kMaintain, kMaintain, {std::nullopt, kNearest, kDither}},
+      {true, true, kDither, kDither, {kMaintain, kNearest, std::nullopt}},
+      {true, false, kMaintain, kNearest, {std::nullopt, kNearest, kDither}},
+      {true, false, kNearest, kNearest, {std::nullopt, std::nullopt, kDither}},
+      {true, false, kDither, kDither, {std::nullopt, kNearest, std::nullopt}},
+  };
+  for (const auto& [hasImage, isIndexed, mode, afterLoad, clicked] : cases) {
+    const UseState state{.hasImage = hasImage, .isIndexed = isIndexed, .mode = mode};
+    EXPECT_EQ(modeAfterLoad(state), afterLoad);
+    for (const RemapMode button : {kMaintain, kNearest, kDither}) {
+      EXPECT_EQ(clickedMode(state, button), clicked[static_cast<std::size_t>(button)]);
+    }
+  }
+  EXPECT_EQ(imageStatusText(false), "No image");
+  EXPECT_EQ(imageStatusText(true), "Image available");
+}
+
+TEST(TypedNumber, BringsAnythingIntoTheRange) {
+  const struct {
+    const wchar_t* text;
+    std::optional<std::int32_t> number;
+    // In -100 .. 200, after 7.
+    std::int32_t value;
+  } cases[] = {
+      {L"42", 42, 42},
+      {L" 042\t", 42, 42},
+      {L"-5", -5, -5},
+      {L"201", 201, 200},
+      {L"-101", -101, -100},
+      {L"2147483647", 2147483647, 200},
+      {L"2147483648", 2147483647, 200},
+      {L"99999999999999999999999", 2147483647, 200},
+      {L"-99999999999999999999999", -2147483647 - 1, -100},
+      {L"", std::nullopt, 7},
+      {L" ", std::nullopt, 7},
+      {L"-", std::nullopt, 7},
+      {L"4 2", std::nullopt, 7},
+      {L"--4", std::nullopt, 7},
+      {L"4x", std::nullopt, 7},
+      {L"+4", std::nullopt, 7},
+  };
+  for (const auto& [text, number, value] : cases) {
+    EXPECT_EQ(typedNumber(text), number) << testing::PrintToString(text);
+    EXPECT_EQ(typedValue(text, {-100, 200}, 7), value) << testing::PrintToString(text);
+  }
+  EXPECT_EQ(typedValue(L"", {1, 5}, 7), 5);
+}
+
+TEST(FromImageDialog, ProposesAndAnswers) {
+  const struct {
+    std::uint64_t colors;
+    std::optional<std::int32_t> size;
+    std::int32_t proposed;
+    bool canUseAll;
+    // 0 for a refusal.
+    std::int32_t all;
+    std::int32_t reduced;
+  } cases[] = {
+      {1, 1, 1, true, 1, -1},
+      {200, 100, 200, true, 200, -100},
+      {200, 1024, 200, true, 1024, -1024},
+      {256, 256, 256, true, 256, -256},
+      {257, 256, 256, true, 257, -256},
+      {1024, 1, 256, true, 1024, -1},
+      {1024, 0, 256, true, 0, 0},
+      {1024, 1025, 256, true, 0, 0},
+      {1024, -3, 256, true, 0, 0},
+      {1024, std::nullopt, 256, true, 0, 0},
+  };
+  for (const auto& [colors, size, proposed, canUseAll, all, reduced] : cases) {
+    EXPECT_EQ(proposedSize(colors), proposed) << colors;
+    EXPECT_EQ(canUseAllColors(colors), canUseAll) << colors;
+    EXPECT_EQ(useAllColors(size, colors).value_or(0), all) << colors;
+    EXPECT_EQ(reduceColors(size).value_or(0), reduced) << colors;
+  }
+  EXPECT_FALSE(canUseAllColors(1025));
+  EXPECT_FALSE(canUseAllColors(std::uint64_t{1} << 32));
+  EXPECT_EQ(proposedSize(std::uint64_t{1} << 32), 256);
+  EXPECT_EQ(reduceColors(0).error(), "The palette size must be a number from 1 to 1024.");
+  EXPECT_EQ(colorsFoundText(1), "1 different color found in the image.");
+  EXPECT_EQ(colorsFoundText(300), "300 different colors found in the image.");
+}
+
+}  // namespace
+}  // namespace quillhue
