@@ -57,7 +57,7 @@ constexpr std::array<SettingDescription, 9> kSettings{{
      [](Value value, Scale, SavedSettings& settings) { settings.app.windowsColors = value[0] != 0; },
      [](const SavedSettings& settings) { return Bytes{static_cast<std::uint8_t>(settings.app.windowsColors)}; }},
     {"RGB levels", SettingType::bytes, 3,
-     [](Value value, Scale, SavedSettings& settings) { std::ranges::copy(value, settings.app.rgbLevels.begin()); },
+     [](Value value, Scale, SavedSettings& settings) { settings.app.rgbLevels = {value[0], value[1], value[2]}; },
      [](const SavedSettings& settings) { return Bytes(settings.app.rgbLevels.begin(), settings.app.rgbLevels.end()); }},
     {"Color mode", SettingType::bytes, 1,
      [](Value value, Scale, SavedSettings& settings) {
