@@ -75,12 +75,9 @@ struct CommandState {
 /// Whether a menu offers it. A command that is sent all the same is up to its handler.
 [[nodiscard]] bool isEnabled(const Command& command, const CommandState& state);
 
-/// The command whose radio mark tells the selection mode, and the mode that such a command chooses.
+/// The command whose radio mark tells the selection mode.
 [[nodiscard]] constexpr std::int32_t commandOf(SelectionMode mode) {
   return command_id::kFreeSelection + static_cast<std::int32_t>(mode);
-}
-[[nodiscard]] constexpr SelectionMode selectionModeOf(std::int32_t command) {
-  return static_cast<SelectionMode>(command - command_id::kFreeSelection);
 }
 
 }  // namespace quillhue

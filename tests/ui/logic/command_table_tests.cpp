@@ -118,13 +118,6 @@ TEST(CommandTable, KnowsKeysOnce) {
   EXPECT_EQ(texts.size(), 13U);
 }
 
-TEST(CommandTable, MapsSelectionModes) {
-  for (const SelectionMode mode : {SelectionMode::free, SelectionMode::row, SelectionMode::range}) {
-    EXPECT_EQ(selectionModeOf(commandOf(mode)), mode);
-  }
-  EXPECT_EQ(commandOf(SelectionMode::row), 31);
-}
-
 // "1 | 2 (3 4)" for a command, a separator and a menu of its own.
 std::string show(const std::vector<MenuItem>& items) {
   std::string text;

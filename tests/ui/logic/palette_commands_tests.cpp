@@ -79,9 +79,10 @@ TEST(PaletteCommands, ChangeSettingsWithoutAStep) {
   DocumentSlot slot;
   slot.replaceDocument(createPalette(2, {7, 8, 9}), false, {}, 0, fakes.services);
   const PaletteCommandInput input{*slot.document(), fakes.settings, kAllChannels, 1};
-  for (const SelectionMode mode : {SelectionMode::range, SelectionMode::row, SelectionMode::free}) {
-    EXPECT_TRUE(runPaletteCommand(commandOf(mode), input));
-    EXPECT_EQ(fakes.settings.selectionMode, mode);
+  for (const std::int32_t command : {32, 31, 30}) {
+    EXPECT_TRUE(runPaletteCommand(command, input));
+    EXPECT_EQ(static_cast<std::int32_t>(fakes.settings.selectionMode), command - 30);
+    EXPECT_EQ(commandOf(fakes.settings.selectionMode), command);
   }
   EXPECT_TRUE(runPaletteCommand(72, input));
   EXPECT_EQ(fakes.settings.blank, (PaletteEntry{7, 8, 9}));
