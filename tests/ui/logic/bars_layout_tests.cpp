@@ -105,6 +105,7 @@ TEST(BarsLayout, HasNothingToShowWithoutHeight) {
     EXPECT_EQ(bars.positionOfRow(0), 0);
     EXPECT_EQ(bars.markerPoint(Bar::left, kByteRange, 0).y, 12);
   }
+  EXPECT_EQ(BarsLayout({150, 90}, {96}).positionOfRow(1), 255);
   EXPECT_LE(BarsLayout({150, 89}, {96}).usableHeight(), 0);
 }
 

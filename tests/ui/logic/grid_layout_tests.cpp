@@ -89,6 +89,10 @@ TEST(GridLayout, FindsTheCellUnderAPoint) {
     EXPECT_EQ(click.opensMenu, opensMenu) << point.x << ',' << point.y;
   }
   EXPECT_EQ(contextMenuPoint(grid, 1), (Point{250, 90}));
+  // Cells of one pixel are the smallest that can be hit.
+  const GridLayout tiny(boxAt({}, {192, 52}), 1024, {96});
+  EXPECT_EQ(tiny.cell(), 1);
+  EXPECT_EQ(tiny.hitTest({11, 10}), 1);
   for (const Size tooSmall : {Size{160, 20}, Size{100, 10}, Size{0, 0}, Size{163, 400}}) {
     const GridLayout none(boxAt({}, tooSmall), 1024, {96});
     EXPECT_EQ(none.hitTest({10, 10}), kNoEntry) << tooSmall.width;
