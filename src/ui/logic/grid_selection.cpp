@@ -37,6 +37,12 @@ bool GridSelection::drag(const GridLayout& grid, Point point) {
   return give(grid.crossedCells(std::exchange(gesture_.last, point), point), grid.columns());
 }
 
+void GridSelection::releaseShift() {
+  if (gesture_.by == Means::keys) {
+    finish();
+  }
+}
+
 void GridSelection::moveTo(std::int32_t index) {
   finish();
   current_ = index;

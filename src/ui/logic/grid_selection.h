@@ -10,7 +10,7 @@
 namespace quillhue {
 
 /// Selecting entries of the grid by mouse and keys, in the selection mode of the settings, and the current entry that
-/// goes with it. The slot holds a document as long as this lives and a gesture is made.
+/// goes with it. The slot holds a document as long as this lives.
 ///
 /// - Free: a press flips an entry, and dragging gives every entry crossed the same state.
 /// - Row: the same with whole rows; a row gets the opposite of the pressed entry's state.
@@ -35,12 +35,14 @@ class GridSelection {
   /// True when the selection has changed. A press beside the entries starts nothing and leaves the current entry.
   bool press(const GridLayout& grid, Point point, Keys keys);
   bool drag(const GridLayout& grid, Point point);
-  /// Ends the gesture. Also for Shift released, the focus or the capture lost, and before any command.
+  /// Ends the gesture. Also for the focus or the capture lost, and before any command.
   void finish() { gesture_.by = Means::none; }
+  /// Shift is released: that ends a gesture by keys.
+  void releaseShift();
 
   /// Another current entry, from which the next range starts.
   void moveTo(std::int32_t index);
-  /// Another current entry, with the range up to it selected whatever the mode. Without finish between them, such
+  /// Another current entry, with the range up to it selected whatever the mode. While Shift is held, such
   /// moves are one gesture. True when the selection has changed.
   bool extendTo(std::int32_t index, Keys keys);
   /// Like a press and a release on the current entry, if there is one, on a grid of so many columns.

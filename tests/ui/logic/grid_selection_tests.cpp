@@ -29,7 +29,7 @@ class GridSelectionTest : public testing::Test {
   [[nodiscard]] Point middleOf(std::int32_t cell) const { return {50 + cell % 4 * 80, 50 + cell / 4 * 80}; }
 
   // Words: keys held (s, c), then what is done: p press, d drag to, m move to, x extend to a cell or to the point
-  // X,Y; then r release, k space; u undo, y redo, w save, a select all.
+  // X,Y; then r release of the button, h of Shift, k space; u undo, y redo, w save, a select all.
   void perform(const std::string& words) {
     std::istringstream stream(words);
     for (std::string word; stream >> word;) {
@@ -79,6 +79,9 @@ class GridSelectionTest : public testing::Test {
         break;
       case 'r':
         selection->finish();
+        break;
+      case 'h':
+        selection->releaseShift();
         break;
       case 'u':
       case 'y':
@@ -158,7 +161,8 @@ TEST_F(GridSelectionTest, SelectsByKeys) {
       {SelectionMode::range, "m2 k p5 r sk", ".....#.... 2 5"},
       // Moves with Shift are one step until something else comes, in any mode.
       {SelectionMode::free, "m4 x5 x6 x7 x3", "...##..... 1 3"},
-      {SelectionMode::row, "m4 x5 r x6", "....###... 2 6"},
+      {SelectionMode::row, "m4 x5 h x6", "....###... 2 6"},
+      {SelectionMode::range, "p4 r sp6 h d7 r", "....####.. 2 7"},
       {SelectionMode::range, "p1 r cx2 cx3 m7 cx8", ".###...##. 3 8"},
       {SelectionMode::free, "p7 r x8", ".......##. 2 8"},
       {SelectionMode::free, "x4", "....#..... 1 4"},
