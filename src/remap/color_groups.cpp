@@ -55,6 +55,7 @@ class LeastDistances {
   }
 
  private:
+  // No distance is as much, not even one that wraps: a sum of three squares is never 7 more than a multiple of 8.
   __m128i distances_ = _mm_set1_epi32(std::numeric_limits<std::int32_t>::max());
   __m128i indexes_ = _mm_set1_epi32(255);
 };

@@ -22,7 +22,7 @@ class DirectPixels {
     explicit Row(const std::uint8_t* pixels) : pixels_(pixels) {}
 
     [[nodiscard]] std::uint32_t at(std::ptrdiff_t x) const { return read<3>(x); }
-    // Faster, but the last pixel, behind which nothing may be read.
+    // Faster, but not for the last pixel, behind which nothing may be read.
     [[nodiscard]] std::uint32_t atInner(std::ptrdiff_t x) const { return read<4>(x) & 0xFFFFFF; }
 
    private:

@@ -9,8 +9,9 @@ namespace {
 
 constexpr std::int32_t kFarthest = 26000;
 
-// Around the middle of the cube slabs 8 to 15 are 64 wide each. On both sides follow slabs as wide as what is inside of
-// them, from 128 to 255 beyond the middle's sides on, and a last one for the rest.
+// Slabs 8 to 15, each 64 wide, make up the cube. On both sides follow slabs that are each twice as wide as the one
+// before: below 0 they are 129 to 256 away from it, then 257 to 512 and so on, and above 255 the same mirrored. The
+// last ones end at kFarthest.
 constexpr std::int32_t kLastSlab = FarCells::kSlabs - 1;
 
 std::int32_t slabOf(std::int32_t number) {
@@ -18,8 +19,7 @@ std::int32_t slabOf(std::int32_t number) {
   if (mirrored >= -128) {
     return (number + 640) / 64;
   }
-  const auto doublings = std::bit_width(static_cast<std::uint32_t>(-mirrored - 1)) - 8;
-  const std::int32_t slab = 7 - std::min(static_cast<std::int32_t>(doublings), 7);
+  const std::int32_t slab = 15 - static_cast<std::int32_t>(std::bit_width(static_cast<std::uint32_t>(-mirrored - 1)));
   return number < 0 ? slab : kLastSlab - slab;
 }
 

@@ -51,7 +51,8 @@ class NearestEntry {
   /// Up to so many colors comparing all of them is faster than looking for the few that count.
   static constexpr std::size_t kFewColors = 24;
 
-  /// Of at least one color. What is learned about the space takes at most about `listBytes` and 200 KiB.
+  /// Of at least one color. What is learned about the space takes at most about 5/4 `listBytes` and 200 KiB: far
+  /// targets have lists of their own.
   NearestEntry(std::span<const PaletteEntry> colors, std::size_t listBytes);
 
   [[nodiscard]] std::span<const PaletteEntry> colors() const { return colors_; }

@@ -25,7 +25,7 @@ constexpr std::size_t listBytesFor(RemapMode mode) {
 // A table for every index that a pixel can have.
 using IndexTable = std::array<std::uint8_t, 256>;
 
-// kept on purpose: an index equal to the number of colors stays, although it is one past the last.
+// Kept on purpose: an index equal to the number of colors stays, although it is one past the last.
 IndexTable maintainedIndexes(std::size_t colors) {
   IndexTable table{};
   for (std::size_t index = 0; index < table.size(); ++index) {
