@@ -8,19 +8,11 @@
 
 #include "fuzz_target.h"
 #include "support/literal_remap.h"
+#include "support/stopping_progress.h"
 
 namespace {
 
 using namespace quillhue;
-
-class StoppingProgress final : public RemapProgress {
- public:
-  explicit StoppingProgress(int reports) : left_(reports) {}
-  bool rowsDone(std::int32_t /*rows*/, const RemappedImage& /*result*/) override { return --left_ > 0; }
-
- private:
-  int left_;
-};
 
 // Bytes in order, and zeros behind the last one.
 class Input {
@@ -77,5 +69,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const bool isDone = remapImage(image, palette, options, result, progress);
   require(isDone == literalRemap(image, palette, options, expected, expectedProgress), "the same end");
   require(std::ranges::equal(result.rows(), expected.rows()), "the same indexes");
+  require(progress.reports() == expectedProgress.reports(), "the same reports");
   return 0;
 }

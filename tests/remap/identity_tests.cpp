@@ -12,24 +12,10 @@
 #include "remap/nearest_table.h"
 #include "remap/remap.h"
 #include "support/literal_remap.h"
+#include "support/stopping_progress.h"
 
 namespace quillhue {
 namespace {
-
-class StoppingProgress : public RemapProgress {
- public:
-  explicit StoppingProgress(int reports) : left_(reports) {}
-
-  bool rowsDone(std::int32_t rows, const RemappedImage& /*result*/) override {
-    rowsDone_.push_back(rows);
-    return --left_ > 0;
-  }
-  [[nodiscard]] const std::vector<std::int32_t>& reports() const { return rowsDone_; }
-
- private:
-  int left_;
-  std::vector<std::int32_t> rowsDone_;
-};
 
 // Numbers from 0 to `limit`.
 class Random {
@@ -259,7 +245,7 @@ TEST(NearestTable, EqualsTheLiteralRules) {
       NearestTable table(entries);
       const WorkImage image = imageOf(900, 1, 1, kColorKinds[random.upTo(2)], random);
       RemappedImage expected;
-      StoppingProgress progress(1000);
+      StoppingProgress progress;
       (void)literalRemap(image, palette, {}, expected, progress);
       std::vector<std::uint8_t> indexes(900);
       // The second time everything is found already.
@@ -267,6 +253,62 @@ TEST(NearestTable, EqualsTheLiteralRules) {
         std::ranges::fill(indexes, std::uint8_t{77});
         table.remapRow(image.row(0), indexes);
         EXPECT_TRUE(std::ranges::equal(indexes, expected.row(0)));
+      }
+    }
+  }
+}
+
+// A color that is as near as another one in a single corner of a cell, and before it.
+TEST(NearestTable, TakesTheFirstInTheCornerOfACell) {
+  const std::array<PaletteEntry, 2> entries{{{30, 30, 30}, {0, 0, 0}}};
+  const std::array<std::uint8_t, 3> pixel{15, 15, 15};
+  std::array<std::uint8_t, 1> index{77};
+  NearestTable(entries).remapRow(pixel, index);
+  EXPECT_EQ(index[0], 0);
+}
+
+ColorLanes lanesOf(const std::array<std::int32_t, 3>& numbers) {
+  return {_mm_setr_epi32(numbers[0], numbers[1], numbers[2], 0)};
+}
+
+// Every number of a channel is in the box of its cell, whose lists would else lack colors.
+template <typename Cells>
+void expectInBoxes(std::int32_t first, std::int32_t last) {
+  for (std::int32_t number = first; number <= last; ++number) {
+    const std::array target{number, first + last - number, first};
+    const PackedColor color = packed(lanesOf(target));
+    ASSERT_TRUE(Cells::has(color)) << number;
+    const std::size_t cell = Cells::cellOf(color);
+    ASSERT_LT(cell, Cells::kCount) << number;
+    const ColorBox box = Cells::boxOf(cell);
+    for (std::size_t channel = 0; channel < target.size(); ++channel) {
+      ASSERT_LE(box.low[channel], target[channel]) << number;
+      ASSERT_GE(box.high[channel], target[channel]) << number;
+    }
+  }
+  for (const std::int32_t outside : {first - 1, last + 1}) {
+    EXPECT_FALSE(Cells::has(packed(lanesOf({0, outside, 0})))) << outside;
+  }
+}
+
+TEST(NearestEntry, HasAllNumbersInTheBoxesOfTheirCells) {
+  expectInBoxes<NearCells>(-128, 383);
+  expectInBoxes<FarCells>(-26000, 26000);
+}
+
+TEST(NearestEntry, EqualsTheLiteralRulesAtAllBorders) {
+  Random random(16);
+  for (const std::int32_t size : {2, 24, 25, 256}) {
+    for (const MakeColor& make : kColorKinds) {
+      const std::vector<PaletteEntry> entries = entriesOf(paletteOf(size, make, random));
+      NearestEntry nearest(entries, std::size_t{1} << 20);
+      for (const std::int32_t border : {-26000, -1024, -128, 0, 256, 384, 1024, 26001, 32768, 46341}) {
+        for (int i = 0; i < 100; ++i) {
+          std::array<std::int32_t, 3> target{};
+          std::ranges::generate(target,
+                                [&] { return random.upTo(3) == 0 ? random.upTo(255) : border - random.upTo(1); });
+          ASSERT_EQ(nearest.find(lanesOf(target)), literalNearest(entries, target)) << border;
+        }
       }
     }
   }

@@ -7,21 +7,10 @@
 #include "remap/remap.h"
 #include "support/checksum.h"
 #include "support/palettes.h"
+#include "support/stopping_progress.h"
 
 namespace quillhue {
 namespace {
-
-// Stops after so many reports, and notes the rows of each.
-class StoppingProgress : public RemapProgress {
- public:
-  int reportsLeft = 1000;
-  std::vector<std::int32_t> reports;
-
-  bool rowsDone(std::int32_t rows, const RemappedImage& /*result*/) override {
-    reports.push_back(rows);
-    return --reportsLeft > 0;
-  }
-};
 
 Palette paletteWith(std::initializer_list<PaletteEntry> entries) {
   return paletteOf({entries.begin(), entries.size()});
@@ -73,6 +62,8 @@ TEST(Remap, TakesTheFirstOfTheNearest) {
   const Palette palette = paletteWith({{10, 0, 0}, {0, 10, 0}, {20, 0, 0}, {0, 10, 0}});
   const Bytes colors{0, 10, 0, 15, 0, 0, 0, 0, 0, 255, 255, 255, 255, 255, 254};
   EXPECT_EQ(remapped(imageOf(5, 1, {}, colors), palette, {}), "1 0 0 2 2 ");
+  // Nothing stands before a row's first pixel, not even black.
+  EXPECT_EQ(remapped(imageOf(1, 1, {}, {0, 0, 0}), paletteWith({{9, 9, 9}, {0, 0, 0}}), {}), "1 ");
   const Palette own = paletteWith({{0, 10, 0}, {15, 0, 0}, {0, 0, 0}, {255, 255, 255}});
   EXPECT_EQ(remapped(imageOf(4, 1, resizedCopy(own, 16, {}), {3, 2, 1, 0}), palette, {}), "2 0 0 1 ");
   // Entries past 256 are never chosen.
@@ -169,6 +160,15 @@ TEST(Remap, ProtectionHasItsLimits) {
   }
   options.protectGrid = {5000, 1000};
   EXPECT_EQ(remapped(grey, palette, options), plain);
+  const Palette extremes = paletteWith({{0, 0, 0}, {255, 255, 255}});
+  for (const auto& [width, height] : {std::pair{1010, 1}, {1, 1010}}) {
+    const WorkImage line = imageOf(width, height, {}, Bytes(3 * 1010, 100));
+    const auto ditheredIn = [&](std::int32_t side) {
+      return remapped(line, extremes, {RemapMode::dither, {}, ProtectGrid{side, side}});
+    };
+    EXPECT_EQ(ditheredIn(5000), ditheredIn(1000));
+    EXPECT_TRUE(ditheredIn(5000) != remapped(line, extremes, {RemapMode::dither, {}, {}}));
+  }
   // A color that is not there, and entries that no result can hold.
   for (const std::int32_t entry : {1, 3, 256, -1}) {
     EXPECT_EQ(remapped(grey, palette, {RemapMode::dither, entry, {}}), plain) << entry;
@@ -183,15 +183,14 @@ TEST(Remap, StopsAtEveryReport) {
   for (const RemapMode mode : {RemapMode::nearest, RemapMode::dither}) {
     for (int stopAt = 1; stopAt <= 4; ++stopAt) {
       RemappedImage result;
-      StoppingProgress progress;
-      progress.reportsLeft = stopAt;
+      StoppingProgress progress(stopAt);
       EXPECT_FALSE(remapImage(image, palette, {mode, {}, {}}, result, progress));
-      EXPECT_EQ(progress.reports.back(), 16 * stopAt - 15);
+      EXPECT_EQ(progress.reports().back(), 16 * stopAt - 15);
       const std::string rows = rowsOf(result);
       EXPECT_EQ(std::ranges::count(rows, '1'), 3 * (16 * stopAt - 15));
       // The rows of an earlier run stay where the size is the same.
-      progress.reportsLeft = 1;
-      EXPECT_FALSE(remapImage(image, createPalette(1), {mode, {}, {}}, result, progress));
+      StoppingProgress first(1);
+      EXPECT_FALSE(remapImage(image, createPalette(1), {mode, {}, {}}, result, first));
       EXPECT_EQ(std::ranges::count(rowsOf(result), '1'), 3 * (16 * stopAt - 16));
       EXPECT_EQ(result.colors().size(), 1U);
     }
@@ -199,10 +198,10 @@ TEST(Remap, StopsAtEveryReport) {
   StoppingProgress progress;
   RemappedImage result;
   EXPECT_TRUE(remapImage(imageOf(3, 50, createPalette(16), {}), palette, {}, result, progress));
-  EXPECT_TRUE(progress.reports.empty());
+  EXPECT_TRUE(progress.reports().empty());
   EXPECT_TRUE(
       remapImage(imageOf(3, 17, createPalette(16), {}), palette, {RemapMode::dither, {}, {}}, result, progress));
-  EXPECT_EQ(progress.reports, (std::vector{1, 17}));
+  EXPECT_EQ(progress.reports(), (std::vector{1, 17}));
   // Rows are padded with zeros to a multiple of 4.
   EXPECT_EQ(result.rows().size(), 4U * 17);
 }

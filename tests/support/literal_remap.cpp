@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <vector>
 
 namespace quillhue {
@@ -130,6 +131,12 @@ class Ditherer {
 };
 
 }  // namespace
+
+std::uint8_t literalNearest(std::span<const PaletteEntry> entries, const std::array<std::int32_t, 3>& target) {
+  std::vector<Color> colors;
+  std::ranges::transform(entries, std::back_inserter(colors), colorOf);
+  return nearestOf(colors, target);
+}
 
 bool literalRemap(const WorkImage& image, const Palette& palette, const RemapOptions& options, RemappedImage& result,
                   RemapProgress& progress) {

@@ -1,0 +1,59 @@
+// What a run holds beside image and result. Only AddressSanitizer's allocator counts it.
+
+#ifdef __SANITIZE_ADDRESS__
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <random>
+
+#include "core/generators.h"
+#include "remap/nearest_entry.h"
+#include "support/stopping_progress.h"
+
+// Declared in a header of the sanitizers that not every compiler brings.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // NOLINT
+
+namespace quillhue {
+namespace {
+
+WorkImage noise(std::int32_t width, std::int32_t height) {
+  WorkImage image(width, height, {});
+  std::minstd_rand random(1);
+  std::ranges::generate(image.pixels(), [&] { return static_cast<std::uint8_t>(random() >> 8); });
+  return image;
+}
+
+std::size_t heldAfter(const WorkImage& image, RemapMode mode) {
+  RemappedImage result;
+  StoppingProgress progress;
+  result.prepare(image.width(), image.height(), entriesOf(createGreyscalePalette(256)));
+  const std::size_t before = __sanitizer_get_current_allocated_bytes();
+  Remapper remapper(createGreyscalePalette(256));
+  remapper.remap(image, {mode, {}, {}}, result, progress);
+  return __sanitizer_get_current_allocated_bytes() - before;
+}
+
+// No color can be dithered onto greys: errors leave the color cube, and lists are made there too.
+TEST(RemapMemory, StaysWithinItsLimits) {
+  constexpr std::size_t kMebibyte = std::size_t{1} << 20;
+  EXPECT_LE(heldAfter(noise(200, 300), RemapMode::nearest), kMebibyte);
+  EXPECT_LE(heldAfter(noise(200, 300), RemapMode::dither), 2 * kMebibyte);
+  EXPECT_LE(heldAfter(noise(1024, 1024), RemapMode::nearest), 18 * kMebibyte);
+}
+
+TEST(RemapMemory, HasALimitForLists) {
+  NearestEntry nearest(entriesOf(createGreyscalePalette(256)), 4096);
+  const std::size_t before = __sanitizer_get_current_allocated_bytes();
+  std::minstd_rand random(1);
+  for (int i = 0; i < 500000; ++i) {
+    (void)nearest.find(lanesOfPixel(static_cast<std::uint32_t>(random() >> 4) & 0x7F7F7F));
+  }
+  EXPECT_EQ(__sanitizer_get_current_allocated_bytes(), before);
+}
+
+}  // namespace
+}  // namespace quillhue
+
+#endif
