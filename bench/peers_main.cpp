@@ -96,11 +96,18 @@ RemappedImage remapped(const WorkImage& image, const Palette& palette, RemapMode
   return result;
 }
 
+RemapMode modeOf(const std::string& mode) {
+  if (mode != "nearest" && mode != "dither") {
+    throw std::runtime_error(mode + " is neither nearest nor dither");
+  }
+  return mode == "dither" ? RemapMode::dither : RemapMode::nearest;
+}
+
 void printTime(const std::string& imageFile, const std::string& paletteFile, const std::string& mode) {
   const WorkImage image = loadFile(imageFile);
   const Palette palette = loadPalette(paletteFile);
   const std::clock_t start = std::clock();
-  const RemappedImage result = remapped(image, palette, mode == "dither" ? RemapMode::dither : RemapMode::nearest);
+  const RemappedImage result = remapped(image, palette, modeOf(mode));
   std::cout << static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC << '\n';
 }
 

@@ -77,10 +77,10 @@ def peer_table(peers, palettes, medians):
 
 
 def fault_table(peers, palettes, faults):
-    rows = [["Quillhue"] + ["0 %"] * len(palettes)]
-    for peer in peers:
-        shares = [faults.get((peer.name, palette)) for palette in palettes]
-        rows.append([peer.name] + [NOT_MEASURED if share is None else f"{100 * share:.2g} %" for share in shares])
+    rows = []
+    for name in ["Quillhue", *(peer.name for peer in peers)]:
+        shares = [faults.get((name, palette)) for palette in palettes]
+        rows.append([name] + [NOT_MEASURED if share is None else f"{100 * share:.2g} %" for share in shares])
     return table([""] + palettes, rows)
 
 

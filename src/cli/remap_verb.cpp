@@ -1,9 +1,11 @@
 #include <algorithm>
 #include <array>
+#include <expected>
 #include <memory>
 #include <new>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/arguments.h"

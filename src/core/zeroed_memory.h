@@ -11,7 +11,7 @@
 namespace quillhue {
 
 /// Numbers that are zero until they are written. They come from the system as they are, so a large buffer costs memory
-/// and time only where it is touched.
+/// and time only where it is touched. What was moved from may only be assigned or destroyed.
 template <typename Number>
   requires std::is_arithmetic_v<Number>
 class ZeroedMemory {

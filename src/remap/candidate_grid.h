@@ -50,7 +50,7 @@ class CandidateGrid {
   // A cell's word counts its visits, and is then the place and length of its list in groups_.
   static constexpr std::uint32_t kFirstList = 256;
   static constexpr std::uint32_t kLengthBits = 8;
-  static_assert(Cells::kVisitsBeforeList < kFirstList);
+  static_assert(Cells::kVisitsBeforeList < kFirstList && 256 / Group::kColors < kFirstList);
 
   [[gnu::noinline]] std::uint32_t visit(std::size_t cell) {
     std::uint32_t& word = words_.all()[cell];

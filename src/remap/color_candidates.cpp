@@ -2,22 +2,27 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 
 namespace quillhue {
 
 namespace {
 
-constexpr std::int32_t squared(std::int32_t number) { return number * number; }
+ColorQuad fourTimesCorner(const ColorVector& corner) {
+  return fourTimes(packed({_mm_setr_epi32(corner[0], corner[1], corner[2], 0)}));
+}
 
 }  // namespace
 
 ColorCandidates::ColorCandidates(std::span<const PaletteEntry> colors)
-    : leastDistances_(colors.size()), greatestDistances_(colors.size()) {
+    : groups_(groupsOf<DistanceGroup>(colors)),
+      leastDistances_(groups_.size() * DistanceGroup::kColors),
+      greatestDistances_(leastDistances_.size()) {
   colors_.reserve(colors.size());
   squaredLengths_.reserve(colors.size());
   for (const PaletteEntry& color : colors) {
     colors_.push_back({color.blue, color.green, color.red});
-    squaredLengths_.push_back(squared(color.blue) + squared(color.green) + squared(color.red));
+    squaredLengths_.push_back(squaredLength(color));
   }
   opponents_.reserve(colors.size());
   candidates_.reserve(colors.size());
@@ -31,17 +36,12 @@ std::span<const std::uint8_t> ColorCandidates::within(const ColorBox& box, std::
 
 // A color whose least distance to the box is more than the greatest distance of another one is never the nearest.
 void ColorCandidates::keepReachable(const ColorBox& box) {
-  for (std::size_t i = 0; i < colors_.size(); ++i) {
-    std::int32_t least = 0;
-    std::int32_t greatest = 0;
-    for (std::size_t channel = 0; channel < box.low.size(); ++channel) {
-      const std::int32_t fromLow = colors_[i][channel] - box.low[channel];
-      const std::int32_t toHigh = box.high[channel] - colors_[i][channel];
-      least += squared(std::max({0, -fromLow, -toHigh}));
-      greatest += squared(std::max(fromLow, toHigh));
-    }
-    leastDistances_[i] = least;
-    greatestDistances_[i] = greatest;
+  const ColorQuad low = fourTimesCorner(box.low);
+  const ColorQuad high = fourTimesCorner(box.high);
+  for (std::size_t i = 0; i < groups_.size(); ++i) {
+    const BoxDistances distances = groups_[i].distancesTo(low, high);
+    std::memcpy(&leastDistances_[i * DistanceGroup::kColors], &distances.least, sizeof distances.least);
+    std::memcpy(&greatestDistances_[i * DistanceGroup::kColors], &distances.greatest, sizeof distances.greatest);
   }
   const std::int32_t limit = *std::ranges::min_element(greatestDistances_);
   candidates_.clear();

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/palette_entry.h"
+#include "remap/color_groups.h"
 
 namespace quillhue {
 
@@ -36,8 +37,9 @@ class ColorCandidates {
   [[nodiscard]] bool beats(std::uint8_t winner, std::uint8_t loser, const ColorBox& box) const;
 
   std::vector<ColorVector> colors_;
+  std::vector<DistanceGroup> groups_;
   std::vector<std::int32_t> squaredLengths_;
-  // To the box.
+  // To the box, of all colors and of those that fill the last group up.
   std::vector<std::int32_t> leastDistances_;
   std::vector<std::int32_t> greatestDistances_;
   std::vector<std::uint8_t> candidates_;

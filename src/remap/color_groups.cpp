@@ -64,14 +64,11 @@ class LeastDistances {
 
 template <int indexBits>
 KeyGroup<indexBits>::KeyGroup(std::span<const PaletteEntry> colors, std::span<const std::uint8_t, kColors> indexes) {
-  constexpr std::int32_t kPositive = 1 << 30;
   for (std::size_t half = 0; half < quads_.size(); ++half) {
     const std::span<const std::uint8_t, 4> four(indexes.data() + 4 * half, 4);
     Numbers start{};
     for (std::size_t lane = 0; lane < four.size(); ++lane) {
-      const PaletteEntry& color = colors[four[lane]];
-      const std::int32_t squaredLength = color.red * color.red + color.green * color.green + color.blue * color.blue;
-      start[lane] = (squaredLength << indexBits) + four[lane] + kPositive;
+      start[lane] = keyStart<indexBits>(colors[four[lane]], four[lane]);
     }
     quads_[half] = {lanesOf(start), quadOf(colors, four, -(1 << kColorShift))};
   }
@@ -82,6 +79,19 @@ template class KeyGroup<5>;
 
 DistanceGroup::DistanceGroup(std::span<const PaletteEntry> colors, std::span<const std::uint8_t, kColors> indexes)
     : colors_(quadOf(colors, indexes, 1)), indexes_(_mm_setr_epi32(indexes[0], indexes[1], indexes[2], indexes[3])) {}
+
+BoxDistances DistanceGroup::distancesTo(const ColorQuad& low, const ColorQuad& high) const {
+  const auto reach = [](__m128i colors, __m128i from, __m128i to) {
+    return _mm_max_epi16(_mm_sub_epi16(colors, from), _mm_sub_epi16(to, colors));
+  };
+  const auto gap = [](__m128i colors, __m128i from, __m128i to) {
+    return _mm_max_epi16(_mm_setzero_si128(), _mm_max_epi16(_mm_sub_epi16(from, colors), _mm_sub_epi16(colors, to)));
+  };
+  const ColorQuad least{gap(colors_.blueGreen, low.blueGreen, high.blueGreen), gap(colors_.red, low.red, high.red)};
+  const ColorQuad greatest{reach(colors_.blueGreen, low.blueGreen, high.blueGreen),
+                           reach(colors_.red, low.red, high.red)};
+  return {dotProducts(least, least), dotProducts(greatest, greatest)};
+}
 
 std::uint8_t DistanceGroup::nearest(const DistanceGroup* groups, std::size_t count, PackedColor target) {
   const ColorQuad targets = fourTimes(target);

@@ -28,6 +28,16 @@ struct ColorQuad {
   return _mm_add_epi32(_mm_madd_epi16(a.blueGreen, b.blueGreen), _mm_madd_epi16(a.red, b.red));
 }
 
+[[nodiscard]] constexpr std::int32_t squaredLength(const PaletteEntry& color) {
+  return color.red * color.red + color.green * color.green + color.blue * color.blue;
+}
+
+/// The part of a color's key, of which KeyGroup tells, that does not depend on the target.
+template <int indexBits>
+[[nodiscard]] constexpr std::int32_t keyStart(const PaletteEntry& color, std::uint8_t index) {
+  return (squaredLength(color) << indexBits) + index + (1 << 30);
+}
+
 /// Eight colors and their indexes, compared with a target by keys: for color p, its index i and target t the key is
 /// f (|p|^2 - 2 t.p) + i + 2^30, where f is above all indexes. It is least for the nearest color and, of equally near
 /// ones, for the first, whose index is then in the low bits. 2^30 keeps keys positive, and the bits of positive floats
@@ -79,12 +89,21 @@ class KeyGroup {
   std::array<Quad, 2> quads_{};
 };
 
+/// Squared distances of four colors to what is nearest and to what is farthest in a box.
+struct BoxDistances {
+  __m128i least;
+  __m128i greatest;
+};
+
 /// Four colors and their indexes, compared by squared distances.
 class DistanceGroup {
  public:
   static constexpr std::size_t kColors = 4;
 
   DistanceGroup(std::span<const PaletteEntry> colors, std::span<const std::uint8_t, kColors> indexes);
+
+  /// To the box with these corners, within -26000 .. 26000.
+  [[nodiscard]] BoxDistances distancesTo(const ColorQuad& low, const ColorQuad& high) const;
 
   /// The index of the nearest color of all groups and, of equally near ones, the least. The target is from -26000 to
   /// 26000 in each channel, so that distances stay below 2^31.

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstdlib>
+#include <limits>
+#include <optional>
 
 namespace quillhue {
 
@@ -35,13 +38,24 @@ std::int32_t startOf(std::int32_t slab) {
 }
 
 // How near a grey is depends on nothing but the sum of the channels. Colors that dithering can't make with greys drive
-// targets far off, and this brings them back.
-ColorLanes leveled(ColorLanes target) {
+// targets far off, and this brings them back: a color of the same sum whose channels are as equal as they can be. None
+// where distances wrap in between, so that the order of greys is another one.
+std::optional<ColorLanes> leveled(ColorLanes target) {
   const auto numbers = numbersOf(target);
-  const std::int32_t sum = numbers[0] + numbers[1] + numbers[2];
-  const std::int32_t rest = (sum % 3 + 3) % 3;
-  const std::int32_t level = (sum - rest) / 3;
-  return {_mm_setr_epi32(level + (rest > 0 ? 1 : 0), level + (rest > 1 ? 1 : 0), level, 0)};
+  const std::int64_t sum = std::int64_t{numbers[0]} + numbers[1] + numbers[2];
+  std::uint32_t distanceToBlack = 0;
+  for (const std::int32_t number : numbers) {
+    distanceToBlack += static_cast<std::uint32_t>(number) * static_cast<std::uint32_t>(number);
+  }
+  // Of |t|^2 + 3 g^2 - 2 g (t1 + t2 + t3) for a grey g what comes to |t|^2.
+  const std::int64_t most =
+      std::abs(std::int64_t{static_cast<std::int32_t>(distanceToBlack)}) + 3 * 255 * 255 + 2 * 255 * std::abs(sum);
+  if (most > std::numeric_limits<std::int32_t>::max()) {
+    return {};
+  }
+  const auto rest = static_cast<std::int32_t>((sum % 3 + 3) % 3);
+  const auto level = static_cast<std::int32_t>((sum - rest) / 3);
+  return ColorLanes{_mm_setr_epi32(level + (rest > 0 ? 1 : 0), level + (rest > 1 ? 1 : 0), level, 0)};
 }
 
 }  // namespace
@@ -97,18 +111,20 @@ std::uint8_t NearestEntry::findFar(ColorLanes target) {
   if (allForFar_.empty()) {
     allForFar_ = groupsOf<DistanceGroup>(colors_);
   }
-  PackedColor color = packed(target);
+  if (areGreys_ && !hasFewColors()) {
+    if (const auto level = leveled(target)) {
+      target = *level;
+    }
+  }
+  const PackedColor color = packed(target);
   if (!FarCells::has(color)) {
     return DistanceGroup::nearestWrapping(allForFar_.data(), allForFar_.size(), target);
   }
   if (hasFewColors()) {
     return DistanceGroup::nearest(allForFar_.data(), allForFar_.size(), color);
   }
-  if (areGreys_) {
-    color = packed(leveled(target));
-    if (NearCells::has(color)) {
-      return near_->find(color);
-    }
+  if (NearCells::has(color)) {
+    return near_->find(color);
   }
   if (!far_) {
     // Lists are short where only the direction counts.

@@ -19,7 +19,7 @@ struct NearCells {
   using Group = KeyGroup<8>;
   static constexpr std::size_t kCount = std::size_t{1} << 15;
   static constexpr std::uint32_t kVisitsBeforeList = 24;
-  static constexpr std::size_t kMostOpponents = 32;
+  static constexpr std::size_t kMostOpponents = 16;
 
   [[nodiscard]] static bool has(PackedColor target) { return isWithin<-128, 9>(target); }
   [[nodiscard]] static std::size_t cellOf(PackedColor target) {
@@ -38,7 +38,7 @@ struct FarCells {
   static constexpr std::int32_t kSlabs = 24;
   static constexpr std::size_t kCount = std::size_t{kSlabs} * kSlabs * kSlabs;
   static constexpr std::uint32_t kVisitsBeforeList = 48;
-  static constexpr std::size_t kMostOpponents = 64;
+  static constexpr std::size_t kMostOpponents = 32;
 
   [[nodiscard]] static bool has(PackedColor target);
   [[nodiscard]] static std::size_t cellOf(PackedColor target);

@@ -5,6 +5,8 @@
 #include <array>
 #include <cstring>
 
+#include "remap/color_groups.h"
+
 namespace quillhue {
 
 namespace {
@@ -45,9 +47,8 @@ ColorVector lowestOf(std::size_t line) {
 class LineKeys {
  public:
   void lower(const PaletteEntry& color, std::uint8_t index, const ColorVector& lowest) {
-    const std::int32_t squaredLength = color.red * color.red + color.green * color.green + color.blue * color.blue;
     const std::int32_t product = color.blue * lowest[0] + color.green * lowest[1] + color.red * lowest[2];
-    const std::int32_t first = 256 * squaredLength + index + (1 << 30) - 512 * product;
+    const std::int32_t first = keyStart<8>(color, index) - 512 * product;
     const std::int32_t step = 512 * color.blue;
     __m128i redRow = _mm_sub_epi32(_mm_set1_epi32(first), _mm_setr_epi32(0, step, 2 * step, 3 * step));
     auto* least = least_.data();
@@ -90,7 +91,8 @@ NearestTable::NearestTable(std::span<const PaletteEntry> colors)
       found_(kLines * kColorsPerLine),
       isFilled_(kLines),
       lists_(kCells) {
-  // So that no list begins at 0.
+  // Room for the longest lists, which costs nothing until it is used. No list begins at 0.
+  listed_.reserve(1 + kCells * (1 + colors_.size()));
   listed_.push_back(0);
 }
 

@@ -13,7 +13,7 @@ namespace quillhue {
 
 /// The nearest of at most 256 colors for each of the 2^24 colors of an image, found when one is first asked for,
 /// together with its neighbors. For images that are large enough to make up for the memory: 16 MiB, as far as touched,
-/// and at most 1.2 MiB beside it.
+/// and at most 1.3 MiB beside it.
 class NearestTable {
  public:
   /// Of at least one color. Throws std::bad_alloc.

@@ -49,7 +49,7 @@ class RemapProgress {
 };
 
 /// Remaps images onto a palette's first kMaxUsedEntries entries, of which it takes a copy. What it learns about their
-/// places in the color space serves all its images.
+/// places in the color space serves all its images; how much room that gets is up to the mode of the first one.
 ///
 /// Distances are squared Euclidean distances of red, green and blue; of equally near entries the first one counts.
 /// Arithmetic is 32-bit two's complement: errors are never clamped, and with a palette that is far from the image's

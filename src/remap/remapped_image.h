@@ -14,7 +14,7 @@ namespace quillhue {
 /// The most entries of a palette that an image of one byte a pixel can use.
 inline constexpr std::int32_t kMaxUsedEntries = 256;
 
-/// An image of one byte a pixel in the colors of a palette.
+/// An image of one byte a pixel in the colors of a palette. A moved-from image may only be assigned or destroyed.
 class RemappedImage {
  public:
   [[nodiscard]] std::int32_t width() const { return width_; }
