@@ -48,8 +48,9 @@ std::optional<ColorLanes> leveled(ColorLanes target) {
     distanceToBlack += static_cast<std::uint32_t>(number) * static_cast<std::uint32_t>(number);
   }
   // Of |t|^2 + 3 g^2 - 2 g (t1 + t2 + t3) for a grey g what comes to |t|^2.
-  const std::int64_t most =
-      std::abs(std::int64_t{static_cast<std::int32_t>(distanceToBlack)}) + 3 * 255 * 255 + 2 * 255 * std::abs(sum);
+  constexpr std::int64_t kWhite = 255;
+  const std::int64_t most = std::abs(std::int64_t{static_cast<std::int32_t>(distanceToBlack)}) + 3 * kWhite * kWhite +
+                            2 * kWhite * std::abs(sum);
   if (most > std::numeric_limits<std::int32_t>::max()) {
     return {};
   }
