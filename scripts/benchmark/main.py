@@ -9,9 +9,9 @@ from pathlib import Path
 import report
 import sides
 
-ROUNDS = 5
+ROUNDS = 9
 # A side that has used so much CPU time for one work is measured well enough.
-ENOUGH_SECONDS = 8
+ENOUGH_SECONDS = 5
 PALETTES = ["regular-216", "adaptive-256", "adaptive-16"]
 WORKS = [(mode, palette) for mode in ("nearest", "dither") for palette in PALETTES]
 

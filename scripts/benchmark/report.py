@@ -155,7 +155,7 @@ def compose(peers, palettes, runs, faults, benchmarks):
 
 `scripts/benchmark.sh` writes this page. Where a section says nothing else, its numbers are how many times as long as
 Quillhue the other side takes: more than 1 says that Quillhue is faster. They compare medians of CPU time (user and
-system) of single-threaded runs, all sides taking turns: five runs each, fewer of what takes long.
+system) of single-threaded runs, all sides taking turns: nine runs each, fewer of what takes long.
 
 The image is a made landscape with gradients, sharp outlines, fine texture and mild noise, the same at every run:
 4096 x 3072 pixels (12.6 megapixels) with some 300,000 colors where no other size stands. The palettes: the regular 216
