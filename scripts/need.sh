@@ -17,7 +17,7 @@ log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 if ! { "${as_root[@]}" apt-get update &&
        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-         apt-get install -y --no-install-recommends "${missing[@]}"; } >"$log" 2>&1; then
+         apt-get install -y --no-install-recommends -o DPkg::Lock::Timeout=300 "${missing[@]}"; } >"$log" 2>&1; then
   cat "$log" >&2
   exit 1
 fi
