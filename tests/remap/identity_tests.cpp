@@ -314,6 +314,23 @@ TEST(NearestEntry, EqualsTheLiteralRulesAtAllBorders) {
   }
 }
 
+// Far targets of greys are brought back, but not where distances wrap for some of the greys only: about the square root
+// of 2^31 below 0.
+TEST(NearestEntry, EqualsTheLiteralRulesForFarGreys) {
+  Random random(17);
+  const std::vector<PaletteEntry> greys = entriesOf(paletteOf(100, kColorKinds[7], random));
+  NearestEntry nearest(greys, std::size_t{1} << 20);
+  const auto around = [&](std::int32_t middle, std::int32_t reach) {
+    return middle + reach * (random.upTo(254) - 127) / 127;
+  };
+  for (int i = 0; i < 6000; ++i) {
+    const std::int32_t far = std::array{-46341, 46341, -30000, 90000, 2000000000, 0}[static_cast<std::size_t>(i % 6)];
+    std::array<std::int32_t, 3> target{around(far, 40), around(0, 300), around(i % 4 == 0 ? -far : 0, 300)};
+    std::ranges::rotate(target, target.begin() + i % 3);
+    ASSERT_EQ(nearest.find(lanesOf(target)), literalNearest(greys, target)) << i;
+  }
+}
+
 // Without memory for lists all colors are compared, with the same results.
 TEST(NearestEntry, WorksWithoutMemoryForLists) {
   Random random(15);
