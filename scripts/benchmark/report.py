@@ -168,8 +168,7 @@ The remapping alone is compared. Quillhue and the libraries are timed inside the
 image in memory. Programs are timed as a whole without an output, and what the same program takes to do all but the
 remapping, measured in the same rounds, is subtracted: it decodes the image and drops it (ffmpeg also converts it to the
 pixels that its remapping wants, Netpbm copies it row by row). libimagequant has made its palette before the clock
-starts, and measures differences as the eye sees them. Error diffusion differs in detail: some go back and forth, along a
-curve, or limit the errors, and ImageMagick and Pillow look colors up with six bits a channel.
+starts. Error diffusion differs in detail from program to program.
 
 The share of pixels, of 1024 x 768, that do not get an entry with the least distance in red, green and blue, found by
 trying all. Another entry that is equally near is no fault.
