@@ -13,7 +13,7 @@ declare -A allowed=(
   [src/remap]="core formats/work_image.h"
   [src/cli]="core formats colormodes effects remap"
   [src/ui/logic]="core formats colormodes effects remap"
-  [src/ui/win32]=""
+  [src/ui/win32]="core ui/logic/geometry.h"
   [src/ui]="core formats colormodes effects remap"
 )
 [ -d src ] || { echo "no src/ in $PWD"; exit 1; }

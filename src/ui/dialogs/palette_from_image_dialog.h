@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstdint>
+
+namespace quillhue {
+
+class MainWindow;
+
+/// Asks how to make a palette from an image of so many different colors, and answers as
+/// FileQuestions::askPaletteFromImage does.
+[[nodiscard]] std::int32_t showPaletteFromImageDialog(const MainWindow& owner, std::uint64_t distinctColors);
+
+}  // namespace quillhue

@@ -1,0 +1,63 @@
+#include "ui/number_field.h"
+
+// Needs windows.h before it.
+#include <commctrl.h>
+
+#include "ui/logic/typed_number.h"
+#include "ui/win32/controls.h"
+
+namespace quillhue {
+
+NumberField::NumberField(HWND parent, HFONT font, DWORD style, DWORD arrowStyle)
+    : field_(createControl(parent, font,
+                           {.windowClass = L"Edit",
+                            .style = WS_TABSTOP | ES_NUMBER | ES_AUTOHSCROLL | style,
+                            .extendedStyle = WS_EX_CLIENTEDGE})),
+      arrows_(createControl(parent, nullptr,
+                            {.windowClass = UPDOWN_CLASSW,
+                             .style = UDS_ARROWKEYS | UDS_ALIGNRIGHT | UDS_SETBUDDYINT | UDS_NOTHOUSANDS | arrowStyle})) {
+  SendMessageW(arrows_.get(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(field_.get()), 0);
+  setRange(range_);
+  setValue(0);
+}
+
+void NumberField::setRange(const ValueRange& range) {
+  range_ = range;
+  SendMessageW(arrows_.get(), UDM_SETRANGE32, static_cast<WPARAM>(range.minimum), range.maximum);
+}
+
+void NumberField::setValue(std::int32_t value) {
+  value_ = value;
+  SendMessageW(arrows_.get(), UDM_SETPOS32, 0, value);
+}
+
+std::int32_t NumberField::value() {
+  value_ = typedValue(windowText(field_.get()), range_, value_);
+  return value_;
+}
+
+std::optional<std::int32_t> NumberField::typed() const { return typedNumber(windowText(field_.get())); }
+
+void NumberField::settle() {
+  if (const std::int32_t settled = value(); typed() != settled) {
+    setValue(settled);
+  }
+}
+
+void NumberField::move(const Rect& box) {
+  moveTo(field_.get(), box);
+  // Taking the field as its buddy again, the arrows take their place in it anew.
+  SendMessageW(arrows_.get(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(field_.get()), 0);
+}
+
+void NumberField::show(bool visible) {
+  quillhue::show(field_.get(), visible);
+  quillhue::show(arrows_.get(), visible);
+}
+
+void NumberField::enable(bool enabled) {
+  quillhue::enable(field_.get(), enabled);
+  quillhue::enable(arrows_.get(), enabled);
+}
+
+}  // namespace quillhue

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <optional>
+
+#include "core/value_range.h"
+#include "ui/logic/geometry.h"
+#include "ui/win32/handle.h"
+
+namespace quillhue {
+
+/// An edit field for a whole number with arrows at its right. The arrows keep to the range; what is typed need not.
+class NumberField {
+ public:
+  NumberField() = default;
+  /// `style` (ES_CENTER, ES_RIGHT) goes with that of the field, `arrowStyle` (WS_BORDER) with that of the arrows.
+  NumberField(HWND parent, HFONT font, DWORD style, DWORD arrowStyle = 0);
+
+  [[nodiscard]] HWND field() const { return field_.get(); }
+  [[nodiscard]] HWND arrows() const { return arrows_.get(); }
+
+  void setRange(const ValueRange& range);
+  /// Shows the number, which reports a change to the field's parent if it is another text.
+  void setValue(std::int32_t value);
+  /// The number that the field shows, the nearest one in the range; the number before where it shows none.
+  [[nodiscard]] std::int32_t value();
+  /// What the field shows if that is a number at all, in the range or not.
+  [[nodiscard]] std::optional<std::int32_t> typed() const;
+  /// Shows value() where something else was typed. For the focus lost.
+  void settle();
+
+  /// Moves the field and puts the arrows into its right end.
+  void move(const Rect& box);
+  void show(bool visible);
+  void enable(bool enabled);
+
+ private:
+  Window field_;
+  Window arrows_;
+  ValueRange range_;
+  std::int32_t value_ = 0;
+};
+
+}  // namespace quillhue

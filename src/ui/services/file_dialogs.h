@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "core/services.h"
+
+namespace quillhue {
+
+class MainWindow;
+
+/// The system's dialogs for file names, and the question how to make a palette of an image. Each gives nothing when
+/// the user cancels.
+class FileDialogs final : public FileQuestions {
+ public:
+  explicit FileDialogs(const MainWindow& owner) : owner_(owner) {}
+
+  /// A file to open as a palette, or as an image to remap.
+  [[nodiscard]] std::optional<std::wstring> askOpenPalette() const;
+  [[nodiscard]] std::optional<std::wstring> askOpenImage() const;
+  /// Where to write a bitmap; asks before a file is replaced.
+  [[nodiscard]] std::optional<std::wstring> askSaveBitmap() const;
+
+  std::optional<SaveAsAnswer> askSaveAs(PaletteFormat preselected) override;
+  std::int32_t askPaletteFromImage(std::uint64_t distinctColors) override;
+
+ private:
+  const MainWindow& owner_;
+};
+
+}  // namespace quillhue

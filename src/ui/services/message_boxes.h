@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string_view>
+
+#include "core/services.h"
+
+namespace quillhue {
+
+class MainWindow;
+
+/// Messages and questions as message boxes over the main window or the dialog that is open on it.
+class MessageBoxes final : public Messages {
+ public:
+  explicit MessageBoxes(const MainWindow& owner) : owner_(owner) {}
+
+  void information(std::string_view text) override;
+  void error(std::string_view text) override;
+  SaveChangesAnswer askSaveChanges(std::string_view text) override;
+  bool askReplaceFile(std::string_view text) override;
+
+ private:
+  const MainWindow& owner_;
+};
+
+}  // namespace quillhue

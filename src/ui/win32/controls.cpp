@@ -1,0 +1,75 @@
+#include "ui/win32/controls.h"
+
+#include "core/utf8.h"
+#include "ui/win32/drawing.h"
+
+namespace quillhue {
+
+Window createControl(HWND parent, HFONT font, const ControlDescription& description) {
+  Window control(CreateWindowExW(description.extendedStyle, description.windowClass,
+                                 fromUtf8(description.text).c_str(), WS_CHILD | description.style, 0, 0, 0, 0, parent,
+                                 nullptr, GetModuleHandleW(nullptr), nullptr));
+  if (font != nullptr) {
+    SendMessageW(control.get(), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+  }
+  return control;
+}
+
+std::wstring windowText(HWND window) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+  return text;
+}
+
+void setWindowText(HWND window, std::string_view text) { SetWindowTextW(window, fromUtf8(text).c_str()); }
+
+Size clientSize(HWND window) {
+  RECT box{};
+  GetClientRect(window, &box);
+  return {box.right, box.bottom};
+}
+
+void moveTo(HWND window, const Rect& box) {
+  MoveWindow(window, box.left, box.top, box.width(), box.height(), TRUE);
+}
+
+void show(HWND window, bool visible) { ShowWindow(window, visible ? SW_SHOWNA : SW_HIDE); }
+
+void enable(HWND window, bool enabled) { EnableWindow(window, enabled ? TRUE : FALSE); }
+
+void repaint(HWND window, bool erase) { InvalidateRect(window, nullptr, erase ? TRUE : FALSE); }
+
+void repaint(HWND window, const Rect& box, bool erase) {
+  const RECT system = toSystem(box);
+  InvalidateRect(window, &system, erase ? TRUE : FALSE);
+}
+
+bool isTicked(HWND button) { return SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED; }
+
+void tick(HWND button, bool ticked) {
+  SendMessageW(button, BM_SETCHECK, ticked ? BST_CHECKED : BST_UNCHECKED, 0);
+}
+
+void addItem(HWND combo, std::string_view text) {
+  SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(fromUtf8(text).c_str()));
+}
+
+void chooseItem(HWND combo, std::int32_t index) { SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0); }
+
+std::int32_t chosenItem(HWND combo) { return static_cast<std::int32_t>(SendMessageW(combo, CB_GETCURSEL, 0, 0)); }
+
+Window createTooltip(HWND owner, HWND control, std::string_view text) {
+  Window tooltip(CreateWindowExW(0, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
+                                 CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr, GetModuleHandleW(nullptr), nullptr));
+  std::wstring wide = fromUtf8(text);
+  TTTOOLINFOW tool{};
+  tool.cbSize = sizeof tool;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = owner;
+  tool.uId = reinterpret_cast<UINT_PTR>(control);
+  tool.lpszText = wide.data();
+  SendMessageW(tooltip.get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  return tooltip;
+}
+
+}  // namespace quillhue

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <windows.h>
+// Needs windows.h before it.
+#include <commctrl.h>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "ui/logic/geometry.h"
+#include "ui/win32/handle.h"
+
+namespace quillhue {
+
+/// Child windows and what is done with them. Texts are UTF-8 where they are the program's own, wide where the user
+/// types them.
+
+/// What a child window is made of.
+struct ControlDescription {
+  const wchar_t* windowClass = nullptr;
+  std::string_view text;
+  /// Beside WS_CHILD.
+  DWORD style = 0;
+  DWORD extendedStyle = 0;
+};
+/// A child of `parent` of no size, in the font if that is not null. Null when the system refuses.
+[[nodiscard]] Window createControl(HWND parent, HFONT font, const ControlDescription& description);
+
+[[nodiscard]] std::wstring windowText(HWND window);
+void setWindowText(HWND window, std::string_view text);
+
+/// The client area, from 0, 0 on.
+[[nodiscard]] Size clientSize(HWND window);
+/// Moves a child window and repaints it.
+void moveTo(HWND window, const Rect& box);
+void show(HWND window, bool visible);
+void enable(HWND window, bool enabled);
+void repaint(HWND window, bool erase = false);
+void repaint(HWND window, const Rect& box, bool erase = false);
+
+[[nodiscard]] bool isTicked(HWND button);
+void tick(HWND button, bool ticked);
+
+/// Combo boxes: adds an item, and the index of the chosen one.
+void addItem(HWND combo, std::string_view text);
+void chooseItem(HWND combo, std::int32_t index);
+[[nodiscard]] std::int32_t chosenItem(HWND combo);
+
+/// A short text that appears beside a control under the pointer, even while its window is inactive.
+[[nodiscard]] Window createTooltip(HWND owner, HWND control, std::string_view text);
+
+}  // namespace quillhue
