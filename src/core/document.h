@@ -103,6 +103,8 @@ class DocumentSlot {
   /// Destroys the document with its history, installs a new one and tells the observer.
   void replaceDocument(Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
                        Services& services);
+  /// Destroys the document, and tells nobody.
+  void closeDocument() { document_.reset(); }
 
  private:
   std::unique_ptr<PaletteDocument> document_;

@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,6 +14,7 @@
 #include "ui/main_ui.h"
 #include "ui/services/clipboard.h"
 #include "ui/services/file_dialogs.h"
+#include "ui/win32/custom_window.h"
 #include "ui/win32/handle.h"
 
 namespace quillhue {
@@ -22,6 +22,7 @@ namespace quillhue {
 /// What the main window and its screens work with. All of it lives longer than the window.
 struct Workplace {
   SavedSettings& settings;
+  SettingsStore& settingsStore;
   DocumentSlot& slot;
   Services& services;
   ColorChooser& colorChooser;
@@ -31,24 +32,22 @@ struct Workplace {
   std::wstring programFolder;
 };
 
-/// The program's one window: menu bar, status bar, and the screen between them.
-class MainWindow final : public DocumentObserver {
+/// The program's one window: menu bar, status bar, and the screen between them. Made and destroyed by its thread.
+class MainWindow final : public CustomWindow, public DocumentObserver {
  public:
+  /// Only the address of `workplace` is taken before create.
   explicit MainWindow(Workplace& workplace) : workplace_(workplace) {}
-  MainWindow(const MainWindow&) = delete;
-  MainWindow& operator=(const MainWindow&) = delete;
   ~MainWindow() override;
 
-  /// Makes the window and shows it. When the system refuses, the text that says what it refused.
-  [[nodiscard]] std::string_view create(HINSTANCE instance, int showCommand);
+  /// Makes the window, with the intro screen, and shows it. When the system refuses, the text that says what;
+  /// otherwise an empty one. Destroying the window writes the settings and ends the message loop.
+  [[nodiscard]] std::string_view open(int showCommand);
 
-  /// Gives a message to accelerators, keyboard navigation or its window.
-  void handle(MSG& message);
+  /// Gives a message of the loop to the accelerators, to the keyboard navigation or to its window.
+  void take(MSG& message);
 
-  /// Null before create and after the window is destroyed.
-  [[nodiscard]] HWND handle() const { return window_; }
   /// What a dialog or message box stands on: the window, or the dialog that is open already.
-  [[nodiscard]] HWND dialogOwner() const { return GetLastActivePopup(window_); }
+  [[nodiscard]] HWND dialogOwner() const { return GetLastActivePopup(handle()); }
   [[nodiscard]] HFONT font() const { return font_.get(); }
   [[nodiscard]] Scale scale() const { return scale_; }
   [[nodiscard]] Workplace& workplace() const { return workplace_; }
@@ -57,16 +56,18 @@ class MainWindow final : public DocumentObserver {
   [[nodiscard]] DocumentSlot& slot() const { return workplace_.slot; }
   /// Null on the intro screen.
   [[nodiscard]] PaletteDocument* document() const { return workplace_.slot.document(); }
+  /// True when no document would be lost, or the user has been asked and lets it go.
+  [[nodiscard]] bool letsDocumentGo() const;
   /// The client area above the status bar.
   [[nodiscard]] Rect screenArea() const;
 
-  /// Puts the editor's screen in place of the intro screen.
+  /// Puts the editor's screen in place of the intro screen, which is destroyed.
   void showEditor();
-  /// Brings greyed items and radio marks up to date with the screen's commandState.
+  /// Brings greyed items and the radio mark up to date with the screen's commandState.
   void updateMenus();
   /// Opens a context menu (kNewPopup, kValuesPopup, kEffectsPopup) at a point of the screen. Its command arrives as any
   /// other.
-  void openContextMenu(std::int32_t menu, Point screenPoint);
+  void openContextMenu(std::int32_t menu, Point screenPoint) const;
 
   /// Work that takes long and lets the window live meanwhile. Closing the window waits for its end.
   class Run {
@@ -76,40 +77,42 @@ class MainWindow final : public DocumentObserver {
     Run& operator=(const Run&) = delete;
     ~Run();
 
-    /// Handles all waiting messages. False when the user has decided to close the window.
+    /// Handles all waiting messages. False when the user has closed the window.
     [[nodiscard]] bool pumpMessages();
 
    private:
     MainWindow& window_;
   };
 
-  // What the document shows.
+  // What the document shows of itself.
   void titleChanged(std::wstring_view title) override;
   void statusChanged(std::string_view text) override;
   void undoRedoChanged(bool canUndo, bool canRedo) override;
   void documentReplaced() override;
 
  private:
-  static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-  LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   void created();
   void destroyed();
-  void sized(WPARAM kind);
-  LRESULT sizing(WPARAM edge, LPARAM lParam) const;
+  void sized();
+  void sizing(WPARAM edge, LPARAM lParam) const;
   void paint();
-  void command(WPARAM wParam, LPARAM lParam);
+  void focused() const;
+  void menuCommand(std::int32_t command);
+  void controlNotification(WPARAM wParam, LPARAM lParam);
+  [[nodiscard]] static LRESULT staticColors(HDC dc);
   void filesDropped(WPARAM wParam);
   void closeAsked();
-
   Workplace& workplace_;
-  HWND window_ = nullptr;
   HWND statusBar_ = nullptr;
   Scale scale_;
   Font font_;
   Accelerators accelerators_;
   Menu contextMenus_;
   std::unique_ptr<MainUI> screen_;
+  // The control that had the focus before another program's window got it.
+  HWND lastFocus_ = nullptr;
   bool runIsOn_ = false;
   bool closesAfterRun_ = false;
 };

@@ -19,7 +19,7 @@ namespace quillhue {
 /// What a child window is made of.
 struct ControlDescription {
   const wchar_t* windowClass = nullptr;
-  std::string_view text;
+  std::string_view text{};
   /// Beside WS_CHILD.
   DWORD style = 0;
   DWORD extendedStyle = 0;

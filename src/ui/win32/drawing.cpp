@@ -9,6 +9,11 @@ Point pointOf(LPARAM lParam) {
   return {static_cast<std::int16_t>(LOWORD(lParam)), static_cast<std::int16_t>(HIWORD(lParam))};
 }
 
+std::int32_t screenDpi() {
+  const ScreenDc screen(GetDC(nullptr));
+  return GetDeviceCaps(screen.get(), LOGPIXELSX);
+}
+
 void fillBox(HDC dc, const Rect& box, COLORREF color) {
   const RECT system = toSystem(box);
   SetDCBrushColor(dc, color);

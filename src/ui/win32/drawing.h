@@ -27,6 +27,9 @@ namespace quillhue {
 /// The point of a mouse message, in client coordinates of its window, or of the screen where the message says so.
 [[nodiscard]] Point pointOf(LPARAM lParam);
 
+/// The screen's logical pixels per inch.
+[[nodiscard]] std::int32_t screenDpi();
+
 /// Fills a box with a color, or with one of the system's (COLOR_WINDOW); makes no object.
 void fillBox(HDC dc, const Rect& box, COLORREF color);
 void fillBoxWithSystemColor(HDC dc, const Rect& box, int systemColor);

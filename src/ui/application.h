@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/document.h"
+#include "core/services.h"
+#include "ui/logic/settings_store.h"
+#include "ui/main_window.h"
+#include "ui/services/clipboard.h"
+#include "ui/services/color_dialog.h"
+#include "ui/services/file_dialogs.h"
+#include "ui/services/halftone_palette.h"
+#include "ui/services/message_boxes.h"
+#include "ui/services/registry_settings.h"
+
+namespace quillhue {
+
+/// The running editor: everything there is one of.
+class Application {
+ public:
+  Application();
+  Application(const Application&) = delete;
+  Application& operator=(const Application&) = delete;
+  ~Application() = default;
+
+  /// Shows the window, opens the palette that the command line names, and handles messages until the window is closed.
+  /// The exit code.
+  int run(int showCommand);
+
+ private:
+  RegistrySettings store_;
+  SavedSettings settings_;
+  DocumentSlot slot_;
+  // It takes the address of the workplace, which is complete before the window is opened.
+  MainWindow window_;
+  MessageBoxes messages_;
+  FileDialogs fileDialogs_;
+  Clipboard clipboard_;
+  ColorDialog colorDialog_;
+  HalftonePalette screen_;
+  Services services_;
+  Workplace workplace_;
+};
+
+}  // namespace quillhue

@@ -1,0 +1,322 @@
+#include "ui/main_window.h"
+
+// Need windows.h before them.
+#include <commctrl.h>
+#include <shellapi.h>
+
+#include <array>
+#include <utility>
+#include <vector>
+
+#include "core/utf8.h"
+#include "formats/palette_file.h"
+#include "ui/logic/frame_layout.h"
+#include "ui/logic/menus.h"
+#include "ui/logic/window_size.h"
+#include "ui/logic/window_texts.h"
+#include "ui/screens/intro_ui.h"
+#include "ui/screens/tabs_ui.h"
+#include "ui/win32/controls.h"
+#include "ui/win32/drawing.h"
+
+namespace quillhue {
+
+namespace {
+
+constexpr const wchar_t* kClassName = L"Quillhue4";
+constexpr int kStatusBarId = 1;
+// Posted when a run has ended after the window was closed.
+constexpr UINT kDestroyMessage = WM_APP;
+
+// True when an item of the menu itself has changed.
+bool updateItems(HMENU menu, const std::vector<MenuItem>& items, const CommandState& state) {
+  bool changed = false;
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    if (items[i].isSeparator()) {
+      continue;
+    }
+    const UINT wanted = isEnabled(items[i], state) ? MF_ENABLED : MF_GRAYED;
+    const int before = EnableMenuItem(menu, static_cast<UINT>(i), MF_BYPOSITION | wanted);
+    changed = changed || static_cast<UINT>(before) != wanted;
+    if (!items[i].items.empty()) {
+      updateItems(GetSubMenu(menu, static_cast<int>(i)), items[i].items, state);
+    }
+  }
+  return changed;
+}
+
+}  // namespace
+
+MainWindow::~MainWindow() = default;
+
+std::string_view MainWindow::open(int showCommand) {
+  WNDCLASSEXW description = windowClass(kClassName);
+  description.hIcon = LoadIconW(description.hInstance, L"MAINICON");
+  description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+  description.lpszMenuName = L"MAINMENU";
+  if (!registerClass(description)) {
+    return kNoWindowClassText;
+  }
+  const Size size = workplace_.settings.window;
+  if (!create({.windowClass = kClassName,
+               .title = std::wstring(kWelcomeTitle),
+               .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+               .extendedStyle = WS_EX_CONTROLPARENT | WS_EX_ACCEPTFILES,
+               .x = CW_USEDEFAULT,
+               .y = CW_USEDEFAULT,
+               .width = size.width,
+               .height = size.height})) {
+    return kNoWindowText;
+  }
+  accelerators_.reset(LoadAcceleratorsW(description.hInstance, L"MAINACCEL"));
+  DragAcceptFiles(handle(), TRUE);
+  ShowWindow(handle(), showCommand);
+  return {};
+}
+
+void MainWindow::take(MSG& message) {
+  if (message.message == WM_MOUSEWHEEL) {
+    // The wheel turns what is under the pointer, wherever the focus is.
+    const HWND under = WindowFromPoint(toSystem(pointOf(message.lParam)));
+    if (under == handle() || IsChild(handle(), under)) {
+      message.hwnd = under;
+    }
+  }
+  if (TranslateAcceleratorW(handle(), accelerators_.get(), &message) != 0) {
+    return;
+  }
+  // Escape is no command here: as that of a dialog it would arrive under the number of a system palette.
+  const bool isEscape = message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE;
+  if (!isEscape && IsDialogMessageW(handle(), &message)) {
+    return;
+  }
+  TranslateMessage(&message);
+  DispatchMessageW(&message);
+}
+
+Rect MainWindow::screenArea() const {
+  RECT statusBar{};
+  GetWindowRect(statusBar_, &statusBar);
+  return quillhue::screenArea(clientSize(handle()), statusBar.bottom - statusBar.top);
+}
+
+void MainWindow::showEditor() {
+  // Messages that come while one screen goes and the other is made find none.
+  screen_.reset();
+  screen_ = std::make_unique<TabsUI>(*this);
+  updateMenus();
+  repaint(handle(), true);
+  UpdateWindow(handle());
+}
+
+void MainWindow::updateMenus() {
+  const CommandState state = screen_ != nullptr ? screen_->commandState() : CommandState{};
+  const HMENU bar = GetMenu(handle());
+  if (updateItems(bar, mainMenu(), state)) {
+    DrawMenuBar(handle());
+  }
+  updateItems(contextMenus_.get(), contextMenus(), state);
+  for (const HMENU menu : {bar, contextMenus_.get()}) {
+    CheckMenuRadioItem(menu, commandOf(SelectionMode::free), commandOf(SelectionMode::range),
+                       static_cast<UINT>(commandOf(settings().selectionMode)), MF_BYCOMMAND);
+  }
+}
+
+void MainWindow::openContextMenu(std::int32_t menu, Point screenPoint) const {
+  TrackPopupMenu(GetSubMenu(contextMenus_.get(), menu), TPM_RIGHTBUTTON, screenPoint.x, screenPoint.y, 0, handle(),
+                 nullptr);
+}
+
+void MainWindow::titleChanged(std::wstring_view title) { SetWindowTextW(handle(), std::wstring(title).c_str()); }
+
+void MainWindow::statusChanged(std::string_view text) {
+  SendMessageW(statusBar_, SB_SETTEXTW, kEntriesPart, reinterpret_cast<LPARAM>(fromUtf8(text).c_str()));
+}
+
+void MainWindow::undoRedoChanged(bool /*canUndo*/, bool /*canRedo*/) { updateMenus(); }
+
+void MainWindow::documentReplaced() {
+  screen_->documentReplaced();
+  updateMenus();
+}
+
+LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_CREATE:
+      created();
+      return 0;
+    case WM_DESTROY:
+      destroyed();
+      return 0;
+    case WM_SIZE:
+      if (wParam != SIZE_MINIMIZED) {
+        sized();
+      }
+      return 0;
+    case WM_SIZING:
+      sizing(wParam, lParam);
+      return TRUE;
+    case WM_PAINT:
+      paint();
+      return 0;
+    case WM_COMMAND:
+      lParam != 0 ? controlNotification(wParam, lParam) : menuCommand(LOWORD(wParam));
+      return 0;
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+      controlNotification(wParam, lParam);
+      return 0;
+    case WM_CTLCOLORSTATIC:
+      return staticColors(reinterpret_cast<HDC>(wParam));
+    case WM_DROPFILES:
+      filesDropped(wParam);
+      return 0;
+    case WM_CLOSE:
+      closeAsked();
+      return 0;
+    case WM_ACTIVATE:
+      if (LOWORD(wParam) == WA_INACTIVE) {
+        lastFocus_ = GetFocus();
+      }
+      return DefWindowProcW(handle(), message, wParam, lParam);
+    case WM_SETFOCUS:
+      focused();
+      return 0;
+    case kDestroyMessage:
+      DestroyWindow(handle());
+      return 0;
+    default:
+      return screen_ != nullptr ? screen_->otherMessage(handle(), message, wParam, lParam)
+                                : DefWindowProcW(handle(), message, wParam, lParam);
+  }
+}
+
+void MainWindow::created() {
+  scale_.dpi = screenDpi();
+  constexpr int kWeight = 500;
+  font_.reset(CreateFontW(fontHeight(scale_), 0, 0, 0, kWeight, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                          OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, PROOF_QUALITY, DEFAULT_PITCH | FF_DONTCARE,
+                          L"Segoe UI"));
+  statusBar_ =
+      CreateStatusWindowW(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, L"", handle(), static_cast<UINT>(kStatusBarId));
+  const std::array<std::int32_t, 3> edges = statusPartEdges(scale_);
+  SendMessageW(statusBar_, SB_SETPARTS, edges.size(), reinterpret_cast<LPARAM>(edges.data()));
+  SendMessageW(statusBar_, SB_SETTEXTW, kVersionPart, reinterpret_cast<LPARAM>(fromUtf8(kVersionText).c_str()));
+  contextMenus_.reset(LoadMenuW(GetModuleHandleW(nullptr), L"MAINPOPUP"));
+  screen_ = std::make_unique<IntroUI>(*this);
+  updateMenus();
+}
+
+void MainWindow::destroyed() {
+  // Controls that end may report it: by then there is no screen any more that would look for the document.
+  screen_.reset();
+  workplace_.slot.closeDocument();
+  contextMenus_.reset();
+  font_.reset();
+  RECT window{};
+  GetWindowRect(handle(), &window);
+  workplace_.settings.window = {window.right - window.left, window.bottom - window.top};
+  writeSettings(workplace_.settings, workplace_.settingsStore);
+  PostQuitMessage(0);
+}
+
+void MainWindow::sized() {
+  RECT box{};
+  GetWindowRect(statusBar_, &box);
+  const Size client = clientSize(handle());
+  const std::int32_t height = box.bottom - box.top;
+  moveTo(statusBar_, boxAt({0, client.height - height}, {client.width, height}));
+  if (screen_ != nullptr) {
+    const Rect area = screenArea();
+    screen_->resize({area.width(), area.height()});
+  }
+  repaint(handle());
+  UpdateWindow(handle());
+}
+
+void MainWindow::sizing(WPARAM edge, LPARAM lParam) const {
+  auto* const window = reinterpret_cast<RECT*>(lParam);
+  *window = toSystem(keepMinimum(fromSystem(*window), static_cast<SizingEdge>(edge), scale_));
+}
+
+void MainWindow::paint() {
+  const PaintDc dc(handle());
+  if (screen_ != nullptr) {
+    screen_->paint(dc.get(), screenArea());
+  }
+}
+
+void MainWindow::focused() const {
+  const bool isUsable =
+      IsChild(handle(), lastFocus_) && IsWindowVisible(lastFocus_) && IsWindowEnabled(lastFocus_);
+  if (const HWND control = isUsable ? lastFocus_ : GetNextDlgTabItem(handle(), nullptr, FALSE)) {
+    SetFocus(control);
+  }
+}
+
+void MainWindow::menuCommand(std::int32_t command) {
+  // While a dialog is open it has the only say; a command may still be sent by other programs.
+  if (screen_ != nullptr && IsWindowEnabled(handle())) {
+    screen_->menuCommand(command);
+  }
+}
+
+void MainWindow::controlNotification(WPARAM wParam, LPARAM lParam) {
+  if (screen_ != nullptr && lParam != 0) {
+    screen_->controlNotification(reinterpret_cast<HWND>(lParam), wParam);
+  }
+}
+
+LRESULT MainWindow::staticColors(HDC dc) {
+  SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+  SetBkColor(dc, GetSysColor(COLOR_WINDOW));
+  return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
+}
+
+void MainWindow::filesDropped(WPARAM wParam) {
+  const Drop drop(reinterpret_cast<HDROP>(wParam));
+  if (!IsWindowEnabled(handle()) || !letsDocumentGo()) {
+    return;
+  }
+  std::array<wchar_t, MAX_PATH> name{};
+  DragQueryFileW(drop.get(), 0, name.data(), static_cast<UINT>(name.size()));
+  readPaletteFile(name.data(), slot(), services());
+}
+
+void MainWindow::closeAsked() {
+  if (!IsWindowEnabled(handle()) || closesAfterRun_ || !letsDocumentGo()) {
+    return;
+  }
+  if (runIsOn_) {
+    closesAfterRun_ = true;
+  } else {
+    DestroyWindow(handle());
+  }
+}
+
+bool MainWindow::letsDocumentGo() const { return document() == nullptr || askToSave(*document(), services()); }
+
+MainWindow::Run::Run(MainWindow& window) : window_(window) { window_.runIsOn_ = true; }
+
+MainWindow::Run::~Run() {
+  window_.runIsOn_ = false;
+  if (window_.closesAfterRun_) {
+    PostMessageW(window_.handle(), kDestroyMessage, 0, 0);
+  }
+}
+
+bool MainWindow::Run::pumpMessages() {
+  MSG message{};
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_QUIT) {
+      // For the loop outside.
+      PostQuitMessage(static_cast<int>(message.wParam));
+      return false;
+    }
+    window_.take(message);
+  }
+  return !window_.closesAfterRun_;
+}
+
+}  // namespace quillhue

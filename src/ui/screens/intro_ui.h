@@ -1,0 +1,45 @@
+#pragma once
+
+#include <windows.h>
+
+#include <vector>
+
+#include "ui/logic/intro_layout.h"
+#include "ui/main_ui.h"
+#include "ui/win32/handle.h"
+
+namespace quillhue {
+
+class MainWindow;
+
+/// The screen of the beginning: a button for each way to get a palette.
+class IntroUI final : public MainUI {
+ public:
+  explicit IntroUI(MainWindow& window);
+
+  void menuCommand(std::int32_t command) override;
+  LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+  void resize(Size area) override;
+  void controlNotification(HWND control, WPARAM wParam) override;
+  void paint(HDC dc, const Rect& area) override;
+  void documentReplaced() override;
+  [[nodiscard]] CommandState commandState() const override { return {}; }
+
+ private:
+  struct Button {
+    const IntroButton& description;
+    Icon icon{};
+    Window control{};
+    Window tooltip{};
+  };
+
+  [[nodiscard]] Button makeButton(const IntroButton& description) const;
+  /// True when the menu was opened. A point of -1, -1 stands for the key that asks for a menu.
+  bool openSystemPalettes(Point screenPoint);
+
+  MainWindow& window_;
+  Size area_;
+  std::vector<Button> buttons_;
+};
+
+}  // namespace quillhue

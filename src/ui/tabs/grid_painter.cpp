@@ -1,0 +1,73 @@
+#include "ui/tabs/grid_painter.h"
+
+#include <algorithm>
+
+#include "ui/win32/drawing.h"
+
+namespace quillhue {
+
+namespace {
+
+constexpr COLORREF kDark = RGB(0, 0, 0);
+constexpr COLORREF kLight = RGB(255, 255, 255);
+
+// A layout's boxes have the edges of an outlined rectangle.
+Rect filledPart(const Rect& outlined) {
+  return {outlined.left, outlined.top, outlined.right - 1, outlined.bottom - 1};
+}
+
+bool overlap(const Rect& one, const Rect& other) {
+  return one.left < other.right && other.left < one.right && one.top < other.bottom && other.top < one.bottom;
+}
+
+void paintSelected(HDC dc, const Rect& cell) {
+  frameBox(dc, cell, 1, kLight);
+  frameBox(dc, cell.inset(1), 1, kDark);
+}
+
+// Two pixels of each line where the color is large enough to stay visible.
+void paintCurrent(HDC dc, const Rect& color) {
+  constexpr std::int32_t kLargeColor = 20;
+  const std::int32_t line = color.width() >= kLargeColor ? 2 : 1;
+  frameBox(dc, color, line, kLight);
+  frameBox(dc, color.inset(line), line, kDark);
+}
+
+void paintFocus(HDC dc, const GridLayout& grid) {
+  const std::int32_t gap = grid.margin() / 2;
+  const Rect cells = boxAt({grid.margin(), grid.margin()}, {grid.columns() * grid.cell(), grid.rows() * grid.cell()});
+  RECT frame = toSystem(Rect{cells.left - gap, cells.top - gap, std::min(cells.right + gap, grid.rightEdge()),
+                             cells.bottom + gap});
+  SetTextColor(dc, kDark);
+  SetBkColor(dc, kLight);
+  DrawFocusRect(dc, &frame);
+}
+
+}  // namespace
+
+void paintGrid(HDC dc, const Rect& box, const GridLayout& grid, const GridPicture& picture) {
+  fillBoxWithSystemColor(dc, box, COLOR_WINDOW);
+  const std::int32_t size = picture.palette.getSize();
+  for (std::int32_t index = 0; index < size; ++index) {
+    const Rect cell = grid.cellBox(index);
+    if (!overlap(cell, box)) {
+      continue;
+    }
+    const Rect color = filledPart(grid.colorBox(index));
+    if (!color.isEmpty()) {
+      fillBox(dc, color, toSystem(picture.palette.entry(index)));
+    }
+    const auto place = static_cast<std::size_t>(index);
+    if (place < picture.selected.size() && picture.selected[place] != 0) {
+      paintSelected(dc, cell);
+    }
+    if (index == picture.currentEntry && !color.isEmpty()) {
+      paintCurrent(dc, color);
+    }
+  }
+  if (picture.hasFocus) {
+    paintFocus(dc, grid);
+  }
+}
+
+}  // namespace quillhue

@@ -1,0 +1,102 @@
+#include "ui/tabs/grid_window.h"
+
+#include <algorithm>
+#include <array>
+
+#include "ui/win32/controls.h"
+#include "ui/win32/drawing.h"
+
+namespace quillhue {
+
+namespace {
+
+constexpr const wchar_t* kClassName = L"QuillhueGrid";
+
+GridSelection::Keys heldKeys() { return {.shift = GetKeyState(VK_SHIFT) < 0, .control = GetKeyState(VK_CONTROL) < 0}; }
+
+struct KeyRow {
+  WPARAM key;
+  GridKey meaning;
+};
+constexpr auto kKeys = std::to_array<KeyRow>({{VK_LEFT, GridKey::left},
+                                              {VK_RIGHT, GridKey::right},
+                                              {VK_UP, GridKey::up},
+                                              {VK_DOWN, GridKey::down},
+                                              {VK_HOME, GridKey::home},
+                                              {VK_END, GridKey::end},
+                                              {VK_PRIOR, GridKey::pageUp},
+                                              {VK_NEXT, GridKey::pageDown}});
+
+}  // namespace
+
+GridWindow::GridWindow(HWND parent, GridClient& client) : client_(client) {
+  static_cast<void>(registerClass(windowClass(kClassName)));
+  static_cast<void>(create({.windowClass = kClassName,
+                            // What a screen reader calls it.
+                            .title = L"Palette",
+                            .style = WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS,
+                            .parent = parent}));
+}
+
+LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_PAINT: {
+      const PaintDc dc(handle());
+      const BackBuffer buffer(dc.get(), dc.box());
+      client_.paintGrid(buffer.get(), dc.box());
+      return 0;
+    }
+    case WM_LBUTTONDOWN:
+      SetFocus(handle());
+      SetCapture(handle());
+      client_.pressGrid(pointOf(lParam), heldKeys());
+      return 0;
+    case WM_MOUSEMOVE:
+      if (GetCapture() == handle()) {
+        client_.dragGrid(pointOf(lParam));
+      }
+      return 0;
+    case WM_LBUTTONUP:
+      ReleaseCapture();
+      return 0;
+    case WM_CAPTURECHANGED:
+      client_.releaseGrid();
+      return 0;
+    case WM_KEYDOWN:
+      return keyPressed(wParam) ? 0 : DefWindowProcW(handle(), message, wParam, lParam);
+    case WM_KEYUP:
+      if (wParam == VK_SHIFT) {
+        client_.releaseShift();
+      }
+      return 0;
+    case WM_GETDLGCODE:
+      return DLGC_WANTARROWS;
+    case WM_KILLFOCUS:
+      client_.releaseGrid();
+      repaint(handle());
+      return 0;
+    case WM_SETFOCUS:
+      repaint(handle());
+      return 0;
+    case WM_SETCURSOR:
+      SetCursor(client_.gridCursor() != nullptr ? client_.gridCursor() : LoadCursorW(nullptr, IDC_ARROW));
+      return TRUE;
+    default:
+      return DefWindowProcW(handle(), message, wParam, lParam);
+  }
+}
+
+bool GridWindow::keyPressed(WPARAM key) {
+  if (key == VK_SPACE) {
+    client_.pressSpace(heldKeys());
+    return true;
+  }
+  const auto row = std::ranges::find(kKeys, key, &KeyRow::key);
+  if (row == kKeys.end()) {
+    return false;
+  }
+  client_.moveByKey(row->meaning, heldKeys());
+  return true;
+}
+
+}  // namespace quillhue

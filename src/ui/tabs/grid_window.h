@@ -1,0 +1,45 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+
+#include "ui/logic/geometry.h"
+#include "ui/logic/grid_navigation.h"
+#include "ui/logic/grid_selection.h"
+#include "ui/win32/custom_window.h"
+
+namespace quillhue {
+
+/// What the palette's grid shows and does. Points and boxes are relative to the grid's corner.
+class GridClient {
+ public:
+  virtual ~GridClient() = default;
+
+  virtual void paintGrid(HDC dc, const Rect& box) = 0;
+  /// The left button is pressed, the pointer moves with the button held, and the gesture ends.
+  virtual void pressGrid(Point point, GridSelection::Keys keys) = 0;
+  virtual void dragGrid(Point point) = 0;
+  virtual void releaseGrid() = 0;
+  virtual void moveByKey(GridKey key, GridSelection::Keys keys) = 0;
+  virtual void pressSpace(GridSelection::Keys keys) = 0;
+  virtual void releaseShift() = 0;
+  /// Null for the arrow.
+  [[nodiscard]] virtual HCURSOR gridCursor() const = 0;
+};
+
+/// The child window of the grid, which takes the focus. The messages that it leaves go to its parent as usual.
+class GridWindow final : public CustomWindow {
+ public:
+  GridWindow(HWND parent, GridClient& client);
+
+  [[nodiscard]] bool hasFocus() const { return GetFocus() == handle(); }
+
+ private:
+  LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override;
+  bool keyPressed(WPARAM key);
+
+  GridClient& client_;
+};
+
+}  // namespace quillhue

@@ -1,0 +1,80 @@
+#include "ui/tabs/palette_tab.h"
+
+#include "ui/main_window.h"
+#include "ui/win32/controls.h"
+#include "ui/win32/drawing.h"
+
+namespace quillhue {
+
+PaletteTab::PaletteTab(MainWindow& window, std::int32_t contextMenu)
+    : window_(window), contextMenu_(contextMenu), gridWindow_(window.handle(), *this) {}
+
+PaletteDocument& PaletteTab::document() const { return *window_.document(); }
+
+LRESULT PaletteTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_CONTEXTMENU && openContextMenu(pointOf(lParam))) {
+    return 0;
+  }
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+bool PaletteTab::openContextMenu(Point screenPoint) {
+  const bool isByKey = screenPoint == Point{-1, -1};
+  if (isByKey) {
+    if (!gridWindow_.hasFocus() || !hasCurrentEntry()) {
+      return false;
+    }
+    POINT point = toSystem(contextMenuPoint(grid_, currentEntry()));
+    ClientToScreen(gridWindow_.handle(), &point);
+    window_.openContextMenu(contextMenu_, fromSystem(point));
+    return true;
+  }
+  POINT point = toSystem(screenPoint);
+  ScreenToClient(gridWindow_.handle(), &point);
+  const ContextClick click = contextClick(grid_, fromSystem(point), document().getSize());
+  chooseEntry(click.currentEntry);
+  window_.updateMenus();
+  if (click.opensMenu) {
+    window_.openContextMenu(contextMenu_, screenPoint);
+  }
+  return click.opensMenu;
+}
+
+void PaletteTab::layout(const Rect& area) {
+  const GridLayout grid(area, document().getSize(), window_.scale());
+  if (grid != grid_) {
+    grid_ = grid;
+    const Rect cells = grid_.paletteArea();
+    moveTo(gridWindow_.handle(), boxAt({area.left, area.top}, {cells.width(), cells.height()}));
+    repaintGrid();
+  }
+  layOutControls();
+}
+
+void PaletteTab::show() {
+  quillhue::show(gridWindow_.handle(), true);
+  showControls(true);
+}
+
+void PaletteTab::hide() {
+  quillhue::show(gridWindow_.handle(), false);
+  showControls(false);
+}
+
+bool PaletteTab::hasCurrentEntry() const { return document().contains(currentEntry()); }
+
+void PaletteTab::paintGrid(HDC dc, const Rect& box) {
+  GridPicture shown = picture();
+  shown.hasFocus = gridWindow_.hasFocus();
+  quillhue::paintGrid(dc, box, grid_, shown);
+}
+
+void PaletteTab::repaintGrid() const { repaint(gridWindow_.handle()); }
+
+void PaletteTab::repaintEntry(std::int32_t index) const {
+  if (document().contains(index)) {
+    repaint(gridWindow_.handle(), grid_.cellBox(index));
+  }
+}
+
+}  // namespace quillhue

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <vector>
+
+#include "ui/logic/grid_layout.h"
+#include "ui/tabs/grid_painter.h"
+#include "ui/tabs/grid_window.h"
+#include "ui/tabs/tab.h"
+
+namespace quillhue {
+
+class MainWindow;
+class PaletteDocument;
+
+/// A page that shows the palette as a grid at its left, and its controls at the right of it.
+class PaletteTab : public Tab, public GridClient {
+ public:
+  /// `contextMenu` is that of the entries (kValuesPopup, kEffectsPopup).
+  PaletteTab(MainWindow& window, std::int32_t contextMenu);
+
+  /// Opens the context menu on an entry that is clicked with the right button or asked for by a key.
+  LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+  void layout(const Rect& area) final;
+  void show() override;
+  void hide() override;
+  [[nodiscard]] bool hasCurrentEntry() const override;
+
+  void paintGrid(HDC dc, const Rect& box) final;
+
+ protected:
+  [[nodiscard]] MainWindow& window() const { return window_; }
+  [[nodiscard]] PaletteDocument& document() const;
+  [[nodiscard]] const GridLayout& grid() const { return grid_; }
+
+  /// Any index that is no entry for none.
+  [[nodiscard]] virtual std::int32_t currentEntry() const = 0;
+  /// Another current entry, as the user chose it; kNoEntry and indexes past the end included.
+  virtual void chooseEntry(std::int32_t index) = 0;
+  [[nodiscard]] virtual GridPicture picture() = 0;
+  /// Moves the tab's own controls to where they stand beside the grid.
+  virtual void layOutControls() = 0;
+  /// Controls that appear and disappear with the tab.
+  virtual void showControls(bool visible) = 0;
+
+  void repaintGrid() const;
+  void repaintEntry(std::int32_t index) const;
+
+ private:
+  bool openContextMenu(Point screenPoint);
+
+  MainWindow& window_;
+  std::int32_t contextMenu_;
+  GridLayout grid_;
+  GridWindow gridWindow_;
+};
+
+}  // namespace quillhue

@@ -1,0 +1,39 @@
+#include "ui/win32/command_line.h"
+
+#include <windows.h>
+// Needs windows.h before it.
+#include <shellapi.h>
+
+#include <cstddef>
+
+#include "ui/win32/handle.h"
+
+namespace quillhue {
+
+namespace {
+
+struct ArgumentsKind {
+  using Value = wchar_t**;
+  static void close(Value value) { LocalFree(value); }
+};
+
+}  // namespace
+
+std::optional<std::wstring> firstArgument() {
+  int count = 0;
+  const Handle<ArgumentsKind> arguments(CommandLineToArgvW(GetCommandLineW(), &count));
+  if (!arguments || count < 2) {
+    return std::nullopt;
+  }
+  return arguments.get()[1];
+}
+
+std::wstring programFolder() {
+  // The longest name that there is.
+  constexpr std::size_t kLongestName = 32768;
+  std::wstring name(kLongestName, L'\0');
+  name.resize(GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
+  return name.substr(0, name.rfind(L'\\'));
+}
+
+}  // namespace quillhue
