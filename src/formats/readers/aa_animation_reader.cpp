@@ -12,6 +12,7 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kAaAnimationReader{"aa-animation", "AA Pro animation", "signature LPF", matches, read};
+constinit const PaletteReader kAaAnimationReader{
+    "aa-animation", "AA Pro animation", "signature LPF", "*.anm", matches, read};
 
 }  // namespace quillhue

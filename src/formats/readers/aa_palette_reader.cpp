@@ -24,7 +24,7 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kAaPaletteReader{"aa-palette", "AA Pro palette", "file size in bytes 0 to 3", matches,
-                                               read};
+constinit const PaletteReader kAaPaletteReader{"aa-palette", "AA Pro palette", "file size in bytes 0 to 3",
+                                               "*.col",      matches,          read};
 
 }  // namespace quillhue

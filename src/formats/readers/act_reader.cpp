@@ -23,6 +23,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kActReader{"act", "Adobe Color Table", "name ends with ACT", matches, read};
+constinit const PaletteReader kActReader{"act", "Adobe Color Table", "name ends with ACT", "*.act", matches, read};
 
 }  // namespace quillhue

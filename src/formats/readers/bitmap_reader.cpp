@@ -24,6 +24,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kBitmapReader{"bmp", "Windows Bitmap", "signature BM", matches, read};
+constinit const PaletteReader kBitmapReader{"bmp", "Windows Bitmap", "signature BM", "*.bmp;*.dib", matches, read};
 
 }  // namespace quillhue

@@ -40,6 +40,7 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kClipboardReader{"clp", "Windows Clipboard file", "signature 50 C3", matches, read};
+constinit const PaletteReader kClipboardReader{"clp", "Windows Clipboard file", "signature 50 C3", "*.clp", matches,
+                                               read};
 
 }  // namespace quillhue

@@ -16,6 +16,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kCmpReader{"cmp", "CMP palette", "signature ALCH", matches, read};
+constinit const PaletteReader kCmpReader{"cmp", "CMP palette", "signature ALCH", "*.cmp", matches, read};
 
 }  // namespace quillhue

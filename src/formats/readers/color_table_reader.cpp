@@ -15,6 +15,7 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kColorTableReader{"color-table", "Color Table", "signature 00 03 00 01", matches, read};
+constinit const PaletteReader kColorTableReader{"color-table", "Color Table", "signature 00 03 00 01",
+                                                "*.pal",       matches,       read};
 
 }  // namespace quillhue

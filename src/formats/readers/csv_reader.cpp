@@ -14,6 +14,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kCsvReader{"csv", "Comma-separated values", "name ends with CSV", matches, read};
+constinit const PaletteReader kCsvReader{"csv", "Comma-separated values", "name ends with CSV", "*.csv", matches, read};
 
 }  // namespace quillhue

@@ -20,6 +20,7 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kDrHaloReader{"dr-halo", "Dr. Halo palette", "signature 41 48 E3 00", matches, read};
+constinit const PaletteReader kDrHaloReader{"dr-halo", "Dr. Halo palette", "signature 41 48 E3 00", "*.pal", matches,
+                                            read};
 
 }  // namespace quillhue

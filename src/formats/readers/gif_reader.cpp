@@ -16,6 +16,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kGifReader{"gif", "GIF image", "signature GIF8", matches, read};
+constinit const PaletteReader kGifReader{"gif", "GIF image", "signature GIF8", "*.gif", matches, read};
 
 }  // namespace quillhue

@@ -17,6 +17,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kGimpReader{"gimp", "GIMP palette", "signature GIMP", matches, read};
+constinit const PaletteReader kGimpReader{"gimp", "GIMP palette", "signature GIMP", "*.gpl", matches, read};
 
 }  // namespace quillhue

@@ -58,6 +58,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kJascReader{"jasc", "JASC palette", "signature JASC", matches, read};
+constinit const PaletteReader kJascReader{"jasc", "JASC palette", "signature JASC", "*.pal", matches, read};
 
 }  // namespace quillhue

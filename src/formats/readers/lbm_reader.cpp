@@ -17,6 +17,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kLbmReader{"lbm", "LBM image", "signature FORM", matches, read};
+constinit const PaletteReader kLbmReader{"lbm", "LBM image", "signature FORM", "*.iff;*.lbm", matches, read};
 
 }  // namespace quillhue

@@ -13,6 +13,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kMapReader{"map", "MAP palette", "name ends with MAP", matches, read};
+constinit const PaletteReader kMapReader{"map", "MAP palette", "name ends with MAP", "*.map", matches, read};
 
 }  // namespace quillhue

@@ -36,6 +36,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kMsDrawReader{"ms-draw", "MS Draw palette", "bytes 43 ?? 00 00", matches, read};
+constinit const PaletteReader kMsDrawReader{"ms-draw", "MS Draw palette", "bytes 43 ?? 00 00", "*.pal", matches, read};
 
 }  // namespace quillhue

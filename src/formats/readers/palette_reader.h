@@ -39,6 +39,8 @@ struct PaletteReader {
   std::string_view title;
   /// What tells the layout: a signature or an extension, in words.
   std::string_view recognisedBy;
+  /// What its files are usually called, as file name patterns of the Open dialog with semicolons between them.
+  std::string_view patterns;
   /// True when the file has this layout's signature or name. The catalogue asks in order, and the first true counts.
   bool (*matches)(const ReaderInput& input);
   /// Reads a file that matches. Sizes that the file claims are checked before anything of that size is made.

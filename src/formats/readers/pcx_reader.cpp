@@ -30,6 +30,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kPcxReader{"pcx", "PCX image", "bytes 0A 02 01 or 0A 05 01", matches, read};
+constinit const PaletteReader kPcxReader{"pcx", "PCX image", "bytes 0A 02 01 or 0A 05 01", "*.pcx", matches, read};
 
 }  // namespace quillhue

@@ -29,6 +29,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kPngReader{"png", "PNG image", "signature 89 PNG", matches, read};
+constinit const PaletteReader kPngReader{"png", "PNG image", "signature 89 PNG", "*.png", matches, read};
 
 }  // namespace quillhue

@@ -21,6 +21,7 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kRawReader{"raw", "Raw RGB palette", "name ends with PAL or COL", matches, read};
+constinit const PaletteReader kRawReader{"raw",         "Raw RGB palette", "name ends with PAL or COL",
+                                         "*.col;*.pal", matches,           read};
 
 }  // namespace quillhue

@@ -18,6 +18,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kRiffReader{"riff", "RIFF palette", "signature RIFF", matches, read};
+constinit const PaletteReader kRiffReader{"riff", "RIFF palette", "signature RIFF", "*.pal", matches, read};
 
 }  // namespace quillhue

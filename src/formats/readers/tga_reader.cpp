@@ -16,6 +16,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kTgaReader{"tga", "TGA image", "name ends with TGA, byte 0 is 0", matches, read};
+constinit const PaletteReader kTgaReader{"tga", "TGA image", "name ends with TGA, byte 0 is 0", "*.tga", matches, read};
 
 }  // namespace quillhue

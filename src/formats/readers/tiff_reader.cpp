@@ -98,6 +98,7 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kTiffReader{"tiff", "TIFF image", "signature 49 49 2A 00 or 4D 4D 00 2A", matches, read};
+constinit const PaletteReader kTiffReader{"tiff",         "TIFF image", "signature 49 49 2A 00 or 4D 4D 00 2A",
+                                          "*.tif;*.tiff", matches,      read};
 
 }  // namespace quillhue

@@ -26,6 +26,6 @@ ReadResult read(const ReaderInput& input) {
 
 }  // namespace
 
-constinit const PaletteReader kXcfReader{"xcf", "XCF image", "signature gimp", matches, read};
+constinit const PaletteReader kXcfReader{"xcf", "XCF image", "signature gimp", "*.xcf", matches, read};
 
 }  // namespace quillhue
