@@ -22,7 +22,7 @@ class Clipboard final : public PaletteClipboard {
 
   /// A device-independent bitmap: header, colors, pixels. Replaces whatever the clipboard holds.
   void putBitmap(std::span<const std::uint8_t> block);
-  /// Nothing when the clipboard holds none or can't be opened.
+  /// Nothing when the clipboard holds none, can't be opened, or holds more than there is memory for.
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> getBitmap() const;
 
  private:

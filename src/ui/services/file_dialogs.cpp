@@ -1,0 +1,35 @@
+#include "ui/services/file_dialogs.h"
+
+#include <utility>
+
+#include "ui/dialogs/palette_from_image_dialog.h"
+#include "ui/main_window.h"
+#include "ui/services/file_types.h"
+
+namespace quillhue {
+
+std::optional<std::wstring> FileDialogs::askOpenPalette() const {
+  return askFileToOpen(owner_.dialogOwner(), openPaletteTypes());
+}
+
+std::optional<std::wstring> FileDialogs::askOpenImage() const {
+  return askFileToOpen(owner_.dialogOwner(), openImageTypes());
+}
+
+std::optional<std::wstring> FileDialogs::askSaveBitmap() const {
+  const auto types = saveBitmapTypes();
+  auto file = askFileToSave(owner_.dialogOwner(), {.types = types, .extension = L"bmp", .asksToReplace = true});
+  return file ? std::optional(std::move(file->name)) : std::nullopt;
+}
+
+std::optional<SaveAsAnswer> FileDialogs::askSaveAs(PaletteFormat preselected) {
+  const auto types = savePaletteTypes();
+  auto file = askFileToSave(owner_.dialogOwner(), {.types = types, .type = preselected, .nameLength = 256});
+  return file ? std::optional(SaveAsAnswer{std::move(file->name), file->type}) : std::nullopt;
+}
+
+std::int32_t FileDialogs::askPaletteFromImage(std::uint64_t distinctColors) {
+  return showPaletteFromImageDialog(owner_, distinctColors);
+}
+
+}  // namespace quillhue

@@ -1,0 +1,37 @@
+#include "ui/services/message_boxes.h"
+
+#include <windows.h>
+
+#include "core/utf8.h"
+#include "ui/main_window.h"
+
+namespace quillhue {
+
+namespace {
+
+int show(const MainWindow& owner, std::string_view text, const wchar_t* caption, UINT style) {
+  return MessageBoxW(owner.dialogOwner(), fromUtf8(text).c_str(), caption, style);
+}
+
+}  // namespace
+
+void MessageBoxes::information(std::string_view text) { show(owner_, text, L"Quillhue", MB_OK | MB_ICONINFORMATION); }
+
+void MessageBoxes::error(std::string_view text) { show(owner_, text, L"Error", MB_OK | MB_ICONERROR); }
+
+SaveChangesAnswer MessageBoxes::askSaveChanges(std::string_view text) {
+  switch (show(owner_, text, L"Warning", MB_YESNOCANCEL | MB_ICONEXCLAMATION)) {
+    case IDYES:
+      return SaveChangesAnswer::yes;
+    case IDNO:
+      return SaveChangesAnswer::no;
+    default:
+      return SaveChangesAnswer::cancel;
+  }
+}
+
+bool MessageBoxes::askReplaceFile(std::string_view text) {
+  return show(owner_, text, L"Save As", MB_YESNO | MB_ICONEXCLAMATION) == IDYES;
+}
+
+}  // namespace quillhue

@@ -1,0 +1,88 @@
+#include "ui/win32/clipboard.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quillhue {
+
+namespace {
+
+// The bytes of a block of the system's memory, which stay where they are while this lives.
+class LockedMemory {
+ public:
+  explicit LockedMemory(HGLOBAL memory)
+      : memory_(memory), data_(static_cast<std::uint8_t*>(GlobalLock(memory))), size_(GlobalSize(memory)) {}
+  LockedMemory(const LockedMemory&) = delete;
+  LockedMemory& operator=(const LockedMemory&) = delete;
+  ~LockedMemory() {
+    if (data_ != nullptr) {
+      GlobalUnlock(memory_);
+    }
+  }
+
+  // None of what is no such block.
+  [[nodiscard]] std::span<std::uint8_t> bytes() const { return {data_, data_ == nullptr ? 0 : size_}; }
+
+ private:
+  HGLOBAL memory_;
+  std::uint8_t* data_;
+  std::size_t size_;
+};
+
+bool copyInto(HGLOBAL memory, std::span<const std::uint8_t> bytes) {
+  const LockedMemory locked(memory);
+  const bool fits = !bytes.empty() && locked.bytes().size() >= bytes.size();
+  if (fits) {
+    std::ranges::copy(bytes, locked.bytes().begin());
+  }
+  return fits;
+}
+
+}  // namespace
+
+ClipboardAccess::ClipboardAccess(HWND owner) {
+  // Programs that watch the clipboard have it for a moment after each change.
+  constexpr int kTries = 3;
+  constexpr DWORD kPauseMilliseconds = 10;
+  for (int i = 0; i < kTries && !open_; ++i) {
+    if (i > 0) {
+      Sleep(kPauseMilliseconds);
+    }
+    open_ = OpenClipboard(owner) != 0;
+  }
+}
+
+ClipboardAccess::~ClipboardAccess() {
+  if (open_) {
+    CloseClipboard();
+  }
+}
+
+void ClipboardAccess::empty() { EmptyClipboard(); }
+
+void ClipboardAccess::put(LogicalPalette palette) {
+  // Null would promise to give one later.
+  if (palette && SetClipboardData(CF_PALETTE, palette.get()) != nullptr) {
+    palette.release();
+  }
+}
+
+void ClipboardAccess::put(UINT format, std::span<const std::uint8_t> bytes) {
+  GlobalMemory memory(GlobalAlloc(GMEM_MOVEABLE, bytes.size()));
+  if (copyInto(memory.get(), bytes) && SetClipboardData(format, memory.get()) != nullptr) {
+    memory.release();
+  }
+}
+
+HPALETTE ClipboardAccess::palette() const { return static_cast<HPALETTE>(GetClipboardData(CF_PALETTE)); }
+
+std::optional<std::vector<std::uint8_t>> ClipboardAccess::bytes(UINT format) const {
+  const HANDLE data = GetClipboardData(format);
+  if (data == nullptr) {
+    return std::nullopt;
+  }
+  const LockedMemory memory(data);
+  return std::vector<std::uint8_t>(memory.bytes().begin(), memory.bytes().end());
+}
+
+}  // namespace quillhue

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "ui/win32/handle.h"
+
+namespace quillhue {
+
+/// The system's clipboard, which no other program gets while this lives.
+class ClipboardAccess {
+ public:
+  /// `owner` owns what is put there; nothing can be put without one.
+  explicit ClipboardAccess(HWND owner);
+  ClipboardAccess(const ClipboardAccess&) = delete;
+  ClipboardAccess& operator=(const ClipboardAccess&) = delete;
+  ~ClipboardAccess();
+
+  /// False when another program has it. Then it can't be emptied, holds nothing, and takes nothing.
+  [[nodiscard]] explicit operator bool() const { return open_; }
+
+  void empty();
+  /// Gives to the clipboard what it takes of a palette or a block of bytes, and drops what it refuses.
+  void put(LogicalPalette palette);
+  void put(UINT format, std::span<const std::uint8_t> bytes);
+
+  /// The clipboard's own palette; null when it holds none.
+  [[nodiscard]] HPALETTE palette() const;
+  /// All of the block: at least what was put there, as the system may have rounded its size up.
+  [[nodiscard]] std::optional<std::vector<std::uint8_t>> bytes(UINT format) const;
+
+ private:
+  bool open_ = false;
+};
+
+}  // namespace quillhue

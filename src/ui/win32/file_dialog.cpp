@@ -1,0 +1,50 @@
+#include "ui/win32/file_dialog.h"
+
+#include <commdlg.h>
+
+#include <utility>
+
+#include "core/utf8.h"
+
+namespace quillhue {
+
+namespace {
+
+std::optional<FileToSave> ask(HWND owner, const SaveDialog& dialog, DWORD flags, decltype(GetOpenFileNameW)* show) {
+  const std::wstring filter = filterOf(dialog.types);
+  std::wstring name(dialog.nameLength, L'\0');
+  OPENFILENAMEW question{};
+  question.lStructSize = sizeof question;
+  question.hwndOwner = owner;
+  question.lpstrFilter = filter.c_str();
+  question.nFilterIndex = dialog.type;
+  question.lpstrFile = name.data();
+  question.nMaxFile = dialog.nameLength;
+  question.lpstrDefExt = dialog.extension;
+  question.Flags = OFN_EXPLORER | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | flags;
+  if (show(&question) == 0) {
+    return std::nullopt;
+  }
+  return FileToSave{name.c_str(), question.nFilterIndex};
+}
+
+}  // namespace
+
+std::wstring filterOf(std::span<const FileType> types) {
+  std::wstring filter;
+  for (const FileType& type : types) {
+    filter += fromUtf8(type.text) + L'\0' + fromUtf8(type.patterns) + L'\0';
+  }
+  return filter;
+}
+
+std::optional<std::wstring> askFileToOpen(HWND owner, std::span<const FileType> types) {
+  auto file = ask(owner, {types}, OFN_FILEMUSTEXIST, GetOpenFileNameW);
+  return file ? std::optional(std::move(file->name)) : std::nullopt;
+}
+
+std::optional<FileToSave> askFileToSave(HWND owner, const SaveDialog& dialog) {
+  return ask(owner, dialog, dialog.asksToReplace ? OFN_OVERWRITEPROMPT : 0, GetSaveFileNameW);
+}
+
+}  // namespace quillhue

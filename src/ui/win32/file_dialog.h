@@ -1,0 +1,45 @@
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <span>
+#include <string>
+
+namespace quillhue {
+
+/// The system's dialogs for one file name. None of them changes the current folder: names that are relative to it stay
+/// what they are.
+
+struct FileType {
+  std::string text;
+  /// Separated by semicolons.
+  std::string patterns;
+};
+
+/// The list as the dialogs take it: text, null, patterns, null, and a null behind the last.
+[[nodiscard]] std::wstring filterOf(std::span<const FileType> types);
+
+/// A file that exists; nothing when the user cancels.
+[[nodiscard]] std::optional<std::wstring> askFileToOpen(HWND owner, std::span<const FileType> types);
+
+struct SaveDialog {
+  std::span<const FileType> types;
+  /// The type that is chosen at first, from 1 on.
+  DWORD type = 1;
+  /// The characters that a name has at most, with a null at its end.
+  DWORD nameLength = MAX_PATH;
+  /// Appended to a name that has none, if not null.
+  const wchar_t* extension = nullptr;
+  /// Asks before a name is accepted that a file has.
+  bool asksToReplace = false;
+};
+struct FileToSave {
+  std::wstring name;
+  /// From 1 on.
+  DWORD type = 1;
+};
+/// A file in a folder that exists; nothing when the user cancels.
+[[nodiscard]] std::optional<FileToSave> askFileToSave(HWND owner, const SaveDialog& dialog);
+
+}  // namespace quillhue
