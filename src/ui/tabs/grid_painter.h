@@ -16,7 +16,7 @@ struct GridPicture {
   /// The colors.
   const Palette& palette;
   /// One byte an entry, as Palette::selected; empty where nothing is to be shown as selected.
-  std::span<const std::uint8_t> selected;
+  std::span<const std::uint8_t> selected{};
   /// Any index that is no entry for none.
   std::int32_t currentEntry = kNoEntry;
   bool hasFocus = false;
