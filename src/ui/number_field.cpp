@@ -3,6 +3,8 @@
 // Needs windows.h before it.
 #include <commctrl.h>
 
+#include <string>
+
 #include "ui/logic/typed_number.h"
 #include "ui/win32/controls.h"
 
@@ -11,14 +13,23 @@ namespace quillhue {
 NumberField::NumberField(HWND parent, HFONT font, DWORD style, DWORD arrowStyle)
     : field_(createControl(parent, font,
                            {.windowClass = L"Edit",
+                            .text = {},
                             .style = WS_TABSTOP | ES_NUMBER | ES_AUTOHSCROLL | style,
                             .extendedStyle = WS_EX_CLIENTEDGE})),
-      arrows_(createControl(parent, nullptr,
-                            {.windowClass = UPDOWN_CLASSW,
-                             .style = UDS_ARROWKEYS | UDS_ALIGNRIGHT | UDS_SETBUDDYINT | UDS_NOTHOUSANDS | arrowStyle})) {
+      arrows_(
+          createControl(parent, nullptr,
+                        {.windowClass = UPDOWN_CLASSW,
+                         .text = {},
+                         .style = UDS_ARROWKEYS | UDS_ALIGNRIGHT | UDS_SETBUDDYINT | UDS_NOTHOUSANDS | arrowStyle})) {
   SendMessageW(arrows_.get(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(field_.get()), 0);
   setRange(range_);
   setValue(0);
+}
+
+NumberField::NumberField(HWND field, HWND arrows, const ValueRange& range, std::int32_t value)
+    : field_(field), arrows_(arrows) {
+  setRange(range);
+  setValue(value);
 }
 
 void NumberField::setRange(const ValueRange& range) {
@@ -27,8 +38,12 @@ void NumberField::setRange(const ValueRange& range) {
 }
 
 void NumberField::setValue(std::int32_t value) {
-  value_ = value;
-  SendMessageW(arrows_.get(), UDM_SETPOS32, 0, value);
+  value_ = range_.clamp(value);
+  SendMessageW(arrows_.get(), UDM_SETPOS32, 0, value_);
+  // The arrows may leave the text as it is where they stand at the number already.
+  if (typed() != value_) {
+    setWindowText(field_.get(), std::to_string(value_));
+  }
 }
 
 std::int32_t NumberField::value() {

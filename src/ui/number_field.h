@@ -17,12 +17,15 @@ class NumberField {
   NumberField() = default;
   /// `style` (ES_CENTER, ES_RIGHT) goes with that of the field, `arrowStyle` (WS_BORDER) with that of the arrows.
   NumberField(HWND parent, HFONT font, DWORD style, DWORD arrowStyle = 0);
+  /// Takes over the two controls of a dialog, the arrows being the field's already.
+  NumberField(HWND field, HWND arrows, const ValueRange& range, std::int32_t value);
 
   [[nodiscard]] HWND field() const { return field_.get(); }
   [[nodiscard]] HWND arrows() const { return arrows_.get(); }
 
+  /// A number outside that is shown stays until settle or setValue.
   void setRange(const ValueRange& range);
-  /// Shows the number, which reports a change to the field's parent if it is another text.
+  /// Shows the nearest number in the range, which reports a change to the field's parent if it is another text.
   void setValue(std::int32_t value);
   /// The number that the field shows, the nearest one in the range; the number before where it shows none.
   [[nodiscard]] std::int32_t value();

@@ -1,0 +1,52 @@
+#include "ui/dialogs/about_dialog.h"
+
+#include "ui/logic/window_texts.h"
+#include "ui/main_window.h"
+#include "ui/resources/dialog_ids.h"
+#include "ui/win32/controls.h"
+#include "ui/win32/modal_dialog.h"
+
+namespace quillhue {
+
+namespace {
+
+constexpr std::int32_t kIconSize = 48;
+
+Icon loadIcon(std::int32_t size) {
+  return Icon(
+      static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), L"MAINICON", IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+}
+
+/// Twice as high as the other texts.
+Font nameFont(HFONT font) {
+  LOGFONTW description{};
+  GetObjectW(font, sizeof description, &description);
+  description.lfHeight *= 2;
+  return Font(CreateFontIndirectW(&description));
+}
+
+class AboutDialog final : public ModalDialog {
+ public:
+  explicit AboutDialog(const MainWindow& owner)
+      : owner_(owner), icon_(loadIcon(owner.scale()(kIconSize))), nameFont_(nameFont(owner.font())) {}
+
+  void show() { run(owner_.dialogOwner(), L"DBABOUT", owner_.font()); }
+
+ private:
+  void opened() override {
+    SendMessageW(control(ABOUT_ICON), STM_SETICON, reinterpret_cast<WPARAM>(icon_.get()), 0);
+    SendMessageW(control(ABOUT_NAME), WM_SETFONT, reinterpret_cast<WPARAM>(nameFont_.get()), FALSE);
+    setWindowText(control(ABOUT_VERSION), kVersionText);
+  }
+  void command(int /*id*/, int /*notification*/) override { close(); }
+
+  const MainWindow& owner_;
+  Icon icon_;
+  Font nameFont_;
+};
+
+}  // namespace
+
+void showAboutDialog(const MainWindow& owner) { AboutDialog(owner).show(); }
+
+}  // namespace quillhue
