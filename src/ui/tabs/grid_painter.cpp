@@ -21,16 +21,16 @@ bool overlap(const Rect& one, const Rect& other) {
 }
 
 void paintSelected(HDC dc, const Rect& cell) {
-  frameBox(dc, cell, 1, kLight);
-  frameBox(dc, cell.inset(1), 1, kDark);
+  frameBox(dc, cell, 1, kDark);
+  frameBox(dc, cell.inset(1), 1, kLight);
 }
 
 // Two pixels of each line where the color is large enough to stay visible.
 void paintCurrent(HDC dc, const Rect& color) {
   constexpr std::int32_t kLargeColor = 20;
   const std::int32_t line = color.width() >= kLargeColor ? 2 : 1;
-  frameBox(dc, color, line, kLight);
-  frameBox(dc, color.inset(line), line, kDark);
+  frameBox(dc, color, line, kDark);
+  frameBox(dc, color.inset(line), line, kLight);
 }
 
 void paintFocus(HDC dc, const GridLayout& grid) {
