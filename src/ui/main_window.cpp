@@ -1,8 +1,7 @@
 #include "ui/main_window.h"
 
-// Need windows.h before them.
+// Needs windows.h before it.
 #include <commctrl.h>
-#include <shellapi.h>
 
 #include <array>
 #include <utility>
@@ -248,8 +247,7 @@ void MainWindow::paint() {
 }
 
 void MainWindow::focused() const {
-  const bool isUsable =
-      IsChild(handle(), lastFocus_) && IsWindowVisible(lastFocus_) && IsWindowEnabled(lastFocus_);
+  const bool isUsable = IsChild(handle(), lastFocus_) && IsWindowVisible(lastFocus_) && IsWindowEnabled(lastFocus_);
   if (const HWND control = isUsable ? lastFocus_ : GetNextDlgTabItem(handle(), nullptr, FALSE)) {
     SetFocus(control);
   }
@@ -279,9 +277,7 @@ void MainWindow::filesDropped(WPARAM wParam) {
   if (!IsWindowEnabled(handle()) || !letsDocumentGo()) {
     return;
   }
-  std::array<wchar_t, MAX_PATH> name{};
-  DragQueryFileW(drop.get(), 0, name.data(), static_cast<UINT>(name.size()));
-  readPaletteFile(name.data(), slot(), services());
+  readPaletteFile(firstFile(drop), slot(), services());
 }
 
 void MainWindow::closeAsked() {

@@ -31,10 +31,9 @@ IntroUI::Button IntroUI::makeButton(const IntroButton& description) const {
   Button button{.description = description};
   button.icon.reset(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), fromUtf8(description.icon).c_str(),
                                                   IMAGE_ICON, side, side, LR_DEFAULTCOLOR)));
-  button.control = createControl(window_.handle(), nullptr,
-                                 {.windowClass = L"Button",
-                                  .text = description.text,
-                                  .style = WS_VISIBLE | WS_TABSTOP | BS_ICON});
+  button.control =
+      createControl(window_.handle(), nullptr,
+                    {.windowClass = L"Button", .text = description.text, .style = WS_VISIBLE | WS_TABSTOP | BS_ICON});
   SendMessageW(button.control.get(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(button.icon.get()));
   button.tooltip = createTooltip(window_.handle(), button.control.get(), description.tooltip);
   return button;
@@ -50,8 +49,8 @@ LRESULT IntroUI::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM l
 }
 
 bool IntroUI::openSystemPalettes(Point screenPoint) {
-  const auto button = std::ranges::find_if(
-      buttons_, [](const Button& each) { return &each.description == &systemPalettesButton(); });
+  const auto button =
+      std::ranges::find_if(buttons_, [](const Button& each) { return &each.description == &systemPalettesButton(); });
   const HWND control = button->control.get();
   const Rect face = introButtonFace(window_.scale());
   if (screenPoint == Point{-1, -1} && GetFocus() == control) {

@@ -27,8 +27,8 @@ void paintGradient(HDC dc, const Rect& box, const BarsLayout& layout, const BarC
   description.bmiHeader.biHeight = layout.height();
   description.bmiHeader.biPlanes = 1;
   description.bmiHeader.biBitCount = 32;
-  StretchDIBits(dc, box.left, box.top, box.width(), box.height(), 0, 0, 1, layout.height(), column.data(),
-                &description, DIB_RGB_COLORS, SRCCOPY);
+  StretchDIBits(dc, box.left, box.top, box.width(), box.height(), 0, 0, 1, layout.height(), column.data(), &description,
+                DIB_RGB_COLORS, SRCCOPY);
 }
 
 void paintMarker(HDC dc, Point point, Scale scale) {

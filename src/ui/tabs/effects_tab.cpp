@@ -124,10 +124,9 @@ void EffectsTab::clear() {
 
 void EffectsTab::menuCommand(std::int32_t command) {
   selection_.finish();
-  if (runPaletteCommand(command, {.document = document(),
-                                  .settings = window().settings(),
-                                  .mask = mask(),
-                                  .currentEntry = currentEntry()})) {
+  if (runPaletteCommand(
+          command,
+          {.document = document(), .settings = window().settings(), .mask = mask(), .currentEntry = currentEntry()})) {
     repaintGrid();
   }
 }
@@ -193,9 +192,8 @@ void EffectsTab::layOutControls() {
 }
 
 void EffectsTab::showControls(bool visible) {
-  for (const Window* const control :
-       {&channelBoxes_[0], &channelBoxes_[1], &channelBoxes_[2], &previewBox_, &reset_, &valueLabel_, &effectLabel_,
-        &effects_, &apply_, &surface_}) {
+  for (const Window* const control : {&channelBoxes_[0], &channelBoxes_[1], &channelBoxes_[2], &previewBox_, &reset_,
+                                      &valueLabel_, &effectLabel_, &effects_, &apply_, &surface_}) {
     quillhue::show(control->get(), visible);
   }
   value_.show(visible);

@@ -12,32 +12,32 @@ constexpr COLORREF kDark = RGB(0, 0, 0);
 constexpr COLORREF kLight = RGB(255, 255, 255);
 
 // A layout's boxes have the edges of an outlined rectangle.
-Rect filledPart(const Rect& outlined) {
-  return {outlined.left, outlined.top, outlined.right - 1, outlined.bottom - 1};
-}
+Rect filledPart(const Rect& outlined) { return {outlined.left, outlined.top, outlined.right - 1, outlined.bottom - 1}; }
 
 bool overlap(const Rect& one, const Rect& other) {
   return one.left < other.right && other.left < one.right && one.top < other.bottom && other.top < one.bottom;
 }
 
-void paintSelected(HDC dc, const Rect& cell) {
-  frameBox(dc, cell, 1, kDark);
-  frameBox(dc, cell.inset(1), 1, kLight);
+// Around the color, and a light line on its edge.
+void paintSelected(HDC dc, const Rect& cell, const Rect& color) {
+  frameBox(dc, cell, color.left - cell.left, kDark);
+  frameBox(dc, color, 1, kLight);
 }
 
-// Two pixels of each line where the color is large enough to stay visible.
+// Within the color; two pixels of each line where the color is large enough to stay visible.
 void paintCurrent(HDC dc, const Rect& color) {
-  constexpr std::int32_t kLargeColor = 20;
+  constexpr std::int32_t kLargeColor = 24;
   const std::int32_t line = color.width() >= kLargeColor ? 2 : 1;
-  frameBox(dc, color, line, kDark);
-  frameBox(dc, color.inset(line), line, kLight);
+  const Rect inside = color.inset(1);
+  frameBox(dc, inside, line, kDark);
+  frameBox(dc, inside.inset(line), line, kLight);
 }
 
 void paintFocus(HDC dc, const GridLayout& grid) {
   const std::int32_t gap = grid.margin() / 2;
   const Rect cells = boxAt({grid.margin(), grid.margin()}, {grid.columns() * grid.cell(), grid.rows() * grid.cell()});
-  RECT frame = toSystem(Rect{cells.left - gap, cells.top - gap, std::min(cells.right + gap, grid.rightEdge()),
-                             cells.bottom + gap});
+  RECT frame = toSystem(
+      Rect{cells.left - gap, cells.top - gap, std::min(cells.right + gap, grid.rightEdge()), cells.bottom + gap});
   SetTextColor(dc, kDark);
   SetBkColor(dc, kLight);
   DrawFocusRect(dc, &frame);
@@ -59,7 +59,7 @@ void paintGrid(HDC dc, const Rect& box, const GridLayout& grid, const GridPictur
     }
     const auto place = static_cast<std::size_t>(index);
     if (place < picture.selected.size() && picture.selected[place] != 0) {
-      paintSelected(dc, cell);
+      paintSelected(dc, cell, color);
     }
     if (index == picture.currentEntry && !color.isEmpty()) {
       paintCurrent(dc, color);

@@ -1,21 +1,114 @@
 #pragma once
+
+#include <windows.h>
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "formats/work_image.h"
+#include "remap/remap.h"
+#include "remap/remapped_image.h"
+#include "ui/logic/image_view.h"
+#include "ui/logic/use_controls.h"
+#include "ui/logic/use_layout.h"
+#include "ui/number_field.h"
+#include "ui/tabs/image_window.h"
 #include "ui/tabs/tab.h"
+#include "ui/win32/handle.h"
+
 namespace quillhue {
+
 class MainWindow;
-class UseTab final : public Tab {
+
+/// "Use Palette": loads an image, remaps it onto the palette, shows and saves what becomes of it.
+class UseTab final : public Tab, public ImageClient {
  public:
-  explicit UseTab(MainWindow&) {}
-  LRESULT otherMessage(HWND w, UINT m, WPARAM a, LPARAM b) override { return DefWindowProcW(w, m, a, b); }
-  void layout(const Rect&) override {}
-  void controlNotification(HWND, WPARAM) override {}
+  explicit UseTab(MainWindow& window);
+
+  LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+  void layout(const Rect& area) override;
+  void controlNotification(HWND control, WPARAM wParam) override;
+  /// An image keeps the colors it was made with.
   void paletteChanged() override {}
-  void documentReplaced(DocumentChange) override {}
-  void show() override {}
-  void hide() override {}
-  void copy() override {}
-  void paste() override {}
-  void clear() override {}
-  void menuCommand(std::int32_t) override {}
-  bool hasCurrentEntry() const override { return false; }
+  void documentReplaced(DocumentChange change) override;
+  void show() override { showControls(true); }
+  void hide() override { showControls(false); }
+  void copy() override;
+  void paste() override;
+  void clear() override;
+  void menuCommand(std::int32_t /*command*/) override {}
+  [[nodiscard]] bool hasCurrentEntry() const override { return false; }
+
+  void paintImage(HDC dc, const Rect& box) override;
+  void scrollImage(bool isVertical, ScrollAction action) override;
+  void wheelImage(bool isVertical, std::int32_t delta) override;
+  void fileDropped(const std::wstring& name) override { load(name); }
+
+ private:
+  class Progress;
+
+  /// A direction of the view: its bar, and the first pixel in view.
+  struct Scrolling {
+    Window bar;
+    ScrollRange range{};
+    std::int32_t position = 0;
+  };
+
+  [[nodiscard]] Window makeControl(const wchar_t* windowClass, std::string_view text, DWORD style) const;
+  /// All controls but those of the number fields.
+  [[nodiscard]] std::vector<HWND> controls() const;
+  void showControls(bool visible);
+  [[nodiscard]] UseState state() const;
+  void refreshLoadControls();
+  void refreshProtectControls();
+  void refreshControls();
+
+  void buttonClicked(HWND button);
+  void chooseMode(RemapMode mode);
+  void load(const std::wstring& name);
+  void loadByDialog();
+  void imageChanged();
+  void process();
+  [[nodiscard]] RemapOptions options();
+  void saveRemappedBitmap();
+
+  void scrollTo(Scrolling& scrolling, std::int32_t position);
+  void refreshScrolling();
+  [[nodiscard]] Point offset() const { return {horizontal_.position, vertical_.position}; }
+  /// How many rows of the result are shown; below them the loaded image is.
+  void showRows(const RowRange& rows);
+
+  MainWindow& window_;
+  Scrolling horizontal_;
+  Scrolling vertical_;
+  ImageWindow view_;
+  Window load_;
+  // In the order of RemapMode.
+  std::array<Window, 3> modes_;
+  Window protectColor_;
+  Window colorLabel_;
+  NumberField color_;
+  Window protectGrid_;
+  Window widthLabel_;
+  NumberField gridWidth_;
+  Window heightLabel_;
+  NumberField gridHeight_;
+  Window process_;
+  Window saveAs_;
+  Window status_;
+  Window surface_;
+  UseLayout layout_;
+
+  std::optional<WorkImage> image_;
+  std::optional<RemappedImage> result_;
+  RemapMode mode_ = RemapMode::maintain;
+  std::int32_t resultRows_ = 0;
+  bool isBusy_ = false;
+  bool stops_ = false;
 };
-}
+
+}  // namespace quillhue

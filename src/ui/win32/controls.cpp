@@ -1,14 +1,16 @@
 #include "ui/win32/controls.h"
 
+#include <array>
+
 #include "core/utf8.h"
 #include "ui/win32/drawing.h"
 
 namespace quillhue {
 
 Window createControl(HWND parent, HFONT font, const ControlDescription& description) {
-  Window control(CreateWindowExW(description.extendedStyle, description.windowClass,
-                                 fromUtf8(description.text).c_str(), WS_CHILD | description.style, 0, 0, 0, 0, parent,
-                                 nullptr, GetModuleHandleW(nullptr), nullptr));
+  Window control(CreateWindowExW(description.extendedStyle, description.windowClass, fromUtf8(description.text).c_str(),
+                                 WS_CHILD | description.style, 0, 0, 0, 0, parent, nullptr, GetModuleHandleW(nullptr),
+                                 nullptr));
   if (font != nullptr) {
     SendMessageW(control.get(), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
   }
@@ -29,9 +31,7 @@ Size clientSize(HWND window) {
   return {box.right, box.bottom};
 }
 
-void moveTo(HWND window, const Rect& box) {
-  MoveWindow(window, box.left, box.top, box.width(), box.height(), TRUE);
-}
+void moveTo(HWND window, const Rect& box) { MoveWindow(window, box.left, box.top, box.width(), box.height(), TRUE); }
 
 void show(HWND window, bool visible) { ShowWindow(window, visible ? SW_SHOWNA : SW_HIDE); }
 
@@ -46,9 +46,7 @@ void repaint(HWND window, const Rect& box, bool erase) {
 
 bool isTicked(HWND button) { return SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED; }
 
-void tick(HWND button, bool ticked) {
-  SendMessageW(button, BM_SETCHECK, ticked ? BST_CHECKED : BST_UNCHECKED, 0);
-}
+void tick(HWND button, bool ticked) { SendMessageW(button, BM_SETCHECK, ticked ? BST_CHECKED : BST_UNCHECKED, 0); }
 
 void addItem(HWND combo, std::string_view text) {
   SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(fromUtf8(text).c_str()));
@@ -57,6 +55,12 @@ void addItem(HWND combo, std::string_view text) {
 void chooseItem(HWND combo, std::int32_t index) { SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0); }
 
 std::int32_t chosenItem(HWND combo) { return static_cast<std::int32_t>(SendMessageW(combo, CB_GETCURSEL, 0, 0)); }
+
+std::wstring firstFile(const Drop& drop) {
+  std::array<wchar_t, MAX_PATH> name{};
+  DragQueryFileW(drop.get(), 0, name.data(), static_cast<UINT>(name.size()));
+  return name.data();
+}
 
 Window createTooltip(HWND owner, HWND control, std::string_view text) {
   Window tooltip(CreateWindowExW(0, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,

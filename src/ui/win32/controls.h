@@ -47,6 +47,9 @@ void addItem(HWND combo, std::string_view text);
 void chooseItem(HWND combo, std::int32_t index);
 [[nodiscard]] std::int32_t chosenItem(HWND combo);
 
+/// The name of the first dropped file, of which at most MAX_PATH - 1 characters are taken.
+[[nodiscard]] std::wstring firstFile(const Drop& drop);
+
 /// A short text that appears beside a control under the pointer, even while its window is inactive.
 [[nodiscard]] Window createTooltip(HWND owner, HWND control, std::string_view text);
 

@@ -1,0 +1,61 @@
+#include "ui/logic/clipboard_image.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <span>
+
+#include "formats/bitmap_writer.h"
+#include "formats/byte_sink.h"
+
+namespace quillhue {
+
+namespace {
+
+// What a bitmap file has before its header.
+constexpr std::ptrdiff_t kFileHeader = 14;
+constexpr std::size_t kHeader = 40;
+
+std::vector<std::uint8_t> withoutFileHeader(std::vector<std::uint8_t> file) {
+  file.erase(file.begin(), file.begin() + kFileHeader);
+  return file;
+}
+
+std::vector<std::uint8_t> trueColorBitmap(const WorkImage& image) {
+  const std::size_t stride = paddedRowLength(image.width() * 3);
+  ByteSink sink;
+  sink.u32le(0, kHeader);
+  sink.u32le(4, static_cast<std::uint32_t>(image.width()));
+  sink.u32le(8, static_cast<std::uint32_t>(image.height()));
+  sink.u16le(12, 1);
+  sink.u16le(14, 24);
+  sink.extend(kHeader);
+  std::vector<std::uint8_t> block = sink.take();
+  block.reserve(kHeader + stride * static_cast<std::size_t>(image.height()));
+  for (std::int32_t y = image.height(); y-- > 0;) {
+    const auto row = image.row(y);
+    block.insert(block.end(), row.begin(), row.end());
+    block.resize(block.size() + stride - row.size());
+  }
+  return block;
+}
+
+}  // namespace
+
+std::vector<std::uint8_t> clipboardBitmap(const RemappedImage& image, PaletteEntry blank) {
+  return withoutFileHeader(
+      composeBitmap({image.width(), image.height(), image.rows()}, paletteOf(image.colors()), blank));
+}
+
+std::vector<std::uint8_t> clipboardBitmap(const WorkImage& image, PaletteEntry blank) {
+  if (!image.palette()) {
+    return trueColorBitmap(image);
+  }
+  const std::size_t stride = paddedRowLength(image.width());
+  std::vector<std::uint8_t> rows(stride * static_cast<std::size_t>(image.height()));
+  for (std::int32_t y = 0; y < image.height(); ++y) {
+    std::ranges::copy(image.row(y), std::span(rows).subspan(stride * static_cast<std::size_t>(y)).begin());
+  }
+  return withoutFileHeader(composeBitmap({image.width(), image.height(), rows}, *image.palette(), blank));
+}
+
+}  // namespace quillhue

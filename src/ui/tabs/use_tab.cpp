@@ -1,0 +1,395 @@
+#include "ui/tabs/use_tab.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <new>
+#include <utility>
+
+#include "formats/bitmap_writer.h"
+#include "formats/failure.h"
+#include "formats/files.h"
+#include "formats/image_file.h"
+#include "formats/images/image_loaders.h"
+#include "ui/logic/clipboard_image.h"
+#include "ui/logic/display_rows.h"
+#include "ui/main_window.h"
+#include "ui/tabs/image_painter.h"
+#include "ui/tabs/scroll_bar.h"
+#include "ui/win32/controls.h"
+#include "ui/win32/drawing.h"
+
+namespace quillhue {
+
+namespace {
+
+constexpr ValueRange kGridSides{1, ProtectGrid::kMaxSide};
+constexpr ProtectGrid kFirstGrid{};
+
+}  // namespace
+
+/// Lets the rows that are done appear, and the window live.
+class UseTab::Progress final : public RemapProgress {
+ public:
+  Progress(UseTab& tab, std::int32_t height) : tab_(tab), run_(tab.window_), rows_(height) {}
+
+  [[nodiscard]] bool rowsDone(std::int32_t rows, const RemappedImage& /*result*/) override {
+    const Scale scale = tab_.window_.scale();
+    const RowRange visible = visibleRows(tab_.vertical_.position, tab_.layout_.imageArea.height(), scale);
+    tab_.showRows(rows_.progress(rows, visible));
+    return run_.pumpMessages() && !tab_.stops_;
+  }
+
+ private:
+  UseTab& tab_;
+  MainWindow::Run run_;
+  DisplayRows rows_;
+};
+
+UseTab::UseTab(MainWindow& window)
+    : window_(window),
+      horizontal_{.bar = makeControl(L"ScrollBar", {}, SBS_HORZ)},
+      vertical_{.bar = makeControl(L"ScrollBar", {}, SBS_VERT)},
+      view_(window.handle(), *this),
+      load_(makeControl(L"Button", "&Load...", WS_TABSTOP | BS_PUSHBUTTON)),
+      modes_{makeControl(L"Button", "&Maintain mapping", WS_TABSTOP | WS_GROUP | BS_AUTORADIOBUTTON),
+             makeControl(L"Button", "&Nearest match", BS_AUTORADIOBUTTON),
+             makeControl(L"Button", "&Dither", BS_AUTORADIOBUTTON)},
+      protectColor_(makeControl(L"Button", "Protect &color:", WS_TABSTOP | WS_GROUP | BS_AUTOCHECKBOX)),
+      // Without a size: the field's name for a screen reader.
+      colorLabel_(makeControl(L"Static", "Protected color:", 0)),
+      color_(window.handle(), window.font(), ES_RIGHT),
+      protectGrid_(makeControl(L"Button", "Protect gr&id:", WS_TABSTOP | BS_AUTOCHECKBOX)),
+      widthLabel_(makeControl(L"Static", "Width:", WS_CLIPSIBLINGS)),
+      gridWidth_(window.handle(), window.font(), ES_RIGHT),
+      heightLabel_(makeControl(L"Static", "Height:", WS_CLIPSIBLINGS)),
+      gridHeight_(window.handle(), window.font(), ES_RIGHT),
+      process_(makeControl(L"Button", "&Process", WS_TABSTOP | BS_PUSHBUTTON)),
+      saveAs_(makeControl(L"Button", "&Save as...", WS_TABSTOP | BS_PUSHBUTTON)),
+      status_(makeControl(L"Static", {}, SS_NOPREFIX | WS_CLIPSIBLINGS)),
+      surface_(makeControl(L"Static", {}, WS_CLIPSIBLINGS)) {
+  tick(modes_[0].get(), true);
+  gridWidth_.setRange(kGridSides);
+  gridWidth_.setValue(kFirstGrid.width);
+  gridHeight_.setRange(kGridSides);
+  gridHeight_.setValue(kFirstGrid.height);
+  documentReplaced(DocumentChange::replaced);
+  refreshControls();
+}
+
+Window UseTab::makeControl(const wchar_t* windowClass, std::string_view text, DWORD style) const {
+  return createControl(window_.handle(), window_.font(), {.windowClass = windowClass, .text = text, .style = style});
+}
+
+std::vector<HWND> UseTab::controls() const {
+  std::vector<HWND> all{view_.handle()};
+  for (const Window* const control :
+       {&horizontal_.bar, &vertical_.bar, &load_, &modes_[0], &modes_[1], &modes_[2], &protectColor_, &colorLabel_,
+        &protectGrid_, &widthLabel_, &heightLabel_, &process_, &saveAs_, &status_, &surface_}) {
+    all.push_back(control->get());
+  }
+  return all;
+}
+
+void UseTab::showControls(bool visible) {
+  for (const HWND control : controls()) {
+    quillhue::show(control, visible);
+  }
+  for (NumberField* const field : {&color_, &gridWidth_, &gridHeight_}) {
+    field->show(visible);
+  }
+}
+
+LRESULT UseTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+void UseTab::layout(const Rect& area) {
+  layout_ = useLayout(area, {GetSystemMetrics(SM_CXVSCROLL), GetSystemMetrics(SM_CYHSCROLL)}, window_.scale());
+  const std::pair<HWND, Rect> places[] = {{view_.handle(), layout_.view},
+                                          {horizontal_.bar.get(), layout_.horizontalBar},
+                                          {vertical_.bar.get(), layout_.verticalBar},
+                                          {load_.get(), layout_.load},
+                                          {modes_[0].get(), layout_.maintain},
+                                          {modes_[1].get(), layout_.nearest},
+                                          {modes_[2].get(), layout_.dither},
+                                          {protectColor_.get(), layout_.protectColor},
+                                          {protectGrid_.get(), layout_.protectGrid},
+                                          {process_.get(), layout_.process},
+                                          {saveAs_.get(), layout_.saveAs},
+                                          {surface_.get(), layout_.surface}};
+  for (const auto& [control, box] : places) {
+    moveTo(control, box);
+  }
+  const Rect& labels = layout_.labelArea;
+  moveTo(widthLabel_.get(), {labels.left, labels.top, labels.right, layout_.gridWidth.bottom});
+  moveTo(heightLabel_.get(), {labels.left, layout_.heightLabel.y, labels.right, layout_.gridHeight.bottom});
+  const Point text = layout_.statusText;
+  moveTo(status_.get(), {text.x, text.y, layout_.statusArea.right, layout_.statusArea.bottom});
+  color_.move(layout_.color);
+  gridWidth_.move(layout_.gridWidth);
+  gridHeight_.move(layout_.gridHeight);
+  refreshScrolling();
+}
+
+UseState UseTab::state() const {
+  return {.hasImage = image_.has_value(),
+          .isIndexed = image_ && image_->palette(),
+          .hasResult = result_.has_value(),
+          .isBusy = isBusy_,
+          .mode = mode_,
+          .protectColor = isTicked(protectColor_.get()),
+          .protectGrid = isTicked(protectGrid_.get())};
+}
+
+void UseTab::refreshLoadControls() {
+  const LoadControls usable = loadControls(state());
+  enable(load_.get(), usable.load);
+  enable(modes_[0].get(), usable.maintain);
+  enable(modes_[1].get(), usable.nearest);
+  enable(modes_[2].get(), usable.dither);
+  enable(process_.get(), usable.process);
+  enable(saveAs_.get(), usable.saveAs);
+  for (std::size_t i = 0; i < modes_.size(); ++i) {
+    tick(modes_[i].get(), static_cast<std::size_t>(mode_) == i);
+  }
+  setWindowText(status_.get(), imageStatusText(image_.has_value()));
+}
+
+void UseTab::refreshProtectControls() {
+  const ProtectControls usable = protectControls(state());
+  enable(protectColor_.get(), usable.protectColor);
+  color_.enable(usable.color);
+  enable(protectGrid_.get(), usable.protectGrid);
+  gridWidth_.enable(usable.gridSides);
+  gridHeight_.enable(usable.gridSides);
+  // A label that is disabled is grey.
+  for (const Window* const label : {&widthLabel_, &heightLabel_}) {
+    enable(label->get(), !areLabelsGrey(state()));
+  }
+}
+
+void UseTab::refreshControls() {
+  refreshLoadControls();
+  refreshProtectControls();
+  refreshScrolling();
+}
+
+void UseTab::controlNotification(HWND control, WPARAM wParam) {
+  const WORD code = HIWORD(wParam);
+  for (Scrolling* const scrolling : {&horizontal_, &vertical_}) {
+    if (control == scrolling->bar.get()) {
+      if (const auto action = scrollActionOf(LOWORD(wParam))) {
+        scrollTo(*scrolling, scrolled(*action, scrolling->position, trackedPosition(control), scrolling->range));
+      }
+      return;
+    }
+  }
+  for (NumberField* const field : {&color_, &gridWidth_, &gridHeight_}) {
+    if (control == field->field()) {
+      if (code == EN_KILLFOCUS) {
+        field->settle();
+      }
+      return;
+    }
+  }
+  if (code == BN_CLICKED && !isBusy_) {
+    buttonClicked(control);
+  }
+}
+
+void UseTab::buttonClicked(HWND button) {
+  if (button == load_.get()) {
+    loadByDialog();
+  } else if (button == process_.get()) {
+    process();
+  } else if (button == saveAs_.get()) {
+    saveRemappedBitmap();
+  } else if (button == protectColor_.get() || button == protectGrid_.get()) {
+    refreshProtectControls();
+  } else {
+    for (std::size_t i = 0; i < modes_.size(); ++i) {
+      if (button == modes_[i].get() && isTicked(button)) {
+        chooseMode(static_cast<RemapMode>(i));
+      }
+    }
+  }
+}
+
+void UseTab::chooseMode(RemapMode mode) {
+  mode_ = clickedMode(state(), mode).value_or(mode_);
+  refreshControls();
+}
+
+void UseTab::loadByDialog() {
+  if (const auto name = window_.workplace().fileDialogs.askOpenImage()) {
+    load(*name);
+  }
+}
+
+void UseTab::load(const std::wstring& name) {
+  if (!isBusy_ && loadImageFile(name, image_, window_.services().messages)) {
+    imageChanged();
+  }
+}
+
+void UseTab::imageChanged() {
+  result_.reset();
+  resultRows_ = 0;
+  mode_ = modeAfterLoad(state());
+  horizontal_.position = 0;
+  vertical_.position = 0;
+  refreshControls();
+  repaint(view_.handle());
+}
+
+void UseTab::documentReplaced(DocumentChange /*change*/) {
+  stops_ = true;
+  color_.setRange({0, window_.document()->getSize() - 1});
+  color_.setValue(color_.value());
+}
+
+RemapOptions UseTab::options() {
+  RemapOptions chosen;
+  chosen.mode = mode_;
+  if (isTicked(protectColor_.get())) {
+    chosen.protectedEntry = color_.value();
+  }
+  if (isTicked(protectGrid_.get())) {
+    chosen.protectGrid = ProtectGrid{.width = gridWidth_.value(), .height = gridHeight_.value()};
+  }
+  return chosen;
+}
+
+void UseTab::process() {
+  if (!image_ || isBusy_) {
+    return;
+  }
+  isBusy_ = true;
+  stops_ = false;
+  resultRows_ = 0;
+  refreshControls();
+  try {
+    Progress progress(*this, image_->height());
+    remapImage(*image_, window_.document()->getPalette(), options(), result_ ? *result_ : result_.emplace(), progress);
+  } catch (const std::bad_alloc&) {
+    result_.reset();
+    window_.services().messages.error(textOf(Failure::notEnoughMemory));
+  }
+  isBusy_ = false;
+  resultRows_ = result_ ? result_->height() : 0;
+  refreshControls();
+  repaint(view_.handle());
+}
+
+void UseTab::saveRemappedBitmap() {
+  if (!result_) {
+    return;
+  }
+  const auto name = window_.workplace().fileDialogs.askSaveBitmap();
+  if (!name) {
+    return;
+  }
+  try {
+    const auto file = composeBitmap({result_->width(), result_->height(), result_->rows()},
+                                    window_.document()->getPalette(), window_.settings().blank);
+    if (!writeFile(*name, file)) {
+      window_.services().messages.error(textOf(Failure::couldNotCreate));
+    }
+  } catch (const std::bad_alloc&) {
+    window_.services().messages.error(textOf(Failure::notEnoughMemory));
+  }
+}
+
+void UseTab::copy() {
+  if (!image_ || isBusy_) {
+    return;
+  }
+  const PaletteEntry blank = window_.settings().blank;
+  try {
+    window_.workplace().clipboard.putBitmap(result_ ? clipboardBitmap(*result_, blank)
+                                                    : clipboardBitmap(*image_, blank));
+  } catch (const std::bad_alloc&) {
+    window_.services().messages.error(textOf(Failure::notEnoughMemory));
+  }
+}
+
+void UseTab::paste() {
+  if (isBusy_) {
+    return;
+  }
+  auto block = window_.workplace().clipboard.getBitmap();
+  if (!block) {
+    return;
+  }
+  if (auto loaded = loadClipboardImage(std::move(*block))) {
+    image_ = std::move(*loaded);
+    imageChanged();
+  } else {
+    window_.services().messages.error(textOf(loaded.error()));
+  }
+}
+
+void UseTab::clear() {
+  if (!isBusy_) {
+    image_.reset();
+    imageChanged();
+  }
+}
+
+void UseTab::paintImage(HDC dc, const Rect& box) {
+  fillBoxWithSystemColor(dc, box, COLOR_APPWORKSPACE);
+  if (!image_) {
+    return;
+  }
+  if (result_) {
+    paintRows(dc, box, offset(), *result_, {0, resultRows_});
+  }
+  paintRows(dc, box, offset(), *image_, {resultRows_, image_->height()});
+}
+
+void UseTab::showRows(const RowRange& rows) {
+  if (rows.isEmpty()) {
+    return;
+  }
+  resultRows_ = rows.end;
+  const std::int32_t top = vertical_.position;
+  repaint(view_.handle(), {0, rows.begin - top, layout_.view.width(), rows.end - top});
+}
+
+void UseTab::scrollImage(bool isVertical, ScrollAction action) {
+  Scrolling& scrolling = isVertical ? vertical_ : horizontal_;
+  scrollTo(scrolling, scrolled(action, scrolling.position, 0, scrolling.range));
+}
+
+void UseTab::wheelImage(bool isVertical, std::int32_t delta) {
+  // Pixels a notch.
+  constexpr std::int32_t kStep = 48;
+  Scrolling& scrolling = isVertical ? vertical_ : horizontal_;
+  scrollTo(scrolling, scrolling.range.clamp(scrolling.position - delta * kStep / WHEEL_DELTA));
+}
+
+void UseTab::scrollTo(Scrolling& scrolling, std::int32_t position) {
+  if (!isBusy_ && position != scrolling.position) {
+    scrolling.position = position;
+    showScrolling(scrolling.bar.get(), scrolling.range, position);
+    repaint(view_.handle());
+  }
+}
+
+void UseTab::refreshScrolling() {
+  const Rect& view = layout_.view;
+  horizontal_.range = {image_ ? image_->width() : 0, view.width()};
+  vertical_.range = {image_ ? image_->height() : 0, view.height()};
+  for (Scrolling* const scrolling : {&horizontal_, &vertical_}) {
+    const std::int32_t position = scrolling->range.clamp(scrolling->position);
+    if (position != scrolling->position) {
+      scrolling->position = position;
+      repaint(view_.handle());
+    }
+    showScrolling(scrolling->bar.get(), scrolling->range, position);
+    // All of the image is in view, or a run is on.
+    enable(scrolling->bar.get(), !isBusy_ && scrolling->range.last() > 0);
+  }
+}
+
+}  // namespace quillhue
