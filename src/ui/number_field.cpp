@@ -13,13 +13,11 @@ namespace quillhue {
 NumberField::NumberField(HWND parent, HFONT font, DWORD style, DWORD arrowStyle)
     : field_(createControl(parent, font,
                            {.windowClass = L"Edit",
-                            .text = {},
                             .style = WS_TABSTOP | ES_NUMBER | ES_AUTOHSCROLL | style,
                             .extendedStyle = WS_EX_CLIENTEDGE})),
       arrows_(
           createControl(parent, nullptr,
                         {.windowClass = UPDOWN_CLASSW,
-                         .text = {},
                          .style = UDS_ARROWKEYS | UDS_ALIGNRIGHT | UDS_SETBUDDYINT | UDS_NOTHOUSANDS | arrowStyle})) {
   SendMessageW(arrows_.get(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(field_.get()), 0);
   setRange(range_);
