@@ -9,10 +9,9 @@
 namespace quillhue {
 
 void Clipboard::put(std::span<const PaletteEntry> entries) {
-  if (ClipboardAccess clipboard(owner_.handle()); clipboard) {
-    clipboard.empty();
-    clipboard.put(createLogicalPalette(entries));
-  }
+  ClipboardAccess clipboard(owner_.handle());
+  clipboard.empty();
+  clipboard.put(createLogicalPalette(entries));
 }
 
 std::optional<std::vector<PaletteEntry>> Clipboard::get() {
@@ -22,10 +21,9 @@ std::optional<std::vector<PaletteEntry>> Clipboard::get() {
 }
 
 void Clipboard::putBitmap(std::span<const std::uint8_t> block) {
-  if (ClipboardAccess clipboard(owner_.handle()); clipboard) {
-    clipboard.empty();
-    clipboard.put(CF_DIB, block);
-  }
+  ClipboardAccess clipboard(owner_.handle());
+  clipboard.empty();
+  clipboard.put(CF_DIB, block);
 }
 
 std::optional<std::vector<std::uint8_t>> Clipboard::getBitmap() const try {

@@ -58,31 +58,37 @@ ClipboardAccess::~ClipboardAccess() {
   }
 }
 
-void ClipboardAccess::empty() { EmptyClipboard(); }
+void ClipboardAccess::empty() {
+  if (open_) {
+    EmptyClipboard();
+  }
+}
 
 void ClipboardAccess::put(LogicalPalette palette) {
   // Null would promise to give one later.
-  if (palette && SetClipboardData(CF_PALETTE, palette.get()) != nullptr) {
+  if (open_ && palette && SetClipboardData(CF_PALETTE, palette.get()) != nullptr) {
     palette.release();
   }
 }
 
 void ClipboardAccess::put(UINT format, std::span<const std::uint8_t> bytes) {
   GlobalMemory memory(GlobalAlloc(GMEM_MOVEABLE, bytes.size()));
-  if (copyInto(memory.get(), bytes) && SetClipboardData(format, memory.get()) != nullptr) {
+  if (open_ && copyInto(memory.get(), bytes) && SetClipboardData(format, memory.get()) != nullptr) {
     memory.release();
   }
 }
 
-HPALETTE ClipboardAccess::palette() const { return static_cast<HPALETTE>(GetClipboardData(CF_PALETTE)); }
+HPALETTE ClipboardAccess::palette() const { return static_cast<HPALETTE>(data(CF_PALETTE)); }
 
 std::optional<std::vector<std::uint8_t>> ClipboardAccess::bytes(UINT format) const {
-  const HANDLE data = GetClipboardData(format);
-  if (data == nullptr) {
+  const HANDLE block = data(format);
+  if (block == nullptr) {
     return std::nullopt;
   }
-  const LockedMemory memory(data);
+  const LockedMemory memory(block);
   return std::vector<std::uint8_t>(memory.bytes().begin(), memory.bytes().end());
 }
+
+HANDLE ClipboardAccess::data(UINT format) const { return open_ ? GetClipboardData(format) : nullptr; }
 
 }  // namespace quillhue

@@ -34,6 +34,8 @@ class ClipboardAccess {
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> bytes(UINT format) const;
 
  private:
+  [[nodiscard]] HANDLE data(UINT format) const;
+
   bool open_ = false;
 };
 
