@@ -1,0 +1,36 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/utf8.h"
+#include "ui/services/file_types.h"
+
+namespace quillhue {
+namespace {
+
+// The list that the system gets, with a bar for each null.
+std::string shown(const std::vector<FileType>& types) {
+  std::string filter = toUtf8(filterOf(types));
+  for (char& letter : filter) {
+    letter = letter == '\0' ? '|' : letter;
+  }
+  return filter;
+}
+
+// The string's own end is the null behind the last type.
+TEST(FileTypes, AreListedForEachDialog) {
+  EXPECT_EQ(shown(openPaletteTypes()),
+            "All Supported File Types|*.act;*.anm;*.bmp;*.clp;*.cmp;*.col;*.csv;*.dib;*.gif;*.gpl;*.iff;*.lbm;*.map;"
+            "*.pal;*.pcx;*.png;*.tga;*.tif;*.tiff;*.xcf|All Files|*|");
+  EXPECT_EQ(shown(openImageTypes()), "Supported File Types|*.bmp;*.clp;*.dib;*.lbm;*.pcx|All Files|*|");
+  EXPECT_EQ(shown(savePaletteTypes()),
+            "Adobe Color Table (*.act)|*.act|CMP Palette (*.cmp)|*.cmp|Color Table (*.pal)|*.pal|"
+            "Comma-separated values (*.csv)|*.csv|Dr. Halo Palette (*.pal)|*.pal|Gimp Palette|*|"
+            "JASC Palette (*.pal)|*.pal|MAP Palette (*.map)|*.map|MS Draw Palette (*.pal)|*.pal|"
+            "RIFF Palette (*.pal)|*.pal|Windows Clipboard File (*.clp)|*.clp|");
+  EXPECT_EQ(shown(saveBitmapTypes()), "Windows Bitmap (*.bmp)|*.bmp|All Files|*|");
+}
+
+}  // namespace
+}  // namespace quillhue

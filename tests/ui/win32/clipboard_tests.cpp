@@ -1,0 +1,110 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <algorithm>
+#include <thread>
+#include <vector>
+
+#include "ui/services/halftone_palette.h"
+#include "ui/win32/clipboard.h"
+#include "ui/win32/logical_palette.h"
+
+namespace quillhue {
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+// A window that nobody sees.
+Window createOwner() {
+  return Window(
+      CreateWindowExW(0, L"Static", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, GetModuleHandleW(nullptr), nullptr));
+}
+
+std::vector<PaletteEntry> colors(int count) {
+  std::vector<PaletteEntry> entries;
+  for (int i = 0; i < count; ++i) {
+    entries.push_back({static_cast<std::uint8_t>(i), static_cast<std::uint8_t>(i / 256), 77});
+  }
+  return entries;
+}
+
+TEST(ClipboardAccess, GivesThePaletteThatItTook) {
+  const Window owner = createOwner();
+  for (const int count : {1, 2, 256, 1023, 1024, 1025, 3000}) {
+    {
+      ClipboardAccess clipboard(owner.get());
+      ASSERT_TRUE(clipboard);
+      clipboard.empty();
+      clipboard.put(createLogicalPalette(colors(count)));
+    }
+    const ClipboardAccess clipboard(owner.get());
+    EXPECT_EQ(entriesOf(clipboard.palette()), colors(std::min(count, 1024))) << count;
+    PALETTEENTRY first{};
+    GetPaletteEntries(clipboard.palette(), 0, 1, &first);
+    EXPECT_EQ(first.peFlags, PC_RESERVED);
+  }
+}
+
+TEST(ClipboardAccess, APaletteWithoutEntriesLeavesItEmpty) {
+  const Window owner = createOwner();
+  ClipboardAccess clipboard(owner.get());
+  clipboard.empty();
+  clipboard.put(createLogicalPalette(colors(1)));
+  clipboard.empty();
+  clipboard.put(createLogicalPalette({}));
+  EXPECT_EQ(CountClipboardFormats(), 0);
+  EXPECT_EQ(clipboard.palette(), nullptr);
+  EXPECT_TRUE(entriesOf(clipboard.palette()).empty());
+}
+
+TEST(ClipboardAccess, GivesBitmapsOfAnySize) {
+  const Window owner = createOwner();
+  for (const std::size_t size : {1, 3, 14, 15, 39, 40, 41, 107, 5000}) {
+    Bytes block(size, 1);
+    {
+      ClipboardAccess clipboard(owner.get());
+      clipboard.empty();
+      EXPECT_EQ(clipboard.bytes(CF_DIB), std::nullopt);
+      clipboard.put(CF_DIB, block);
+    }
+    const auto found = ClipboardAccess(owner.get()).bytes(CF_DIB);
+    ASSERT_TRUE(found) << size;
+    ASSERT_GE(found->size(), size);
+    EXPECT_TRUE(std::equal(block.begin(), block.end(), found->begin()));
+  }
+}
+
+TEST(ClipboardAccess, HasNothingWhileAnotherHasIt) {
+  const Window owner = createOwner();
+  {
+    ClipboardAccess clipboard(owner.get());
+    clipboard.empty();
+    clipboard.put(createLogicalPalette(colors(2)));
+    bool opened = true;
+    bool found = true;
+    std::thread([&] {
+      const Window otherOwner = createOwner();
+      ClipboardAccess other(otherOwner.get());
+      opened = static_cast<bool>(other);
+      found = other.palette() != nullptr || other.bytes(CF_DIB);
+      other.empty();
+      other.put(createLogicalPalette(colors(1)));
+    }).join();
+    EXPECT_FALSE(opened);
+    EXPECT_FALSE(found);
+    // Still open here, with what it had.
+    EXPECT_EQ(entriesOf(clipboard.palette()), colors(2));
+  }
+  EXPECT_EQ(entriesOf(ClipboardAccess(owner.get()).palette()), colors(2));
+}
+
+TEST(HalftonePalette, GoesFromBlackToWhite) {
+  const std::vector<PaletteEntry> entries = HalftonePalette().halftone();
+  ASSERT_GE(entries.size(), 20U);
+  ASSERT_LE(entries.size(), 1024U);
+  EXPECT_EQ(entries.front(), (PaletteEntry{0, 0, 0}));
+  EXPECT_EQ(entries.back(), (PaletteEntry{255, 255, 255}));
+}
+
+}  // namespace
+}  // namespace quillhue
