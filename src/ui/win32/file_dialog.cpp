@@ -25,7 +25,7 @@ std::optional<FileToSave> ask(HWND owner, const SaveDialog& dialog, DWORD flags,
   if (show(&question) == 0) {
     return std::nullopt;
   }
-  return FileToSave{name.c_str(), question.nFilterIndex};
+  return FileToSave{name.substr(0, name.find(L'\0')), question.nFilterIndex};
 }
 
 }  // namespace

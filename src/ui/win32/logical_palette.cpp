@@ -23,10 +23,10 @@ std::vector<PaletteEntry> entriesOf(HPALETTE palette) {
   const UINT count = std::min<UINT>(GetPaletteEntries(palette, 0, 0, nullptr), kMaxPaletteSize);
   std::vector<PALETTEENTRY> colors(count);
   colors.resize(std::min(GetPaletteEntries(palette, 0, count, colors.data()), count));
-  std::vector<PaletteEntry> entries;
-  for (const PALETTEENTRY& color : colors) {
-    entries.push_back({color.peRed, color.peGreen, color.peBlue});
-  }
+  std::vector<PaletteEntry> entries(colors.size());
+  std::ranges::transform(colors, entries.begin(), [](const PALETTEENTRY& color) {
+    return PaletteEntry{color.peRed, color.peGreen, color.peBlue};
+  });
   return entries;
 }
 
