@@ -1,17 +1,23 @@
 #!/usr/bin/env bash
-# check-tidy.sh BUILD: runs clang-tidy on the project's sources that BUILD compiles. A file that was clean is looked at
-# again only when it, a header of the project or the rules have changed.
+# check-tidy.sh BUILD...: runs clang-tidy on the project's sources that the builds compile, on each as the first of them
+# compiles it. A file that was clean is looked at again only when it, a header of the project or the rules have changed.
+# For a cross compiler's build clang takes system and headers from the compiler's name.
 set -euo pipefail
-build=$(cd "$1" && pwd)
+builds=()
+for build in "$@"; do
+  [ -f "$build/compile_commands.json" ] || { echo "$build is not configured"; exit 1; }
+  builds+=("$(cd "$build" && pwd)")
+done
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 root=$PWD
-clean=$build/tidy
+clean=${builds[0]}/tidy
 mkdir -p "$clean"
 common=$({ find src tests fuzz bench -name '*.h' -o -name .clang-tidy | sort | xargs cat .clang-tidy scripts/check-tidy.sh
            cat CMakeLists.txt cmake/house.cmake; clang-tidy-19 --version; } | sha256sum | cut -d' ' -f1)
 
 check() {
-  local file=$1 key
+  local build file key
+  IFS=$'\t' read -r build file <<<"$1"
   key=$clean/$({ echo "$common" "$file"; cat "$file"; } | sha256sum | cut -d' ' -f1)
   [ ! -e "$key" ] || return 0
   if clang-tidy-19 --quiet -p "$build" "$root/$file" >"$key.log" 2>&1; then
@@ -23,7 +29,9 @@ check() {
   fi
 }
 export -f check
-export build root clean common
+export root clean common
 
-sed -n "s|^ *\"file\": \"$root/\(.*\)\".*|\1|p" "$build/compile_commands.json" | sort -u |
-  grep -E '^(src|tests|fuzz|bench)/' | xargs -P "$(nproc)" -I{} bash -c 'check {}'
+for build in "${builds[@]}"; do
+  sed -n "s|^ *\"file\": \"$root/\(.*\)\".*|$build\t\1|p" "$build/compile_commands.json"
+done | grep -P '\t(src|tests|fuzz|bench)/' | sort -t$'\t' -k2,2 -s -u |
+  xargs -d '\n' -P "$(nproc)" -n1 bash -c 'check "$1"' check
