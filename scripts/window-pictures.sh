@@ -24,7 +24,7 @@ take() {
 }
 
 # The first start of all makes the folder of the system's files, which is no part of any picture.
-scripts/with-display.sh 64x64 scripts/wine.sh wineboot --init 2>"$work/log"
+scripts/with-display.sh 1024x800 scripts/wine.sh wineboot --init 2>"$work/log"
 take intro ''
 take values 'mousemove 480 380
 click 1' "$drive\\samples\\harbour.gpl"

@@ -19,6 +19,8 @@ NumberField::NumberField(HWND parent, HFONT font, DWORD style, DWORD arrowStyle)
           createControl(parent, nullptr,
                         {.windowClass = UPDOWN_CLASSW,
                          .style = UDS_ARROWKEYS | UDS_ALIGNRIGHT | UDS_SETBUDDYINT | UDS_NOTHOUSANDS | arrowStyle})) {
+  // Beside the arrows there is room for four digits and no margins.
+  SendMessageW(field_.get(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
   SendMessageW(arrows_.get(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(field_.get()), 0);
   setRange(range_);
   setValue(0);
