@@ -1,6 +1,7 @@
 #pragma once
 
 /// The dialogs' controls beside OK and Cancel. Macros, because the resource compiler knows no other constants.
+// NOLINTBEGIN(modernize-macro-to-enum)
 
 // DBNEW
 #define NEW_SIZE 10
@@ -29,3 +30,5 @@
 #define ABOUT_ICON 10
 #define ABOUT_NAME 11
 #define ABOUT_VERSION 12
+
+// NOLINTEND(modernize-macro-to-enum)
