@@ -24,7 +24,7 @@ if [ $# -eq 1 ]; then
 fi
 cd "$root"
 scripts/need.sh g++ cmake ninja-build googletest libcli11-dev nlohmann-json3-dev \
-  g++-mingw-w64-x86-64-posix wine wine64 fonts-dejavu-core
+  g++-mingw-w64-x86-64-posix wine wine64 fonts-dejavu-core fonts-wine
 scripts/build.sh windows quillhue
 program=$root/build/windows/src/quillhue.exe
 if [ -n "${DISPLAY:-}" ]; then

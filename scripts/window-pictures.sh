@@ -3,7 +3,7 @@
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
-scripts/need.sh xvfb xdotool imagemagick fonts-dejavu-core g++ cmake ninja-build googletest libcli11-dev \
+scripts/need.sh xvfb xdotool imagemagick fonts-dejavu-core fonts-wine g++ cmake ninja-build googletest libcli11-dev \
   nlohmann-json3-dev g++-mingw-w64-x86-64-posix wine wine64
 scripts/build.sh windows quillhue
 work=$(mktemp -d)

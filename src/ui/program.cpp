@@ -2,6 +2,7 @@
 
 #include "ui/application.h"
 
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): the system's declaration has other names.
 int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*commandLine*/, int showCommand) {
   return quillhue::Application().run(showCommand);
 }

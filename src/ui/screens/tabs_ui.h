@@ -20,6 +20,8 @@ class MainWindow;
 class TabsUI final : public MainUI {
  public:
   explicit TabsUI(MainWindow& window);
+  TabsUI(const TabsUI&) = delete;
+  TabsUI& operator=(const TabsUI&) = delete;
   ~TabsUI() override;
 
   void menuCommand(std::int32_t command) override;

@@ -36,7 +36,7 @@ void paintCurrent(HDC dc, const Rect& color) {
 void paintFocus(HDC dc, const GridLayout& grid) {
   const std::int32_t gap = grid.margin() / 2;
   const Rect cells = boxAt({grid.margin(), grid.margin()}, {grid.columns() * grid.cell(), grid.rows() * grid.cell()});
-  RECT frame = toSystem(
+  const RECT frame = toSystem(
       Rect{cells.left - gap, cells.top - gap, std::min(cells.right + gap, grid.rightEdge()), cells.bottom + gap});
   SetTextColor(dc, kDark);
   SetBkColor(dc, kLight);

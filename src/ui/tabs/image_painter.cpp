@@ -1,8 +1,10 @@
 #include "ui/tabs/image_painter.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -15,7 +17,7 @@ namespace {
 // A bitmap's description with room for the colors of one byte a pixel.
 struct BitmapDescription {
   BITMAPINFOHEADER header{};
-  RGBQUAD colors[kMaxUsedEntries]{};
+  std::array<RGBQUAD, kMaxUsedEntries> colors{};
 };
 
 // The pixels in view: columns and rows of the image.
@@ -54,7 +56,7 @@ void paintPart(HDC dc, Point offset, const Part& part, std::size_t pixelBytes, s
   description.header.biHeight = -part.rows.count();
   description.header.biPlanes = 1;
   description.header.biBitCount = static_cast<WORD>(8 * pixelBytes);
-  const std::size_t used = std::min(colors.size(), std::size(description.colors));
+  const std::size_t used = std::min(colors.size(), description.colors.size());
   for (std::size_t i = 0; i < used; ++i) {
     description.colors[i] = {colors[i].blue, colors[i].green, colors[i].red, 0};
   }
@@ -66,7 +68,8 @@ void paintPart(HDC dc, Point offset, const Part& part, std::size_t pixelBytes, s
 }  // namespace
 
 void paintRows(HDC dc, const Rect& box, Point offset, const WorkImage& image, const RowRange& rows) {
-  const std::vector<PaletteEntry> colors = image.palette() ? entriesOf(*image.palette()) : std::vector<PaletteEntry>{};
+  const std::optional<Palette>& palette = image.palette();
+  const std::vector<PaletteEntry> colors = palette ? entriesOf(*palette) : std::vector<PaletteEntry>{};
   paintPart(dc, offset, partInView(box, offset, image.width(), rows), image.bytesPerPixel(), colors,
             [&](std::int32_t y) { return image.row(y); });
 }

@@ -1,6 +1,7 @@
 #include "ui/tabs/use_tab.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <new>
 #include <utility>
@@ -24,6 +25,8 @@ namespace {
 
 constexpr ValueRange kGridSides{1, ProtectGrid::kMaxSide};
 constexpr ProtectGrid kFirstGrid{};
+// In the order of their buttons.
+constexpr std::array kModes{RemapMode::maintain, RemapMode::nearest, RemapMode::dither};
 
 }  // namespace
 
@@ -105,18 +108,18 @@ LRESULT UseTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lP
 
 void UseTab::layout(const Rect& area) {
   layout_ = useLayout(area, {GetSystemMetrics(SM_CXVSCROLL), GetSystemMetrics(SM_CYHSCROLL)}, window_.scale());
-  const std::pair<HWND, Rect> places[] = {{view_.handle(), layout_.view},
-                                          {horizontal_.bar.get(), layout_.horizontalBar},
-                                          {vertical_.bar.get(), layout_.verticalBar},
-                                          {load_.get(), layout_.load},
-                                          {modes_[0].get(), layout_.maintain},
-                                          {modes_[1].get(), layout_.nearest},
-                                          {modes_[2].get(), layout_.dither},
-                                          {protectColor_.get(), layout_.protectColor},
-                                          {protectGrid_.get(), layout_.protectGrid},
-                                          {process_.get(), layout_.process},
-                                          {saveAs_.get(), layout_.saveAs},
-                                          {surface_.get(), layout_.surface}};
+  const auto places = std::to_array<std::pair<HWND, Rect>>({{view_.handle(), layout_.view},
+                                                            {horizontal_.bar.get(), layout_.horizontalBar},
+                                                            {vertical_.bar.get(), layout_.verticalBar},
+                                                            {load_.get(), layout_.load},
+                                                            {modes_[0].get(), layout_.maintain},
+                                                            {modes_[1].get(), layout_.nearest},
+                                                            {modes_[2].get(), layout_.dither},
+                                                            {protectColor_.get(), layout_.protectColor},
+                                                            {protectGrid_.get(), layout_.protectGrid},
+                                                            {process_.get(), layout_.process},
+                                                            {saveAs_.get(), layout_.saveAs},
+                                                            {surface_.get(), layout_.surface}});
   for (const auto& [control, box] : places) {
     moveTo(control, box);
   }
@@ -149,8 +152,8 @@ void UseTab::refreshLoadControls() {
   enable(modes_[2].get(), usable.dither);
   enable(process_.get(), usable.process);
   enable(saveAs_.get(), usable.saveAs);
-  for (std::size_t i = 0; i < modes_.size(); ++i) {
-    tick(modes_[i].get(), static_cast<std::size_t>(mode_) == i);
+  for (const RemapMode mode : kModes) {
+    tick(modeButton(mode), mode == mode_);
   }
   setWindowText(status_.get(), imageStatusText(image_.has_value()));
 }
@@ -207,9 +210,9 @@ void UseTab::buttonClicked(HWND button) {
   } else if (button == protectColor_.get() || button == protectGrid_.get()) {
     refreshProtectControls();
   } else {
-    for (std::size_t i = 0; i < modes_.size(); ++i) {
-      if (button == modes_[i].get() && isTicked(button)) {
-        chooseMode(static_cast<RemapMode>(i));
+    for (const RemapMode mode : kModes) {
+      if (button == modeButton(mode) && isTicked(button)) {
+        chooseMode(mode);
       }
     }
   }

@@ -67,6 +67,7 @@ class UseTab final : public Tab, public ImageClient {
   void refreshProtectControls();
   void refreshControls();
 
+  [[nodiscard]] HWND modeButton(RemapMode mode) const { return modes_[static_cast<std::size_t>(mode)].get(); }
   void buttonClicked(HWND button);
   void chooseMode(RemapMode mode);
   void load(const std::wstring& name);

@@ -14,7 +14,7 @@ namespace {
 
 struct ArgumentsKind {
   using Value = wchar_t**;
-  static void close(Value value) { LocalFree(value); }
+  static void close(Value value) { LocalFree(static_cast<void*>(value)); }
 };
 
 }  // namespace
