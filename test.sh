@@ -5,14 +5,15 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 cd "$root"
 scripts/need.sh g++ cmake ninja-build googletest libcli11-dev nlohmann-json3-dev \
-  g++-mingw-w64-x86-64-posix wine wine64 clang-19 clang-tidy-19 clang-format-19 libclang-rt-19-dev
-for preset in asan windows fuzz; do
-  scripts/build.sh "$preset"
-done
+  g++-mingw-w64-x86-64-posix wine wine64 fonts-dejavu-core fonts-wine xvfb clang-19 clang-tidy-19 clang-format-19 libclang-rt-19-dev
+mkdir -p build
 if [ ! -f build/wine/system.reg ]; then
   echo "Preparing Wine"
   scripts/wine.sh wineboot --init >build/wine.log 2>&1 || { cat build/wine.log >&2; exit 1; }
 fi
+for preset in asan windows fuzz; do
+  scripts/build.sh "$preset"
+done
 # A Windows program that waits for input until this script ends. Without it Wine's server ends whenever no program is
 # left, and fails what starts at that moment.
 coproc { timeout 1800 scripts/wine.sh cmd /q >/dev/null 2>&1; }
