@@ -11,6 +11,7 @@
 #include "core/generators.h"
 #include "core/new_palette.h"
 #include "core/system_palettes.h"
+#include "formats/failure.h"
 #include "formats/palette_file.h"
 #include "ui/dialogs/about_dialog.h"
 #include "ui/dialogs/new_palette_dialog.h"
@@ -65,8 +66,13 @@ void openPalette(MainWindow& window) {
 void leave(MainWindow& window) { PostMessageW(window.handle(), WM_CLOSE, 0, 0); }
 
 void showReadMe(MainWindow& window) {
-  ShellExecuteW(window.handle(), L"open", L"readme.txt", nullptr, window.workplace().programFolder.c_str(),
-                SW_SHOWNORMAL);
+  const HINSTANCE opened = ShellExecuteW(window.handle(), L"open", L"readme.txt", nullptr,
+                                         window.workplace().programFolder.c_str(), SW_SHOWNORMAL);
+  // Up to 32 it is the number of an error.
+  constexpr INT_PTR kLastError = 32;
+  if (reinterpret_cast<INT_PTR>(opened) <= kLastError) {
+    window.services().messages.error(textOf(Failure::couldNotOpen));
+  }
 }
 
 void showAbout(MainWindow& window) { showAboutDialog(window); }

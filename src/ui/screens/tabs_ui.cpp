@@ -90,11 +90,11 @@ void TabsUI::frameCommand(std::int32_t command) {
   switch (command) {
     case command_id::kSave:
       static_cast<void>(save(document, services));
-      active_->paletteChanged();
+      active_->documentSaved();
       break;
     case command_id::kSaveAs:
       static_cast<void>(saveAs(document, services));
-      active_->paletteChanged();
+      active_->documentSaved();
       break;
     case command_id::kUndo:
       stepThroughHistory(&PaletteDocument::undo);

@@ -56,6 +56,8 @@ void paintGrid(HDC dc, const Rect& box, const GridLayout& grid, const GridPictur
     const Rect color = filledPart(grid.colorBox(index));
     if (!color.isEmpty()) {
       fillBox(dc, color, toSystem(picture.palette.entry(index)));
+      // So that an entry in the background's color does not look like no entry.
+      frameBox(dc, color.inset(-1), 1, GetSysColor(COLOR_BTNSHADOW));
     }
     const auto place = static_cast<std::size_t>(index);
     if (place < picture.selected.size() && picture.selected[place] != 0) {

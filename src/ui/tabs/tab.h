@@ -33,6 +33,7 @@ class Tab {
   /// The document's colors or selection have changed.
   virtual void paletteChanged() = 0;
   virtual void documentReplaced(DocumentChange change) = 0;
+  virtual void documentSaved() {}
   virtual void show() = 0;
   virtual void hide() = 0;
   virtual void copy() = 0;

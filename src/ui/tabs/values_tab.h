@@ -25,6 +25,8 @@ class ValuesTab final : public PaletteTab, private ChannelView {
   void controlNotification(HWND control, WPARAM wParam) override;
   void paletteChanged() override;
   void documentReplaced(DocumentChange change) override;
+  /// What is changed from now on is a step of its own, so that undoing it leads to what was saved.
+  void documentSaved() override { editor_.endRun(); }
   void show() override;
   void copy() override;
   void paste() override;
