@@ -44,6 +44,16 @@ bool updateItems(HMENU menu, const std::vector<MenuItem>& items, const CommandSt
   return changed;
 }
 
+// Enter presses the button with the focus. The keyboard navigation knows that only of one that Tab has led to.
+bool pressesButton(const MSG& message) {
+  if (message.message != WM_KEYDOWN || message.wParam != VK_RETURN ||
+      (SendMessageW(message.hwnd, WM_GETDLGCODE, 0, 0) & DLGC_UNDEFPUSHBUTTON) == 0) {
+    return false;
+  }
+  SendMessageW(message.hwnd, BM_CLICK, 0, 0);
+  return true;
+}
+
 }  // namespace
 
 MainWindow::~MainWindow() = default;
@@ -82,7 +92,7 @@ void MainWindow::take(MSG& message) {
       message.hwnd = under;
     }
   }
-  if (TranslateAcceleratorW(handle(), accelerators_.get(), &message) != 0) {
+  if (TranslateAcceleratorW(handle(), accelerators_.get(), &message) != 0 || pressesButton(message)) {
     return;
   }
   // Escape is no command here: as that of a dialog it would arrive under the number of a system palette.
@@ -133,7 +143,12 @@ void MainWindow::statusChanged(std::string_view text) {
   SendMessageW(statusBar_, SB_SETTEXTW, kEntriesPart, reinterpret_cast<LPARAM>(fromUtf8(text).c_str()));
 }
 
-void MainWindow::undoRedoChanged(bool /*canUndo*/, bool /*canRedo*/) { updateMenus(); }
+void MainWindow::undoRedoChanged(bool /*canUndo*/, bool /*canRedo*/) {
+  // A document that is just being made is announced by documentReplaced: greying everything until then would flicker.
+  if (document() != nullptr) {
+    updateMenus();
+  }
+}
 
 void MainWindow::documentReplaced() {
   screen_->documentReplaced();
