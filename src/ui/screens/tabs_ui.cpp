@@ -148,12 +148,17 @@ void TabsUI::resizePalette() {
 }
 
 void TabsUI::rebuild(DocumentChange change) {
+  // A control that is hidden loses the focus.
+  const HWND focused = GetFocus();
   active_->hide();
   for (const auto& tab : tabs_) {
     tab->documentReplaced(change);
     tab->layout(pageArea());
   }
   active_->show();
+  if (IsChild(window_.handle(), focused)) {
+    SetFocus(focused);
+  }
   UpdateWindow(window_.handle());
 }
 
@@ -170,6 +175,8 @@ LRESULT TabsUI::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lP
 }
 
 void TabsUI::chooseTab() {
+  // Ends a drag, while the tab that it began in still hears of it.
+  ReleaseCapture();
   active_->hide();
   const auto page = static_cast<std::size_t>(SendMessageW(tabControl_.get(), TCM_GETCURSEL, 0, 0));
   active_ = tabs_[std::min(page, kTabs - 1)].get();

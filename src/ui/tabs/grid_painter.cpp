@@ -50,20 +50,18 @@ void paintGrid(HDC dc, const Rect& box, const GridLayout& grid, const GridPictur
   const std::int32_t size = picture.palette.getSize();
   for (std::int32_t index = 0; index < size; ++index) {
     const Rect cell = grid.cellBox(index);
-    if (!overlap(cell, box)) {
+    const Rect color = filledPart(grid.colorBox(index));
+    if (color.isEmpty() || !overlap(cell, box)) {
       continue;
     }
-    const Rect color = filledPart(grid.colorBox(index));
-    if (!color.isEmpty()) {
-      fillBox(dc, color, toSystem(picture.palette.entry(index)));
-      // So that an entry in the background's color does not look like no entry.
-      frameBox(dc, color.inset(-1), 1, GetSysColor(COLOR_BTNSHADOW));
-    }
+    fillBox(dc, color, toSystem(picture.palette.entry(index)));
+    // So that an entry in the background's color does not look like no entry.
+    frameBox(dc, color.inset(-1), 1, GetSysColor(COLOR_BTNSHADOW));
     const auto place = static_cast<std::size_t>(index);
     if (place < picture.selected.size() && picture.selected[place] != 0) {
       paintSelected(dc, cell, color);
     }
-    if (index == picture.currentEntry && !color.isEmpty()) {
+    if (index == picture.currentEntry) {
       paintCurrent(dc, color);
     }
   }

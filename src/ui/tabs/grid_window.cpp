@@ -70,7 +70,8 @@ LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       }
       return 0;
     case WM_GETDLGCODE:
-      return DLGC_WANTARROWS;
+      // Letters without Alt would press the buttons that are named by them.
+      return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_KILLFOCUS:
       client_.releaseGrid();
       repaint(handle());

@@ -56,7 +56,8 @@ LRESULT ImageWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_KEYDOWN:
       return keyPressed(wParam) ? 0 : DefWindowProcW(handle(), message, wParam, lParam);
     case WM_GETDLGCODE:
-      return DLGC_WANTARROWS;
+      // Letters without Alt would press the buttons that are named by them.
+      return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
       repaint(handle());

@@ -267,9 +267,13 @@ void UseTab::process() {
   if (!image_ || isBusy_) {
     return;
   }
+  const HWND focused = GetFocus();
   isBusy_ = true;
   stops_ = false;
   resultRows_ = 0;
+  if (focused != nullptr) {
+    SetFocus(view_.handle());
+  }
   refreshControls();
   try {
     Progress progress(*this, image_->height());
@@ -281,6 +285,9 @@ void UseTab::process() {
   isBusy_ = false;
   resultRows_ = result_ ? result_->height() : 0;
   refreshControls();
+  if (GetFocus() == view_.handle()) {
+    SetFocus(focused);
+  }
   repaint(view_.handle());
 }
 

@@ -35,7 +35,13 @@ void moveTo(HWND window, const Rect& box) { MoveWindow(window, box.left, box.top
 
 void show(HWND window, bool visible) { ShowWindow(window, visible ? SW_SHOWNA : SW_HIDE); }
 
-void enable(HWND window, bool enabled) { EnableWindow(window, enabled ? TRUE : FALSE); }
+void enable(HWND window, bool enabled) {
+  const bool losesFocus = !enabled && GetFocus() == window;
+  EnableWindow(window, enabled ? TRUE : FALSE);
+  if (losesFocus) {
+    SetFocus(GetParent(window));
+  }
+}
 
 void repaint(HWND window, bool erase) { InvalidateRect(window, nullptr, erase ? TRUE : FALSE); }
 

@@ -35,6 +35,7 @@ void setWindowText(HWND window, std::string_view text);
 /// Moves a child window and repaints it.
 void moveTo(HWND window, const Rect& box);
 void show(HWND window, bool visible);
+/// Disabled, a window leaves the focus to its parent: otherwise no window would have it.
 void enable(HWND window, bool enabled);
 void repaint(HWND window, bool erase = false);
 void repaint(HWND window, const Rect& box, bool erase = false);
