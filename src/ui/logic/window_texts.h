@@ -17,6 +17,7 @@ inline constexpr std::array<std::string_view, 3> kTabTitles{"Edit Values", "Appl
 inline constexpr std::string_view kInformationCaption = "Quillhue";
 inline constexpr std::string_view kWarningCaption = "Warning";
 inline constexpr std::string_view kErrorCaption = "Error";
+inline constexpr std::string_view kSaveAsCaption = "Save As";
 
 /// Fatal at start-up.
 inline constexpr std::string_view kNoWindowClassText = "Could not register window.";

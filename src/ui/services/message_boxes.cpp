@@ -3,24 +3,27 @@
 #include <windows.h>
 
 #include "core/utf8.h"
+#include "ui/logic/window_texts.h"
 #include "ui/main_window.h"
 
 namespace quillhue {
 
 namespace {
 
-int show(const MainWindow& owner, std::string_view text, const wchar_t* caption, UINT style) {
-  return MessageBoxW(owner.dialogOwner(), fromUtf8(text).c_str(), caption, style);
+int show(const MainWindow& owner, std::string_view text, std::string_view caption, UINT style) {
+  return MessageBoxW(owner.dialogOwner(), fromUtf8(text).c_str(), fromUtf8(caption).c_str(), style);
 }
 
 }  // namespace
 
-void MessageBoxes::information(std::string_view text) { show(owner_, text, L"Quillhue", MB_OK | MB_ICONINFORMATION); }
+void MessageBoxes::information(std::string_view text) {
+  show(owner_, text, kInformationCaption, MB_OK | MB_ICONINFORMATION);
+}
 
-void MessageBoxes::error(std::string_view text) { show(owner_, text, L"Error", MB_OK | MB_ICONERROR); }
+void MessageBoxes::error(std::string_view text) { show(owner_, text, kErrorCaption, MB_OK | MB_ICONERROR); }
 
 SaveChangesAnswer MessageBoxes::askSaveChanges(std::string_view text) {
-  switch (show(owner_, text, L"Warning", MB_YESNOCANCEL | MB_ICONEXCLAMATION)) {
+  switch (show(owner_, text, kWarningCaption, MB_YESNOCANCEL | MB_ICONEXCLAMATION)) {
     case IDYES:
       return SaveChangesAnswer::yes;
     case IDNO:
@@ -31,7 +34,7 @@ SaveChangesAnswer MessageBoxes::askSaveChanges(std::string_view text) {
 }
 
 bool MessageBoxes::askReplaceFile(std::string_view text) {
-  return show(owner_, text, L"Save As", MB_YESNO | MB_ICONEXCLAMATION) == IDYES;
+  return show(owner_, text, kSaveAsCaption, MB_YESNO | MB_ICONEXCLAMATION) == IDYES;
 }
 
 }  // namespace quillhue
