@@ -170,6 +170,10 @@ LRESULT TabsUI::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lP
       return 0;
     }
   }
+  if (message == WM_CTLCOLORBTN) {
+    // What a button leaves free of its box: the pages have the color of a window.
+    return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
+  }
   return active_ != nullptr ? active_->otherMessage(window, message, wParam, lParam)
                             : DefWindowProcW(window, message, wParam, lParam);
 }
