@@ -46,7 +46,7 @@ int Application::run(int showCommand) {
                 MB_SYSTEMMODAL | MB_ICONEXCLAMATION);
     return 0;
   }
-  if (const std::optional<std::wstring> file = firstArgument()) {
+  if (const std::optional<std::wstring> file = fileArgument()) {
     readPaletteFile(*file, slot_, services_);
   }
   MSG message{};

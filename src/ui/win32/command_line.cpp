@@ -17,15 +17,22 @@ struct ArgumentsKind {
   static void close(Value value) { LocalFree(static_cast<void*>(value)); }
 };
 
+// The name itself where the system makes nothing of it.
+std::wstring fullName(const wchar_t* name) {
+  std::wstring full(GetFullPathNameW(name, 0, nullptr, nullptr), L'\0');
+  full.resize(GetFullPathNameW(name, static_cast<DWORD>(full.size()), full.data(), nullptr));
+  return full.empty() ? name : full;
+}
+
 }  // namespace
 
-std::optional<std::wstring> firstArgument() {
+std::optional<std::wstring> fileArgument() {
   int count = 0;
   const Handle<ArgumentsKind> arguments(CommandLineToArgvW(GetCommandLineW(), &count));
   if (!arguments || count < 2) {
     return std::nullopt;
   }
-  return arguments.get()[1];
+  return fullName(arguments.get()[1]);
 }
 
 std::wstring programFolder() {
