@@ -12,10 +12,7 @@ namespace quillhue {
 
 namespace {
 
-struct ArgumentsKind {
-  using Value = wchar_t**;
-  static void close(Value value) { LocalFree(static_cast<void*>(value)); }
-};
+void freeArguments(wchar_t** arguments) { LocalFree(static_cast<void*>(arguments)); }
 
 // The name itself where the system makes nothing of it.
 std::wstring fullName(const wchar_t* name) {
@@ -28,7 +25,7 @@ std::wstring fullName(const wchar_t* name) {
 
 std::optional<std::wstring> fileArgument() {
   int count = 0;
-  const Handle<ArgumentsKind> arguments(CommandLineToArgvW(GetCommandLineW(), &count));
+  const Handle<ClosedBy<wchar_t**, freeArguments>> arguments(CommandLineToArgvW(GetCommandLineW(), &count));
   if (!arguments || count < 2) {
     return std::nullopt;
   }

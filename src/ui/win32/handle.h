@@ -42,76 +42,30 @@ class Handle {
   Value value_{};
 };
 
-template <typename Type>
-struct GdiKind {
+/// A kind that a function of the system gives back.
+template <typename Type, auto kClose>
+struct ClosedBy {
   using Value = Type;
-  static void close(Value value) { DeleteObject(value); }
+  static void close(Value value) { kClose(value); }
 };
-using Brush = Handle<GdiKind<HBRUSH>>;
-using Font = Handle<GdiKind<HFONT>>;
-using Bitmap = Handle<GdiKind<HBITMAP>>;
-using LogicalPalette = Handle<GdiKind<HPALETTE>>;
 
-struct MemoryDcKind {
-  using Value = HDC;
-  static void close(Value value) { DeleteDC(value); }
-};
-using MemoryDc = Handle<MemoryDcKind>;
+inline void releaseScreenDc(HDC dc) { ReleaseDC(nullptr, dc); }
 
+using Brush = Handle<ClosedBy<HBRUSH, DeleteObject>>;
+using Font = Handle<ClosedBy<HFONT, DeleteObject>>;
+using Bitmap = Handle<ClosedBy<HBITMAP, DeleteObject>>;
+using LogicalPalette = Handle<ClosedBy<HPALETTE, DeleteObject>>;
+using MemoryDc = Handle<ClosedBy<HDC, DeleteDC>>;
 /// Of the whole screen.
-struct ScreenDcKind {
-  using Value = HDC;
-  static void close(Value value) { ReleaseDC(nullptr, value); }
-};
-using ScreenDc = Handle<ScreenDcKind>;
-
-struct WindowKind {
-  using Value = HWND;
-  static void close(Value value) { DestroyWindow(value); }
-};
-using Window = Handle<WindowKind>;
-
-struct MenuKind {
-  using Value = HMENU;
-  static void close(Value value) { DestroyMenu(value); }
-};
-using Menu = Handle<MenuKind>;
-
-struct IconKind {
-  using Value = HICON;
-  static void close(Value value) { DestroyIcon(value); }
-};
-using Icon = Handle<IconKind>;
-
-struct CursorKind {
-  using Value = HCURSOR;
-  static void close(Value value) { DestroyCursor(value); }
-};
-using Cursor = Handle<CursorKind>;
-
-struct AcceleratorsKind {
-  using Value = HACCEL;
-  static void close(Value value) { DestroyAcceleratorTable(value); }
-};
-using Accelerators = Handle<AcceleratorsKind>;
-
-struct RegistryKeyKind {
-  using Value = HKEY;
-  static void close(Value value) { RegCloseKey(value); }
-};
-using RegistryKey = Handle<RegistryKeyKind>;
-
-struct GlobalMemoryKind {
-  using Value = HGLOBAL;
-  static void close(Value value) { GlobalFree(value); }
-};
-using GlobalMemory = Handle<GlobalMemoryKind>;
-
+using ScreenDc = Handle<ClosedBy<HDC, releaseScreenDc>>;
+using Window = Handle<ClosedBy<HWND, DestroyWindow>>;
+using Menu = Handle<ClosedBy<HMENU, DestroyMenu>>;
+using Icon = Handle<ClosedBy<HICON, DestroyIcon>>;
+using Cursor = Handle<ClosedBy<HCURSOR, DestroyCursor>>;
+using Accelerators = Handle<ClosedBy<HACCEL, DestroyAcceleratorTable>>;
+using RegistryKey = Handle<ClosedBy<HKEY, RegCloseKey>>;
+using GlobalMemory = Handle<ClosedBy<HGLOBAL, GlobalFree>>;
 /// Files that were dropped on a window.
-struct DropKind {
-  using Value = HDROP;
-  static void close(Value value) { DragFinish(value); }
-};
-using Drop = Handle<DropKind>;
+using Drop = Handle<ClosedBy<HDROP, DragFinish>>;
 
 }  // namespace quillhue
