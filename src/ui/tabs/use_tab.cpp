@@ -13,11 +13,9 @@
 #include "formats/images/image_loaders.h"
 #include "ui/logic/clipboard_image.h"
 #include "ui/logic/display_rows.h"
+#include "ui/logic/use_layout.h"
 #include "ui/main_window.h"
-#include "ui/tabs/image_painter.h"
-#include "ui/tabs/scroll_bar.h"
 #include "ui/win32/controls.h"
-#include "ui/win32/drawing.h"
 
 namespace quillhue {
 
@@ -35,10 +33,8 @@ class UseTab::Progress final : public RemapProgress {
  public:
   Progress(UseTab& tab, std::int32_t height) : tab_(tab), run_(tab.window_), rows_(height) {}
 
-  [[nodiscard]] bool rowsDone(std::int32_t rows, const RemappedImage& /*result*/) override {
-    const Scale scale = tab_.window_.scale();
-    const RowRange visible = visibleRows(tab_.vertical_.position, tab_.layout_.imageArea.height(), scale);
-    tab_.showRows(rows_.progress(rows, visible));
+  [[nodiscard]] bool rowsDone(std::int32_t rows, const RemappedImage& result) override {
+    tab_.view_.addRows(result, rows_.progress(rows, tab_.view_.visibleRows()));
     return run_.pumpMessages() && !tab_.stops_;
   }
 
@@ -50,9 +46,7 @@ class UseTab::Progress final : public RemapProgress {
 
 UseTab::UseTab(MainWindow& window)
     : window_(window),
-      horizontal_{.bar = makeControl(L"ScrollBar", {}, SBS_HORZ)},
-      vertical_{.bar = makeControl(L"ScrollBar", {}, SBS_VERT)},
-      view_(window.handle(), *this),
+      view_(window, [this](const std::wstring& name) { load(name); }),
       load_(makeControl(L"Button", "&Load...", WS_TABSTOP | BS_PUSHBUTTON)),
       modes_{makeControl(L"Button", "&Maintain mapping", WS_TABSTOP | WS_GROUP | BS_AUTORADIOBUTTON),
              makeControl(L"Button", "&Nearest match", BS_AUTORADIOBUTTON),
@@ -84,16 +78,17 @@ Window UseTab::makeControl(const wchar_t* windowClass, std::string_view text, DW
 }
 
 std::vector<HWND> UseTab::controls() const {
-  std::vector<HWND> all{view_.handle()};
+  std::vector<HWND> all;
   for (const Window* const control :
-       {&horizontal_.bar, &vertical_.bar, &load_, &modes_[0], &modes_[1], &modes_[2], &protectColor_, &colorLabel_,
-        &protectGrid_, &widthLabel_, &heightLabel_, &process_, &saveAs_, &status_, &surface_}) {
+       {&load_, &modes_[0], &modes_[1], &modes_[2], &protectColor_, &colorLabel_, &protectGrid_, &widthLabel_,
+        &heightLabel_, &process_, &saveAs_, &status_, &surface_}) {
     all.push_back(control->get());
   }
   return all;
 }
 
 void UseTab::showControls(bool visible) {
+  view_.show(visible);
   for (const HWND control : controls()) {
     quillhue::show(control, visible);
   }
@@ -107,31 +102,29 @@ LRESULT UseTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lP
 }
 
 void UseTab::layout(const Rect& area) {
-  layout_ = useLayout(area, {GetSystemMetrics(SM_CXVSCROLL), GetSystemMetrics(SM_CYHSCROLL)}, window_.scale());
-  const auto places = std::to_array<std::pair<HWND, Rect>>({{view_.handle(), layout_.view},
-                                                            {horizontal_.bar.get(), layout_.horizontalBar},
-                                                            {vertical_.bar.get(), layout_.verticalBar},
-                                                            {load_.get(), layout_.load},
-                                                            {modes_[0].get(), layout_.maintain},
-                                                            {modes_[1].get(), layout_.nearest},
-                                                            {modes_[2].get(), layout_.dither},
-                                                            {protectColor_.get(), layout_.protectColor},
-                                                            {protectGrid_.get(), layout_.protectGrid},
-                                                            {process_.get(), layout_.process},
-                                                            {saveAs_.get(), layout_.saveAs},
-                                                            {surface_.get(), layout_.surface}});
+  const UseLayout layout =
+      useLayout(area, {GetSystemMetrics(SM_CXVSCROLL), GetSystemMetrics(SM_CYHSCROLL)}, window_.scale());
+  const auto places = std::to_array<std::pair<HWND, Rect>>({{load_.get(), layout.load},
+                                                            {modes_[0].get(), layout.maintain},
+                                                            {modes_[1].get(), layout.nearest},
+                                                            {modes_[2].get(), layout.dither},
+                                                            {protectColor_.get(), layout.protectColor},
+                                                            {protectGrid_.get(), layout.protectGrid},
+                                                            {process_.get(), layout.process},
+                                                            {saveAs_.get(), layout.saveAs},
+                                                            {surface_.get(), layout.surface}});
   for (const auto& [control, box] : places) {
     moveTo(control, box);
   }
-  const Rect& labels = layout_.labelArea;
-  moveTo(widthLabel_.get(), {labels.left, labels.top, labels.right, layout_.gridWidth.bottom});
-  moveTo(heightLabel_.get(), {labels.left, layout_.heightLabel.y, labels.right, layout_.gridHeight.bottom});
-  const Point text = layout_.statusText;
-  moveTo(status_.get(), {text.x, text.y, layout_.statusArea.right, layout_.statusArea.bottom});
-  color_.move(layout_.color);
-  gridWidth_.move(layout_.gridWidth);
-  gridHeight_.move(layout_.gridHeight);
-  refreshScrolling();
+  const Rect& labels = layout.labelArea;
+  moveTo(widthLabel_.get(), {labels.left, labels.top, labels.right, layout.gridWidth.bottom});
+  moveTo(heightLabel_.get(), {labels.left, layout.heightLabel.y, labels.right, layout.gridHeight.bottom});
+  const Point text = layout.statusText;
+  moveTo(status_.get(), {text.x, text.y, layout.statusArea.right, layout.statusArea.bottom});
+  color_.move(layout.color);
+  gridWidth_.move(layout.gridWidth);
+  gridHeight_.move(layout.gridHeight);
+  view_.layout(layout);
 }
 
 UseState UseTab::state() const {
@@ -174,18 +167,13 @@ void UseTab::refreshProtectControls() {
 void UseTab::refreshControls() {
   refreshLoadControls();
   refreshProtectControls();
-  refreshScrolling();
+  view_.enable(!isBusy_);
 }
 
 void UseTab::controlNotification(HWND control, WPARAM wParam) {
   const WORD code = HIWORD(wParam);
-  for (Scrolling* const scrolling : {&horizontal_, &vertical_}) {
-    if (control == scrolling->bar.get()) {
-      if (const auto action = scrollActionOf(LOWORD(wParam))) {
-        scrollTo(*scrolling, scrolled(*action, scrolling->position, trackedPosition(control), scrolling->range));
-      }
-      return;
-    }
+  if (view_.scrollNotification(control, wParam)) {
+    return;
   }
   for (NumberField* const field : {&color_, &gridWidth_, &gridHeight_}) {
     if (control == field->field()) {
@@ -237,12 +225,9 @@ void UseTab::load(const std::wstring& name) {
 
 void UseTab::imageChanged() {
   result_.reset();
-  resultRows_ = 0;
+  view_.showImage(image_ ? &*image_ : nullptr);
   mode_ = modeAfterLoad(state());
-  horizontal_.position = 0;
-  vertical_.position = 0;
   refreshControls();
-  repaint(view_.handle());
 }
 
 void UseTab::documentReplaced(DocumentChange /*change*/) {
@@ -270,7 +255,7 @@ void UseTab::process() {
   const HWND focused = GetFocus();
   isBusy_ = true;
   stops_ = false;
-  resultRows_ = 0;
+  view_.showResult(nullptr, 0);
   if (focused != nullptr) {
     SetFocus(view_.handle());
   }
@@ -279,16 +264,18 @@ void UseTab::process() {
     Progress progress(*this, image_->height());
     remapImage(*image_, window_.document()->getPalette(), options(), result_ ? *result_ : result_.emplace(), progress);
   } catch (const std::bad_alloc&) {
+    view_.showResult(nullptr, 0);
     result_.reset();
     window_.services().messages.error(textOf(Failure::notEnoughMemory));
   }
   isBusy_ = false;
-  resultRows_ = result_ ? result_->height() : 0;
+  if (result_) {
+    view_.showResult(&*result_, result_->height());
+  }
   refreshControls();
   if (GetFocus() == view_.handle()) {
     SetFocus(focused);
   }
-  repaint(view_.handle());
 }
 
 void UseTab::saveRemappedBitmap() {
@@ -343,62 +330,6 @@ void UseTab::clear() {
   if (!isBusy_) {
     image_.reset();
     imageChanged();
-  }
-}
-
-void UseTab::paintImage(HDC dc, const Rect& box) {
-  fillBoxWithSystemColor(dc, box, COLOR_APPWORKSPACE);
-  if (!image_) {
-    return;
-  }
-  if (result_) {
-    paintRows(dc, box, offset(), *result_, {0, resultRows_});
-  }
-  paintRows(dc, box, offset(), *image_, {resultRows_, image_->height()});
-}
-
-void UseTab::showRows(const RowRange& rows) {
-  if (rows.isEmpty()) {
-    return;
-  }
-  resultRows_ = rows.end;
-  const std::int32_t top = vertical_.position;
-  repaint(view_.handle(), {0, rows.begin - top, layout_.view.width(), rows.end - top});
-}
-
-void UseTab::scrollImage(bool isVertical, ScrollAction action) {
-  Scrolling& scrolling = isVertical ? vertical_ : horizontal_;
-  scrollTo(scrolling, scrolled(action, scrolling.position, 0, scrolling.range));
-}
-
-void UseTab::wheelImage(bool isVertical, std::int32_t delta) {
-  // Pixels a notch.
-  constexpr std::int32_t kStep = 48;
-  Scrolling& scrolling = isVertical ? vertical_ : horizontal_;
-  scrollTo(scrolling, scrolling.range.clamp(scrolling.position - delta * kStep / WHEEL_DELTA));
-}
-
-void UseTab::scrollTo(Scrolling& scrolling, std::int32_t position) {
-  if (!isBusy_ && position != scrolling.position) {
-    scrolling.position = position;
-    showScrolling(scrolling.bar.get(), scrolling.range, position);
-    repaint(view_.handle());
-  }
-}
-
-void UseTab::refreshScrolling() {
-  const Rect& view = layout_.view;
-  horizontal_.range = {image_ ? image_->width() : 0, view.width()};
-  vertical_.range = {image_ ? image_->height() : 0, view.height()};
-  for (Scrolling* const scrolling : {&horizontal_, &vertical_}) {
-    const std::int32_t position = scrolling->range.clamp(scrolling->position);
-    if (position != scrolling->position) {
-      scrolling->position = position;
-      repaint(view_.handle());
-    }
-    showScrolling(scrolling->bar.get(), scrolling->range, position);
-    // All of the image is in view, or a run is on.
-    enable(scrolling->bar.get(), !isBusy_ && scrolling->range.last() > 0);
   }
 }
 

@@ -12,11 +12,9 @@
 #include "formats/work_image.h"
 #include "remap/remap.h"
 #include "remap/remapped_image.h"
-#include "ui/logic/image_view.h"
 #include "ui/logic/use_controls.h"
-#include "ui/logic/use_layout.h"
 #include "ui/number_field.h"
-#include "ui/tabs/image_window.h"
+#include "ui/tabs/image_view.h"
 #include "ui/tabs/tab.h"
 #include "ui/win32/handle.h"
 
@@ -25,7 +23,7 @@ namespace quillhue {
 class MainWindow;
 
 /// "Use Palette": loads an image, remaps it onto the palette, shows and saves what becomes of it.
-class UseTab final : public Tab, public ImageClient {
+class UseTab final : public Tab {
  public:
   explicit UseTab(MainWindow& window);
 
@@ -43,23 +41,11 @@ class UseTab final : public Tab, public ImageClient {
   void menuCommand(std::int32_t /*command*/) override {}
   [[nodiscard]] bool hasCurrentEntry() const override { return false; }
 
-  void paintImage(HDC dc, const Rect& box) override;
-  void scrollImage(bool isVertical, ScrollAction action) override;
-  void wheelImage(bool isVertical, std::int32_t delta) override;
-  void fileDropped(const std::wstring& name) override { load(name); }
-
  private:
   class Progress;
 
-  /// A direction of the view: its bar, and the first pixel in view.
-  struct Scrolling {
-    Window bar;
-    ScrollRange range{};
-    std::int32_t position = 0;
-  };
-
   [[nodiscard]] Window makeControl(const wchar_t* windowClass, std::string_view text, DWORD style) const;
-  /// All controls but those of the number fields.
+  /// Those that are neither of the view nor of a number field.
   [[nodiscard]] std::vector<HWND> controls() const;
   void showControls(bool visible);
   [[nodiscard]] UseState state() const;
@@ -77,16 +63,8 @@ class UseTab final : public Tab, public ImageClient {
   [[nodiscard]] RemapOptions options();
   void saveRemappedBitmap();
 
-  void scrollTo(Scrolling& scrolling, std::int32_t position);
-  void refreshScrolling();
-  [[nodiscard]] Point offset() const { return {horizontal_.position, vertical_.position}; }
-  /// How many rows of the result are shown; below them the loaded image is.
-  void showRows(const RowRange& rows);
-
   MainWindow& window_;
-  Scrolling horizontal_;
-  Scrolling vertical_;
-  ImageWindow view_;
+  ImageView view_;
   Window load_;
   // In the order of RemapMode.
   std::array<Window, 3> modes_;
@@ -102,12 +80,10 @@ class UseTab final : public Tab, public ImageClient {
   Window saveAs_;
   Window status_;
   Window surface_;
-  UseLayout layout_;
 
   std::optional<WorkImage> image_;
   std::optional<RemappedImage> result_;
   RemapMode mode_ = RemapMode::maintain;
-  std::int32_t resultRows_ = 0;
   bool isBusy_ = false;
   bool stops_ = false;
 };

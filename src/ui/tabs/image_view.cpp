@@ -1,0 +1,127 @@
+#include "ui/tabs/image_view.h"
+
+#include <utility>
+
+#include "ui/main_window.h"
+#include "ui/tabs/image_painter.h"
+#include "ui/tabs/scroll_bar.h"
+#include "ui/win32/controls.h"
+#include "ui/win32/drawing.h"
+
+namespace quillhue {
+
+ImageView::ImageView(const MainWindow& window, std::function<void(const std::wstring& name)> fileDropped)
+    : window_(window),
+      fileDropped_(std::move(fileDropped)),
+      horizontal_{.bar = createControl(window.handle(), nullptr, {.windowClass = L"ScrollBar", .style = SBS_HORZ})},
+      vertical_{.bar = createControl(window.handle(), nullptr, {.windowClass = L"ScrollBar", .style = SBS_VERT})},
+      view_(window.handle(), *this) {}
+
+void ImageView::showImage(const WorkImage* image) {
+  image_ = image;
+  showResult(nullptr, 0);
+  horizontal_.position = 0;
+  vertical_.position = 0;
+  refreshScrolling();
+}
+
+void ImageView::showResult(const RemappedImage* result, std::int32_t rows) {
+  result_ = result;
+  resultRows_ = rows;
+  repaint(view_.handle());
+}
+
+void ImageView::addRows(const RemappedImage& result, const RowRange& rows) {
+  if (rows.isEmpty()) {
+    return;
+  }
+  result_ = &result;
+  resultRows_ = rows.end;
+  const std::int32_t top = vertical_.position;
+  repaint(view_.handle(), {0, rows.begin - top, viewSize_.width, rows.end - top});
+}
+
+RowRange ImageView::visibleRows() const {
+  return quillhue::visibleRows(vertical_.position, areaHeight_, window_.scale());
+}
+
+void ImageView::layout(const UseLayout& layout) {
+  viewSize_ = {layout.view.width(), layout.view.height()};
+  areaHeight_ = layout.imageArea.height();
+  moveTo(view_.handle(), layout.view);
+  moveTo(horizontal_.bar.get(), layout.horizontalBar);
+  moveTo(vertical_.bar.get(), layout.verticalBar);
+  refreshScrolling();
+}
+
+void ImageView::show(bool visible) {
+  for (const HWND control : {view_.handle(), horizontal_.bar.get(), vertical_.bar.get()}) {
+    quillhue::show(control, visible);
+  }
+}
+
+void ImageView::enable(bool enabled) {
+  isEnabled_ = enabled;
+  refreshScrolling();
+}
+
+bool ImageView::scrollNotification(HWND control, WPARAM wParam) {
+  for (Scrolling* const scrolling : {&horizontal_, &vertical_}) {
+    if (control == scrolling->bar.get()) {
+      if (const auto action = scrollActionOf(LOWORD(wParam))) {
+        scrollTo(*scrolling, scrolled(*action, scrolling->position, trackedPosition(control), scrolling->range));
+      }
+      return true;
+    }
+  }
+  return false;
+}
+
+void ImageView::paintImage(HDC dc, const Rect& box) {
+  fillBoxWithSystemColor(dc, box, COLOR_APPWORKSPACE);
+  if (image_ == nullptr) {
+    return;
+  }
+  const Point offset{horizontal_.position, vertical_.position};
+  if (result_ != nullptr) {
+    paintRows(dc, box, offset, *result_, {0, resultRows_});
+  }
+  paintRows(dc, box, offset, *image_, {resultRows_, image_->height()});
+}
+
+void ImageView::scrollImage(bool isVertical, ScrollAction action) {
+  Scrolling& scrolling = isVertical ? vertical_ : horizontal_;
+  scrollTo(scrolling, scrolled(action, scrolling.position, scrolling.position, scrolling.range));
+}
+
+void ImageView::wheelImage(bool isVertical, std::int32_t delta) {
+  // Pixels a notch.
+  constexpr std::int32_t kStep = 48;
+  Scrolling& scrolling = isVertical ? vertical_ : horizontal_;
+  scrollTo(scrolling, scrolling.range.clamp(scrolling.position - delta * kStep / WHEEL_DELTA));
+}
+
+void ImageView::scrollTo(Scrolling& scrolling, std::int32_t position) {
+  if (isEnabled_ && position != scrolling.position) {
+    scrolling.position = position;
+    showScrolling(scrolling.bar.get(), scrolling.range, position);
+    repaint(view_.handle());
+  }
+}
+
+void ImageView::refreshScrolling() {
+  horizontal_.range = {image_ != nullptr ? image_->width() : 0, viewSize_.width};
+  vertical_.range = {image_ != nullptr ? image_->height() : 0, viewSize_.height};
+  for (Scrolling* const scrolling : {&horizontal_, &vertical_}) {
+    const std::int32_t position = scrolling->range.clamp(scrolling->position);
+    if (position != scrolling->position) {
+      scrolling->position = position;
+      repaint(view_.handle());
+    }
+    showScrolling(scrolling->bar.get(), scrolling->range, position);
+    // There is nothing to scroll where all of the image is in view.
+    quillhue::enable(scrolling->bar.get(), isEnabled_ && scrolling->range.last() > 0);
+  }
+}
+
+}  // namespace quillhue
