@@ -53,6 +53,10 @@ LRESULT ImageWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_MOUSEWHEEL:
       client_.wheelImage((GET_KEYSTATE_WPARAM(wParam) & MK_SHIFT) == 0, GET_WHEEL_DELTA_WPARAM(wParam));
       return 0;
+    case WM_MOUSEHWHEEL:
+      // To the right is forward, where the other wheel goes back.
+      client_.wheelImage(false, -GET_WHEEL_DELTA_WPARAM(wParam));
+      return 0;
     case WM_KEYDOWN:
       return keyPressed(wParam) ? 0 : DefWindowProcW(handle(), message, wParam, lParam);
     case WM_GETDLGCODE:
