@@ -44,6 +44,19 @@ bool updateItems(HMENU menu, const std::vector<MenuItem>& items, const CommandSt
   return changed;
 }
 
+// Of a minimised window the size that it has when it is restored.
+Size outerSize(HWND window) {
+  WINDOWPLACEMENT placement{};
+  placement.length = sizeof placement;
+  RECT box{};
+  if (IsIconic(window) && GetWindowPlacement(window, &placement)) {
+    box = placement.rcNormalPosition;
+  } else {
+    GetWindowRect(window, &box);
+  }
+  return {box.right - box.left, box.bottom - box.top};
+}
+
 // Enter presses the button with the focus. The keyboard navigation knows that only of one that Tab has led to.
 bool pressesButton(const MSG& message) {
   if (message.message != WM_KEYDOWN || message.wParam != VK_RETURN ||
@@ -85,7 +98,7 @@ std::string_view MainWindow::open(int showCommand) {
 }
 
 void MainWindow::take(MSG& message) {
-  if (message.message == WM_MOUSEWHEEL) {
+  if (message.message == WM_MOUSEWHEEL || message.message == WM_MOUSEHWHEEL) {
     // The wheel turns what is under the pointer, wherever the focus is.
     const HWND under = WindowFromPoint(toSystem(pointOf(message.lParam)));
     if (under == handle() || IsChild(handle(), under)) {
@@ -228,9 +241,7 @@ void MainWindow::destroyed() {
   workplace_.slot.closeDocument();
   contextMenus_.reset();
   font_.reset();
-  RECT window{};
-  GetWindowRect(handle(), &window);
-  workplace_.settings.window = {window.right - window.left, window.bottom - window.top};
+  workplace_.settings.window = outerSize(handle());
   writeSettings(workplace_.settings, workplace_.settingsStore);
   PostQuitMessage(0);
 }
@@ -261,9 +272,10 @@ void MainWindow::paint() {
   }
 }
 
-void MainWindow::focused() const {
-  const bool isUsable = IsChild(handle(), lastFocus_) && IsWindowVisible(lastFocus_) && IsWindowEnabled(lastFocus_);
-  if (const HWND control = isUsable ? lastFocus_ : GetNextDlgTabItem(handle(), nullptr, FALSE)) {
+void MainWindow::focused() {
+  const HWND last = std::exchange(lastFocus_, nullptr);
+  const bool isUsable = IsChild(handle(), last) && IsWindowVisible(last) && IsWindowEnabled(last);
+  if (const HWND control = isUsable ? last : GetNextDlgTabItem(handle(), nullptr, FALSE)) {
     SetFocus(control);
   }
 }

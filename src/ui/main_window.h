@@ -98,7 +98,7 @@ class MainWindow final : public CustomWindow, public DocumentObserver {
   void sized();
   void sizing(WPARAM edge, LPARAM lParam) const;
   void paint();
-  void focused() const;
+  void focused();
   void menuCommand(std::int32_t command);
   void controlNotification(WPARAM wParam, LPARAM lParam);
   [[nodiscard]] static LRESULT staticColors(HDC dc);
@@ -111,7 +111,7 @@ class MainWindow final : public CustomWindow, public DocumentObserver {
   Accelerators accelerators_;
   Menu contextMenus_;
   std::unique_ptr<MainUI> screen_;
-  // The control that had the focus before another program's window got it.
+  // The control that had the focus before another window got it; null when it is back.
   HWND lastFocus_ = nullptr;
   bool runIsOn_ = false;
   bool closesAfterRun_ = false;
