@@ -331,7 +331,7 @@ MainWindow::Run::~Run() {
 
 bool MainWindow::Run::pumpMessages() {
   MSG message{};
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+  while (!window_.closesAfterRun_ && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
     if (message.message == WM_QUIT) {
       // For the loop outside.
       PostQuitMessage(static_cast<int>(message.wParam));

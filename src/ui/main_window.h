@@ -77,7 +77,7 @@ class MainWindow final : public CustomWindow, public DocumentObserver {
     Run& operator=(const Run&) = delete;
     ~Run();
 
-    /// Handles all waiting messages. False when the user has closed the window.
+    /// Handles all waiting messages. False when the user has closed the window: nothing that came later counts.
     [[nodiscard]] bool pumpMessages();
 
    private:
