@@ -6,5 +6,6 @@ export WINEPREFIX=${QUILLHUE_WINEPREFIX:-$root/build/wine}
 # Wine takes the system's file names and arguments in the encoding of the locale.
 export LC_ALL=C.UTF-8
 export WINEDEBUG=-all
-export WINEDLLOVERRIDES="mscoree,mshtml="
+# winemenubuilder would put a shortcut of Windows into this system's own menus.
+export WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
 exec wine "$@"
