@@ -143,7 +143,7 @@ key() {
   done
 }
 # The path of a folder as the registry's export shows it.
-exported() { sed 's/\\/\\\\/g' <<<"$1"; }
+exported() { echo "${1//\\/\\\\}"; }
 # registered FOLDER: the lines of the entry in the system's list of programs.
 registered() {
   local folder size
