@@ -39,8 +39,8 @@ icon() {
   icotool --create --output $resources/"$name".ico "${images[@]}"
 }
 
-icon quillhue quillhue-small:16 quillhue-small:24 quillhue:32 quillhue:48 quillhue:64 quillhue:256
-# The buttons show 48 pixels at 96 dpi; 72 and 96 are for 144 and 192 dpi.
+icon quillhue quillhue-small:16 quillhue-small:24 quillhue:32 quillhue:48 quillhue:64 quillhue:72 quillhue:96 quillhue:256
+# Buttons and the About dialog show 48 pixels at 96 dpi; 72 and 96 are for 144 and 192 dpi.
 for name in blank sixteen grey rgb; do
   icon $name $name-16:16 $name-24:24 $name-16:32 $name:48 $name:72 $name:96
 done
