@@ -252,6 +252,8 @@ void MainWindow::sized() {
   const Size client = clientSize(handle());
   const std::int32_t height = box.bottom - box.top;
   moveTo(statusBar_, boxAt({0, client.height - height}, {client.width, height}));
+  // What moves with it would leave the grip standing where the bar ended before.
+  repaint(statusBar_);
   if (screen_ != nullptr) {
     const Rect area = screenArea();
     screen_->resize({area.width(), area.height()});
