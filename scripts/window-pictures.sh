@@ -26,7 +26,11 @@ take() {
 # The first start of all makes the folder of the system's files, which is no part of any picture.
 scripts/with-display.sh 1024x800 scripts/wine.sh wineboot --init 2>"$work/log"
 take intro ''
-take values 'mousemove 480 380
+take values 'mousemove 786 697
+click 1
+sleep 1
+key --delay 300 h h h Return
+mousemove 480 380
 click 1' "$drive\\samples\\harbour.gpl"
 take effects 'mousemove 135 56
 click 1

@@ -26,7 +26,8 @@ class ImageView final : private ImageClient {
 
   [[nodiscard]] HWND handle() const { return view_.handle(); }
 
-  /// Another image, from its corner on, or none. It and the result live until the next call for them.
+  /// Another image, from its corner on, or none. It and the result are looked at until the next call for them, which
+  /// may come just after their end.
   void showImage(const WorkImage* image);
   /// The first `rows` rows of the result in place of the image's.
   void showResult(const RemappedImage* result, std::int32_t rows);

@@ -260,14 +260,7 @@ void UseTab::process() {
     SetFocus(view_.handle());
   }
   refreshControls();
-  try {
-    Progress progress(*this, image_->height());
-    remapImage(*image_, window_.document()->getPalette(), options(), result_ ? *result_ : result_.emplace(), progress);
-  } catch (const std::bad_alloc&) {
-    view_.showResult(nullptr, 0);
-    result_.reset();
-    window_.services().messages.error(textOf(Failure::notEnoughMemory));
-  }
+  runOn(*image_);
   isBusy_ = false;
   if (result_) {
     view_.showResult(&*result_, result_->height());
@@ -275,6 +268,18 @@ void UseTab::process() {
   refreshControls();
   if (GetFocus() == view_.handle()) {
     SetFocus(focused);
+  }
+}
+
+void UseTab::runOn(const WorkImage& image) {
+  // Ends last: a message that is shown before belongs to the run, and the window outlives it.
+  Progress progress(*this, image.height());
+  try {
+    remapImage(image, window_.document()->getPalette(), options(), result_ ? *result_ : result_.emplace(), progress);
+  } catch (const std::bad_alloc&) {
+    view_.showResult(nullptr, 0);
+    result_.reset();
+    window_.services().messages.error(textOf(Failure::notEnoughMemory));
   }
 }
 

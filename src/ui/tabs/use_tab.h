@@ -60,6 +60,7 @@ class UseTab final : public Tab {
   void loadByDialog();
   void imageChanged();
   void process();
+  void runOn(const WorkImage& image);
   [[nodiscard]] RemapOptions options();
   void saveRemappedBitmap();
 
