@@ -1,0 +1,86 @@
+#include "ui/support/dialog.h"
+
+#include <algorithm>
+
+#include "ui/support/windows.h"
+
+namespace quillhue {
+
+namespace {
+
+constexpr const wchar_t* kDialogClass = L"#32770";
+
+}  // namespace
+
+Dialog::Dialog(const Program& program, const std::wstring& caption)
+    : program_(program), caption_(caption), window_(nullptr) {
+  window_ = program.await("the dialog \"" + narrow(caption) + '"', [&]() -> HWND {
+    for (HWND window : program.topWindows()) {
+      if (windowClass(window) == kDialogClass && textOf(window) == caption && IsWindowEnabled(window) != 0) {
+        return window;
+      }
+    }
+    return nullptr;
+  });
+}
+
+std::wstring Dialog::text() const { return dialogText(window_); }
+
+HWND Dialog::control(int id) const {
+  if (HWND found = GetDlgItem(window_, id)) {
+    return found;
+  }
+  throw ProgramError("the dialog \"" + narrow(caption_) + "\" has no control " + std::to_string(id));
+}
+
+void Dialog::type(int id, const std::wstring& text) const {
+  program_.ask(control(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+std::wstring Dialog::typed(int id) const { return textOf(control(id)); }
+
+void Dialog::press(int id) const { program_.post(control(id), BM_CLICK); }
+
+void Dialog::answer(int id) const {
+  press(id);
+  awaitClosed();
+}
+
+void Dialog::awaitClosed() const {
+  program_.await("the dialog \"" + narrow(caption_) + "\" to close",
+                 [&] { return IsWindow(window_) == 0 || IsWindowVisible(window_) == 0; });
+}
+
+std::wstring answerMessage(const Program& program, const std::wstring& caption, int button) {
+  const Dialog box(program, caption);
+  const std::wstring text = box.text();
+  box.answer(button);
+  return text;
+}
+
+void chooseFile(const Program& program, const std::wstring& caption, const std::wstring& name, int type) {
+  constexpr int kTypes = 0x470;
+  // The name's field has one number or the other, by the dialog's kind.
+  constexpr int kNameCombo = 0x47C;
+  constexpr int kNameEdit = 0x480;
+  const Dialog dialog(program, caption);
+  HWND field = program.await("the field for the name", [&]() -> HWND {
+    HWND combo = GetDlgItem(dialog.window(), kNameCombo);
+    return combo != nullptr && IsWindowVisible(combo) != 0 ? combo : GetDlgItem(dialog.window(), kNameEdit);
+  });
+  if (type >= 0) {
+    HWND types = dialog.control(kTypes);
+    program.ask(types, CB_SETCURSEL, static_cast<WPARAM>(type));
+    for (const int notification : {CBN_SELENDOK, CBN_SELCHANGE}) {
+      program.ask(GetParent(types), WM_COMMAND, MAKEWPARAM(kTypes, notification), reinterpret_cast<LPARAM>(types));
+    }
+  }
+  program.ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+  dialog.answer(IDOK);
+}
+
+bool showsDialog(const Program& program) {
+  return std::ranges::any_of(program.topWindows(), [](HWND window) { return windowClass(window) == kDialogClass; });
+}
+
+}  // namespace quillhue

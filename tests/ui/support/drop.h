@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "ui/support/program.h"
+
+namespace quillhue {
+
+/// Drops files on the main window, as an explorer of files does when the user lets them go there.
+void dropFiles(const Program& program, const std::vector<std::wstring>& names);
+
+}  // namespace quillhue

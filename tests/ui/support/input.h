@@ -1,0 +1,50 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <initializer_list>
+#include <string_view>
+#include <vector>
+
+#include "ui/support/program.h"
+
+namespace quillhue {
+
+/// Mouse and keyboard, as if the user moved and pressed them: the system finds the window that gets the input. Points
+/// are those of the screen. None of these waits for what the program makes of it.
+
+enum class Button : std::uint8_t { left, right };
+
+/// Brings the program to the foreground, where keys go.
+void activate(const Program& program);
+
+void moveTo(const Program& program, Point point);
+void press(Button button = Button::left);
+void release(Button button = Button::left);
+void turnWheel(int notches);
+/// Activates the program, moves there, and presses and releases while keys (VK_CONTROL, VK_SHIFT) are held.
+void clickAt(const Program& program, Point point, Button button = Button::left, std::initializer_list<int> held = {});
+/// Activates the program, presses at the first point, moves through the others, and releases at the last.
+void drag(const Program& program, std::initializer_list<Point> points, std::initializer_list<int> held = {});
+
+/// Presses and releases a key while others are held.
+void pressKey(int key, std::initializer_list<int> held = {});
+/// Digits and capital letters.
+void type(std::string_view text);
+/// Goes to a control by the Tab key.
+void tabTo(const Program& program, HWND control);
+
+/// Holds keys as long as this lives. Moving the pointer may let go of them.
+class HeldKeys {
+ public:
+  explicit HeldKeys(std::initializer_list<int> keys);
+  HeldKeys(const HeldKeys&) = delete;
+  HeldKeys& operator=(const HeldKeys&) = delete;
+  ~HeldKeys();
+
+ private:
+  std::vector<int> keys_;
+};
+
+}  // namespace quillhue

@@ -1,0 +1,109 @@
+#include "ui/support/resources.h"
+
+#include <windows.h>
+// Needs windows.h before it.
+#include <winternl.h>
+
+#include <algorithm>
+#include <array>
+#include <ostream>
+#include <vector>
+
+namespace quillhue {
+
+namespace {
+
+// Wine has GetGuiResources and GetProcessHandleCount, which count nothing. It keeps what they count as Windows does,
+// or hands it out in a way that can be counted.
+
+template <typename Function>
+Function* systemFunction(const char* name) {
+  return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), name)));
+}
+
+// The table of a process's GDI objects, to which its environment block has a pointer.
+int gdiObjectsInTable(HANDLE process) {
+  struct Entry {
+    std::uint64_t object;
+    std::uint16_t owner;
+    std::uint16_t count;
+    std::uint16_t upper;
+    std::uint16_t type;
+    std::uint64_t user;
+  };
+  constexpr std::size_t kEntries = 0x4000;
+  constexpr std::size_t kTableOffset = 0xF8;
+  PROCESS_BASIC_INFORMATION basics{};
+  systemFunction<decltype(NtQueryInformationProcess)>("NtQueryInformationProcess")(process, ProcessBasicInformation,
+                                                                                   &basics, sizeof(basics), nullptr);
+  void* table = nullptr;
+  std::vector<Entry> entries(kEntries);
+  if (ReadProcessMemory(process, reinterpret_cast<std::byte*>(basics.PebBaseAddress) + kTableOffset, &table,
+                        sizeof(table), nullptr) == 0 ||
+      ReadProcessMemory(process, table, entries.data(), entries.size() * sizeof(Entry), nullptr) == 0) {
+    throw ProgramError("can't read the program's GDI objects");
+  }
+  return static_cast<int>(std::ranges::count_if(entries, [](const Entry& entry) { return entry.type != 0; }));
+}
+
+// All windows, menus and so on have numbers of one range: what is not free is used.
+int usedUserObjects() {
+  constexpr int kAll = (0xFFEF - 0x20) / 2;
+  std::vector<HMENU> taken;
+  for (HMENU menu = CreateMenu(); menu != nullptr; menu = CreateMenu()) {
+    taken.push_back(menu);
+  }
+  for (HMENU menu : taken) {
+    DestroyMenu(menu);
+  }
+  return kAll - static_cast<int>(taken.size());
+}
+
+int kernelHandlesInList(DWORD processId) {
+  struct Entry {
+    void* object;
+    ULONG_PTR processId;
+    ULONG_PTR handle;
+    ULONG access;
+    USHORT trace;
+    USHORT type;
+    ULONG attributes;
+    ULONG reserved;
+  };
+  struct List {
+    ULONG_PTR count;
+    ULONG_PTR reserved;
+  };
+  // SystemExtendedHandleInformation, which the header does not have.
+  constexpr ULONG kExtendedHandles = 64;
+  std::vector<std::byte> memory(std::size_t{1} << 20U);
+  const auto query = systemFunction<NTSTATUS WINAPI(ULONG, void*, ULONG, ULONG*)>("NtQuerySystemInformation");
+  if (query(kExtendedHandles, memory.data(), static_cast<ULONG>(memory.size()), nullptr) != 0) {
+    throw ProgramError("can't list the handles");
+  }
+  const auto* const list = reinterpret_cast<const List*>(memory.data());
+  const auto* const entries = reinterpret_cast<const Entry*>(list + 1);
+  return static_cast<int>(
+      std::count_if(entries, entries + list->count, [&](const Entry& entry) { return entry.processId == processId; }));
+}
+
+}  // namespace
+
+void PrintTo(const ResourceCount& count, std::ostream* stream) {
+  *stream << count.gdi << " GDI objects, " << count.user << " user objects, " << count.kernel << " kernel handles";
+}
+
+ResourceCount countResources(const Program& program) {
+  if (isWine()) {
+    return {.gdi = gdiObjectsInTable(program.process()),
+            .user = usedUserObjects(),
+            .kernel = kernelHandlesInList(program.processId())};
+  }
+  DWORD handles = 0;
+  GetProcessHandleCount(program.process(), &handles);
+  return {.gdi = static_cast<int>(GetGuiResources(program.process(), GR_GDIOBJECTS)),
+          .user = static_cast<int>(GetGuiResources(program.process(), GR_USEROBJECTS)),
+          .kernel = static_cast<int>(handles)};
+}
+
+}  // namespace quillhue
