@@ -98,26 +98,6 @@ TEST(CommandTable, OffersWhatHasAnEffect) {
   }
 }
 
-TEST(CommandTable, KnowsKeysOnce) {
-  const struct {
-    std::int32_t id;
-    Accelerator accelerator;
-  } cases[] = {
-      {1, {true, false, 'N'}},  {15, {true, true, 'S'}},  {25, {false, false, 0x2E}},
-      {31, {true, false, 'R'}}, {33, {true, false, 'A'}}, {70, {false, false, 0}},
-  };
-  for (const auto& [id, accelerator] : cases) {
-    EXPECT_EQ(findCommand(id)->accelerator, accelerator) << id;
-  }
-  std::set<std::string> texts;
-  for (const Command& command : commands()) {
-    if (command.accelerator.key != 0) {
-      EXPECT_TRUE(texts.insert(acceleratorText(command.accelerator)).second) << command.text;
-    }
-  }
-  EXPECT_EQ(texts.size(), 13U);
-}
-
 // "1 | 2 (3 4)" for a command, a separator and a menu of its own.
 std::string show(const std::vector<MenuItem>& items) {
   std::string text;
@@ -180,28 +160,6 @@ void expectDifferentLetters(const std::vector<MenuItem>& items) {
 }
 
 TEST(Menus, AreChosenFromByDifferentLetters) { expectDifferentLetters(mainMenu()); }
-
-TEST(Menus, AreGreyedWhereTheyHaveNoEffect) {
-  const struct {
-    ActiveTab tab;
-    const char* offered;
-  } cases[] = {
-      {ActiveTab::none, "File, Help, "},
-      {ActiveTab::values, "File, Edit, Help, "},
-      {ActiveTab::effects, "File, Edit, Select, Colors, Help, "},
-      {ActiveTab::use, "File, Edit, Help, "},
-  };
-  for (const auto& [tab, offered] : cases) {
-    std::string found;
-    for (const MenuItem& menu : mainMenu()) {
-      found += isEnabled(menu, {.tab = tab}) ? menu.text.substr(1) + ", " : "";
-    }
-    EXPECT_EQ(found, offered);
-    const MenuItem& swap = mainMenu()[3].items[3];
-    EXPECT_EQ(swap.text, "S&wap channels");
-    EXPECT_EQ(isEnabled(swap, {.tab = tab}), tab == ActiveTab::effects);
-  }
-}
 
 }  // namespace
 }  // namespace quillhue

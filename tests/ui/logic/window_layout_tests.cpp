@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <vector>
-
 #include "ui/logic/frame_layout.h"
 #include "ui/logic/intro_layout.h"
 #include "ui/logic/window_size.h"
@@ -15,26 +13,6 @@ TEST(WindowSize, ScalesWithTheScreen) {
   EXPECT_EQ(minimumWindowSize({144}), (Size{654, 564}));
   // 436 * 110 / 96 = 499.6, 376 * 110 / 96 = 430.8: doubled after they are truncated.
   EXPECT_EQ(defaultWindowSize({110}), (Size{998, 860}));
-}
-
-TEST(WindowSize, MovesTheEdgeThatIsDragged) {
-  const Rect small{100, 200, 300, 400};
-  const struct {
-    SizingEdge edge;
-    Rect kept;
-  } cases[] = {
-      {SizingEdge::left, {-136, 200, 300, 400}},       {SizingEdge::right, {100, 200, 536, 400}},
-      {SizingEdge::top, {100, 24, 300, 400}},          {SizingEdge::topLeft, {-136, 24, 300, 400}},
-      {SizingEdge::topRight, {100, 24, 536, 400}},     {SizingEdge::bottom, {100, 200, 300, 576}},
-      {SizingEdge::bottomLeft, {-136, 200, 300, 576}}, {SizingEdge::bottomRight, {100, 200, 536, 576}},
-  };
-  for (const auto& [edge, kept] : cases) {
-    EXPECT_EQ(keepMinimum(small, edge, {96}), kept) << static_cast<int>(edge);
-    const Rect least{100, 200, 536, 576};
-    EXPECT_EQ(keepMinimum(least, edge, {96}), least) << static_cast<int>(edge);
-  }
-  EXPECT_EQ(static_cast<int>(SizingEdge::bottomRight), 8);
-  EXPECT_EQ(keepMinimum({0, 0, 535, 700}, SizingEdge::topRight, {120}), (Rect{0, 0, 545, 700}));
 }
 
 TEST(FrameLayout, LeavesAMarginAroundTheTabs) {
@@ -72,58 +50,6 @@ TEST(IntroLayout, PutsTheButtonsInTheMiddle) {
     }
   }
   EXPECT_EQ(introButtonFace({144}), (Rect{0, 0, 96, 96}));
-}
-
-TEST(IntroLayout, PaintsAroundTheButtons) {
-  for (const Size screen : {Size{420, 297}, Size{421, 298}, Size{300, 150}, Size{60, 50}, Size{0, 0}}) {
-    std::vector<int> painted(static_cast<std::size_t>(screen.width) * static_cast<std::size_t>(screen.height));
-    const auto at = [&](std::int32_t x, std::int32_t y) -> int& {
-      return painted[static_cast<std::size_t>(y) * static_cast<std::size_t>(screen.width) +
-                     static_cast<std::size_t>(x)];
-    };
-    for (const Rect& box : introBackground(screen, {96})) {
-      for (std::int32_t y = box.top; y < box.bottom; ++y) {
-        for (std::int32_t x = box.left; x < box.right; ++x) {
-          ++at(x, y);
-        }
-      }
-    }
-    int wrong = 0;
-    for (std::int32_t y = 0; y < screen.height; ++y) {
-      for (std::int32_t x = 0; x < screen.width; ++x) {
-        int wanted = 1;
-        for (const IntroButton& button : introButtons()) {
-          wanted -= introButtonBox(button, screen, {96}).contains({x, y}) ? 1 : 0;
-        }
-        wrong += at(x, y) == wanted ? 0 : 1;
-      }
-    }
-    EXPECT_EQ(wrong, 0) << screen.width << ' ' << screen.height;
-  }
-}
-
-TEST(IntroLayout, OffersFiveWaysToStart) {
-  const struct {
-    const char* text;
-    const char* icon;
-    const char* tooltip;
-    std::int32_t command;
-  } cases[] = {
-      {"Blank", "SUBLANKBMP", "New blank palette...", 1},
-      {"16", "SU16BMP", "New Windows 4-bit palette. Right-click for more options.", 9},
-      {"Grey", "SUGREYBMP", "New greyscale palette...", 11},
-      {"RGB", "SURGBBMP", "New RGB palette...", 12},
-      {"Open", "SULOADBMP", "Open palette...", 13},
-  };
-  ASSERT_EQ(introButtons().size(), std::size(cases));
-  for (std::size_t i = 0; i < std::size(cases); ++i) {
-    const IntroButton& button = introButtons()[i];
-    EXPECT_EQ(button.text, cases[i].text);
-    EXPECT_EQ(button.icon, cases[i].icon);
-    EXPECT_EQ(button.tooltip, cases[i].tooltip);
-    EXPECT_EQ(button.command, cases[i].command);
-  }
-  EXPECT_EQ(systemPalettesButton().text, "16");
 }
 
 }  // namespace
