@@ -31,12 +31,17 @@ cat >>"$work/user.reg" <<END
 "Managed"="N"
 END
 
-started=()
+started=() signals=()
+# start SIGNAL: what was just started ends by that signal.
+start() {
+  started+=($!)
+  signals+=("$1")
+}
 # In turn, the last one first.
 finish() {
   local i
   for ((i = ${#started[@]} - 1; i >= 0; i--)); do
-    kill "${started[i]}" 2>/dev/null || true
+    kill -s "${signals[i]}" "${started[i]}" 2>/dev/null || true
     wait "${started[i]}" 2>/dev/null || true
   done
 }
@@ -55,7 +60,7 @@ await() {
 
 # Xvfb takes a free display number and tells it.
 Xvfb -displayfd 3 -screen 0 1920x1440x24 -nolisten tcp 3>"$work/display" 2>"$work/display.log" 9>&- &
-started+=($!)
+start TERM
 await $! test -s "$work/display"
 DISPLAY=:$(<"$work/display")
 export DISPLAY QUILLHUE_WINEPREFIX=$work
@@ -64,10 +69,12 @@ export DISPLAY QUILLHUE_WINEPREFIX=$work
 socket=server-$(stat --format=%D "$work")-$(printf %x "$(stat --format=%i "$work")")/socket
 is_listening() { compgen -G "/tmp/.wine-$(id -u)/$socket" || compgen -G "/tmp/wine-*/$socket"; } >/dev/null
 WINEPREFIX=$work wineserver --foreground >"$work/server.log" 2>&1 9>&- &
-started+=($!)
+# Interrupted, it ends the system's own programs before itself; they would live on without it, and keep what they write
+# to open.
+start INT
 await $! is_listening
 
 # In the background, because a signal to this script waits for the end of what is in the foreground.
 "$root/scripts/wine.sh" "$@" 9>&- &
-started+=($!)
+start TERM
 wait $!
