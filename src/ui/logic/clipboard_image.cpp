@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <span>
 
 #include "formats/bitmap_writer.h"
@@ -47,7 +48,8 @@ std::vector<std::uint8_t> clipboardBitmap(const RemappedImage& image, PaletteEnt
 }
 
 std::vector<std::uint8_t> clipboardBitmap(const WorkImage& image, PaletteEntry blank) {
-  if (!image.palette()) {
+  const std::optional<Palette>& palette = image.palette();
+  if (!palette) {
     return trueColorBitmap(image);
   }
   const std::size_t stride = paddedRowLength(image.width());
@@ -55,7 +57,7 @@ std::vector<std::uint8_t> clipboardBitmap(const WorkImage& image, PaletteEntry b
   for (std::int32_t y = 0; y < image.height(); ++y) {
     std::ranges::copy(image.row(y), std::span(rows).subspan(stride * static_cast<std::size_t>(y)).begin());
   }
-  return withoutFileHeader(composeBitmap({image.width(), image.height(), rows}, *image.palette(), blank));
+  return withoutFileHeader(composeBitmap({image.width(), image.height(), rows}, *palette, blank));
 }
 
 }  // namespace quillhue
