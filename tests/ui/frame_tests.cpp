@@ -49,7 +49,7 @@ TEST_F(Frame, TellsCountAndAverageOfTheColors) {
   Program program({paletteFile("own.pal", palette)});
   program.await("the editor", [&] { return tabControl(program); });
   program.start(command_id::kCountColors);
-  EXPECT_NE(answerMessage(program, L"Quillhue", IDOK).find(L"2"), std::wstring::npos);
+  EXPECT_NE(answerMessage(program, L"Quillhue", IDOK).find(L'2'), std::wstring::npos);
   program.start(command_id::kAverageColor);
   EXPECT_NE(answerMessage(program, L"Quillhue", IDOK).find(L"11"), std::wstring::npos);
   EXPECT_FALSE(isOffered(program, command_id::kUndo));

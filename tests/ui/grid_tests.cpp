@@ -3,7 +3,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
-#include <optional>
+#include <memory>
 
 #include "ui/logic/command_ids.h"
 #include "ui/logic/grid_layout.h"
@@ -27,7 +27,7 @@ class GridTest : public UiTest {
   // Opens the palette, on one of the pages that have a grid.
   void open(const Palette& palette, int page) {
     file_ = paletteFile("grid.pal", palette);
-    program_.emplace(std::vector<std::wstring>{file_});
+    program_ = std::make_unique<Program>(std::vector{file_});
     size_ = palette.getSize();
     program().await("the editor", [&] { return tabControl(program()); });
     if (page != 0) {
@@ -107,7 +107,7 @@ class GridTest : public UiTest {
 
  private:
   std::wstring file_;
-  std::optional<Program> program_;
+  std::unique_ptr<Program> program_;
   std::int32_t size_ = 0;
   HWND window_ = nullptr;
   GridLayout layout_;
@@ -268,7 +268,8 @@ TEST_F(GridTest, OpensTheContextMenuOnAnEntry) {
     expectCurrent("2");
     program().close();
     const PaletteEntry blank = brightPalette(3).entry(2);
-    EXPECT_EQ(storedSettings().value().at("Blank"), storedBytes({blank.red, blank.green, blank.blue}));
+    EXPECT_EQ(storedSettings().value_or(StoredSettings{}).at("Blank"),
+              storedBytes({blank.red, blank.green, blank.blue}));
   }
 }
 

@@ -89,7 +89,7 @@ TEST_F(Settings, AreCheckedWhenRead) {
     EXPECT_EQ(number(size.width), written["Window width"]);
     EXPECT_EQ(number(size.height), written["Window height"]);
     program.close();
-    const StoredSettings after = storedSettings().value();
+    const StoredSettings after = storedSettings().value_or(StoredSettings{});
     for (const auto& [name, value] : written) {
       EXPECT_EQ(after.at(name), value) << name;
     }
@@ -127,7 +127,7 @@ TEST_F(Settings, FillTheDialogForANewPalette) {
     dialog.answer(IDCANCEL);
   }
   program.close();
-  EXPECT_EQ(storedSettings().value().at("Palette size"), storedNumber(43));
+  EXPECT_EQ(storedSettings().value_or(StoredSettings{}).at("Palette size"), storedNumber(43));
 }
 
 TEST_F(Settings, TellTheSelectionMode) {

@@ -119,7 +119,7 @@ TEST_F(Values, OfAnotherModelKeepTheEntry) {
   EXPECT_TRUE(numbers().starts_with("210 ")) << numbers();
   EXPECT_TRUE(numbers().ends_with(" 200")) << numbers();
   program_.close();
-  EXPECT_EQ(storedSettings().value().at("Color mode"), storedBytes({3}));
+  EXPECT_EQ(storedSettings().value_or(StoredSettings{}).at("Color mode"), storedBytes({3}));
 }
 
 TEST_F(Values, ComeFromTheColorChooser) {

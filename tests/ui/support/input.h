@@ -38,7 +38,7 @@ void tabTo(const Program& program, HWND control);
 /// Holds keys as long as this lives. Moving the pointer may let go of them.
 class HeldKeys {
  public:
-  explicit HeldKeys(std::initializer_list<int> keys);
+  HeldKeys(std::initializer_list<int> keys);
   HeldKeys(const HeldKeys&) = delete;
   HeldKeys& operator=(const HeldKeys&) = delete;
   ~HeldKeys();
