@@ -8,7 +8,8 @@
 
 namespace quillhue {
 
-void dropFiles(const Program& program, const std::vector<std::wstring>& names) {
+void dropFiles(const Program& program, const std::vector<std::wstring>& names, HWND onto) {
+  HWND target = onto == nullptr ? program.window() : onto;
   std::wstring list;
   for (const std::wstring& name : names) {
     list += name + L'\0';
@@ -25,7 +26,7 @@ void dropFiles(const Program& program, const std::vector<std::wstring>& names) {
     // Wine hands the memory's address on as it is: it has to be memory of the program, which frees it.
     ProgramMemory memory(program, block.size());
     memory.write(block.data(), block.size());
-    program.post(program.window(), WM_DROPFILES, static_cast<WPARAM>(memory.address()));
+    program.post(target, WM_DROPFILES, static_cast<WPARAM>(memory.address()));
     memory.release();
     return;
   }
@@ -33,7 +34,7 @@ void dropFiles(const Program& program, const std::vector<std::wstring>& names) {
   HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, block.size());
   std::memcpy(GlobalLock(memory), block.data(), block.size());
   GlobalUnlock(memory);
-  program.post(program.window(), WM_DROPFILES, reinterpret_cast<WPARAM>(memory));
+  program.post(target, WM_DROPFILES, reinterpret_cast<WPARAM>(memory));
 }
 
 }  // namespace quillhue

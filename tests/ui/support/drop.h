@@ -1,5 +1,7 @@
 #pragma once
 
+#include <windows.h>
+
 #include <string>
 #include <vector>
 
@@ -7,7 +9,8 @@
 
 namespace quillhue {
 
-/// Drops files on the main window, as an explorer of files does when the user lets them go there.
-void dropFiles(const Program& program, const std::vector<std::wstring>& names);
+/// Drops files on the main window or another one of the program, as an explorer of files does when the user lets them
+/// go there.
+void dropFiles(const Program& program, const std::vector<std::wstring>& names, HWND onto = nullptr);
 
 }  // namespace quillhue

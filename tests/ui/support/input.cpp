@@ -64,7 +64,13 @@ void moveTo(const Program& program, Point point) {
   program.await("the pointer", [&] {
     POINT place{};
     GetCursorPos(&place);
-    return Point{place.x, place.y} == point;
+    if (Point{place.x, place.y} == point) {
+      return true;
+    }
+    // A late report has undone it.
+    SetCursorPos(point.x, point.y);
+    sendMouse(MOUSEEVENTF_MOVE);
+    return false;
   });
 }
 
