@@ -184,5 +184,53 @@ TEST_F(Documents, ComeFromTheOpenDialog) {
   program.close();
 }
 
+// An image of true colors asks how to make a palette of it.
+TEST_F(Documents, ComeFromTheColorsOfAnImage) {
+  const std::wstring image = folder_.file("image.bmp", bitmapOf(2, 24, {1, 2, 3, 3}));
+  Program program;
+  {
+    dropFiles(program, {image});
+    const Dialog dialog(program, L"Create from image");
+    EXPECT_NE(
+        dialog.text().find(L"This image does not have a palette, but its\ncolors can be used to create a new one.\n"
+                           L"3 different colors found in the image."),
+        std::wstring::npos)
+        << narrow(dialog.text());
+    EXPECT_EQ(dialog.typed(FROM_IMAGE_SIZE), L"3");
+    for (const wchar_t* size : {L"0", L"1025", L""}) {
+      dialog.type(FROM_IMAGE_SIZE, size);
+      dialog.press(FROM_IMAGE_REDUCE);
+      const Dialog refusal(program, L"Error");
+      EXPECT_EQ(refusal.text(), L"The palette size must be a number from 1 to 1024.");
+      // The refusal has to be answered first.
+      EXPECT_FALSE(IsWindowEnabled(dialog.window())) << narrow(size);
+      refusal.answer(IDOK);
+    }
+    dialog.answer(IDCANCEL);
+    EXPECT_EQ(textOf(program.window()), L"Quillhue - Welcome");
+  }
+  const struct {
+    const wchar_t* size;
+    int button;
+    const wchar_t* entries;
+  } kCases[] = {{L"3", FROM_IMAGE_USE_ALL, L"3 entries"},
+                {L"1", FROM_IMAGE_USE_ALL, L"3 entries"},
+                {L"7", FROM_IMAGE_USE_ALL, L"7 entries"},
+                {L"2", FROM_IMAGE_REDUCE, L"2 entries"}};
+  bool isModified = false;
+  for (const auto& [size, button, entries] : kCases) {
+    dropFiles(program, {image});
+    if (isModified) {
+      answerMessage(program, L"Warning", IDNO);
+    }
+    const Dialog dialog(program, L"Create from image");
+    dialog.type(FROM_IMAGE_SIZE, size);
+    dialog.answer(button);
+    program.awaitTitle(L"Quillhue - Untitled");
+    program.await("the entries", [&] { return statusText(program, 0) == entries; });
+    isModified = true;
+  }
+}
+
 }  // namespace
 }  // namespace quillhue

@@ -163,9 +163,7 @@ class Soak : public UiTest {
       button = FROM_IMAGE_REDUCE;
     }
     PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
-    program.await("the dialog's answer", [&] {
-      return IsWindow(dialog) == 0 || IsWindowVisible(dialog) == 0 || IsWindowEnabled(dialog) == 0;
-    });
+    program.await("the dialog's answer", [&] { return openDialog(program) != dialog; });
   }
 
   std::mt19937 random_;
