@@ -11,7 +11,7 @@ namespace {
 class Use : public UseTest {};
 
 // A bitmap as the clipboard has it: without the file's own header.
-std::string withoutFileHeader(std::string file) { return file.substr(14); }
+std::string withoutFileHeader(const std::string& file) { return file.substr(14); }
 
 TEST_F(Use, ImagesComeFromDialogDropAndClipboard) {
   open(brightPalette(16));

@@ -31,7 +31,11 @@ std::wstring UseTest::directFile(const std::string& name, Size size) const {
   return folder_.file(name, bitmapOf(static_cast<std::uint32_t>(size.width), 24, words));
 }
 
-Editor& UseTest::open(const Palette& palette) { return editor_.emplace(paletteFile("own.pal", palette), kUsePage); }
+Editor& UseTest::open(const Palette& palette) {
+  editor_.reset();
+  editor_ = std::make_unique<Editor>(paletteFile("own.pal", palette), kUsePage);
+  return *editor_;
+}
 
 HWND UseTest::field(Field field) const {
   return findControls(editor_->window(), L"Edit").at(static_cast<std::size_t>(field));

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include <optional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -50,7 +50,7 @@ class UseTest : public EditorTest {
   std::wstring direct_;
 
  private:
-  std::optional<Editor> editor_;
+  std::unique_ptr<Editor> editor_;
 };
 
 }  // namespace quillhue
