@@ -12,8 +12,7 @@ constexpr const wchar_t* kDialogClass = L"#32770";
 
 }  // namespace
 
-Dialog::Dialog(const Program& program, const std::wstring& caption)
-    : program_(program), caption_(caption), window_(nullptr) {
+Dialog::Dialog(const Program& program, const std::wstring& caption) : program_(program), caption_(caption) {
   window_ = program.await("the dialog \"" + narrow(caption) + '"', [&]() -> HWND {
     for (HWND window : program.topWindows()) {
       if (windowClass(window) == kDialogClass && textOf(window) == caption && IsWindowEnabled(window) != 0) {

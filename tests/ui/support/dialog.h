@@ -32,7 +32,7 @@ class Dialog {
  private:
   const Program& program_;
   std::wstring caption_;
-  HWND window_;
+  HWND window_ = nullptr;
 };
 
 /// Answers the message box with this caption, and returns what it said.

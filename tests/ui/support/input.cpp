@@ -22,7 +22,7 @@ void sendMouse(DWORD flags, DWORD data = 0) {
   send(input);
 }
 
-void sendKey(int key, DWORD flags) {
+INPUT keyInput(int key, DWORD flags) {
   // Keys that the keypad has too are told apart by this flag.
   constexpr std::array kExtended{VK_LEFT, VK_RIGHT, VK_UP,   VK_DOWN,   VK_HOME,
                                  VK_END,  VK_PRIOR, VK_NEXT, VK_DELETE, VK_APPS};
@@ -36,8 +36,10 @@ void sendKey(int key, DWORD flags) {
       input.ki.dwFlags |= KEYEVENTF_EXTENDEDKEY;
     }
   }
-  send(input);
+  return input;
 }
+
+void sendKey(int key, DWORD flags) { send(keyInput(key, flags)); }
 
 }  // namespace
 
@@ -78,7 +80,7 @@ void press(Button button) { sendMouse(button == Button::left ? MOUSEEVENTF_LEFTD
 
 void release(Button button) { sendMouse(button == Button::left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP); }
 
-void turnWheel(int notches) { sendMouse(MOUSEEVENTF_WHEEL, static_cast<DWORD>(notches * WHEEL_DELTA)); }
+void turnWheel(int notches) { sendMouse(MOUSEEVENTF_WHEEL, static_cast<DWORD>(notches) * WHEEL_DELTA); }
 
 void clickAt(const Program& program, Point point, Button button, std::initializer_list<int> held) {
   activate(program);
@@ -109,7 +111,8 @@ HeldKeys::HeldKeys(std::initializer_list<int> keys) : keys_(keys) {
 
 HeldKeys::~HeldKeys() {
   for (const int key : keys_) {
-    sendKey(key, KEYEVENTF_KEYUP);
+    INPUT input = keyInput(key, KEYEVENTF_KEYUP);
+    SendInput(1, &input, sizeof(input));
   }
 }
 

@@ -38,8 +38,8 @@ int gdiObjectsInTable(HANDLE process) {
                                                                                    &basics, sizeof(basics), nullptr);
   void* table = nullptr;
   std::vector<Entry> entries(kEntries);
-  if (ReadProcessMemory(process, reinterpret_cast<std::byte*>(basics.PebBaseAddress) + kTableOffset, &table,
-                        sizeof(table), nullptr) == 0 ||
+  if (ReadProcessMemory(process, reinterpret_cast<std::byte*>(basics.PebBaseAddress) + kTableOffset,
+                        static_cast<void*>(&table), sizeof(table), nullptr) == 0 ||
       ReadProcessMemory(process, table, entries.data(), entries.size() * sizeof(Entry), nullptr) == 0) {
     throw ProgramError("can't read the program's GDI objects");
   }

@@ -123,7 +123,7 @@ HWND focusOf(const Program& program) {
 std::wstring statusText(const Program& program, int part) {
   HWND bar = findControl(program.window(), STATUSCLASSNAMEW);
   const auto length = LOWORD(program.ask(bar, SB_GETTEXTLENGTHW, static_cast<WPARAM>(part)));
-  ProgramMemory text(program, (length + std::size_t{1}) * sizeof(wchar_t));
+  const ProgramMemory text(program, (length + std::size_t{1}) * sizeof(wchar_t));
   program.ask(bar, SB_GETTEXTW, static_cast<WPARAM>(part), text.address());
   return text.text();
 }
@@ -133,7 +133,7 @@ HWND tabControl(const Program& program) { return findControl(program.window(), W
 int chosenPage(const Program& program) { return static_cast<int>(program.ask(tabControl(program), TCM_GETCURSEL)); }
 
 void choosePage(const Program& program, int page) {
-  ProgramMemory box(program, sizeof(RECT));
+  const ProgramMemory box(program, sizeof(RECT));
   program.ask(tabControl(program), TCM_GETITEMRECT, static_cast<WPARAM>(page), box.address());
   RECT tab{};
   box.read(&tab, sizeof(tab));
