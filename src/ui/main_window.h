@@ -16,6 +16,7 @@
 #include "ui/services/file_dialogs.h"
 #include "ui/win32/custom_window.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/open_dialog.h"
 
 namespace quillhue {
 
@@ -47,7 +48,7 @@ class MainWindow final : public CustomWindow, public DocumentObserver {
   void take(MSG& message);
 
   /// What a dialog or message box stands on: the window, or the dialog that is open already.
-  [[nodiscard]] HWND dialogOwner() const { return GetLastActivePopup(handle()); }
+  [[nodiscard]] HWND dialogOwner() const { return openDialogOf(handle()); }
   [[nodiscard]] HFONT font() const { return font_.get(); }
   [[nodiscard]] Scale scale() const { return scale_; }
   [[nodiscard]] Workplace& workplace() const { return workplace_; }
