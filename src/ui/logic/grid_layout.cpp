@@ -37,17 +37,6 @@ Rect GridLayout::colorBox(std::int32_t index) const {
   return {x + 2, y + 2, x + cell_ - 1, y + cell_ - 1};
 }
 
-Rect GridLayout::emptyBox(std::int32_t index) const { return boxAt(cornerOf(index), {cell_ + 1, cell_ + 1}); }
-
-std::array<Rect, 4> GridLayout::marginBoxes() const {
-  const std::int32_t right = columns_ * cell_ + margin_;
-  const std::int32_t bottom = rows_ * cell_ + margin_;
-  return {{{0, 0, right + 3, margin_ + 1},
-           {0, margin_, margin_ + 1, bottom + 1},
-           {right, margin_, right + 3, bottom + 1},
-           {0, bottom, right + 3, area_.height() + 1}}};
-}
-
 std::int32_t GridLayout::hitTest(Point point) const {
   const Rect grid = boxAt({margin_, margin_}, {columns_ * cell_, rows_ * cell_});
   if (cell_ < 1 || !grid.contains(point)) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <limits>
 #include <vector>
@@ -43,9 +42,6 @@ class GridLayout {
   [[nodiscard]] Rect cellBox(std::int32_t index) const;
   /// What an entry's color fills of it.
   [[nodiscard]] Rect colorBox(std::int32_t index) const;
-  /// What the background fills: a cell without an entry, and the strips above, left, right and below.
-  [[nodiscard]] Rect emptyBox(std::int32_t index) const;
-  [[nodiscard]] std::array<Rect, 4> marginBoxes() const;
 
   /// The index of the cell at the point, which may be past the palette's end; kNoEntry outside the grid.
   [[nodiscard]] std::int32_t hitTest(Point point) const;

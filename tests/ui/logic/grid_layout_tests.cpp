@@ -48,14 +48,11 @@ TEST(GridLayout, TakesAsFewAndLargeCellsAsTheAreaAllows) {
   }
 }
 
-TEST(GridLayout, PaintsCellsAndMargins) {
+TEST(GridLayout, PaintsCellsInTheirPlaces) {
   const GridLayout grid(boxAt({7, 30}, {480, 345}), 3, {96});
   EXPECT_EQ(grid.cellBox(1), (Rect{170, 10, 330, 170}));
   EXPECT_EQ(grid.colorBox(0), (Rect{12, 12, 169, 169}));
   EXPECT_EQ(grid.colorBox(2), (Rect{12, 172, 169, 329}));
-  EXPECT_EQ(grid.emptyBox(3), (Rect{170, 170, 331, 331}));
-  const std::array<Rect, 4> margins{{{0, 0, 333, 11}, {0, 10, 11, 331}, {330, 10, 333, 331}, {0, 330, 333, 346}}};
-  EXPECT_EQ(grid.marginBoxes(), margins);
   EXPECT_EQ(grid.paletteArea(), (Rect{0, 0, 332, 345}));
   // 7 + (332 + 480) / 2
   EXPECT_EQ(grid.controlsCenter(), 413);
