@@ -63,12 +63,16 @@ void moveTo(const Program& program, Point point) {
   for (int i = 0; i < kLooks; ++i) {
     program.ask(program.window(), WM_NULL);
   }
+  // It has to stay there for a while.
+  constexpr int kStays = 8;
+  int stays = 0;
   program.await("the pointer", [&] {
     POINT place{};
     GetCursorPos(&place);
     if (Point{place.x, place.y} == point) {
-      return true;
+      return ++stays >= kStays;
     }
+    stays = 0;
     // A late report has undone it.
     SetCursorPos(point.x, point.y);
     sendMouse(MOUSEEVENTF_MOVE);
