@@ -1,20 +1,17 @@
 #include "ui/logic/display_rows.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace quillhue {
 
 RowRange DisplayRows::progress(std::int32_t done, const RowRange& visible) {
-  const RowRange waiting{copied_, done};
+  const RowRange waiting{painted_, done};
   const RowRange seen{std::max(waiting.begin, visible.begin), std::min(waiting.end, visible.end)};
   if (seen.isEmpty()) {
     return {};
   }
-  copied_ = done;
+  painted_ = done;
   return waiting;
 }
-
-RowRange DisplayRows::finish() { return {std::exchange(copied_, height_), height_}; }
 
 }  // namespace quillhue

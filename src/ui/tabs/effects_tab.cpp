@@ -96,20 +96,6 @@ void EffectsTab::showValue() {
   value_.setValue(value);
 }
 
-void EffectsTab::paletteChanged() {
-  selection_.paletteChanged();
-  repaintGrid();
-}
-
-void EffectsTab::documentReplaced(DocumentChange change) {
-  if (change == DocumentChange::replaced) {
-    selection_.documentReplaced();
-    repaintGrid();
-  } else {
-    paletteChanged();
-  }
-}
-
 void EffectsTab::copy() { copySelection(document(), window().services().clipboard); }
 
 void EffectsTab::paste() {

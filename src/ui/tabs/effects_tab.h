@@ -20,8 +20,6 @@ class EffectsTab final : public PaletteTab {
   explicit EffectsTab(MainWindow& window);
 
   void controlNotification(HWND control, WPARAM wParam) override;
-  void paletteChanged() override;
-  void documentReplaced(DocumentChange change) override;
   void copy() override;
   void paste() override;
   void clear() override;
@@ -39,6 +37,8 @@ class EffectsTab final : public PaletteTab {
   [[nodiscard]] std::int32_t currentEntry() const override { return selection_.currentEntry(); }
   void chooseEntry(std::int32_t index) override;
   [[nodiscard]] GridPicture picture() override;
+  void followPalette() override { selection_.paletteChanged(); }
+  void beginDocument() override { selection_.documentReplaced(); }
   void layOutControls() override;
   void showControls(bool visible) override;
 

@@ -51,6 +51,16 @@ void PaletteTab::layout(const Rect& area) {
   layOutControls();
 }
 
+void PaletteTab::paletteChanged() {
+  followPalette();
+  repaintGrid();
+}
+
+void PaletteTab::documentReplaced(DocumentChange change) {
+  change == DocumentChange::replaced ? beginDocument() : followPalette();
+  repaintGrid();
+}
+
 void PaletteTab::show() {
   quillhue::show(gridWindow_.handle(), true);
   showControls(true);

@@ -24,6 +24,8 @@ class PaletteTab : public Tab, public GridClient {
   /// Opens the context menu on an entry that is clicked with the right button or asked for by a key.
   LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
   void layout(const Rect& area) final;
+  void paletteChanged() final;
+  void documentReplaced(DocumentChange change) final;
   void show() override;
   void hide() override;
   [[nodiscard]] bool hasCurrentEntry() const override;
@@ -40,6 +42,10 @@ class PaletteTab : public Tab, public GridClient {
   /// Another current entry, as the user chose it; kNoEntry and indexes past the end included.
   virtual void chooseEntry(std::int32_t index) = 0;
   [[nodiscard]] virtual GridPicture picture() = 0;
+  /// Takes the document's new colors, selection or size over into what the tab keeps of it.
+  virtual void followPalette() = 0;
+  /// Begins anew with another document.
+  virtual void beginDocument() = 0;
   /// Moves the tab's own controls to where they stand beside the grid.
   virtual void layOutControls() = 0;
   /// Controls that appear and disappear with the tab.

@@ -31,7 +31,7 @@ constexpr std::array kModes{RemapMode::maintain, RemapMode::nearest, RemapMode::
 /// Lets the rows that are done appear, and the window live.
 class UseTab::Progress final : public RemapProgress {
  public:
-  Progress(UseTab& tab, std::int32_t height) : tab_(tab), run_(tab.window_), rows_(height) {}
+  explicit Progress(UseTab& tab) : tab_(tab), run_(tab.window_) {}
 
   [[nodiscard]] bool rowsDone(std::int32_t rows, const RemappedImage& result) override {
     tab_.view_.addRows(result, rows_.progress(rows, tab_.view_.visibleRows()));
@@ -273,7 +273,7 @@ void UseTab::process() {
 
 void UseTab::runOn(const WorkImage& image) {
   // Ends last: a message that is shown before belongs to the run, and the window outlives it.
-  Progress progress(*this, image.height());
+  Progress progress(*this);
   try {
     remapImage(image, window_.document()->getPalette(), options(), result_ ? *result_ : result_.emplace(), progress);
   } catch (const std::bad_alloc&) {

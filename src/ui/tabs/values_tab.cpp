@@ -122,20 +122,6 @@ void ValuesTab::modelChosen() {
   nameChannels();
 }
 
-void ValuesTab::paletteChanged() {
-  editor_.paletteChanged();
-  repaintGrid();
-}
-
-void ValuesTab::documentReplaced(DocumentChange change) {
-  if (change == DocumentChange::replaced) {
-    editor_.documentReplaced();
-    repaintGrid();
-  } else {
-    paletteChanged();
-  }
-}
-
 void ValuesTab::show() {
   editor_.refreshValues();
   PaletteTab::show();

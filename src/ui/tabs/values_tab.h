@@ -23,8 +23,6 @@ class ValuesTab final : public PaletteTab, private ChannelView {
 
   LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
   void controlNotification(HWND control, WPARAM wParam) override;
-  void paletteChanged() override;
-  void documentReplaced(DocumentChange change) override;
   /// What is changed from now on is a step of its own, so that undoing it leads to what was saved.
   void documentSaved() override { editor_.endRun(); }
   void show() override;
@@ -52,6 +50,8 @@ class ValuesTab final : public PaletteTab, private ChannelView {
   [[nodiscard]] std::int32_t currentEntry() const override { return editor_.currentEntry(); }
   void chooseEntry(std::int32_t index) override;
   [[nodiscard]] GridPicture picture() override;
+  void followPalette() override { editor_.paletteChanged(); }
+  void beginDocument() override { editor_.documentReplaced(); }
   void layOutControls() override;
   void showControls(bool visible) override;
 
