@@ -202,6 +202,14 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
       closeAsked();
       return 0;
+    case WM_QUERYENDSESSION:
+      return closesAfterRun_ || mayClose() ? TRUE : FALSE;
+    case WM_ENDSESSION:
+      // If the session ends the process ends after this, without further messages.
+      if (wParam != FALSE) {
+        saveSettings();
+      }
+      return 0;
     case WM_ACTIVATE:
       if (LOWORD(wParam) == WA_INACTIVE) {
         lastFocus_ = GetFocus();
@@ -241,9 +249,13 @@ void MainWindow::destroyed() {
   workplace_.slot.closeDocument();
   contextMenus_.reset();
   font_.reset();
+  saveSettings();
+  PostQuitMessage(0);
+}
+
+void MainWindow::saveSettings() {
   workplace_.settings.window = outerSize(handle());
   writeSettings(workplace_.settings, workplace_.settingsStore);
-  PostQuitMessage(0);
 }
 
 void MainWindow::sized() {
@@ -309,8 +321,11 @@ void MainWindow::filesDropped(WPARAM wParam) {
   readPaletteFile(firstFile(drop), slot(), services());
 }
 
+// While a dialog is open it has to be answered first.
+bool MainWindow::mayClose() const { return IsWindowEnabled(handle()) && letsDocumentGo(); }
+
 void MainWindow::closeAsked() {
-  if (!IsWindowEnabled(handle()) || closesAfterRun_ || !letsDocumentGo()) {
+  if (closesAfterRun_ || !mayClose()) {
     return;
   }
   if (runIsOn_) {

@@ -104,7 +104,10 @@ class MainWindow final : public CustomWindow, public DocumentObserver {
   void controlNotification(WPARAM wParam, LPARAM lParam);
   [[nodiscard]] static LRESULT staticColors(HDC dc);
   void filesDropped(WPARAM wParam);
+  [[nodiscard]] bool mayClose() const;
   void closeAsked();
+  void saveSettings();
+
   Workplace& workplace_;
   HWND statusBar_ = nullptr;
   Scale scale_;
