@@ -185,6 +185,19 @@ TEST(RemapIdentity, HoldsWhereErrorsLeaveAnyRange) {
   }
 }
 
+// Sides of a grid that are out of range count as the nearest ones.
+TEST(RemapIdentity, HoldsForGridsOfAnySides) {
+  Random random(18);
+  const Palette palette = paletteOf(2, kColorKinds[0], random);
+  for (const auto& [width, height] : {std::pair{1010, 1}, {1, 1010}, {20, 20}}) {
+    const WorkImage image = imageOf(width, height, 1, kColorKinds[0], random);
+    for (const std::int32_t side : {-5, 0, 1000, 5000}) {
+      expectLiteral(image, palette, {RemapMode::dither, {}, ProtectGrid{side, 5}});
+      expectLiteral(image, palette, {RemapMode::dither, {}, ProtectGrid{5, side}});
+    }
+  }
+}
+
 TEST(RemapIdentity, HoldsForProtectedColors) {
   Random random(10);
   Palette palette = paletteOf(50, kColorKinds[0], random);

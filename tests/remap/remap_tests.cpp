@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
-#include <random>
 
 #include "remap/remap.h"
 #include "support/checksum.h"
@@ -72,52 +70,6 @@ TEST(Remap, TakesTheFirstOfTheNearest) {
   EXPECT_EQ(remapped(imageOf(1, 1, {}, {1, 2, 3}), large, {}), "0 ");
 }
 
-// The sums come from another program, which was written from the rules: palettes of nine sizes, images of four, alone,
-// dithered, with a protected color and with a grid, and palettes that are far too dark.
-TEST(Remap, EqualsTheLiteralRules) {
-  Checksum sum;
-  std::uint32_t seed = 0;
-  for (const std::int32_t entries : {1, 2, 3, 16, 17, 216, 255, 256, 300}) {
-    for (const auto& [width, height] : {std::pair{1, 1}, {2, 5}, {7, 3}, {20, 18}}) {
-      for (int kind = 0; kind < 4; ++kind) {
-        for (const int darkening : {8, 1}) {
-          std::minstd_rand random(++seed);
-          const auto next = [&] { return static_cast<std::uint8_t>(random() >> 8); };
-          Palette palette = createPalette(entries);
-          for (std::int32_t i = 0; i < entries; ++i) {
-            PaletteEntry color;
-            for (const Channel channel : {Channel::blue, Channel::green, Channel::red}) {
-              channelOf(color, channel) = static_cast<std::uint8_t>(next() / darkening);
-            }
-            palette.setEntry(i, color);
-          }
-          WorkImage image(width, height, {});
-          std::ranges::generate(image.pixels(), next);
-          RemapOptions options{kind == 0 ? RemapMode::nearest : RemapMode::dither, {}, {}};
-          if (kind == 2) {
-            options.protectedEntry = (entries - 1) % std::min(entries, kMaxUsedEntries);
-            const PaletteEntry color = palette.entry(*options.protectedEntry);
-            for (std::int32_t y = 0; y < height; ++y) {
-              for (std::size_t x = 0; x < static_cast<std::size_t>(width); x += 3) {
-                std::ranges::copy(std::array{color.blue, color.green, color.red}, image.row(y).subspan(3 * x).begin());
-              }
-            }
-          } else if (kind == 3) {
-            options.protectGrid = {3, 5};
-          }
-          RemappedImage result;
-          StoppingProgress progress;
-          EXPECT_TRUE(remapImage(image, palette, options, result, progress));
-          for (std::int32_t y = 0; y < height; ++y) {
-            std::ranges::for_each(result.row(y), [&](std::uint8_t index) { sum.add(index); });
-          }
-        }
-      }
-    }
-  }
-  EXPECT_EQ(sum.value(), 415575095U);
-}
-
 // Errors that nothing can make up for grow until they wrap.
 TEST(Remap, WrapsWhereErrorsOverflow) {
   const WorkImage white = imageOf(40, 70, {}, Bytes(3 * 40 * 70, 255));
@@ -130,51 +82,6 @@ TEST(Remap, WrapsWhereErrorsOverflow) {
     std::ranges::for_each(result.row(y), [&](std::uint8_t index) { sum.add(index); });
   }
   EXPECT_EQ(sum.value(), 3184858592U);
-}
-
-TEST(Remap, DithersIndexedImagesByTheirColors) {
-  Palette own = createPalette(16, {100, 100, 100});
-  own.setEntry(1, {200, 200, 200});
-  const Palette target = paletteWith({{0, 0, 0}, {255, 255, 255}});
-  Bytes indexes;
-  Bytes colors;
-  for (std::uint32_t i = 0; i < 90; ++i) {
-    const auto index = static_cast<std::uint8_t>(i * i % 7 % 2);
-    indexes.push_back(index);
-    colors.insert(colors.end(), 3, own.entry(index).red);
-  }
-  const RemapOptions dither{RemapMode::dither, {}, {}};
-  EXPECT_EQ(remapped(imageOf(9, 10, own, indexes), target, dither),
-            remapped(imageOf(9, 10, {}, colors), target, dither));
-}
-
-TEST(Remap, ProtectionHasItsLimits) {
-  const Palette palette = paletteWith({{0, 0, 0}, {255, 255, 255}, {120, 120, 120}});
-  const WorkImage grey = imageOf(20, 20, {}, Bytes(3 * 20 * 20, 100));
-  RemapOptions options{RemapMode::dither, {}, {}};
-  const std::string plain = remapped(grey, palette, options);
-  // Cells of one pixel leave nothing of the errors; sides out of range count as the nearest ones.
-  for (const std::int32_t side : {1, 0, -5}) {
-    options.protectGrid = {side, side};
-    EXPECT_EQ(remapped(grey, palette, options), remapped(grey, palette, {}));
-  }
-  options.protectGrid = {5000, 1000};
-  EXPECT_EQ(remapped(grey, palette, options), plain);
-  const Palette extremes = paletteWith({{0, 0, 0}, {255, 255, 255}});
-  for (const auto& [width, height] : {std::pair{1010, 1}, {1, 1010}}) {
-    const WorkImage line = imageOf(width, height, {}, Bytes(3 * 1010, 100));
-    const auto ditheredIn = [&](std::int32_t side) {
-      return remapped(line, extremes, {RemapMode::dither, {}, ProtectGrid{side, side}});
-    };
-    EXPECT_EQ(ditheredIn(5000), ditheredIn(1000));
-    EXPECT_TRUE(ditheredIn(5000) != remapped(line, extremes, {RemapMode::dither, {}, {}}));
-  }
-  // A color that is not there, and entries that no result can hold.
-  for (const std::int32_t entry : {1, 3, 256, -1}) {
-    EXPECT_EQ(remapped(grey, palette, {RemapMode::dither, entry, {}}), plain) << entry;
-  }
-  const WorkImage exact = imageOf(20, 20, {}, Bytes(3 * 20 * 20, 120));
-  EXPECT_EQ(remapped(exact, palette, {RemapMode::dither, 2, {}}), remapped(exact, palette, {}));
 }
 
 TEST(Remap, StopsAtEveryReport) {
