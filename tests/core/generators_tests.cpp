@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <set>
-
 #include "core/new_palette.h"
 #include "core/system_palettes.h"
 #include "support/checksum.h"
@@ -78,29 +75,6 @@ TEST(SystemPalettes, AreThoseOfTheirCommands) {
   }
   fakes.screenColors.clear();
   EXPECT_EQ(createSystemPalette(10, fakes).getSize(), 1);
-}
-
-// The structure of the default palette of mode 13h.
-TEST(SystemPalettes, VgaHasRingsOfHues) {
-  FixedHalftone screen;
-  const Palette vga = createSystemPalette(7, screen);
-  EXPECT_EQ(part(vga, 0, 15), show(createSystemPalette(5, screen)));
-  EXPECT_EQ(part(vga, 16, 18), "0,0,0 20,20,20 32,32,32");
-  EXPECT_EQ(part(vga, 31, 31), "255,255,255");
-  EXPECT_EQ(part(vga, 32, 37), "0,0,255 65,0,255 125,0,255 190,0,255 255,0,255 255,0,190");
-  EXPECT_EQ(part(vga, 48, 51), "0,255,0 0,255,65 0,255,125 0,255,190");
-  EXPECT_EQ(part(vga, 151, 153), "56,69,113 81,81,113 89,81,113");
-  EXPECT_EQ(part(vga, 246, 249), "44,52,65 44,48,65 0,0,0 0,0,0");
-  for (std::int32_t ring = 0; ring < 9; ++ring) {
-    std::set<PaletteEntry> hues;
-    for (std::int32_t hue = 0; hue < 24; ++hue) {
-      const auto at = [&](std::int32_t turned) { return vga.entry(32 + 24 * ring + (hue + turned) % 24); };
-      // A third of a ring further the channels have changed places.
-      EXPECT_EQ(at(8), (PaletteEntry{at(0).blue, at(0).red, at(0).green})) << ring << ' ' << hue;
-      hues.insert(at(0));
-    }
-    EXPECT_EQ(hues.size(), 24U);
-  }
 }
 
 TEST(FixedHalftone, HasWindowsColorsCubeAndGreys) {
