@@ -87,20 +87,6 @@ TEST_F(PaletteDocumentTest, SettersIgnoreWhatIsOutsideAndWhatIsLocked) {
   EXPECT_FALSE(document.isModified());
 }
 
-TEST_F(PaletteDocumentTest, ApplyChannelsGoesBySelectedEntry) {
-  const char* const expected[] = {"9,9,9 9,9,9 9,9,9 9,9,9", "9,9,9 1,9,9 9,9,9 2,9,9", "9,9,9 9,200,9 9,9,9 9,200,9",
-                                  "9,9,9 1,200,9 9,9,9 2,200,9", "9,9,9 9,9,0 9,9,9 9,9,7"};
-  for (ChannelMask mask = 0; mask <= 4; ++mask) {
-    PaletteDocument& document = replace(createPalette(5, {9, 9, 9}));
-    for (const std::int32_t index : {1, 3, 4}) {
-      document.select(index);
-    }
-    // The source runs out before the selection does.
-    document.applyChannels(mask, variedPalette(2));
-    EXPECT_EQ(show(document.getPalette()), expected[mask] + std::string(" 9,9,9"));
-  }
-}
-
 TEST(Utf8, ConvertsTextAndCarriesOtherBytesThrough) {
   EXPECT_EQ(fromUtf8("a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x8E\xA8!"), L"a\u00E9\u20AC\U0001F3A8!");
   EXPECT_EQ(fromUtf8("\xFFy"), L"\xDCFFy");
