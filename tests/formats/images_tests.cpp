@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <iomanip>
 #include <sstream>
 
 #include "formats/bitmap_writer.h"
@@ -13,14 +12,6 @@
 
 namespace quillhue {
 namespace {
-
-std::string hexOf(std::span<const std::uint8_t> bytes) {
-  std::ostringstream text;
-  for (const std::uint8_t byte : bytes) {
-    text << std::uppercase << std::hex << std::setfill('0') << std::setw(2) << int{byte};
-  }
-  return text.str();
-}
 
 // "offset:bytes ..." put into zeros.
 Bytes contentOf(std::size_t size, const std::string& patches) {

@@ -12,15 +12,6 @@ namespace {
 
 constexpr PaletteEntry kBlank{0xB1, 0xB2, 0xB3};
 
-std::string hexOf(std::span<const std::uint8_t> bytes) {
-  std::string text;
-  for (const std::uint8_t byte : bytes) {
-    text += "0123456789ABCDEF"[byte / 16];
-    text += "0123456789ABCDEF"[byte % 16];
-  }
-  return text;
-}
-
 TEST(Writers, StandAtTheirFormat) {
   PaletteFormat format = 1;
   for (const PaletteWriter* writer : paletteWriters()) {

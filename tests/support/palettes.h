@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -13,6 +14,15 @@ namespace quillhue {
 using Bytes = std::vector<std::uint8_t>;
 
 inline Bytes bytesOf(std::string_view text) { return {text.begin(), text.end()}; }
+
+inline std::string hexOf(std::span<const std::uint8_t> bytes) {
+  std::string text;
+  for (const std::uint8_t byte : bytes) {
+    text += "0123456789ABCDEF"[byte / 16];
+    text += "0123456789ABCDEF"[byte % 16];
+  }
+  return text;
+}
 
 /// "1,2,3 4,5,6" for two entries.
 inline std::string show(const Palette& palette) {
