@@ -83,6 +83,8 @@ TEST(BarsLayout, MarksValuesAndColorsRows) {
   for (const auto& [bar, range, value, point] : cases) {
     EXPECT_EQ(bars.markerPoint(bar, range, value), point) << value << ' ' << range.maximum;
   }
+  // 48 is 60.
+  EXPECT_EQ(BarsLayout({200, 400}, {120}).markerPoint(Bar::left, kByteRange, 255), (Point{40, 14}));
   EXPECT_EQ(bars.height(), 212);
   EXPECT_EQ(bars.positionOfRow(0), 0);
   // 255 / 211 = 1.2, 25500 / 211 = 120.9

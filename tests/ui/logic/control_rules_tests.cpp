@@ -20,7 +20,7 @@ TEST(UseControls, CanBeTickedWithoutAnImageButNotUsedInARun) {
   state.hasImage = state.isIndexed = state.hasResult = state.isBusy = true;
   EXPECT_EQ(loadControls(state), LoadControls{});
   EXPECT_EQ(protectControls(state), ProtectControls{});
-  EXPECT_TRUE(areLabelsGrey({}));
+  EXPECT_TRUE(areLabelsGrey({.protectColor = true}));
 }
 
 TEST(UseControls, ChangeTheMode) {

@@ -28,8 +28,8 @@ TEST(GridLayout, TakesAsFewAndLargeCellsAsTheAreaAllows) {
       {{419, 340}, 2, 96, 1, 2, 160, 172},
       // 340 by 100: 340, then 170, then 85 a column, then 50 a row.
       {{500, 120}, 16, 96, 8, 2, 42, 348},
-      // At 120 dpi: 200 and 12 (12.5).
-      {{520, 344}, 256, 120, 16, 16, 20, 334},
+      // At 120 dpi 200 are free for controls, the margin is 12 (12.5): 260 by 320.
+      {{460, 344}, 256, 120, 16, 16, 16, 270},
       // Less than nothing: 0 by 0, and -60 by -10.
       {{160, 20}, 4, 96, 4, 1, 0, 12},
       {{100, 10}, 4, 96, 1, 4, -60, -48},

@@ -159,6 +159,7 @@ TEST_F(GridSelectionTest, SelectsByKeys) {
       {SelectionMode::range, "p4 r sp6 h d7 r", "....####.. 2 7"},
       {SelectionMode::range, "p1 r cx2 cx3 m7 cx8", ".###...##. 3 8"},
       {SelectionMode::free, "p7 r x8", ".......##. 2 8"},
+      {SelectionMode::free, "m7 sp2 r x3", "..##...... 2 3"},
       {SelectionMode::free, "x4", "....#..... 1 4"},
       {SelectionMode::free, "x10", ".......... 0 none"},
       {SelectionMode::range, "p3 d4 x6", "...####... 2 6"},
