@@ -45,31 +45,19 @@ TEST(Generators, SpreadGreysAndLevelsEvenly) {
 TEST(SystemPalettes, AreThoseOfTheirCommands) {
   RecordingServices fakes;
   fakes.screenColors.resize(1500, {1, 2, 3});
-  const struct {
-    const char* menuText;
-    std::int32_t size;
-    std::uint32_t checksum;
-  } expected[] = {{"CGA (cold 2-bit)", 4, 0x239307A4},
-                  {"CGA (warm 2-bit)", 4, 0x1B9B05A6},
-                  {"CGA (mode 5 2-bit)", 4, 0x20EB06FA},
-                  {"&CGA (4-bit)", 16, 0xA8EA1794},
-                  {"&EGA", 64, 0xB2C15FA1},
-                  {"&VGA", 256, 0xD1E62C69},
-                  {"Web &safe", 256, 0x410B42CC},
-                  {"&Windows (4-bit)", 16, 0x968815C3},
-                  {"Windows &halftone", 1024, 0x18701801}};
+  const std::pair<std::int32_t, std::uint32_t> sizesAndChecksums[] = {
+      {4, 0x239307A4},   {4, 0x1B9B05A6},   {4, 0x20EB06FA},  {16, 0xA8EA1794},   {64, 0xB2C15FA1},
+      {256, 0xD1E62C69}, {256, 0x410B42CC}, {16, 0x968815C3}, {1024, 0x18701801},
+  };
   std::int32_t id = 2;
-  for (const auto& [menuText, size, checksum] : expected) {
+  for (const auto& [size, checksum] : sizesAndChecksums) {
     const Palette palette = createSystemPalette(id, fakes);
     EXPECT_EQ(palette.getSize(), size) << id;
     EXPECT_EQ(checksumOf(palette), checksum) << id;
     EXPECT_TRUE(selectedIndexes(palette).empty());
-    const SystemPalette& row = systemPalettes()[static_cast<std::size_t>(id) - 2];
-    EXPECT_EQ(row.commandId, id);
-    EXPECT_EQ(row.menuText, menuText);
+    EXPECT_EQ(systemPalettes()[static_cast<std::size_t>(id) - 2].commandId, id);
     ++id;
   }
-  EXPECT_EQ(part(createSystemPalette(9, fakes), 5, 8), "128,0,128 255,251,240 160,160,164 128,128,128");
   for (const std::int32_t none : {1, 11, -1}) {
     EXPECT_EQ(createSystemPalette(none, fakes), createSystemPalette(9, fakes));
   }

@@ -30,6 +30,10 @@ class Random {
 
 using MakeColor = std::function<PaletteEntry(Random& random)>;
 
+MakeColor always(PaletteEntry color) {
+  return [color](Random& /*random*/) { return color; };
+}
+
 // On and beside the borders of cells of 16.
 std::uint8_t atBorder(Random& random) {
   return static_cast<std::uint8_t>(std::clamp(16 * random.upTo(16) + random.upTo(2) - 1, 0, 255));
@@ -48,7 +52,7 @@ const std::vector<MakeColor> kColorKinds{
                           static_cast<std::uint8_t>(255 - dark.blue)};
     },
     [](Random& random) { return PaletteEntry{random.upTo(9), 255, random.upTo(200)}; },
-    [](Random& /*random*/) { return PaletteEntry{1, 2, 3}; },
+    always({1, 2, 3}),
     // Greys, and nearly so.
     [](Random& random) {
       const std::uint8_t level = random.upTo(255);
@@ -163,9 +167,9 @@ TEST(RemapIdentity, HoldsForIndexedImages) {
 
 // A flat image that a palette can't make up for: errors grow over all borders of cells until they wrap.
 TEST(RemapIdentity, HoldsWhereErrorsLeaveAnyRange) {
-  const MakeColor white = [](Random& /*random*/) { return PaletteEntry{255, 255, 255}; };
-  const MakeColor black = [](Random& /*random*/) { return PaletteEntry{}; };
-  const MakeColor mixed = [](Random& random) { return random.colorUpTo(255); };
+  const MakeColor white = always({255, 255, 255});
+  const MakeColor black = always({});
+  const MakeColor& mixed = kColorKinds[0];
   Random random(9);
   for (const auto& [size, kind, color] : {std::tuple{3, 3, white},
                                           {40, 3, white},
@@ -203,11 +207,10 @@ TEST(RemapIdentity, HoldsForProtectedColors) {
   Palette palette = paletteOf(50, kColorKinds[0], random);
   palette.setEntry(7, {9, 9, 9});
   palette.setEntry(30, {9, 9, 9});
-  const MakeColor everywhere = [](Random& /*random*/) { return PaletteEntry{9, 9, 9}; };
   const MakeColor often = [](Random& source) {
     return source.upTo(2) == 0 ? PaletteEntry{9, 9, 9} : source.colorUpTo(255);
   };
-  for (const MakeColor& make : {everywhere, often, kColorKinds[4]}) {
+  for (const MakeColor& make : {always({9, 9, 9}), often, kColorKinds[4]}) {
     const WorkImage image = imageOf(31, 33, 2, make, random);
     for (const std::int32_t entry : {7, 30, 49, 50, 256, -1}) {
       expectLiteral(image, palette, {RemapMode::dither, entry, {}});
