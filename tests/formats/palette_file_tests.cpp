@@ -52,12 +52,8 @@ TEST_F(PaletteFileTest, MakesAPaletteFromAnImageAsTheUserAnswers) {
   readPaletteFile(name, slot, fakes.services);
   EXPECT_EQ(fakes.takeLines(), "from image? 3\n");
   EXPECT_EQ(slot.document(), nullptr);
-  struct Case {
-    std::int32_t answer;
-    const char* expected;
-  };
   for (const auto& [answer, expected] :
-       {Case{2, "0,0,16 0,0,32"}, Case{4, "0,0,16 0,0,32 0,0,48 7,7,7"}, Case{-1, "0,0,32"}}) {
+       {std::pair{2, "0,0,16 0,0,32"}, {4, "0,0,16 0,0,32 0,0,48 7,7,7"}, {-1, "0,0,32"}}) {
     fakes.paletteFromImage = answer;
     const PaletteDocument& document = open(name);
     EXPECT_EQ(show(document.getPalette()), expected);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -16,15 +17,9 @@
 namespace quillhue {
 namespace {
 
-// samples.txt: file, reader, what it holds.
-struct Sample {
-  std::string file;
-  std::string reader;
-  std::string holds;
-};
-
-std::vector<Sample> allSamples() {
-  std::vector<Sample> samples;
+// File, reader, what it holds.
+std::vector<std::array<std::string, 3>> allSamples() {
+  std::vector<std::array<std::string, 3>> samples;
   for (const auto& row : readTable("samples.txt")) {
     samples.push_back({row.at(0), row.at(1), row.at(2)});
   }

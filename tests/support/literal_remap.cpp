@@ -22,11 +22,9 @@ std::int32_t product(std::int32_t a, std::int32_t b) {
 
 Color colorOf(const PaletteEntry& color) { return {color.blue, color.green, color.red}; }
 
-std::vector<Color> usedColors(const Palette& palette) {
+std::vector<Color> colorsOf(std::span<const PaletteEntry> entries) {
   std::vector<Color> colors;
-  for (std::int32_t i = 0; i < std::min(palette.getSize(), kMaxUsedEntries); ++i) {
-    colors.push_back(colorOf(palette.entry(i)));
-  }
+  std::ranges::transform(entries, std::back_inserter(colors), colorOf);
   return colors;
 }
 
@@ -133,16 +131,15 @@ class Ditherer {
 }  // namespace
 
 std::uint8_t literalNearest(std::span<const PaletteEntry> entries, const std::array<std::int32_t, 3>& target) {
-  std::vector<Color> colors;
-  std::ranges::transform(entries, std::back_inserter(colors), colorOf);
-  return nearestOf(colors, target);
+  return nearestOf(colorsOf(entries), target);
 }
 
 bool literalRemap(const WorkImage& image, const Palette& palette, const RemapOptions& options, RemappedImage& result,
                   RemapProgress& progress) {
-  const std::vector<Color> colors = usedColors(palette);
-  const std::vector<PaletteEntry> entries = entriesOf(palette);
-  result.prepare(image.width(), image.height(), std::span(entries).first(colors.size()));
+  std::vector<PaletteEntry> entries = entriesOf(palette);
+  entries.resize(std::min(entries.size(), std::size_t{kMaxUsedEntries}));
+  const std::vector<Color> colors = colorsOf(entries);
+  result.prepare(image.width(), image.height(), entries);
   const bool keepsIndexes = options.mode == RemapMode::maintain;
   Ditherer ditherer(image, colors, options);
   for (std::int32_t y = 0; y < image.height(); ++y) {
@@ -151,10 +148,7 @@ bool literalRemap(const WorkImage& image, const Palette& palette, const RemapOpt
       ditherer.remapRow(y, indexes);
     } else if (!keepsIndexes) {
       for (std::int32_t x = 0; x < image.width(); ++x) {
-        const auto column = static_cast<std::size_t>(x);
-        const Color pixel = pixelAt(image, x, y);
-        const bool isAsBefore = x > 0 && pixel == pixelAt(image, x - 1, y);
-        indexes[column] = isAsBefore ? indexes[column - 1] : nearestOf(colors, pixel);
+        indexes[static_cast<std::size_t>(x)] = nearestOf(colors, pixelAt(image, x, y));
       }
     } else if (image.palette()) {
       std::ranges::transform(image.row(y), indexes.begin(), [&](std::uint8_t index) {

@@ -24,11 +24,7 @@ Palette asMsDrawHasIt(const Palette& palette) {
   if (std::ranges::find(kept, PaletteEntry{}) == kept.end()) {
     kept.insert(kept.begin(), PaletteEntry{});
   }
-  Palette expected = createPalette(static_cast<std::int32_t>(kept.size()));
-  for (std::int32_t i = 0; i < expected.getSize(); ++i) {
-    expected.setEntry(i, kept[static_cast<std::size_t>(i)]);
-  }
-  return expected;
+  return paletteOf(kept);
 }
 
 // What comes back of the palette that was written.
