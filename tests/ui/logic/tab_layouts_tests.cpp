@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <array>
+#include <vector>
 
+#include "ui/logic/bars_layout.h"
 #include "ui/logic/effects_layout.h"
 #include "ui/logic/use_layout.h"
 #include "ui/logic/values_layout.h"
@@ -10,6 +11,29 @@ namespace quillhue {
 namespace {
 
 constexpr Size kScrollBar{17, 17};
+
+// What a drop-down list shows of its box while it is closed, in 1/96 inch.
+constexpr std::int32_t kClosedList = 24;
+
+Rect closed(Rect list, Scale scale) {
+  list.bottom = list.top + scale(kClosedList);
+  return list;
+}
+
+void expectApart(const std::vector<Rect>& boxes, const Rect& area, const std::string& where) {
+  for (std::size_t i = 0; i < boxes.size(); ++i) {
+    const Rect& one = boxes[i];
+    EXPECT_FALSE(one.isEmpty()) << where << ' ' << i;
+    EXPECT_TRUE(area.contains({one.left, one.top}) && area.contains({one.right - 1, one.bottom - 1}))
+        << where << ' ' << i;
+    for (std::size_t j = 0; j < i; ++j) {
+      const Rect& other = boxes[j];
+      EXPECT_TRUE(one.right <= other.left || other.right <= one.left || one.bottom <= other.top ||
+                  other.bottom <= one.top)
+          << where << ' ' << i << " over " << j;
+    }
+  }
+}
 
 TEST(ValuesLayout, PutsTheControlsBelowTheBars) {
   // The grid takes 320 + 12 of 482, so the middle of the rest is 407 (+ 20).
@@ -73,26 +97,39 @@ TEST(UseLayout, PutsTheViewLeftOfTheColumn) {
   EXPECT_EQ(large.labelArea, (Rect{644, 243, 716, 306}));
 }
 
-// In the smallest area that a tab has, with thick window frames.
-TEST(UseLayout, HasRoomForEveryControl) {
+// The smallest area that a tab has, with thick window frames: 400 by 245 at 96 dpi.
+TEST(TabLayouts, HaveRoomForEveryControl) {
   for (const std::int32_t dpi : {96, 120, 144, 192}) {
-    const Scale scale{dpi};
-    const Rect area = boxAt({10, 40}, scale({400, 245}));
-    const UseLayout use = useLayout(area, scale(kScrollBar), scale);
-    const std::array boxes{use.statusArea,   use.view,      use.horizontalBar, use.verticalBar,
-                           use.load,         use.maintain,  use.nearest,       use.dither,
-                           use.protectColor, use.color,     use.protectGrid,   use.gridWidth,
-                           use.gridHeight,   use.labelArea, use.process,       use.saveAs};
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-      const Rect& one = boxes[i];
-      EXPECT_FALSE(one.isEmpty()) << dpi << ' ' << i;
-      EXPECT_TRUE(area.contains({one.left, one.top}) && area.contains({one.right - 1, one.bottom - 1}))
-          << dpi << ' ' << i;
-      for (std::size_t j = 0; j < i; ++j) {
-        const Rect& other = boxes[j];
-        EXPECT_TRUE(one.right <= other.left || other.right <= one.left || one.bottom <= other.top ||
-                    other.bottom <= one.top)
-            << dpi << ' ' << i << " over " << j;
+    for (const Size units : {Size{400, 245}, Size{600, 300}, Size{1500, 700}}) {
+      for (const std::int32_t paletteSize : {1, 2, 256, 1024}) {
+        const Scale scale{dpi};
+        const Rect area = boxAt({10, 40}, scale(units));
+        const GridLayout grid(area, paletteSize, scale);
+        const std::string where = std::to_string(dpi) + ' ' + std::to_string(units.width);
+        Rect controls = area;
+        controls.left += grid.rightEdge();
+
+        const ValuesLayout values = valuesLayout(grid, scale);
+        const BarsLayout bars({values.surface.width(), values.surface.height()}, scale);
+        std::vector<Rect> boxes(values.fields.begin(), values.fields.end());
+        boxes.push_back(closed(values.modelList, scale));
+        for (const Bar bar : kBars) {
+          const Rect zone = bars.zone(bar);
+          boxes.push_back(
+              boxAt({values.surface.left + zone.left, values.surface.top + zone.top}, {zone.width(), zone.height()}));
+        }
+        expectApart(boxes, controls, "values " + where);
+
+        const EffectsLayout effects = effectsLayout(grid, scale);
+        expectApart({effects.red, effects.green, effects.blue, effects.preview, effects.reset, effects.value,
+                     closed(effects.effectList, scale), effects.apply},
+                    controls, "effects " + where);
+
+        const UseLayout use = useLayout(area, scale(kScrollBar), scale);
+        expectApart({use.statusArea, use.view, use.horizontalBar, use.verticalBar, use.load, use.maintain, use.nearest,
+                     use.dither, use.protectColor, use.color, use.protectGrid, use.gridWidth, use.gridHeight,
+                     use.labelArea, use.process, use.saveAs},
+                    area, "use " + where);
       }
     }
   }
