@@ -1,27 +1,17 @@
+#include <functional>
+
 #include "core/generators.h"
 #include "core/palette_format.h"
 #include "core/utf8.h"
-#include "formats/files.h"
 #include "support/bitmaps.h"
 #include "ui/logic/command_ids.h"
 #include "ui/resources/dialog_ids.h"
-#include "ui/support/drop.h"
 #include "ui/support/ui_test.h"
 
 namespace quillhue {
 namespace {
 
-class Documents : public UiTest {
- protected:
-  // Opens the file and changes its first entry, to black.
-  static void openAndModify(const Program& program) {
-    program.await("the editor", [&] { return tabControl(program); });
-    program.run(command_id::kClear);
-  }
-};
-
-// What happens at a place that discards the document, once that is allowed.
-enum class Then { asks, replaces, ends };
+class Documents : public UiTest {};
 
 TEST_F(Documents, AreNotDiscardedWithoutTheQuestion) {
   const std::wstring other = paletteFile("other.pal", brightPalette(3));
@@ -31,59 +21,55 @@ TEST_F(Documents, AreNotDiscardedWithoutTheQuestion) {
   const struct {
     std::string place;
     std::function<void(const Program&)> go;
-    Then then;
+    // The dialog that comes once it is allowed, if any.
     std::wstring asks{};
+    bool ends = false;
   } kPlaces[] = {
-      {"New blank", byCommand(command_id::kNewBlank), Then::asks, L"New palette properties"},
-      {"New greyscale", byCommand(command_id::kNewGreyscale), Then::asks, L"Palette size"},
-      {"New RGB", byCommand(command_id::kNewRgb), Then::asks, L"New palette properties"},
-      {"New system palette", byCommand(command_id::kFirstSystemPalette), Then::replaces},
-      {"Open", byCommand(command_id::kOpen), Then::asks, L"Open"},
-      {"a dropped file", [&](const Program& program) { dropFiles(program, {other}); }, Then::replaces},
-      {"Exit", byCommand(command_id::kExit), Then::ends},
-      {"the window's close", [](const Program& program) { program.post(program.window(), WM_CLOSE); }, Then::ends},
+      {"New blank", byCommand(command_id::kNewBlank), L"New palette properties"},
+      {"New greyscale", byCommand(command_id::kNewGreyscale), L"Palette size"},
+      {"New RGB", byCommand(command_id::kNewRgb), L"New palette properties"},
+      {"New system palette", byCommand(command_id::kFirstSystemPalette)},
+      {"Open", byCommand(command_id::kOpen), L"Open"},
+      {"a dropped file", [&](const Program& program) { program.drop({other}); }},
+      {"Exit", byCommand(command_id::kExit), L"", true},
+      {"the window's close", [](const Program& program) { program.post(program.window(), WM_CLOSE); }, L"", true},
   };
-  const Palette palette = brightPalette(4);
-  for (const int answer : {IDCANCEL, IDNO, IDYES}) {
-    for (const auto& [place, go, then, asks] : kPlaces) {
+  for (const int answer : {IDNO, IDYES}) {
+    for (const auto& [place, go, asks, ends] : kPlaces) {
       SCOPED_TRACE(place + ", answer " + std::to_string(answer));
-      const std::wstring file = paletteFile("own.pal", palette);
-      Program program({file});
-      openAndModify(program);
-      go(program);
-      EXPECT_EQ(answerMessage(program, L"Warning", answer), L"Do you want to save the current palette?");
-      if (answer == IDCANCEL) {
-        // It is as before, and asks again.
-        EXPECT_EQ(textOf(program.window()), L"Quillhue - own.pal");
-        EXPECT_EQ(statusText(program, 0), L"4 entries");
-        go(program);
-        answerMessage(program, L"Warning", IDCANCEL);
-        continue;
-      }
-      if (then == Then::asks) {
-        Dialog(program, asks).answer(IDCANCEL);
-      } else if (then == Then::replaces) {
-        program.await("another document", [&] { return textOf(program.window()) != L"Quillhue - own.pal"; });
+      Palette expected = brightPalette(4);
+      Editor& editor = open(expected);
+      editor.run(command_id::kClear);
+      // Canceled, it is as before, and asks again.
+      go(editor);
+      EXPECT_EQ(answerMessage(editor, L"Warning", IDCANCEL), L"Do you want to save the current palette?");
+      EXPECT_EQ(textOf(editor.window()), L"Quillhue - own.pal");
+      EXPECT_EQ(statusText(editor), L"4 entries");
+      go(editor);
+      EXPECT_EQ(answerMessage(editor, L"Warning", answer), L"Do you want to save the current palette?");
+      if (ends) {
+        EXPECT_EQ(editor.awaitEnd(), 0U);
+      } else if (!asks.empty()) {
+        Dialog(editor, asks).answer(IDCANCEL);
       } else {
-        EXPECT_EQ(program.awaitEnd(), 0U);
+        editor.await("another document", [&] { return textOf(editor.window()) != L"Quillhue - own.pal"; });
       }
-      Palette expected = palette;
       if (answer == IDYES) {
         expected.setEntry(0, {});
       }
-      EXPECT_EQ(show(paletteIn(file)), show(expected));
+      EXPECT_EQ(show(paletteIn(editor.file())), show(expected));
     }
   }
 }
 
 TEST_F(Documents, AreDiscardedAtOnceWhenUnmodified) {
-  Program program({paletteFile("own.pal", brightPalette(4))});
-  openAndModify(program);
-  program.run(command_id::kUndo);
-  program.run(command_id::kNewWindows);
-  EXPECT_EQ(textOf(program.window()), L"Quillhue - Untitled");
-  EXPECT_EQ(statusText(program, 0), L"16 entries");
-  program.close();
+  Editor& editor = open(brightPalette(4));
+  editor.run(command_id::kClear);
+  editor.run(command_id::kUndo);
+  editor.run(command_id::kNewWindows);
+  EXPECT_EQ(textOf(editor.window()), L"Quillhue - Untitled");
+  EXPECT_EQ(statusText(editor), L"16 entries");
+  editor.close();
 }
 
 TEST_F(Documents, OfADialogAreModified) {
@@ -96,7 +82,7 @@ TEST_F(Documents, OfADialogAreModified) {
     dialog.answer(IDOK);
   }
   program.awaitTitle(L"Quillhue - Untitled");
-  EXPECT_EQ(statusText(program, 0), L"3 entries");
+  EXPECT_EQ(statusText(program), L"3 entries");
   // Saving an untitled document that is about to be discarded asks for a name; without one it stays.
   program.post(program.window(), WM_CLOSE);
   answerMessage(program, L"Warning", IDYES);
@@ -120,67 +106,55 @@ TEST_F(Documents, AreSavedUnderANameWithItsExtension) {
       {palette_format::kJasc, "four.jpeg", "four.jpeg.pal"}, {palette_format::kGimp, "needs none", "needs none"},
       {palette_format::kCsv, "lines", "lines.csv"},
   };
-  Program program({paletteFile("own.pal", brightPalette(4))});
-  program.await("the editor", [&] { return tabControl(program); });
+  Editor& editor = open(brightPalette(4));
+  const auto saveAs = [&](const char* name, PaletteFormat type) {
+    editor.start(command_id::kSaveAs);
+    chooseFile(editor, L"Save As", folder_.name(name), static_cast<int>(type) - 1);
+  };
   for (const auto& [type, typed, written] : kCases) {
-    program.start(command_id::kSaveAs);
-    chooseFile(program, L"Save As", folder_.name(typed), static_cast<int>(type) - 1);
-    program.awaitTitle(L"Quillhue - " + fromUtf8(written));
+    saveAs(typed, type);
+    editor.awaitTitle(L"Quillhue - " + fromUtf8(written));
     EXPECT_TRUE(fileExists(folder_.name(written))) << written;
   }
   // A file that is there is asked for once, and the name with its extension counts.
   const std::string before = folder_.contentOf("plain.pal");
-  program.run(command_id::kClear);
+  editor.run(command_id::kClear);
   for (const int answer : {IDNO, IDYES}) {
-    program.start(command_id::kSaveAs);
-    chooseFile(program, L"Save As", folder_.name("plain"), palette_format::kJasc - 1);
-    EXPECT_EQ(answerMessage(program, L"Save As", answer), L"This file already exists.\nDo you want to replace it?");
-    if (answer == IDNO) {
-      EXPECT_EQ(folder_.contentOf("plain.pal"), before);
-      EXPECT_EQ(textOf(program.window()), L"Quillhue - lines.csv");
-    }
+    EXPECT_EQ(folder_.contentOf("plain.pal"), before);
+    EXPECT_EQ(textOf(editor.window()), L"Quillhue - lines.csv");
+    saveAs("plain", palette_format::kJasc);
+    EXPECT_EQ(answerMessage(editor, L"Save As", answer), L"This file already exists.\nDo you want to replace it?");
   }
-  program.awaitTitle(L"Quillhue - plain.pal");
+  editor.awaitTitle(L"Quillhue - plain.pal");
   EXPECT_NE(folder_.contentOf("plain.pal"), before);
-  program.close();
-}
-
-TEST_F(Documents, TellWhyTheyCantBeSaved) {
-  const std::wstring large = paletteFile("large.pal", brightPalette(300));
-  Program program({large});
-  program.await("the editor", [&] { return tabControl(program); });
-  program.start(command_id::kSaveAs);
-  chooseFile(program, L"Save As", folder_.name("large"), palette_format::kAdobeColorTable - 1);
-  EXPECT_EQ(answerMessage(program, L"Error", IDOK),
+  // What the format can't hold is told, and nothing is written.
+  editor.drop({paletteFile("large.pal", brightPalette(300))});
+  editor.awaitTitle(L"Quillhue - large.pal");
+  saveAs("large", palette_format::kAdobeColorTable);
+  EXPECT_EQ(answerMessage(editor, L"Error", IDOK),
             L"The palette is too large for the selected format.\n"
             L"Use the Gimp, RIFF, or Windows Clipboard format instead.");
-  EXPECT_EQ(textOf(program.window()), L"Quillhue - large.pal");
+  EXPECT_EQ(textOf(editor.window()), L"Quillhue - large.pal");
   EXPECT_FALSE(fileExists(folder_.name("large.act")));
-  program.close();
+  editor.close();
 }
 
-TEST_F(Documents, ComeFromDroppedFiles) {
+TEST_F(Documents, ComeFromFiles) {
   const std::wstring first = paletteFile("first.pal", brightPalette(3));
   const std::wstring second = paletteFile("second.pal", brightPalette(7));
   Program program;
-  dropFiles(program, {first, second});
+  program.start(command_id::kOpen);
+  chooseFile(program, L"Open", paletteFile("chosen.pal", brightPalette(9)));
+  program.awaitTitle(L"Quillhue - chosen.pal");
+  EXPECT_EQ(statusText(program), L"9 entries");
+  program.drop({first, second});
   program.awaitTitle(L"Quillhue - first.pal");
-  EXPECT_EQ(statusText(program, 0), L"3 entries");
-  dropFiles(program, {second});
+  EXPECT_EQ(statusText(program), L"3 entries");
+  program.drop({second});
   program.awaitTitle(L"Quillhue - second.pal");
-  dropFiles(program, {folder_.name("missing.pal")});
+  program.drop({folder_.name("missing.pal")});
   EXPECT_EQ(answerMessage(program, L"Error", IDOK), L"Could not open the file.");
   EXPECT_EQ(textOf(program.window()), L"Quillhue - second.pal");
-  program.close();
-}
-
-TEST_F(Documents, ComeFromTheOpenDialog) {
-  const std::wstring file = paletteFile("chosen.pal", brightPalette(9));
-  Program program;
-  program.start(command_id::kOpen);
-  chooseFile(program, L"Open", file);
-  program.awaitTitle(L"Quillhue - chosen.pal");
-  EXPECT_EQ(statusText(program, 0), L"9 entries");
   program.close();
 }
 
@@ -189,7 +163,7 @@ TEST_F(Documents, ComeFromTheColorsOfAnImage) {
   const std::wstring image = folder_.file("image.bmp", bitmapOf(2, 24, {1, 2, 3, 3}));
   Program program;
   {
-    dropFiles(program, {image});
+    program.drop({image});
     const Dialog dialog(program, L"Create from image");
     EXPECT_NE(
         dialog.text().find(L"This image does not have a palette, but its\ncolors can be used to create a new one.\n"
@@ -212,23 +186,21 @@ TEST_F(Documents, ComeFromTheColorsOfAnImage) {
   const struct {
     const wchar_t* size;
     int button;
-    const wchar_t* entries;
+    std::wstring entries;
   } kCases[] = {{L"3", FROM_IMAGE_USE_ALL, L"3 entries"},
                 {L"1", FROM_IMAGE_USE_ALL, L"3 entries"},
                 {L"7", FROM_IMAGE_USE_ALL, L"7 entries"},
                 {L"2", FROM_IMAGE_REDUCE, L"2 entries"}};
-  bool isModified = false;
   for (const auto& [size, button, entries] : kCases) {
-    dropFiles(program, {image});
-    if (isModified) {
+    program.drop({image});
+    if (&size != &kCases[0].size) {
       answerMessage(program, L"Warning", IDNO);
     }
     const Dialog dialog(program, L"Create from image");
     dialog.type(FROM_IMAGE_SIZE, size);
     dialog.answer(button);
     program.awaitTitle(L"Quillhue - Untitled");
-    program.await("the entries", [&] { return statusText(program, 0) == entries; });
-    isModified = true;
+    program.awaitEqual(entries, [&] { return statusText(program); });
   }
 }
 

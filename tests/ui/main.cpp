@@ -3,27 +3,10 @@
 
 #include <cstdlib>
 #include <iostream>
-#include <optional>
 
 #include "core/utf8.h"
 #include "ui/support/program.h"
 #include "ui/support/registry.h"
-
-namespace quillhue {
-namespace {
-
-/// Gives the user back the settings of before.
-class SettingsOfBefore : public testing::Environment {
- public:
-  void SetUp() override { before_ = storedSettings(); }
-  void TearDown() override { store(before_); }
-
- private:
-  std::optional<StoredSettings> before_;
-};
-
-}  // namespace
-}  // namespace quillhue
 
 /// ui_tests [FLAG...] PROGRAM: tests the editor, which is the file PROGRAM.
 int main(int argumentCount, char** arguments) {
@@ -37,6 +20,9 @@ int main(int argumentCount, char** arguments) {
   // A program that crashes ends at once.
   SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
   quillhue::Program::setFile(quillhue::fromUtf8(arguments[1]));
-  testing::AddGlobalTestEnvironment(new quillhue::SettingsOfBefore);
-  return RUN_ALL_TESTS();
+  // The user gets the settings of before back.
+  const quillhue::StoredSettings before = quillhue::storedSettings();
+  const int result = RUN_ALL_TESTS();
+  quillhue::store(before);
+  return result;
 }

@@ -13,102 +13,96 @@ class Settings : public UiTest {
   const Size least_ = minimumWindowSize(scale_);
   const Size usual_ = defaultWindowSize(scale_);
 
-  [[nodiscard]] StoredSettings defaults() const {
-    return {{"Window width", storedNumber(static_cast<std::uint32_t>(usual_.width))},
-            {"Window height", storedNumber(static_cast<std::uint32_t>(usual_.height))},
-            {"Palette size", storedNumber(256)},
-            {"Blank", storedBytes({0, 0, 0})},
-            {"Windows colors", storedBytes({0})},
-            {"RGB levels", storedBytes({6, 7, 6})},
-            {"Color mode", storedBytes({4})},
-            {"Effect", storedBytes({5})},
-            {"Selection mode", storedBytes({0})}};
-  }
+  const StoredSettings defaults_{{"Window width", storedNumber(usual_.width)},
+                                 {"Window height", storedNumber(usual_.height)},
+                                 {"Palette size", storedNumber(256)},
+                                 {"Blank", storedBytes({0, 0, 0})},
+                                 {"Windows colors", storedBytes({0})},
+                                 {"RGB levels", storedBytes({6, 7, 6})},
+                                 {"Color mode", storedBytes({4})},
+                                 {"Effect", storedBytes({5})},
+                                 {"Selection mode", storedBytes({0})}};
 };
 
-TEST_F(Settings, OfAFirstStartAreTheDefaults) {
-  Program program;
-  EXPECT_EQ(outerSizeOf(program.window()), usual_);
-  program.close();
-  EXPECT_EQ(storedSettings(), defaults());
+TEST_F(Settings, OfAFirstStartAreTheDefaultsAndTheSizeOfTheWindowIsKept) {
+  Program first;
+  EXPECT_EQ(outerSizeOf(first.window()), usual_);
+  first.close();
+  EXPECT_EQ(storedSettings(), defaults_);
+  const Size size{least_.width + 31, least_.height + 17};
+  Program second;
+  second.resize(size);
+  second.close();
+  const Program third;
+  EXPECT_EQ(outerSizeOf(third.window()), size);
 }
 
 // What a start takes and the exit writes, for each value alone.
 TEST_F(Settings, AreCheckedWhenRead) {
-  const auto number = [](std::int32_t value) { return storedNumber(static_cast<std::uint32_t>(value)); };
+  const StoredValue text{REG_SZ, {'9', 0, '0', 0, '0', 0, 0, 0}};
   const struct {
+    // A start takes its time, so each takes a case of every value.
+    int start;
     const char* name;
     StoredValue stored;
     StoredValue written;
   } kCases[] = {
-      {"Window width", number(100), number(least_.width)},
-      {"Window width", number(least_.width + 1), number(least_.width + 1)},
-      {"Window width", number(0xFFFF), number(least_.width)},
-      {"Window width", number(0x10000 + 700), number(700)},
-      {"Window width", storedText("900"), number(usual_.width)},
-      {"Window height", number(0), number(least_.height)},
-      {"Window height", number(-5), number(least_.height)},
-      {"Window height", number(0x7F0000 + 600), number(600)},
-      {"Window height", storedBytes({100, 2, 0, 0}), number(usual_.height)},
-      {"Palette size", number(1), number(1)},
-      {"Palette size", number(1024), number(1024)},
-      {"Palette size", number(5000), number(1024)},
-      {"Palette size", number(-1), number(1024)},
-      {"Blank", storedBytes({1, 2, 255}), storedBytes({1, 2, 255})},
-      {"Blank", storedBytes({1, 2}), storedBytes({0, 0, 0})},
-      {"Blank", storedBytes({1, 2, 3, 4}), storedBytes({0, 0, 0})},
-      {"Windows colors", storedBytes({1}), storedBytes({1})},
-      {"Windows colors", number(1), storedBytes({0})},
-      {"RGB levels", storedBytes({2, 0, 255}), storedBytes({2, 0, 255})},
-      {"Color mode", storedBytes({8}), storedBytes({8})},
-      {"Color mode", storedBytes({9}), storedBytes({4})},
-      {"Effect", storedBytes({14}), storedBytes({14})},
-      {"Effect", storedBytes({15}), storedBytes({5})},
-      {"Selection mode", storedBytes({2}), storedBytes({2})},
-      {"Selection mode", storedBytes({3}), storedBytes({0})},
+      {0, "Window width", storedNumber(100), storedNumber(least_.width)},
+      {1, "Window width", storedNumber(least_.width + 1), storedNumber(least_.width + 1)},
+      {2, "Window width", storedNumber(0xFFFF), storedNumber(least_.width)},
+      {3, "Window width", storedNumber(0x10000 + 700), storedNumber(700)},
+      {4, "Window width", text, storedNumber(usual_.width)},
+      {0, "Window height", storedNumber(0), storedNumber(least_.height)},
+      {1, "Window height", storedNumber(-5), storedNumber(least_.height)},
+      {2, "Window height", storedNumber(0x7F0000 + 600), storedNumber(600)},
+      {3, "Window height", storedBytes({100, 2, 0, 0}), storedNumber(usual_.height)},
+      {0, "Palette size", storedNumber(1), storedNumber(1)},
+      {1, "Palette size", storedNumber(1024), storedNumber(1024)},
+      {2, "Palette size", storedNumber(5000), storedNumber(1024)},
+      {3, "Palette size", storedNumber(-1), storedNumber(1024)},
+      {0, "Blank", storedBytes({1, 2, 255}), storedBytes({1, 2, 255})},
+      {1, "Blank", storedBytes({1, 2}), storedBytes({0, 0, 0})},
+      {2, "Blank", storedBytes({1, 2, 3, 4}), storedBytes({0, 0, 0})},
+      {0, "Windows colors", storedBytes({1}), storedBytes({1})},
+      {1, "Windows colors", storedNumber(1), storedBytes({0})},
+      {0, "RGB levels", storedBytes({2, 0, 255}), storedBytes({2, 0, 255})},
+      {0, "Color mode", storedBytes({8}), storedBytes({8})},
+      {1, "Color mode", storedBytes({9}), storedBytes({4})},
+      {0, "Effect", storedBytes({14}), storedBytes({14})},
+      {1, "Effect", storedBytes({15}), storedBytes({5})},
+      {0, "Selection mode", storedBytes({1}), storedBytes({1})},
+      {1, "Selection mode", storedBytes({2}), storedBytes({2})},
+      {2, "Selection mode", storedBytes({3}), storedBytes({0})},
   };
-  // A start takes its time, so each takes the next case of every value.
-  std::map<std::string, std::size_t> count;
-  std::vector<std::vector<std::size_t>> starts;
-  for (std::size_t i = 0; i < std::size(kCases); ++i) {
-    const std::size_t start = count[kCases[i].name]++;
-    starts.resize(std::max(starts.size(), start + 1));
-    starts[start].push_back(i);
-  }
-  for (const auto& cases : starts) {
+  for (int start = 0; start < 5; ++start) {
+    SCOPED_TRACE(start);
     StoredSettings stored{{"Unknown", storedNumber(7)}};
-    StoredSettings written = defaults();
+    StoredSettings written = defaults_;
     written["Unknown"] = storedNumber(7);
-    for (const std::size_t i : cases) {
-      stored[kCases[i].name] = kCases[i].stored;
-      written[kCases[i].name] = kCases[i].written;
+    for (const auto& each : kCases) {
+      if (each.start == start) {
+        stored[each.name] = each.stored;
+        written[each.name] = each.written;
+      }
     }
     store(stored);
     Program program;
     const Size size = outerSizeOf(program.window());
-    EXPECT_EQ(number(size.width), written["Window width"]);
-    EXPECT_EQ(number(size.height), written["Window height"]);
-    program.close();
-    const StoredSettings after = storedSettings().value_or(StoredSettings{});
-    for (const auto& [name, value] : written) {
-      EXPECT_EQ(after.at(name), value) << name;
+    EXPECT_EQ(storedNumber(size.width), written["Window width"]);
+    EXPECT_EQ(storedNumber(size.height), written["Window height"]);
+    for (std::uint8_t mode = 0; mode < 3; ++mode) {
+      EXPECT_EQ(menuBarItem(program, command_id::kFreeSelection + mode).isChecked,
+                written["Selection mode"] == storedBytes({mode}));
     }
+    program.close();
+    EXPECT_EQ(storedSettings(), written);
   }
 }
 
-TEST_F(Settings, KeepTheSizeOfTheWindow) {
-  Program first;
-  SetWindowPos(first.window(), nullptr, 0, 0, least_.width + 31, least_.height + 17, SWP_NOMOVE | SWP_NOZORDER);
-  first.close();
-  Program second;
-  EXPECT_EQ(outerSizeOf(second.window()), (Size{least_.width + 31, least_.height + 17}));
-  second.close();
-}
-
 TEST_F(Settings, FillTheDialogForANewPalette) {
-  store(StoredSettings{{"Palette size", storedNumber(5000)},
-                       {"Windows colors", storedBytes({1})},
-                       {"RGB levels", storedBytes({2, 3, 4})}});
+  store({{"Palette size", storedNumber(5000)},
+         {"Windows colors", storedBytes({1})},
+         {"RGB levels", storedBytes({2, 3, 4})}});
   Program program;
   program.start(command_id::kNewRgb);
   {
@@ -127,18 +121,7 @@ TEST_F(Settings, FillTheDialogForANewPalette) {
     dialog.answer(IDCANCEL);
   }
   program.close();
-  EXPECT_EQ(storedSettings().value_or(StoredSettings{}).at("Palette size"), storedNumber(43));
-}
-
-TEST_F(Settings, TellTheSelectionMode) {
-  for (std::uint8_t mode = 0; mode < 3; ++mode) {
-    store(StoredSettings{{"Selection mode", storedBytes({mode})}});
-    Program program;
-    for (std::int32_t each = 0; each < 3; ++each) {
-      EXPECT_EQ(menuBarItem(program, command_id::kFreeSelection + each).isChecked, each == mode);
-    }
-    program.close();
-  }
+  EXPECT_EQ(storedSettings()["Palette size"], storedNumber(43));
 }
 
 }  // namespace

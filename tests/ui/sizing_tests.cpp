@@ -1,3 +1,4 @@
+#include "core/utf8.h"
 #include "ui/logic/frame_layout.h"
 #include "ui/logic/intro_layout.h"
 #include "ui/logic/window_size.h"
@@ -16,8 +17,9 @@ class Sizing : public UiTest {
     RECT box{window.left, window.top, window.right, window.bottom};
     EXPECT_EQ(program.ask(program.window(), WM_SIZING, static_cast<WPARAM>(edge), reinterpret_cast<LPARAM>(&box)),
               TRUE);
-    return {box.left, box.top, box.right, box.bottom};
+    return boxFrom(box);
   }
+  static Rect statusBarBox(const Program& program) { return boxInParent(program.control(L"msctls_statusbar32")); }
 };
 
 TEST_F(Sizing, StopsAtTheLeastSize) {
@@ -41,59 +43,43 @@ TEST_F(Sizing, StopsAtTheLeastSize) {
   };
   for (const auto& [edge, result] : kCases) {
     // The message alone may leave the sides that no edge of the drag can change.
-    const Rect after = dragged(program, small, edge);
-    EXPECT_EQ(after, result) << static_cast<int>(edge);
+    EXPECT_EQ(dragged(program, small, edge), result) << static_cast<int>(edge);
     EXPECT_EQ(dragged(program, large, edge), large) << static_cast<int>(edge);
   }
 }
 
 TEST_F(Sizing, LayoutOfTheIntroScreenFollowsTheWindow) {
-  Program program;
+  const Program program;
   HWND window = program.window();
-  for (const Size size : {Size{}, least_, Size{least_.width + 201, least_.height + 83}, least_}) {
-    if (size.width != 0) {
-      SetWindowPos(window, nullptr, 0, 0, size.width, size.height, SWP_NOMOVE | SWP_NOZORDER);
-    }
+  const Size first = outerSizeOf(window);
+  for (const Size size : {first, least_, Size{least_.width + 201, least_.height + 83}, least_}) {
+    program.resize(size);
     const Size client = clientSizeOf(window);
-    HWND statusBar = findControl(window, L"msctls_statusbar32");
-    const Rect bar = boxInParent(statusBar);
+    const Rect bar = statusBarBox(program);
     EXPECT_EQ(bar, (Rect{0, client.height - bar.height(), client.width, client.height}));
     EXPECT_GT(bar.height(), 0);
     for (const IntroButton& button : introButtons()) {
-      const std::wstring text(button.text.begin(), button.text.end());
-      HWND control = findControl(window, L"Button", text.c_str());
-      ASSERT_NE(control, nullptr) << button.text;
-      EXPECT_EQ(boxInParent(control), introButtonBox(button, {client.width, client.height - bar.height()}, scale_))
+      EXPECT_EQ(boxInParent(program.button(fromUtf8(button.text).c_str())),
+                introButtonBox(button, {client.width, client.height - bar.height()}, scale_))
           << button.text;
     }
+    // The numbers that the formulas are written for, without the formulas.
+    const Rect blank = boxInParent(program.button(L"Blank"));
+    const bool is144 = scale_.dpi == 144;
+    EXPECT_EQ(blank.width(), is144 ? 96 : 64);
+    EXPECT_EQ(blank.left, client.width / 2 - (is144 ? 264 : 176));
   }
-  program.close();
-}
-
-// The numbers that the formulas are written for, without the formulas.
-TEST_F(Sizing, LayoutOfTheFirstButton) {
-  const Program program;
-  const Size client = clientSizeOf(program.window());
-  const Rect blank = boxInParent(findControl(program.window(), L"Button", L"Blank"));
-  const bool is144 = scale_.dpi == 144;
-  EXPECT_EQ(blank.width(), is144 ? 96 : 64);
-  EXPECT_EQ(blank.left, client.width / 2 - (is144 ? 264 : 176));
 }
 
 TEST_F(Sizing, LayoutOfTheEditorFollowsTheWindow) {
-  Program program({paletteFile("a.pal", brightPalette(16))});
-  program.await("the editor", [&] { return tabControl(program) != nullptr; });
-  HWND window = program.window();
+  const Editor& editor = open(brightPalette(16));
   const std::int32_t gap = scale_.dpi == 144 ? 6 : 4;
-  for (const Size size : {Size{}, least_, Size{least_.width + 333, least_.height + 101}}) {
-    if (size.width != 0) {
-      SetWindowPos(window, nullptr, 0, 0, size.width, size.height, SWP_NOMOVE | SWP_NOZORDER);
-    }
-    const Size client = clientSizeOf(window);
-    const Rect bar = boxInParent(findControl(window, L"msctls_statusbar32"));
-    EXPECT_EQ(boxInParent(tabControl(program)), (Rect{gap, gap, client.width - gap, bar.top - gap}));
+  const Size first = outerSizeOf(editor.window());
+  for (const Size size : {first, least_, Size{least_.width + 333, least_.height + 101}}) {
+    editor.resize(size);
+    EXPECT_EQ(boxInParent(tabControl(editor)),
+              (Rect{gap, gap, clientSizeOf(editor.window()).width - gap, statusBarBox(editor).top - gap}));
   }
-  program.close();
 }
 
 }  // namespace

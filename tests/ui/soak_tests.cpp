@@ -2,16 +2,17 @@
 // Needs windows.h before it.
 #include <commctrl.h>
 
+#include <concepts>
 #include <cstdlib>
 #include <iostream>
 #include <random>
 
 #include "core/palette_format.h"
+#include "core/utf8.h"
 #include "support/bitmaps.h"
 #include "ui/logic/command_ids.h"
 #include "ui/logic/command_table.h"
 #include "ui/resources/dialog_ids.h"
-#include "ui/support/drop.h"
 #include "ui/support/input.h"
 #include "ui/support/menus.h"
 #include "ui/support/resources.h"
@@ -32,174 +33,146 @@ class Soak : public UiTest {
     const unsigned seed = given != nullptr ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : 20'260'704U;
     std::cout << "QUILLHUE_SOAK_SEED=" << seed << '\n';
     random_.seed(seed);
-    files_ = {paletteFile("one.pal", brightPalette(1)), paletteFile("some.pal", brightPalette(37)),
-              paletteFile("many.pal", brightPalette(1024)), folder_.file("unknown.xyz", bytesOf("nothing")),
-              folder_.file("image.bmp", bitmapOf(2, 24, {1, 2, 3, 4}))};
   }
 
   // 0 .. count - 1, the same with every library.
-  int any(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
-
-  void act(const Program& program) {
-    switch (any(8)) {
-      case 0:
-      case 1:
-        return sendCommand(program);
-      case 2:
-      case 3:
-        return pressSomeKey(program);
-      case 4:
-      case 5:
-        return clickSomewhere(program);
-      case 6:
-        return changeSize(program);
-      default:
-        return any(3) == 0
-                   ? dropFiles(program, {files_[static_cast<std::size_t>(any(static_cast<int>(files_.size())))]})
-                   : choose(program);
-    }
+  int any(std::integral auto count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
+  template <typename Items>
+  auto anyOf(const Items& items) {
+    return std::data(items)[any(std::size(items))];
   }
 
-  // Closes what is open, by its buttons or by Escape. True when there was something.
-  bool answerAll(const Program& program) {
-    bool answered = false;
-    for (int i = 0; i < 20; ++i) {
-      if (showsMenu(program)) {
-        program.post(program.window(), WM_CANCELMODE);
-        answered = true;
-      }
-      HWND dialog = openDialog(program);
-      if (dialog == nullptr && !showsMenu(program)) {
-        return answered;
+  void act() {
+    constexpr void (Soak::* kActs[])() = {&Soak::sendCommand,  &Soak::sendCommand,    &Soak::pressSomeKey,
+                                          &Soak::pressSomeKey, &Soak::clickSomewhere, &Soak::clickSomewhere,
+                                          &Soak::changeSize,   &Soak::chooseOrDrop};
+    (this->*anyOf(kActs))();
+  }
+
+  // Closes what is open, by its buttons or by Escape.
+  void answerAll() {
+    constexpr int kMost = 20;
+    for (int i = 0; i < kMost; ++i) {
+      HWND dialog = editor().topWindow(kDialogClass);
+      if (showsMenu(editor())) {
+        editor().post(editor().window(), WM_CANCELMODE);
+      } else if (dialog == nullptr) {
+        return;
       }
       if (dialog != nullptr) {
-        answer(program, dialog);
-        answered = true;
+        answer(dialog);
       }
-      program.ask(program.window(), WM_NULL);
+      editor().ask(editor().window(), WM_NULL);
     }
-    throw ProgramError("dialogs don't end; " + program.description());
+    throw ProgramError("dialogs don't end; " + editor().description());
+  }
+
+  std::string saveTo(const std::string& name) {
+    editor().start(command_id::kSaveAs);
+    chooseFile(editor(), L"Save As", folder_.name(name), palette_format::kGimp - 1);
+    editor().awaitTitle(L"Quillhue - " + fromUtf8(name));
+    return folder_.contentOf(name);
   }
 
  private:
-  void sendCommand(const Program& program) {
-    const auto all = commands();
-    const std::int32_t id = all[static_cast<std::size_t>(any(static_cast<int>(all.size())))].id;
+  void sendCommand() {
+    const std::int32_t id = anyOf(commands()).id;
     if (id != command_id::kExit && id != command_id::kReadMe) {
-      program.start(id);
+      editor().start(id);
     }
   }
 
-  void pressSomeKey(const Program& program) {
+  void pressSomeKey() {
     constexpr int kKeys[] = {VK_TAB,   VK_SPACE, VK_RETURN, VK_LEFT,   VK_RIGHT, VK_UP, VK_DOWN, VK_HOME, VK_END,
                              VK_PRIOR, VK_NEXT,  VK_APPS,   VK_DELETE, '1',      '2',   '9',     VK_BACK, VK_TAB};
     constexpr int kLetters[] = {'Z', 'Y', 'X', 'C', 'V', 'A', 'I', 'R'};
-    activate(program);
+    activate(editor());
     if (any(3) == 0) {
-      pressKey(kLetters[any(std::size(kLetters))], {VK_CONTROL});
+      pressKey(anyOf(kLetters), {VK_CONTROL});
     } else if (any(4) == 0) {
-      pressKey(kKeys[any(std::size(kKeys))], {VK_SHIFT});
+      pressKey(anyOf(kKeys), {VK_SHIFT});
     } else {
-      pressKey(kKeys[any(std::size(kKeys))]);
+      pressKey(anyOf(kKeys));
     }
   }
 
-  void clickSomewhere(const Program& program) {
-    const Size size = clientSizeOf(program.window());
-    const auto somewhere = [&] { return onScreen(program.window(), {any(size.width), any(size.height)}); };
+  Point somewhere() {
+    const Size size = clientSizeOf(editor().window());
+    return onScreen(editor().window(), {any(size.width), any(size.height)});
+  }
+
+  void clickSomewhere() {
     // The order of a call's arguments is the compiler's.
     const Point from = somewhere();
     const Point to = somewhere();
     switch (any(4)) {
       case 0:
-        return clickAt(program, from, Button::right);
+        return clickAt(editor(), from, Button::right);
       case 1:
-        activate(program);
-        moveTo(program, from);
+        activate(editor());
+        moveTo(editor(), from);
         return turnWheel(any(7) - 3);
       case 2:
-        return clickAt(program, from);
+        return clickAt(editor(), from);
       default:
-        return drag(program, {from, to});
+        return editor().drag({from, to});
     }
   }
 
-  void changeSize(const Program& program) {
-    const int width = 436 + any(700);
-    const int height = 376 + any(500);
-    SetWindowPos(program.window(), nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
-  }
+  void changeSize() { editor().resize({436 + any(700), 376 + any(500)}); }
 
-  // Another page, or an item of the list that is shown.
-  void choose(const Program& program) {
-    HWND list = findControl(program.window(), L"ComboBox");
-    if (list == nullptr || any(2) == 0) {
-      program.ask(tabControl(program), TCM_SETCURFOCUS, static_cast<WPARAM>(any(3)));
-      return;
+  // A file, another page, or an item of the list that is shown.
+  void chooseOrDrop() {
+    if (any(3) == 0) {
+      editor().drop({anyOf(files_)});
+    } else if (findControl(editor().window(), L"ComboBox") == nullptr || any(2) == 0) {
+      editor().ask(tabControl(editor()), TCM_SETCURFOCUS, static_cast<WPARAM>(any(3)));
+    } else {
+      editor().choose(static_cast<std::size_t>(any(9)));
     }
-    program.ask(list, CB_SETCURSEL, static_cast<WPARAM>(any(9)));
-    program.ask(program.window(), WM_COMMAND, MAKEWPARAM(0, CBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
   }
 
-  static HWND openDialog(const Program& program) {
-    for (HWND window : program.topWindows()) {
-      if (windowClass(window) == L"#32770" && IsWindowEnabled(window) != 0) {
-        return window;
-      }
-    }
-    return nullptr;
-  }
-
-  void answer(const Program& program, HWND dialog) {
+  void answer(HWND dialog) {
+    const auto has = [&](int id) { return GetDlgItem(dialog, id) != nullptr; };
     // Of files and colors none is chosen, and nothing is saved.
-    const bool isSystems = findControl(dialog, L"ComboBox") != nullptr || GetDlgItem(dialog, kColorRed) != nullptr;
+    const bool isSystems = findControl(dialog, L"ComboBox") != nullptr || has(kColorRed);
     int button = IDCANCEL;
-    if (GetDlgItem(dialog, IDNO) != nullptr) {
+    if (has(IDNO)) {
       button = IDNO;
-    } else if (!isSystems && GetDlgItem(dialog, IDOK) != nullptr &&
-               (GetDlgItem(dialog, IDCANCEL) == nullptr || any(2) == 0)) {
+    } else if (!isSystems && has(IDOK) && (!has(IDCANCEL) || any(2) == 0)) {
       button = IDOK;
-    } else if (GetDlgItem(dialog, FROM_IMAGE_REDUCE) != nullptr && any(2) == 0) {
+    } else if (has(FROM_IMAGE_REDUCE) && any(2) == 0) {
       button = FROM_IMAGE_REDUCE;
     }
     PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
-    program.await("the dialog's answer", [&] { return openDialog(program) != dialog; });
+    editor().await("the dialog's answer", [&] { return editor().topWindow(kDialogClass) != dialog; });
   }
 
   std::mt19937 random_;
-  std::vector<std::wstring> files_;
+  const std::vector<std::wstring> files_{
+      paletteFile("one.pal", brightPalette(1)), paletteFile("some.pal", brightPalette(37)),
+      paletteFile("many.pal", brightPalette(1024)), folder_.file("unknown.xyz", bytesOf("nothing")),
+      folder_.file("image.bmp", bitmapOf(2, 24, {1, 2, 3, 4}))};
 };
 
 TEST_F(Soak, EndsWithADocumentThatCanBeSaved) {
-  Program program({paletteFile("start.pal", brightPalette(16))});
-  program.await("the editor", [&] { return tabControl(program); });
+  Editor& editor = open(brightPalette(16));
   ResourceCount before;
   for (int i = 0; i < kActions; ++i) {
     SCOPED_TRACE("action " + std::to_string(i));
     if (i == kActions / 5) {
-      before = countResources(program);
+      before = countResources(editor);
     }
-    act(program);
-    program.ask(program.window(), WM_NULL);
-    answerAll(program);
+    act();
+    editor.ask(editor.window(), WM_NULL);
+    answerAll();
   }
-  const ResourceCount after = countResources(program);
-  constexpr int kSlack = 40;
-  EXPECT_LE(after.gdi, before.gdi + kSlack) << testing::PrintToString(before);
-  EXPECT_LE(after.user, before.user + kSlack) << testing::PrintToString(before);
-  EXPECT_LE(after.kernel, before.kernel + kSlack) << testing::PrintToString(before);
-
-  const auto saveTo = [&](const char* name) {
-    program.start(command_id::kSaveAs);
-    chooseFile(program, L"Save As", folder_.name(name), palette_format::kGimp - 1);
-    program.awaitTitle(L"Quillhue - " + std::wstring(name, name + std::string_view(name).size()));
-    return folder_.contentOf(name);
-  };
+  expectNoLeak(editor, before, 40);
   const std::string saved = saveTo("saved");
-  dropFiles(program, {folder_.name("saved")});
-  program.awaitTitle(L"Quillhue - saved");
+  editor.drop({folder_.name("saved")});
+  editor.awaitTitle(L"Quillhue - saved");
   EXPECT_EQ(saveTo("again"), saved);
-  program.close();
+  editor.close();
 }
 
 }  // namespace

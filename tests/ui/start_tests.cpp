@@ -1,35 +1,41 @@
+#include <windows.h>
+// Needs windows.h before it.
+#include <commctrl.h>
+
 #include "ui/logic/command_ids.h"
-#include "ui/logic/window_texts.h"
 #include "ui/support/ui_test.h"
 
 namespace quillhue {
 namespace {
 
-class Start : public UiTest {};
-
-bool showsIntroScreen(const Program& program) { return findControl(program.window(), L"Button", L"Blank") != nullptr; }
-bool showsEditor(const Program& program) { return tabControl(program) != nullptr; }
+class Start : public UiTest {
+ protected:
+  static void expectIntroScreen(const Program& program) {
+    EXPECT_TRUE(program.button(L"Blank"));
+    EXPECT_FALSE(tabControl(program));
+    EXPECT_EQ(textOf(program.window()), L"Quillhue - Welcome");
+  }
+};
 
 TEST_F(Start, ShowsTheIntroScreen) {
   Program program;
-  EXPECT_EQ(textOf(program.window()), kWelcomeTitle);
-  EXPECT_TRUE(showsIntroScreen(program));
-  EXPECT_FALSE(showsEditor(program));
-  EXPECT_EQ(statusText(program, 0), L"");
+  expectIntroScreen(program);
+  EXPECT_EQ(statusText(program), L"");
   EXPECT_EQ(statusText(program, 2), L"Version 4.2");
-  program.close();
+  program.start(command_id::kExit);
+  EXPECT_EQ(program.awaitEnd(), 0U);
 }
 
 TEST_F(Start, OpensTheFileOfTheCommandLine) {
-  const std::wstring file = paletteFile("with blank.pal", brightPalette(5));
-  Program program({file, L"not this"});
+  Program program({paletteFile("with blank.pal", brightPalette(5)), L"not this"});
   program.awaitTitle(L"Quillhue - with blank.pal");
-  program.await("the editor", [&] { return showsEditor(program); });
-  EXPECT_FALSE(showsIntroScreen(program));
-  EXPECT_EQ(statusText(program, 0), L"5 entries");
-  EXPECT_EQ(chosenPage(program), 0);
-  EXPECT_EQ(focusOf(program), tabControl(program));
-  program.close();
+  HWND tabs = program.await("the editor", [&] { return tabControl(program); });
+  EXPECT_FALSE(findControl(program.window(), L"Button", L"Blank"));
+  EXPECT_EQ(statusText(program), L"5 entries");
+  EXPECT_EQ(program.ask(tabs, TCM_GETCURSEL), 0);
+  EXPECT_EQ(focusOf(program), tabs);
+  program.post(program.window(), WM_SYSCOMMAND, SC_CLOSE);
+  EXPECT_EQ(program.awaitEnd(), 0U);
 }
 
 TEST_F(Start, TellsThatTheFileCantBeOpened) {
@@ -45,24 +51,10 @@ TEST_F(Start, TellsThatTheFileCantBeOpened) {
     SCOPED_TRACE(narrow(file));
     Program program({file});
     const std::wstring shown = answerMessage(program, L"Error", IDOK);
-    if (message.empty()) {
-      EXPECT_NE(shown, L"");
-    } else {
-      EXPECT_EQ(shown, message);
-    }
-    program.await("the intro screen", [&] { return showsIntroScreen(program); });
-    EXPECT_EQ(textOf(program.window()), kWelcomeTitle);
+    EXPECT_TRUE(message.empty() ? !shown.empty() : shown == message) << narrow(shown);
+    expectIntroScreen(program);
     program.close();
   }
-}
-
-TEST_F(Start, EndsByTheMenuAndByTheWindow) {
-  Program byMenu;
-  byMenu.start(command_id::kExit);
-  EXPECT_EQ(byMenu.awaitEnd(), 0U);
-  Program byWindow;
-  byWindow.post(byWindow.window(), WM_SYSCOMMAND, SC_CLOSE);
-  EXPECT_EQ(byWindow.awaitEnd(), 0U);
 }
 
 }  // namespace

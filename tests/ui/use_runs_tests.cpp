@@ -1,7 +1,6 @@
 #include <chrono>
 
 #include "ui/logic/command_ids.h"
-#include "ui/support/drop.h"
 #include "ui/support/input.h"
 #include "ui/support/use_test.h"
 
@@ -13,24 +12,23 @@ class UseRuns : public UseTest {
  protected:
   static constexpr Size kBig{1500, 1000};
 
-  // Two colors far from those of the image, so that a result looks different.
-  static Palette twoColors() { return paletteOf(std::vector<PaletteEntry>{{255, 0, 255}, {0, 255, 255}}); }
-
   // Opens a palette and an image that is to be dithered; the document is modified if that is wanted.
   void prepare(bool isModified) {
-    open(twoColors());
+    open(twoColors_);
     if (isModified) {
-      choosePage(editor(), kValuesPage);
+      editor().choosePage(kValuesPage);
       editor().run(command_id::kClear);
-      choosePage(editor(), kUsePage);
+      editor().choosePage(kUsePage);
     }
     load(big_);
-    editor().click(editor().button(L"&Dither"));
+    editor().click(L"&Dither");
     activate(editor());
   }
   // Starts the run. What is posted next is found by it after the first row.
   void startRun() { editor().post(editor().button(L"&Process"), BM_CLICK); }
 
+  // Two colors far from those of the image, so that a result looks different.
+  const Palette twoColors_ = paletteOf(std::vector<PaletteEntry>{{255, 0, 255}, {0, 255, 255}});
   const std::wstring big_ = indexedFile("big.bmp", kBig);
 };
 
@@ -56,9 +54,9 @@ TEST_F(UseRuns, WaitForTheQuestionBeforeTheWindowCloses) {
       // The first row is there, and below it the image that was loaded.
       editor().await("the first row", [&] {
         const PaletteEntry shown = pixelOf(view(), {2, 0});
-        return shown == PaletteEntry{} || shown == twoColors().entry(1);
+        return shown == PaletteEntry{} || shown == twoColors_.entry(1);
       });
-      awaitShown({2, 40}, imageColors_.entry(indexAt({2, 40})));
+      awaitShown({2, 40}, imageColor({2, 40}));
       question.answer(answer);
     }
     if (answer == IDCANCEL) {
@@ -68,25 +66,25 @@ TEST_F(UseRuns, WaitForTheQuestionBeforeTheWindowCloses) {
       continue;
     }
     EXPECT_EQ(editor().awaitEnd(), 0U);
-    Palette expected = twoColors();
+    Palette expected = twoColors_;
     if (answer == IDYES) {
       expected.setEntry(0, {});
     }
-    EXPECT_EQ(show(paletteIn(folder_.name("own.pal"))), show(expected));
+    EXPECT_EQ(show(paletteIn(editor().file())), show(expected));
   }
 }
 
 TEST_F(UseRuns, StopWhereAnotherPaletteIsOpened) {
   prepare(false);
   startRun();
-  dropFiles(editor(), {paletteFile("other.pal", brightPalette(20))});
+  editor().drop({paletteFile("other.pal", brightPalette(20))});
   editor().awaitTitle(L"Quillhue - other.pal");
   editor().await("the end of the run", [&] { return isUsable(L"&Load..."); });
   // What was done is kept.
   EXPECT_TRUE(isUsable(L"&Save as..."));
-  EXPECT_EQ(chosenPage(editor()), kUsePage);
+  EXPECT_EQ(editor().chosenPage(), kUsePage);
   const std::string partial = result();
-  runTool({L"remap", L"--force", L"--mode", L"dither", big_, paletteFile("other.pal", twoColors()),
+  runTool({L"remap", L"--force", L"--mode", L"dither", big_, paletteFile("other.pal", twoColors_),
            folder_.name("whole.bmp")});
   // Of each row the tool's file has half a byte a pixel, the other one a byte.
   constexpr std::size_t kPackedRow = 752;
@@ -106,9 +104,10 @@ TEST_F(UseRuns, LeaveTheWindowAlive) {
   prepare(false);
   load(indexedFile("huge.bmp", {4000, 3000}));
   startRun();
-  editor().await("the run", [&] { return !isUsable(L"&Load..."); });
+  HWND loads = editor().button(L"&Load...");
+  editor().await("the run", [&] { return IsWindowEnabled(loads) == 0; });
   int answers = 0;
-  for (; !isUsable(L"&Load..."); ++answers) {
+  for (; IsWindowEnabled(loads) == 0; ++answers) {
     const auto start = std::chrono::steady_clock::now();
     editor().ask(editor().window(), WM_NULL);
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));

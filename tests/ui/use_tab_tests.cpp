@@ -1,8 +1,8 @@
 #include <functional>
 
 #include "ui/logic/command_ids.h"
-#include "ui/support/drop.h"
 #include "ui/support/input.h"
+#include "ui/support/menus.h"
 #include "ui/support/use_test.h"
 
 namespace quillhue {
@@ -16,104 +16,82 @@ std::string withoutFileHeader(const std::string& file) { return file.substr(14);
 TEST_F(Use, ImagesComeFromDialogDropAndClipboard) {
   open(brightPalette(16));
   EXPECT_FALSE(showsImage());
-  const auto expectShown = [&](std::int32_t index) {
-    editor().await("the image in view", [&] { return pixelOf(view(), {3, 3}) == imageColors_.entry(index); });
+  const auto awaitImage = [&] {
+    editor().await("the image", [&] { return showsImage(); });
+    awaitShown({3, 3}, imageColors_.entry(9));
   };
-  clickAt(editor(), middleOf(editor().button(L"&Load...")));
+  const auto clear = [&] {
+    editor().run(command_id::kClear);
+    EXPECT_TRUE(findControl(editor().window(), L"Static", L"No image"));
+    awaitShown({3, 3}, systemColor(COLOR_APPWORKSPACE));
+  };
+  editor().click(L"&Load...");
   chooseFile(editor(), L"Open", indexed_);
-  editor().await("the image", [&] { return showsImage(); });
-  expectShown(9);
+  awaitImage();
   // It is there still when another can't be loaded.
-  dropFiles(editor(), {folder_.file("none.bmp", bytesOf("BM nothing of the kind"))}, view());
+  editor().drop({folder_.file("none.bmp", bytesOf("BM nothing of the kind"))}, view());
   EXPECT_NE(answerMessage(editor(), L"Error", IDOK), L"");
-  EXPECT_TRUE(showsImage());
-  expectShown(9);
-  editor().run(command_id::kClear);
-  EXPECT_FALSE(showsImage());
+  awaitImage();
+  clear();
   load(indexed_);
-  expectShown(9);
-  editor().run(command_id::kClear);
-  EXPECT_FALSE(showsImage());
+  awaitImage();
+  clear();
   putOnClipboard(withoutFileHeader(folder_.contentOf("indexed.bmp")));
-  editor().focus(view());
+  tabTo(editor(), view());
   pressKey('V', {VK_CONTROL});
-  editor().await("the image", [&] { return showsImage(); });
-  expectShown(9);
+  awaitImage();
   // A palette is no image, and changes nothing.
-  putOnClipboard(std::vector<PaletteEntry>{{1, 2, 3}});
+  editor().choosePage(kValuesPage);
+  editor().run(command_id::kCopy);
+  editor().choosePage(kUsePage);
   editor().run(command_id::kPaste);
   EXPECT_TRUE(showsImage());
   // The document is the same, and so are its name and its steps.
-  EXPECT_EQ(show(saved(editor())), show(brightPalette(16)));
-  EXPECT_EQ(editor().undoAll(), 0);
+  EXPECT_EQ(show(editor().saved()), show(brightPalette(16)));
+  EXPECT_FALSE(isOffered(editor(), command_id::kUndo));
 }
 
 TEST_F(Use, ControlsFollowTheImageAndTheMode) {
-  struct Step {
+  open(brightPalette(20));
+  const auto clicks = [&](const wchar_t* text) { return [this, text] { editor().click(text); }; };
+  const struct {
     const char* what;
     std::function<void()> act;
-    // Load, the three modes (the chosen one is a capital letter), Protect color with its field, Protect grid with its
-    // two, Process, Save as.
-    const char* usable;
+    // Load, the three modes, Protect color with its field, Protect grid with its two, Process, Save as: + for what can
+    // be used, X where it is chosen too, and - or x for what can't.
+    std::string controls;
+  } kSteps[] = {
+      {"start", [] {}, "+ x-- -- --- --"},
+      {"indexed", [&] { load(indexed_); }, "+ X++ -- --- +-"},
+      {"nearest", clicks(L"&Nearest match"), "+ +X+ -- --- +-"},
+      {"dither", clicks(L"&Dither"), "+ ++X +- +-- +-"},
+      {"protect color", clicks(L"Protect &color:"), "+ ++X X+ +-- +-"},
+      {"protect grid", clicks(L"Protect gr&id:"), "+ ++X X+ X++ +-"},
+      {"maintain", clicks(L"&Maintain mapping"), "+ X++ x- x-- +-"},
+      {"process", [&] { process(); }, "+ X++ x- x-- ++"},
+      {"direct", [&] { load(direct_); }, "+ -X+ x- x-- +-"},
+      {"click on maintain", clicks(L"&Maintain mapping"), "+ -X+ x- x-- +-"},
+      {"dither again", clicks(L"&Dither"), "+ -+X X+ X++ +-"},
+      {"process again", [&] { process(); }, "+ -+X X+ X++ ++"},
+      {"no protected color", clicks(L"Protect &color:"), "+ -+X +- X++ ++"},
+      {"indexed again", [&] { load(indexed_); }, "+ ++X +- X++ +-"},
+      {"a result", [&] { process(); }, "+ ++X +- X++ ++"},
+      {"clear", [&] { editor().run(command_id::kClear); }, "+ --x +- X++ --"},
   };
-  open(brightPalette(20));
-  const auto clicks = [&](const wchar_t* text) { return [this, text] { editor().click(editor().button(text)); }; };
-  const Step kSteps[] = {
-      {"start", [] {}, "l M-- -- --- --"},
-      {"indexed", [&] { load(indexed_); }, "l Mnd -- --- p-"},
-      {"nearest", clicks(L"&Nearest match"), "l mNd -- --- p-"},
-      {"dither", clicks(L"&Dither"), "l mnD c- g-- p-"},
-      {"protect color", clicks(L"Protect &color:"), "l mnD cf g-- p-"},
-      {"protect grid", clicks(L"Protect gr&id:"), "l mnD cf gwh p-"},
-      {"maintain", clicks(L"&Maintain mapping"), "l Mnd -- --- p-"},
-      {"process", [&] { process(); }, "l Mnd -- --- ps"},
-      {"direct", [&] { load(direct_); }, "l -Nd -- --- p-"},
-      {"click on maintain", clicks(L"&Maintain mapping"), "l -Nd -- --- p-"},
-      {"dither again", clicks(L"&Dither"), "l -nD cf gwh p-"},
-      {"process again", [&] { process(); }, "l -nD cf gwh ps"},
-      {"no protected color", clicks(L"Protect &color:"), "l -nD c- gwh ps"},
-      {"indexed again", [&] { load(indexed_); }, "l mnD c- gwh p-"},
-  };
-  const auto letter = [](bool usable, char name) { return usable ? name : '-'; };
-  const auto mode = [&](const wchar_t* text, char name) {
-    const bool isChosen = editor().ask(editor().button(text), BM_GETCHECK) == BST_CHECKED;
-    return isChosen ? static_cast<char>(name - 'a' + 'A') : letter(isUsable(text), name);
-  };
-  const auto number = [&](Field one, char name) { return letter(IsWindowEnabled(field(one)) != 0, name); };
-  for (const auto& [what, act, usable] : kSteps) {
+  for (const auto& [what, act, controls] : kSteps) {
     act();
-    const std::string found{letter(isUsable(L"&Load..."), 'l'),
-                            ' ',
-                            mode(L"&Maintain mapping", 'm'),
-                            mode(L"&Nearest match", 'n'),
-                            mode(L"&Dither", 'd'),
-                            ' ',
-                            letter(isUsable(L"Protect &color:"), 'c'),
-                            number(Field::color, 'f'),
-                            ' ',
-                            letter(isUsable(L"Protect gr&id:"), 'g'),
-                            number(Field::width, 'w'),
-                            number(Field::height, 'h'),
-                            ' ',
-                            letter(isUsable(L"&Process"), 'p'),
-                            letter(isUsable(L"&Save as..."), 's')};
-    EXPECT_EQ(found, usable) << what;
+    std::string found;
+    for (HWND control : findControls(editor().window())) {
+      const std::wstring kind = windowClass(control);
+      if (kind == L"Button" || kind == L"Edit") {
+        const bool isChosen = kind == L"Button" && editor().ask(control, BM_GETCHECK) == BST_CHECKED;
+        found += IsWindowEnabled(control) != 0 ? "+X"[isChosen] : "-x"[isChosen];
+      }
+    }
+    std::string expected = controls;
+    std::erase(expected, ' ');
+    EXPECT_EQ(found, expected) << what;
   }
-}
-
-TEST_F(Use, ClearForgetsTheImageAndTheResult) {
-  open(brightPalette(20));
-  load(direct_);
-  process();
-  editor().run(command_id::kClear);
-  EXPECT_TRUE(findControl(editor().window(), L"Static", L"No image"));
-  for (const wchar_t* text : {L"&Maintain mapping", L"&Nearest match", L"&Dither", L"&Process", L"&Save as..."}) {
-    EXPECT_FALSE(isUsable(text)) << narrow(text);
-  }
-  const COLORREF empty = GetSysColor(COLOR_APPWORKSPACE);
-  editor().await("the empty view", [&] {
-    return pixelOf(view(), {3, 3}) == PaletteEntry{GetRValue(empty), GetGValue(empty), GetBValue(empty)};
-  });
 }
 
 TEST_F(Use, ResultIsWhatTheToolMakes) {
@@ -121,41 +99,36 @@ TEST_F(Use, ResultIsWhatTheToolMakes) {
     std::int32_t paletteSize;
     bool isIndexed;
     const wchar_t* mode;
-    const char* color;
-    const char* width;
-    const char* height;
     std::vector<std::wstring> options;
+    // What is protected: color, width and height of the grid.
+    std::vector<const char*> typed{};
   } kCases[] = {
-      {100, true, L"&Maintain mapping", nullptr, nullptr, nullptr, {L"--mode", L"maintain"}},
-      {16, true, L"&Nearest match", nullptr, nullptr, nullptr, {L"--mode", L"nearest"}},
-      {16, false, L"&Nearest match", nullptr, nullptr, nullptr, {L"--mode", L"nearest"}},
-      {17, true, L"&Dither", nullptr, nullptr, nullptr, {L"--mode", L"dither"}},
+      {100, true, L"&Maintain mapping", {L"--mode", L"maintain"}},
+      {16, true, L"&Nearest match", {L"--mode", L"nearest"}},
+      {16, false, L"&Nearest match", {L"--mode", L"nearest"}},
+      {17, true, L"&Dither", {L"--mode", L"dither"}},
       {17,
        false,
        L"&Dither",
-       "5",
-       "20",
-       "7",
-       {L"--mode", L"dither", L"--protect-color", L"5", L"--protect-grid", L"20x7"}},
+       {L"--mode", L"dither", L"--protect-color", L"5", L"--protect-grid", L"20x7"},
+       {"5", "20", "7"}},
       {17,
        true,
        L"&Dither",
-       "99",
-       "0",
-       "5000",
-       {L"--mode", L"dither", L"--protect-color", L"16", L"--protect-grid", L"1x1000"}},
+       {L"--mode", L"dither", L"--protect-color", L"16", L"--protect-grid", L"1x1000"},
+       {"99", "0", "5000"}},
   };
-  for (const auto& [size, isIndexed, mode, color, width, height, options] : kCases) {
+  for (const auto& [size, isIndexed, mode, options, typed] : kCases) {
     SCOPED_TRACE(narrow(options[1]) + ' ' + std::to_string(size));
     open(brightPalette(size));
     load(isIndexed ? indexed_ : direct_);
-    editor().click(editor().button(mode));
-    if (color != nullptr) {
-      editor().click(editor().button(L"Protect &color:"));
-      editor().typeInto(field(Field::color), color);
-      editor().click(editor().button(L"Protect gr&id:"));
-      editor().typeInto(field(Field::width), width);
-      editor().typeInto(field(Field::height), height);
+    editor().click(mode);
+    if (!typed.empty()) {
+      editor().click(L"Protect &color:");
+      editor().click(L"Protect gr&id:");
+      for (const Field each : {Field::color, Field::width, Field::height}) {
+        editor().typeInto(field(each), typed[static_cast<std::size_t>(each)]);
+      }
     }
     process();
     EXPECT_EQ(result(), toolsResult(isIndexed ? indexed_ : direct_, options));
@@ -165,8 +138,8 @@ TEST_F(Use, ResultIsWhatTheToolMakes) {
 TEST_F(Use, CopyGivesTheBitmap) {
   open(brightPalette(30));
   load(indexed_);
-  emptyClipboard();
-  editor().focus(view());
+  putOnClipboard("another one");
+  tabTo(editor(), view());
   pressKey('C', {VK_CONTROL});
   editor().awaitInput();
   EXPECT_EQ(clipboardBitmap(), withoutFileHeader(folder_.contentOf("indexed.bmp")));
@@ -190,41 +163,36 @@ TEST_F(Use, CopyGivesTheBitmap) {
 }
 
 TEST_F(Use, ResultKeepsItsColorsUntilTheNextRun) {
-  const Palette other = brightPalette(40);
   open(brightPalette(2));
   load(indexed_);
-  editor().click(editor().button(L"&Nearest match"));
-  editor().click(editor().button(L"&Process"));
-  const auto awaitColor = [&](PaletteEntry color) {
-    editor().await("the color of the result", [&] { return pixelOf(view(), {28, 1}) == color; });
-  };
-  awaitColor(brightPalette(2).entry(1));
-  dropFiles(editor(), {paletteFile("other.pal", other)});
+  editor().click(L"&Nearest match");
+  editor().click(L"&Process");
+  awaitShown({28, 1}, brightPalette(2).entry(1));
+  editor().drop({paletteFile("other.pal", brightPalette(40))});
   editor().awaitTitle(L"Quillhue - other.pal");
-  choosePage(editor(), kUsePage);
   EXPECT_TRUE(showsImage());
-  awaitColor(brightPalette(2).entry(1));
-  editor().click(editor().button(L"&Process"));
-  awaitColor(other.entry(30));
+  awaitShown({28, 1}, brightPalette(2).entry(1));
+  editor().click(L"&Process");
+  awaitShown({28, 1}, brightPalette(40).entry(30));
 }
 
 TEST_F(Use, ProtectedColorIsOneOfThePalette) {
   open(brightPalette(20));
   load(indexed_);
-  editor().click(editor().button(L"&Dither"));
-  editor().click(editor().button(L"Protect &color:"));
-  const auto expectTyped = [&](const char* typed, const wchar_t* settled) {
+  editor().click(L"&Dither");
+  editor().click(L"Protect &color:");
+  const auto expectTyped = [&](const char* typed, const std::wstring& settled) {
     editor().typeInto(field(Field::color), typed);
     pressKey(VK_TAB);
-    editor().awaitText(field(Field::color), settled);
+    editor().awaitEqual(settled, [&] { return textOf(field(Field::color)); });
   };
   expectTyped("20", L"19");
   // Another document has another range, and what was chosen stays within it.
-  dropFiles(editor(), {paletteFile("small.pal", brightPalette(6))});
+  editor().drop({paletteFile("small.pal", brightPalette(6))});
   editor().awaitTitle(L"Quillhue - small.pal");
   EXPECT_EQ(textOf(field(Field::color)), L"5");
   expectTyped("6", L"5");
-  dropFiles(editor(), {paletteFile("large.gpl", brightPalette(300))});
+  editor().drop({paletteFile("large.gpl", brightPalette(300))});
   editor().awaitTitle(L"Quillhue - large.gpl");
   expectTyped("500", L"299");
 }

@@ -6,7 +6,7 @@ namespace {
 
 using quillhue::MenuReport;
 
-void addItems(HMENU menu, int depth, MenuReport& report) {
+void addItems(HMENU menu, int depth, bool isEnabled, MenuReport& report) {
   const int count = GetMenuItemCount(menu);
   for (int i = 0; i < count && report.count < static_cast<int>(std::size(report.items)); ++i) {
     MenuReport::Item& item = report.items[report.count];
@@ -19,22 +19,25 @@ void addItems(HMENU menu, int depth, MenuReport& report) {
       continue;
     }
     ++report.count;
-    item.command = info.hSubMenu != nullptr ? 0 : info.wID;
-    item.state = info.fState;
-    item.type = info.fType;
     item.depth = depth;
+    item.isSeparator = (info.fType & MFT_SEPARATOR) != 0;
+    item.command = info.hSubMenu != nullptr || item.isSeparator ? 0 : static_cast<std::int32_t>(info.wID);
+    item.isEnabled = isEnabled && (info.fState & MFS_GRAYED) == 0;
+    item.isChecked = (info.fState & MFS_CHECKED) != 0;
     if (info.hSubMenu != nullptr) {
-      addItems(info.hSubMenu, depth + 1, report);
+      addItems(info.hSubMenu, depth + 1, item.isEnabled, report);
     }
   }
 }
 
 }  // namespace
 
-/// Fills the MenuReport that `data` points to.
-extern "C" __declspec(dllexport) DWORD WINAPI reportMenu(void* data) {
-  auto& report = *static_cast<MenuReport*>(data);
-  report.count = 0;
-  addItems(report.menu != nullptr ? report.menu : GetMenu(report.window), 0, report);
-  return 0;
+/// A hook on the messages that are sent to the program's thread.
+extern "C" __declspec(dllexport) LRESULT CALLBACK reportMenu(int code, WPARAM wParam, LPARAM data) {
+  const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(data);
+  if (code == HC_ACTION && sent.message == RegisterWindowMessageW(quillhue::kMenuReportMessage)) {
+    auto& report = *reinterpret_cast<MenuReport*>(sent.lParam);
+    addItems(report.menu != nullptr ? report.menu : GetMenu(sent.hwnd), 0, true, report);
+  }
+  return CallNextHookEx(nullptr, code, wParam, data);
 }

@@ -2,21 +2,30 @@
 
 #include <windows.h>
 
+#include <cstdint>
+
 namespace quillhue {
 
-/// What a thread in the program tells about a menu: other processes can't see into menus everywhere.
+/// The name of the message that asks for a MenuReport, at the address that it has as its last parameter.
+inline constexpr const wchar_t* kMenuReportMessage = L"QuillhueMenuReport";
+
+/// What the program itself finds in a menu: other processes can't see into menus everywhere.
 struct MenuReport {
+  /// An item as the user would see it now.
   struct Item {
-    UINT command;
-    UINT state;
-    UINT type;
+    /// 0 for a menu of its own and for a separator.
+    std::int32_t command;
+    /// How many menus it stands in.
     int depth;
+    bool isSeparator;
+    /// It and all menus that it stands in.
+    bool isEnabled;
+    bool isChecked;
     wchar_t text[96];
   };
 
-  /// The menu that is asked for; null for the menu bar of `window`.
+  /// The menu that is asked for; null for the menu bar of the window that gets the message.
   HMENU menu;
-  HWND window;
   /// The answer.
   int count;
   Item items[120];

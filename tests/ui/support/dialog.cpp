@@ -1,27 +1,14 @@
 #include "ui/support/dialog.h"
 
-#include <algorithm>
-
 #include "ui/support/windows.h"
 
 namespace quillhue {
 
-namespace {
-
-constexpr const wchar_t* kDialogClass = L"#32770";
-
-}  // namespace
-
-Dialog::Dialog(const Program& program, const std::wstring& caption) : program_(program), caption_(caption) {
-  window_ = program.await("the dialog \"" + narrow(caption) + '"', [&]() -> HWND {
-    for (HWND window : program.topWindows()) {
-      if (windowClass(window) == kDialogClass && textOf(window) == caption && IsWindowEnabled(window) != 0) {
-        return window;
-      }
-    }
-    return nullptr;
-  });
-}
+Dialog::Dialog(const Program& program, const std::wstring& caption)
+    : program_(program), caption_(caption), window_(program.await("the dialog \"" + narrow(caption) + '"', [&] {
+        HWND dialog = program.topWindow(kDialogClass);
+        return dialog != nullptr && textOf(dialog) == caption ? dialog : nullptr;
+      })) {}
 
 std::wstring Dialog::text() const { return dialogText(window_); }
 
@@ -42,10 +29,6 @@ void Dialog::press(int id) const { program_.post(control(id), BM_CLICK); }
 
 void Dialog::answer(int id) const {
   press(id);
-  awaitClosed();
-}
-
-void Dialog::awaitClosed() const {
   program_.await("the dialog \"" + narrow(caption_) + "\" to close",
                  [&] { return IsWindow(window_) == 0 || IsWindowVisible(window_) == 0; });
 }
@@ -76,10 +59,6 @@ void chooseFile(const Program& program, const std::wstring& caption, const std::
   }
   program.ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
   dialog.answer(IDOK);
-}
-
-bool showsDialog(const Program& program) {
-  return std::ranges::any_of(program.topWindows(), [](HWND window) { return windowClass(window) == kDialogClass; });
 }
 
 }  // namespace quillhue

@@ -27,12 +27,11 @@ class Dialog {
   void press(int id) const;
   /// Presses a button, and waits until the dialog is gone and its owner can be used.
   void answer(int id) const;
-  void awaitClosed() const;
 
  private:
   const Program& program_;
   std::wstring caption_;
-  HWND window_ = nullptr;
+  HWND window_;
 };
 
 /// Answers the message box with this caption, and returns what it said.
@@ -41,8 +40,5 @@ std::wstring answerMessage(const Program& program, const std::wstring& caption, 
 /// Gives a file's name to the dialog "Open" or "Save As" that is about to come, and the file type at an index of its
 /// list, -1 for the one that is chosen already.
 void chooseFile(const Program& program, const std::wstring& caption, const std::wstring& name, int type = -1);
-
-/// Whether a dialog or message box is open.
-[[nodiscard]] bool showsDialog(const Program& program);
 
 }  // namespace quillhue

@@ -1,6 +1,8 @@
 #include "ui/support/input.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "ui/support/windows.h"
 
@@ -8,38 +10,16 @@ namespace quillhue {
 
 namespace {
 
-void send(INPUT input) {
-  if (SendInput(1, &input, sizeof(input)) != 1) {
-    throw ProgramError("the system takes no input");
-  }
-}
+void sendMouse(DWORD flags, int data = 0) { mouse_event(flags, 0, 0, static_cast<DWORD>(data), 0); }
 
-void sendMouse(DWORD flags, DWORD data = 0) {
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
-  input.mi.mouseData = data;
-  send(input);
-}
-
-INPUT keyInput(int key, DWORD flags) {
+void sendKey(int key, DWORD flags) {
   // Keys that the keypad has too are told apart by this flag.
   constexpr std::array kExtended{VK_LEFT, VK_RIGHT, VK_UP,   VK_DOWN,   VK_HOME,
                                  VK_END,  VK_PRIOR, VK_NEXT, VK_DELETE, VK_APPS};
-  INPUT input{};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = static_cast<WORD>(key);
-  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(key), MAPVK_VK_TO_VSC));
-  input.ki.dwFlags = flags;
-  for (const int extended : kExtended) {
-    if (key == extended) {
-      input.ki.dwFlags |= KEYEVENTF_EXTENDEDKEY;
-    }
-  }
-  return input;
+  const bool isExtended = std::ranges::find(kExtended, key) != kExtended.end();
+  const auto scan = MapVirtualKeyW(static_cast<UINT>(key), MAPVK_VK_TO_VSC);
+  keybd_event(static_cast<BYTE>(key), static_cast<BYTE>(scan), flags | (isExtended ? KEYEVENTF_EXTENDEDKEY : 0), 0);
 }
-
-void sendKey(int key, DWORD flags) { send(keyInput(key, flags)); }
 
 }  // namespace
 
@@ -55,9 +35,12 @@ void activate(const Program& program) {
 }
 
 void moveTo(const Program& program, Point point) {
-  // A move by the mouse and not SetCursorPos alone, which windows need not hear of.
-  SetCursorPos(point.x, point.y);
-  sendMouse(MOUSEEVENTF_MOVE);
+  const auto move = [&] {
+    // A move by the mouse and not SetCursorPos alone, which windows need not hear of.
+    SetCursorPos(point.x, point.y);
+    sendMouse(MOUSEEVENTF_MOVE);
+  };
+  move();
   // The display reports the move to the program in its own time: after the next one it would undo that.
   constexpr int kLooks = 3;
   for (int i = 0; i < kLooks; ++i) {
@@ -74,8 +57,7 @@ void moveTo(const Program& program, Point point) {
     }
     stays = 0;
     // A late report has undone it.
-    SetCursorPos(point.x, point.y);
-    sendMouse(MOUSEEVENTF_MOVE);
+    move();
     return false;
   });
 }
@@ -84,9 +66,9 @@ void press(Button button) { sendMouse(button == Button::left ? MOUSEEVENTF_LEFTD
 
 void release(Button button) { sendMouse(button == Button::left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP); }
 
-void turnWheel(int notches) { sendMouse(MOUSEEVENTF_WHEEL, static_cast<DWORD>(notches) * WHEEL_DELTA); }
+void turnWheel(int notches) { sendMouse(MOUSEEVENTF_WHEEL, notches * WHEEL_DELTA); }
 
-void clickAt(const Program& program, Point point, Button button, std::initializer_list<int> held) {
+void clickAt(const Program& program, Point point, Button button, const std::vector<int>& held) {
   activate(program);
   moveTo(program, point);
   const HeldKeys keys(held);
@@ -94,20 +76,7 @@ void clickAt(const Program& program, Point point, Button button, std::initialize
   release(button);
 }
 
-void drag(const Program& program, std::initializer_list<Point> points, std::initializer_list<int> held) {
-  activate(program);
-  moveTo(program, *points.begin());
-  {
-    const HeldKeys keys(held);
-    press();
-  }
-  for (const Point& point : points) {
-    moveTo(program, point);
-  }
-  release();
-}
-
-HeldKeys::HeldKeys(std::initializer_list<int> keys) : keys_(keys) {
+HeldKeys::HeldKeys(std::vector<int> keys) : keys_(std::move(keys)) {
   for (const int key : keys_) {
     sendKey(key, 0);
   }
@@ -115,12 +84,11 @@ HeldKeys::HeldKeys(std::initializer_list<int> keys) : keys_(keys) {
 
 HeldKeys::~HeldKeys() {
   for (const int key : keys_) {
-    INPUT input = keyInput(key, KEYEVENTF_KEYUP);
-    SendInput(1, &input, sizeof(input));
+    sendKey(key, KEYEVENTF_KEYUP);
   }
 }
 
-void pressKey(int key, std::initializer_list<int> held) {
+void pressKey(int key, const std::vector<int>& held) {
   const HeldKeys keys(held);
   sendKey(key, 0);
   sendKey(key, KEYEVENTF_KEYUP);

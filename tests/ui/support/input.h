@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <cstdint>
-#include <initializer_list>
 #include <string_view>
 #include <vector>
 
@@ -24,12 +23,10 @@ void press(Button button = Button::left);
 void release(Button button = Button::left);
 void turnWheel(int notches);
 /// Activates the program, moves there, and presses and releases while keys (VK_CONTROL, VK_SHIFT) are held.
-void clickAt(const Program& program, Point point, Button button = Button::left, std::initializer_list<int> held = {});
-/// Activates the program, presses at the first point, moves through the others, and releases at the last.
-void drag(const Program& program, std::initializer_list<Point> points, std::initializer_list<int> held = {});
+void clickAt(const Program& program, Point point, Button button = Button::left, const std::vector<int>& held = {});
 
 /// Presses and releases a key while others are held.
-void pressKey(int key, std::initializer_list<int> held = {});
+void pressKey(int key, const std::vector<int>& held = {});
 /// Digits and capital letters.
 void type(std::string_view text);
 /// Goes to a control by the Tab key.
@@ -38,7 +35,7 @@ void tabTo(const Program& program, HWND control);
 /// Holds keys as long as this lives. Moving the pointer may let go of them.
 class HeldKeys {
  public:
-  HeldKeys(std::initializer_list<int> keys);
+  explicit HeldKeys(std::vector<int> keys);
   HeldKeys(const HeldKeys&) = delete;
   HeldKeys& operator=(const HeldKeys&) = delete;
   ~HeldKeys();

@@ -1,10 +1,15 @@
 #include "ui/support/program.h"
 
-#include <gtest/gtest.h>
+// Need windows.h before them.
+#include <commctrl.h>
+#include <shlobj.h>
 
+#include <cstring>
+#include <filesystem>
 #include <utility>
 
 #include "core/utf8.h"
+#include "ui/support/input.h"
 #include "ui/support/windows.h"
 
 namespace quillhue {
@@ -16,48 +21,45 @@ std::wstring& programFile() {
   return file;
 }
 
-std::wstring commandLine(const std::vector<std::wstring>& arguments) {
-  std::wstring line = L'"' + Program::file() + L'"';
+PROCESS_INFORMATION startProcess(const std::wstring& file, const std::vector<std::wstring>& arguments) {
+  std::wstring line = L'"' + file + L'"';
   for (const std::wstring& argument : arguments) {
     line += L" \"" + argument + L'"';
   }
-  return line;
+  STARTUPINFOW start{};
+  start.cb = sizeof(start);
+  PROCESS_INFORMATION made{};
+  if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &made) == 0) {
+    throw ProgramError("can't start " + narrow(line));
+  }
+  CloseHandle(made.hThread);
+  return made;
 }
 
-DWORD milliseconds(std::chrono::milliseconds time) { return static_cast<DWORD>(time.count()); }
+DWORD exitCodeOf(HANDLE process) {
+  DWORD code = 0;
+  GetExitCodeProcess(process, &code);
+  return code;
+}
+
+constexpr DWORD kPatienceMilliseconds = std::chrono::milliseconds(kPatience).count();
 
 }  // namespace
 
 void Program::setFile(std::wstring file) { programFile() = std::move(file); }
 
-const std::wstring& Program::file() { return programFile(); }
-
 Program::Program(const std::vector<std::wstring>& arguments) {
-  STARTUPINFOW start{};
-  start.cb = sizeof(start);
-  PROCESS_INFORMATION made{};
-  std::wstring line = commandLine(arguments);
-  if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &made) == 0) {
-    throw ProgramError("can't start " + narrow(line));
-  }
-  CloseHandle(made.hThread);
+  const PROCESS_INFORMATION made = startProcess(programFile(), arguments);
   process_ = made.hProcess;
   processId_ = made.dwProcessId;
   threadId_ = made.dwThreadId;
   try {
-    window_ = await("the main window", [this]() -> HWND {
-      for (HWND window : topWindows()) {
-        if (windowClass(window) == L"Quillhue4" || windowClass(window) == L"#32770") {
-          return window;
-        }
-      }
-      return nullptr;
+    window_ = await("the main window", [this] {
+      HWND message = topWindow(kDialogClass);
+      return message != nullptr ? GetWindow(message, GW_OWNER) : topWindow(L"Quillhue4");
     });
-    if (windowClass(window_) != L"Quillhue4") {
-      window_ = await("the main window behind a message", [this] { return GetWindow(window_, GW_OWNER); });
-    }
     // Until it has handled all that its start brings.
-    WaitForInputIdle(process_, milliseconds(kPatience));
+    WaitForInputIdle(process_, kPatienceMilliseconds);
   } catch (...) {
     TerminateProcess(process_, 1);
     CloseHandle(process_);
@@ -68,7 +70,7 @@ Program::Program(const std::vector<std::wstring>& arguments) {
 Program::~Program() {
   if (isRunning()) {
     TerminateProcess(process_, 1);
-    WaitForSingleObject(process_, milliseconds(kPatience));
+    WaitForSingleObject(process_, kPatienceMilliseconds);
   }
   CloseHandle(process_);
 }
@@ -77,15 +79,14 @@ bool Program::isRunning() const { return WaitForSingleObject(process_, 0) == WAI
 
 void Program::checkRunning(const std::string& what) const {
   if (!isRunning()) {
-    DWORD code = 0;
-    GetExitCodeProcess(process_, &code);
-    throw ProgramError("the program ended with code " + std::to_string(code) + " when it was waited for " + what);
+    throw ProgramError("the program ended with code " + std::to_string(exitCodeOf(process_)) +
+                       " when it was waited for " + what);
   }
 }
 
 LRESULT Program::ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) const {
   DWORD_PTR answer = 0;
-  if (SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, milliseconds(kPatience), &answer) == 0) {
+  if (SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kPatienceMilliseconds, &answer) == 0) {
     const std::string what = "the answer to message " + std::to_string(message);
     checkRunning(what);
     throw ProgramError("waited in vain for " + what + "; " + description());
@@ -104,13 +105,72 @@ void Program::awaitTitle(const std::wstring& title) const {
   await("the title " + narrow(title), [&] { return textOf(window_) == title; });
 }
 
+void Program::awaitInput() const {
+  HWND statusBar = control(STATUSCLASSNAMEW);
+  InvalidateRect(statusBar, nullptr, FALSE);
+  await("the input to be taken", [&] { return GetUpdateRect(statusBar, nullptr, FALSE) == 0; });
+}
+
+HWND Program::control(const wchar_t* className, const wchar_t* text) const {
+  return await("the control " + narrow(text == nullptr ? className : text),
+               [&] { return findControl(window_, className, text); });
+}
+
+void Program::click(HWND control) const {
+  clickAt(*this, middleOf(boxOnScreen(control)));
+  awaitInput();
+}
+
+void Program::drag(std::initializer_list<Point> points, const std::vector<int>& held) const {
+  activate(*this);
+  moveTo(*this, *points.begin());
+  {
+    const HeldKeys keys(held);
+    press();
+  }
+  for (const Point& point : points) {
+    moveTo(*this, point);
+    awaitInput();
+  }
+  release();
+  awaitInput();
+}
+
+void Program::drop(const std::vector<std::wstring>& files, HWND onto) const {
+  HWND target = onto == nullptr ? window_ : onto;
+  std::wstring list;
+  for (const std::wstring& file : files) {
+    list += file + L'\0';
+  }
+  list += L'\0';
+  DROPFILES header{};
+  header.pFiles = sizeof(header);
+  header.fWide = TRUE;
+  std::string block(reinterpret_cast<const char*>(&header), sizeof(header));
+  block.append(reinterpret_cast<const char*>(list.data()), list.size() * sizeof(wchar_t));
+  if (isWine()) {
+    // Wine hands the memory's address on as it is: it has to be memory of the program, which frees it.
+    ProgramMemory memory(*this, block.data(), block.size());
+    post(target, WM_DROPFILES, static_cast<WPARAM>(memory.address()));
+    memory.release();
+    return;
+  }
+  // Windows carries this memory over.
+  HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, block.size());
+  std::memcpy(GlobalLock(memory), block.data(), block.size());
+  GlobalUnlock(memory);
+  post(target, WM_DROPFILES, reinterpret_cast<WPARAM>(memory));
+}
+
+void Program::resize(Size size) const {
+  SetWindowPos(window_, nullptr, 0, 0, size.width, size.height, SWP_NOMOVE | SWP_NOZORDER);
+}
+
 DWORD Program::awaitEnd() {
-  if (WaitForSingleObject(process_, milliseconds(kPatience)) != WAIT_OBJECT_0) {
+  if (WaitForSingleObject(process_, kPatienceMilliseconds) != WAIT_OBJECT_0) {
     throw ProgramError("waited in vain for the end; " + description());
   }
-  DWORD code = 0;
-  GetExitCodeProcess(process_, &code);
-  return code;
+  return exitCodeOf(process_);
 }
 
 void Program::close() {
@@ -118,44 +178,36 @@ void Program::close() {
   EXPECT_EQ(awaitEnd(), 0U);
 }
 
-std::vector<HWND> Program::topWindows() const {
-  struct Search {
-    DWORD process;
-    std::vector<HWND> found;
-  };
-  Search search{processId_, {}};
-  EnumWindows(
-      [](HWND window, LPARAM data) -> BOOL {
-        auto& asked = *reinterpret_cast<Search*>(data);
-        DWORD process = 0;
-        GetWindowThreadProcessId(window, &process);
-        if (process == asked.process && IsWindowVisible(window) != 0) {
-          asked.found.push_back(window);
-        }
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&search));
-  return search.found;
+std::vector<HWND> Program::windows() const {
+  std::vector<HWND> windows;
+  EnumThreadWindows(threadId_, addWindow, reinterpret_cast<LPARAM>(&windows));
+  return windows;
+}
+
+HWND Program::topWindow(const wchar_t* className) const {
+  for (HWND window : windows()) {
+    if (windowClass(window) == className && IsWindowVisible(window) != 0 && IsWindowEnabled(window) != 0) {
+      return window;
+    }
+  }
+  return nullptr;
 }
 
 std::string Program::description() const {
   std::string result = "it shows";
-  for (HWND window : topWindows()) {
-    result += " [" + narrow(windowClass(window)) + " \"" + narrow(textOf(window)) + '"';
-    if (windowClass(window) == L"#32770") {
-      result += ": " + narrow(dialogText(window));
+  for (HWND window : windows()) {
+    if (IsWindowVisible(window) != 0) {
+      result += " [" + narrow(windowClass(window)) + " \"" + narrow(textOf(window)) + '"';
+      result += windowClass(window) == kDialogClass ? ": " + narrow(dialogText(window)) + ']' : "]";
     }
-    result += ']';
   }
   return result;
 }
 
-ProgramMemory::ProgramMemory(const Program& program, std::size_t size)
+ProgramMemory::ProgramMemory(const Program& program, const void* content, std::size_t size)
     : process_(program.process()),
-      memory_(
-          static_cast<std::byte*>(VirtualAllocEx(process_, nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE))),
-      size_(size) {
-  if (memory_ == nullptr) {
+      memory_(VirtualAllocEx(process_, nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE)) {
+  if (memory_ == nullptr || WriteProcessMemory(process_, memory_, content, size, nullptr) == 0) {
     throw ProgramError("no memory in the program");
   }
 }
@@ -166,22 +218,21 @@ ProgramMemory::~ProgramMemory() {
   }
 }
 
-void ProgramMemory::write(const void* from, std::size_t size, std::size_t offset) {
-  if (WriteProcessMemory(process_, memory_ + offset, from, size, nullptr) == 0) {
-    throw ProgramError("can't write to the program's memory");
-  }
-}
-
-void ProgramMemory::read(void* to, std::size_t size, std::size_t offset) const {
-  if (ReadProcessMemory(process_, memory_ + offset, to, size, nullptr) == 0) {
+void ProgramMemory::read(void* to, std::size_t size) const {
+  if (ReadProcessMemory(process_, memory_, to, size, nullptr) == 0) {
     throw ProgramError("can't read the program's memory");
   }
 }
 
-std::wstring ProgramMemory::text(std::size_t offset) const {
-  std::wstring all((size_ - offset) / sizeof(wchar_t), L'\0');
-  read(all.data(), all.size() * sizeof(wchar_t), offset);
-  return all.substr(0, all.find(L'\0'));
+void runTool(const std::vector<std::wstring>& arguments) {
+  const auto tool = std::filesystem::path(programFile()).replace_filename(L"quillhue-cli.exe");
+  HANDLE process = startProcess(tool.wstring(), arguments).hProcess;
+  WaitForSingleObject(process, INFINITE);
+  const DWORD code = exitCodeOf(process);
+  CloseHandle(process);
+  if (code != 0) {
+    throw ProgramError("the tool ended with code " + std::to_string(code));
+  }
 }
 
 bool isWine() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr; }

@@ -1,15 +1,15 @@
 #pragma once
 
+#include <gtest/gtest.h>
 #include <windows.h>
 
 #include <chrono>
 #include <cstdint>
-#include <functional>
+#include <initializer_list>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "support/scratch_folder.h"
 #include "ui/logic/geometry.h"
 
 namespace quillhue {
@@ -34,7 +34,6 @@ class Program {
 
   /// The file that is started, for all tests; told by the command line.
   static void setFile(std::wstring file);
-  [[nodiscard]] static const std::wstring& file();
 
   [[nodiscard]] HWND window() const { return window_; }
   [[nodiscard]] HANDLE process() const { return process_; }
@@ -44,6 +43,9 @@ class Program {
 
   /// Sends a message and returns the answer. Everything that it causes has happened then.
   LRESULT ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+  /// The same with the address of a value, which the program may change.
+  template <typename Value>
+  LRESULT askAbout(HWND window, UINT message, WPARAM wParam, Value& value) const;
   /// Posts a message, for what opens a dialog.
   void post(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
   /// A command, as its menu item sends it: by `run` it is carried out when that returns, so it must not ask anything.
@@ -65,15 +67,37 @@ class Program {
       Sleep(kPause);
     }
   }
+  /// Waits until `look` gives what is expected.
+  template <typename Expected, typename Look>
+  void awaitEqual(const Expected& expected, Look look) const {
+    EXPECT_NO_THROW(await("what is expected", [&] { return look() == expected; }));
+    ASSERT_EQ(look(), expected);
+  }
   void awaitTitle(const std::wstring& title) const;
+  /// Waits until all input so far has had its effect: a program paints when there is none left.
+  void awaitInput() const;
+
+  /// A visible control, which has to be there.
+  [[nodiscard]] HWND control(const wchar_t* className, const wchar_t* text = nullptr) const;
+  [[nodiscard]] HWND button(const wchar_t* text) const { return control(L"Button", text); }
+  /// Presses and releases the mouse on the middle of a control or a button, and waits until all is done.
+  void click(HWND control) const;
+  void click(const wchar_t* text) const { click(button(text)); }
+  /// Presses the mouse at the first point, with keys held, and releases it at the last. Each move has its effect.
+  void drag(std::initializer_list<Point> points, const std::vector<int>& held = {}) const;
+  /// Drops files on the main window or another one, as an explorer of files does when the user lets them go there.
+  void drop(const std::vector<std::wstring>& files, HWND onto = nullptr) const;
+  void resize(Size size) const;
 
   /// Waits for the process to end, and returns its exit code.
   DWORD awaitEnd();
   /// Closes the window, which must not ask anything, and waits for the end with exit code 0.
   void close();
 
-  /// All windows of the process that have no parent and are visible.
-  [[nodiscard]] std::vector<HWND> topWindows() const;
+  /// All windows that have no parent, the hidden ones too.
+  [[nodiscard]] std::vector<HWND> windows() const;
+  /// The uppermost of this class that is visible and can be used; null for none.
+  [[nodiscard]] HWND topWindow(const wchar_t* className) const;
   /// What the user would see now, in words, for messages of failed tests.
   [[nodiscard]] std::string description() const;
 
@@ -92,24 +116,32 @@ class Program {
 /// Memory in the program, for messages that take pointers.
 class ProgramMemory {
  public:
-  ProgramMemory(const Program& program, std::size_t size);
+  /// Begins with a copy of what is here.
+  ProgramMemory(const Program& program, const void* content, std::size_t size);
   ProgramMemory(const ProgramMemory&) = delete;
   ProgramMemory& operator=(const ProgramMemory&) = delete;
   ~ProgramMemory();
 
   [[nodiscard]] LPARAM address() const { return reinterpret_cast<LPARAM>(memory_); }
-  void write(const void* from, std::size_t size, std::size_t offset = 0);
-  void read(void* to, std::size_t size, std::size_t offset = 0) const;
-  /// The text that ends with a zero.
-  [[nodiscard]] std::wstring text(std::size_t offset = 0) const;
+  void read(void* to, std::size_t size) const;
   /// Leaves it to the program.
   void release() { memory_ = nullptr; }
 
  private:
   HANDLE process_;
-  std::byte* memory_;
-  std::size_t size_;
+  void* memory_;
 };
+
+template <typename Value>
+LRESULT Program::askAbout(HWND window, UINT message, WPARAM wParam, Value& value) const {
+  const ProgramMemory memory(*this, &value, sizeof(value));
+  const LRESULT answer = ask(window, message, wParam, memory.address());
+  memory.read(&value, sizeof(value));
+  return answer;
+}
+
+/// Runs the command-line tool that stands beside the program; it has to do what it is told.
+void runTool(const std::vector<std::wstring>& arguments);
 
 /// Whether this runs under Wine, which leaves some of the system's own numbers out.
 [[nodiscard]] bool isWine();

@@ -3,9 +3,7 @@
 #include <cstdint>
 #include <iosfwd>
 #include <map>
-#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace quillhue {
@@ -21,15 +19,14 @@ struct StoredValue {
 };
 using StoredSettings = std::map<std::string, StoredValue>;
 
-[[nodiscard]] StoredValue storedNumber(std::uint32_t number);
+[[nodiscard]] StoredValue storedNumber(std::int32_t number);
 [[nodiscard]] StoredValue storedBytes(std::vector<std::uint8_t> bytes);
-[[nodiscard]] StoredValue storedText(std::string_view text);
 /// For the messages of failed tests.
 void PrintTo(const StoredValue& value, std::ostream* stream);
 
-/// All values of the key; nothing when it does not exist.
-[[nodiscard]] std::optional<StoredSettings> storedSettings();
-/// Replaces the key by these values, or deletes it.
-void store(const std::optional<StoredSettings>& settings);
+/// All values of the key; none when it does not exist.
+[[nodiscard]] StoredSettings storedSettings();
+/// Replaces the key by these values, or deletes it when there are none.
+void store(const StoredSettings& settings);
 
 }  // namespace quillhue

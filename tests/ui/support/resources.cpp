@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ostream>
 #include <vector>
 
 namespace quillhue {
@@ -25,10 +24,7 @@ Function* systemFunction(const char* name) {
 int gdiObjectsInTable(HANDLE process) {
   struct Entry {
     std::uint64_t object;
-    std::uint16_t owner;
-    std::uint16_t count;
-    std::uint16_t upper;
-    std::uint16_t type;
+    std::uint16_t owner, count, upper, type;
     std::uint64_t user;
   };
   constexpr std::size_t kEntries = 0x4000;
@@ -61,18 +57,13 @@ int usedUserObjects() {
 
 int kernelHandlesInList(DWORD processId) {
   struct Entry {
-    void* object;
-    ULONG_PTR processId;
-    ULONG_PTR handle;
+    ULONG_PTR object, processId, handle;
     ULONG access;
-    USHORT trace;
-    USHORT type;
-    ULONG attributes;
-    ULONG reserved;
+    USHORT trace, type;
+    ULONG attributes, reserved;
   };
   struct List {
-    ULONG_PTR count;
-    ULONG_PTR reserved;
+    ULONG_PTR count, reserved;
   };
   // SystemExtendedHandleInformation, which the header does not have.
   constexpr ULONG kExtendedHandles = 64;
@@ -89,10 +80,6 @@ int kernelHandlesInList(DWORD processId) {
 
 }  // namespace
 
-void PrintTo(const ResourceCount& count, std::ostream* stream) {
-  *stream << count.gdi << " GDI objects, " << count.user << " user objects, " << count.kernel << " kernel handles";
-}
-
 ResourceCount countResources(const Program& program) {
   if (isWine()) {
     return {.gdi = gdiObjectsInTable(program.process()),
@@ -104,6 +91,13 @@ ResourceCount countResources(const Program& program) {
   return {.gdi = static_cast<int>(GetGuiResources(program.process(), GR_GDIOBJECTS)),
           .user = static_cast<int>(GetGuiResources(program.process(), GR_USEROBJECTS)),
           .kernel = static_cast<int>(handles)};
+}
+
+void expectNoLeak(const Program& program, const ResourceCount& before, int slack) {
+  const ResourceCount after = countResources(program);
+  EXPECT_LE(after.gdi, before.gdi + slack);
+  EXPECT_LE(after.user, before.user + slack);
+  EXPECT_LE(after.kernel, before.kernel + slack);
 }
 
 }  // namespace quillhue

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <iosfwd>
-
 #include "ui/support/program.h"
 
 namespace quillhue {
@@ -15,11 +13,10 @@ struct ResourceCount {
   int user = 0;
   /// Files, events, registry keys, threads.
   int kernel = 0;
-
-  friend bool operator==(const ResourceCount&, const ResourceCount&) = default;
 };
-void PrintTo(const ResourceCount& count, std::ostream* stream);
 
 [[nodiscard]] ResourceCount countResources(const Program& program);
+/// Expects that the program holds hardly more than before: `slack` is what the system may keep for itself.
+void expectNoLeak(const Program& program, const ResourceCount& before, int slack);
 
 }  // namespace quillhue

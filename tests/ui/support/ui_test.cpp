@@ -1,10 +1,7 @@
 #include "ui/support/ui_test.h"
 
 #include "core/palette_format.h"
-#include "formats/files.h"
-#include "formats/readers/palette_readers.h"
 #include "formats/writers/palette_writers.h"
-#include "ui/logic/command_ids.h"
 
 namespace quillhue {
 
@@ -13,21 +10,10 @@ std::wstring UiTest::paletteFile(const std::string& name, const Palette& palette
   return folder_.file(name, composePaletteFile(palette, format, {}).value());
 }
 
-Palette UiTest::savedPalette(const Program& program, const std::wstring& file) {
-  program.run(command_id::kSave);
-  return paletteIn(file);
-}
-
-Palette UiTest::paletteIn(const std::wstring& file) {
-  const auto source = openFile(file);
-  if (!source) {
-    throw ProgramError("can't open " + narrow(file));
-  }
-  const auto result = readPalette({.source = **source, .name = file});
-  if (!result) {
-    throw ProgramError("can't read " + narrow(file));
-  }
-  return std::get<FilePalette>(*result).palette;
+Editor& UiTest::open(const Palette& palette, int page) {
+  editor_.reset();
+  editor_ = std::make_unique<Editor>(paletteFile("own.pal", palette), page);
+  return *editor_;
 }
 
 Palette brightPalette(std::int32_t size) {

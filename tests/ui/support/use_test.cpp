@@ -1,15 +1,34 @@
 #include "ui/support/use_test.h"
 
+#include <cstring>
 #include <random>
 
 #include "formats/bitmap_writer.h"
 #include "support/bitmaps.h"
-#include "ui/support/drop.h"
-#include "ui/support/input.h"
 
 namespace quillhue {
 
-UseTest::UseTest() : indexed_(indexedFile("indexed.bmp", kSize)), direct_(directFile("direct.bmp", kSize)) {}
+namespace {
+
+// The clipboard, as soon as no other program has it.
+class OpenClipboardHere {
+ public:
+  OpenClipboardHere() {
+    constexpr int kTries = 500;
+    constexpr DWORD kPause = 5;
+    for (int i = 0; OpenClipboard(nullptr) == 0; ++i) {
+      if (i == kTries) {
+        throw ProgramError("the clipboard is taken");
+      }
+      Sleep(kPause);
+    }
+  }
+  OpenClipboardHere(const OpenClipboardHere&) = delete;
+  OpenClipboardHere& operator=(const OpenClipboardHere&) = delete;
+  ~OpenClipboardHere() { CloseClipboard(); }
+};
+
+}  // namespace
 
 std::wstring UseTest::indexedFile(const std::string& name, Size size) const {
   std::vector<std::uint8_t> rows;
@@ -22,56 +41,72 @@ std::wstring UseTest::indexedFile(const std::string& name, Size size) const {
   return folder_.file(name, composeBitmap({size.width, size.height, rows}, imageColors_, {}));
 }
 
-std::wstring UseTest::directFile(const std::string& name, Size size) const {
+std::wstring UseTest::directFile() const {
   std::mt19937 random(7);
-  std::vector<ColorWord> words(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height));
+  std::vector<ColorWord> words(std::size_t{kSize.width} * kSize.height);
   for (ColorWord& word : words) {
     word = random() % 0x1000000;
   }
-  return folder_.file(name, bitmapOf(static_cast<std::uint32_t>(size.width), 24, words));
-}
-
-Editor& UseTest::open(const Palette& palette) {
-  editor_.reset();
-  editor_ = std::make_unique<Editor>(paletteFile("own.pal", palette), kUsePage);
-  return *editor_;
+  return folder_.file("direct.bmp", bitmapOf(kSize.width, 24, words));
 }
 
 HWND UseTest::field(Field field) const {
-  return findControls(editor_->window(), L"Edit").at(static_cast<std::size_t>(field));
+  return findControls(editor().window(), L"Edit").at(static_cast<std::size_t>(field));
 }
 
-bool UseTest::showsImage() const { return findControl(editor_->window(), L"Static", L"Image available") != nullptr; }
+bool UseTest::showsImage() const { return findControl(editor().window(), L"Static", L"Image available") != nullptr; }
 
 void UseTest::awaitShown(Point point, PaletteEntry color) const {
-  editor_->await("the color in view", [&] { return pixelOf(view(), point) == color; });
+  editor().await("the color in view", [&] { return pixelOf(view(), point) == color; });
 }
 
 void UseTest::load(const std::wstring& file) const {
-  dropFiles(*editor_, {file}, view());
-  editor_->awaitInput();
-  editor_->await("the image", [&] { return showsImage(); });
+  editor().drop({file}, view());
+  editor().awaitInput();
+  editor().await("the image", [&] { return showsImage(); });
 }
 
 void UseTest::process() const {
-  editor_->click(editor_->button(L"&Process"));
-  editor_->await("the result", [&] { return isUsable(L"&Save as..."); });
+  editor().click(L"&Process");
+  editor().await("the result", [&] { return isUsable(L"&Save as..."); });
 }
 
 std::string UseTest::result() const {
   DeleteFileW(folder_.name("result.bmp").c_str());
-  clickAt(*editor_, middleOf(editor_->button(L"&Save as...")));
-  chooseFile(*editor_, L"Save As", folder_.name("result"));
-  editor_->await("the file", [&] { return fileExists(folder_.name("result.bmp")); });
-  editor_->awaitInput();
+  editor().click(L"&Save as...");
+  chooseFile(editor(), L"Save As", folder_.name("result"));
+  editor().await("the file", [&] { return fileExists(folder_.name("result.bmp")); });
+  editor().awaitInput();
   return folder_.contentOf("result.bmp");
 }
 
 std::string UseTest::toolsResult(const std::wstring& image, const std::vector<std::wstring>& options) const {
-  std::vector<std::wstring> arguments{L"remap", L"--force", image, editor_->palette(), folder_.name("tool.bmp")};
+  std::vector<std::wstring> arguments{L"remap", L"--force", image, editor().file(), folder_.name("tool.bmp")};
   arguments.insert(arguments.end(), options.begin(), options.end());
   runTool(arguments);
   return folder_.contentOf("tool.bmp");
+}
+
+std::string clipboardBitmap() {
+  const OpenClipboardHere open;
+  HANDLE memory = GetClipboardData(CF_DIB);
+  if (memory == nullptr) {
+    return {};
+  }
+  const std::string bytes(static_cast<const char*>(GlobalLock(memory)), GlobalSize(memory));
+  GlobalUnlock(memory);
+  return bytes;
+}
+
+void putOnClipboard(std::string_view bitmap) {
+  HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bitmap.size());
+  std::memcpy(GlobalLock(memory), bitmap.data(), bitmap.size());
+  GlobalUnlock(memory);
+  const OpenClipboardHere open;
+  EmptyClipboard();
+  if (SetClipboardData(CF_DIB, memory) == nullptr) {
+    throw ProgramError("the clipboard refuses");
+  }
 }
 
 }  // namespace quillhue

@@ -2,16 +2,16 @@
 
 #include <windows.h>
 
-#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "ui/support/editor.h"
+#include "ui/support/ui_test.h"
 
 namespace quillhue {
 
 /// A test of the page "Use Palette".
-class UseTest : public EditorTest {
+class UseTest : public UiTest {
  protected:
   /// The page's edit fields, in their order.
   enum class Field : std::uint8_t { color, width, height };
@@ -22,20 +22,19 @@ class UseTest : public EditorTest {
   }
   static constexpr Size kSize{150, 70};
 
-  UseTest();
-
-  /// A file of an image of that size in the colors of imageColors_, or of one in all colors.
+  /// A file of an image of that size in the colors of imageColors_, or of one of kSize in all colors.
   [[nodiscard]] std::wstring indexedFile(const std::string& name, Size size) const;
-  [[nodiscard]] std::wstring directFile(const std::string& name, Size size) const;
+  [[nodiscard]] std::wstring directFile() const;
 
-  Editor& open(const Palette& palette);
-  [[nodiscard]] Editor& editor() { return *editor_; }
-  [[nodiscard]] HWND view() const { return editor_->control(L"QuillhueImage"); }
+  void open(const Palette& palette) { UiTest::open(palette, kUsePage); }
+  [[nodiscard]] HWND view() const { return editor().control(L"QuillhueImage"); }
   [[nodiscard]] HWND field(Field field) const;
-  [[nodiscard]] bool isUsable(const wchar_t* button) const { return IsWindowEnabled(editor_->button(button)) != 0; }
+  [[nodiscard]] bool isUsable(const wchar_t* button) const { return IsWindowEnabled(editor().button(button)) != 0; }
   [[nodiscard]] bool showsImage() const;
   /// Waits until the view shows a color there.
   void awaitShown(Point point, PaletteEntry color) const;
+  /// The color of the loaded image there.
+  [[nodiscard]] PaletteEntry imageColor(Point point) const { return imageColors_.entry(indexAt(point)); }
 
   void load(const std::wstring& file) const;
   /// Presses "Process", and waits until the run is over.
@@ -46,11 +45,12 @@ class UseTest : public EditorTest {
   [[nodiscard]] std::string toolsResult(const std::wstring& image, const std::vector<std::wstring>& options) const;
 
   const Palette imageColors_ = brightPalette(256);
-  std::wstring indexed_;
-  std::wstring direct_;
-
- private:
-  std::unique_ptr<Editor> editor_;
+  const std::wstring indexed_ = indexedFile("indexed.bmp", kSize);
+  const std::wstring direct_ = directFile();
 };
+
+/// The bytes of the bitmap on the clipboard; empty without one.
+[[nodiscard]] std::string clipboardBitmap();
+void putOnClipboard(std::string_view bitmap);
 
 }  // namespace quillhue

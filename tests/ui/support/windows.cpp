@@ -5,25 +5,20 @@
 
 #include <array>
 
-#include "ui/logic/window_texts.h"
-#include "ui/support/input.h"
-
 namespace quillhue {
 
 namespace {
 
 constexpr UINT kTextPatience = 2000;
 
-void addWindowsIn(HWND parent, std::vector<HWND>& windows) {
-  for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-    windows.push_back(child);
-    addWindowsIn(child, windows);
-  }
-}
-
-Rect boxFrom(const RECT& box) { return {box.left, box.top, box.right, box.bottom}; }
+PaletteEntry colorFrom(COLORREF color) { return {GetRValue(color), GetGValue(color), GetBValue(color)}; }
 
 }  // namespace
+
+BOOL CALLBACK addWindow(HWND window, LPARAM windows) {
+  reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
+  return TRUE;
+}
 
 std::wstring windowClass(HWND window) {
   std::array<wchar_t, 64> name{};
@@ -39,20 +34,14 @@ std::wstring textOf(HWND window) {
   return text.data();
 }
 
-std::vector<HWND> windowsIn(HWND parent) {
-  std::vector<HWND> windows;
-  addWindowsIn(parent, windows);
-  return windows;
-}
-
 std::vector<HWND> findControls(HWND parent, const wchar_t* className) {
-  std::vector<HWND> found;
-  for (HWND window : windowsIn(parent)) {
-    if (IsWindowVisible(window) != 0 && lstrcmpiW(windowClass(window).c_str(), className) == 0) {
-      found.push_back(window);
-    }
-  }
-  return found;
+  std::vector<HWND> controls;
+  EnumChildWindows(parent, addWindow, reinterpret_cast<LPARAM>(&controls));
+  std::erase_if(controls, [&](HWND control) {
+    return IsWindowVisible(control) == 0 ||
+           (className != nullptr && lstrcmpiW(windowClass(control).c_str(), className) != 0);
+  });
+  return controls;
 }
 
 HWND findControl(HWND parent, const wchar_t* className, const wchar_t* text) {
@@ -64,6 +53,8 @@ HWND findControl(HWND parent, const wchar_t* className, const wchar_t* text) {
   return nullptr;
 }
 
+HWND tabControl(const Program& program) { return findControl(program.window(), WC_TABCONTROLW); }
+
 std::wstring dialogText(HWND dialog) {
   std::wstring all;
   for (HWND window : findControls(dialog, L"Static")) {
@@ -74,6 +65,8 @@ std::wstring dialogText(HWND dialog) {
   }
   return all;
 }
+
+Rect boxFrom(const RECT& box) { return {box.left, box.top, box.right, box.bottom}; }
 
 Size clientSizeOf(HWND window) {
   RECT box{};
@@ -105,13 +98,17 @@ Point onScreen(HWND window, Point point) {
   return {result.x, result.y};
 }
 
+Point middleOf(const Rect& box) { return {(box.left + box.right) / 2, (box.top + box.bottom) / 2}; }
+
 PaletteEntry pixelOf(HWND window, Point point) {
   const Point place = onScreen(window, point);
   HDC screen = GetDC(nullptr);
   const COLORREF color = GetPixel(screen, place.x, place.y);
   ReleaseDC(nullptr, screen);
-  return {GetRValue(color), GetGValue(color), GetBValue(color)};
+  return colorFrom(color);
 }
+
+PaletteEntry systemColor(int color) { return colorFrom(GetSysColor(color)); }
 
 HWND focusOf(const Program& program) {
   GUITHREADINFO info{};
@@ -121,24 +118,9 @@ HWND focusOf(const Program& program) {
 }
 
 std::wstring statusText(const Program& program, int part) {
-  HWND bar = findControl(program.window(), STATUSCLASSNAMEW);
-  const auto length = LOWORD(program.ask(bar, SB_GETTEXTLENGTHW, static_cast<WPARAM>(part)));
-  const ProgramMemory text(program, (length + std::size_t{1}) * sizeof(wchar_t));
-  program.ask(bar, SB_GETTEXTW, static_cast<WPARAM>(part), text.address());
-  return text.text();
-}
-
-HWND tabControl(const Program& program) { return findControl(program.window(), WC_TABCONTROLW); }
-
-int chosenPage(const Program& program) { return static_cast<int>(program.ask(tabControl(program), TCM_GETCURSEL)); }
-
-void choosePage(const Program& program, int page) {
-  const ProgramMemory box(program, sizeof(RECT));
-  program.ask(tabControl(program), TCM_GETITEMRECT, static_cast<WPARAM>(page), box.address());
-  RECT tab{};
-  box.read(&tab, sizeof(tab));
-  clickAt(program, onScreen(tabControl(program), {(tab.left + tab.right) / 2, (tab.top + tab.bottom) / 2}));
-  program.await("page " + std::to_string(page), [&] { return chosenPage(program) == page; });
+  std::array<wchar_t, 1024> text{};
+  program.askAbout(program.control(STATUSCLASSNAMEW), SB_GETTEXTW, static_cast<WPARAM>(part), text);
+  return text.data();
 }
 
 }  // namespace quillhue

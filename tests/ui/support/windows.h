@@ -13,19 +13,27 @@ namespace quillhue {
 
 /// Windows and controls of the program, as they are now.
 
+/// Of dialogs and message boxes.
+inline constexpr const wchar_t* kDialogClass = L"#32770";
+
+/// For the system's enumerations: adds it to the std::vector<HWND> at that address.
+BOOL CALLBACK addWindow(HWND window, LPARAM windows);
+
 [[nodiscard]] std::wstring windowClass(HWND window);
 /// Of a title, a button, a static text; of an edit field what is typed there.
 [[nodiscard]] std::wstring textOf(HWND window);
 
-/// All windows in the window, in the order in which the Tab key goes, children before what follows their parent.
-[[nodiscard]] std::vector<HWND> windowsIn(HWND parent);
-/// The one of this class and text that is visible; null if there is none. A null text stands for any.
+/// The visible ones in the window, in the order in which the Tab key goes, children before what follows their parent.
+/// A null class or text stands for any.
+[[nodiscard]] std::vector<HWND> findControls(HWND parent, const wchar_t* className = nullptr);
+/// The first one; null if there is none.
 [[nodiscard]] HWND findControl(HWND parent, const wchar_t* className, const wchar_t* text = nullptr);
-[[nodiscard]] std::vector<HWND> findControls(HWND parent, const wchar_t* className);
+[[nodiscard]] HWND tabControl(const Program& program);
 
 /// The texts of all visible static controls, a line each.
 [[nodiscard]] std::wstring dialogText(HWND dialog);
 
+[[nodiscard]] Rect boxFrom(const RECT& box);
 [[nodiscard]] Size clientSizeOf(HWND window);
 [[nodiscard]] Size outerSizeOf(HWND window);
 /// On the screen.
@@ -33,19 +41,17 @@ namespace quillhue {
 /// A control's box in the client area of its parent.
 [[nodiscard]] Rect boxInParent(HWND control);
 [[nodiscard]] Point onScreen(HWND window, Point point);
+[[nodiscard]] Point middleOf(const Rect& box);
 
 /// What the user sees at a point of the window's client area.
 [[nodiscard]] PaletteEntry pixelOf(HWND window, Point point);
+/// One of the system's colors, COLOR_BTNFACE and so on.
+[[nodiscard]] PaletteEntry systemColor(int color);
 
 /// The focused window of the program; null for none.
 [[nodiscard]] HWND focusOf(const Program& program);
 
-/// A part of the main window's status bar.
-[[nodiscard]] std::wstring statusText(const Program& program, int part);
-
-/// The page that the tab control shows as chosen, and a choice by the mouse.
-[[nodiscard]] HWND tabControl(const Program& program);
-[[nodiscard]] int chosenPage(const Program& program);
-void choosePage(const Program& program, int page);
+/// A part of the main window's status bar; the first one tells how many entries the palette has.
+[[nodiscard]] std::wstring statusText(const Program& program, int part = 0);
 
 }  // namespace quillhue
