@@ -11,8 +11,6 @@ namespace {
 
 class Frame : public UiTest {
  protected:
-  static bool hasStyle(HWND control, LONG_PTR style) { return (GetWindowLongPtrW(control, GWL_STYLE) & style) != 0; }
-
   // What the Tab key is to reach: of radio buttons the chosen one stands for all. Each has a name, which is its own
   // text or that of the static text before it.
   static std::set<HWND> namedTabStops(const Program& program) {
@@ -20,9 +18,10 @@ class Frame : public UiTest {
     std::wstring textBefore;
     for (HWND control : findControls(program.window())) {
       const std::wstring kind = windowClass(control);
-      const auto type = GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK;
+      const auto style = GetWindowLongPtrW(control, GWL_STYLE);
+      const auto type = style & BS_TYPEMASK;
       const bool isRadio = kind == L"Button" && (type == BS_RADIOBUTTON || type == BS_AUTORADIOBUTTON);
-      if (hasStyle(control, WS_TABSTOP) && !isRadio && IsWindowEnabled(control) != 0) {
+      if ((style & WS_TABSTOP) != 0 && !isRadio && IsWindowEnabled(control) != 0) {
         stops.insert(control);
         // A tab control goes by the names of its tabs.
         EXPECT_TRUE(!textBefore.empty() || !textOf(control).empty() || control == tabControl(program))

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <map>
-#include <set>
 
 #include "core/system_palettes.h"
 #include "core/utf8.h"
@@ -97,28 +96,6 @@ TEST_F(Intro, ButtonsHaveTooltips) {
   activate(program);
   moveTo(program, middleOf(boxOnScreen(program.button(L"Grey"))));
   program.await("a tooltip to appear", [&] { return program.topWindow(TOOLTIPS_CLASSW); });
-}
-
-// The background around the buttons is painted, and the buttons show their icons.
-TEST_F(Intro, LayoutIsPainted) {
-  const Program program;
-  HWND window = program.window();
-  const PaletteEntry background = systemColor(COLOR_BTNFACE);
-  program.awaitEqual(background, [&] { return pixelOf(window, {2, 2}); });
-  EXPECT_EQ(pixelOf(window, {clientSizeOf(window).width / 2, 5}), background);
-  for (const IntroButton& each : introButtons()) {
-    HWND control = button(program, each);
-    std::set<PaletteEntry> colors;
-    const Size size = clientSizeOf(control);
-    for (std::int32_t i = 0; i < size.width; i += 2) {
-      colors.insert(pixelOf(control, {i, size.height / 2}));
-      colors.insert(pixelOf(control, {size.width / 2, i}));
-    }
-    EXPECT_GT(colors.size(), 3U) << each.text;
-    const Rect box = boxInParent(control);
-    EXPECT_EQ(pixelOf(window, {box.left - 1, box.top + 10}), background) << each.text;
-    EXPECT_EQ(pixelOf(window, {box.left + 10, box.bottom}), background) << each.text;
-  }
 }
 
 }  // namespace

@@ -1,3 +1,5 @@
+#include <set>
+
 #include "core/utf8.h"
 #include "ui/logic/frame_layout.h"
 #include "ui/logic/intro_layout.h"
@@ -51,6 +53,7 @@ TEST_F(Sizing, StopsAtTheLeastSize) {
 TEST_F(Sizing, LayoutOfTheIntroScreenFollowsTheWindow) {
   const Program program;
   HWND window = program.window();
+  const PaletteEntry background = systemColor(COLOR_BTNFACE);
   const Size first = outerSizeOf(window);
   for (const Size size : {first, least_, Size{least_.width + 201, least_.height + 83}, least_}) {
     program.resize(size);
@@ -58,10 +61,23 @@ TEST_F(Sizing, LayoutOfTheIntroScreenFollowsTheWindow) {
     const Rect bar = statusBarBox(program);
     EXPECT_EQ(bar, (Rect{0, client.height - bar.height(), client.width, client.height}));
     EXPECT_GT(bar.height(), 0);
-    for (const IntroButton& button : introButtons()) {
-      EXPECT_EQ(boxInParent(program.button(fromUtf8(button.text).c_str())),
-                introButtonBox(button, {client.width, client.height - bar.height()}, scale_))
-          << button.text;
+    // The background around the buttons is painted, and the buttons show their icons.
+    program.awaitInput();
+    program.awaitEqual(background, [&] { return pixelOf(window, {2, 2}); });
+    EXPECT_EQ(pixelOf(window, {client.width / 2, 5}), background);
+    for (const IntroButton& each : introButtons()) {
+      SCOPED_TRACE(each.text);
+      HWND button = program.button(fromUtf8(each.text).c_str());
+      const Rect box = boxInParent(button);
+      EXPECT_EQ(box, introButtonBox(each, {client.width, client.height - bar.height()}, scale_));
+      EXPECT_EQ(pixelOf(window, {box.left - 1, box.top + 10}), background);
+      EXPECT_EQ(pixelOf(window, {box.left + 10, box.bottom}), background);
+      std::set<PaletteEntry> colors;
+      for (std::int32_t i = 0; i < box.width(); i += 2) {
+        colors.insert(pixelOf(button, {i, box.height() / 2}));
+        colors.insert(pixelOf(button, {box.width() / 2, i}));
+      }
+      EXPECT_GT(colors.size(), 3U);
     }
     // The numbers that the formulas are written for, without the formulas.
     const Rect blank = boxInParent(program.button(L"Blank"));

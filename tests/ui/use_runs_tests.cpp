@@ -47,10 +47,7 @@ TEST_F(UseRuns, WaitForTheQuestionBeforeTheWindowCloses) {
     editor().post(editor().window(), WM_CLOSE);
     {
       const Dialog question(editor(), L"Warning");
-      for (const wchar_t* text : {L"&Load...", L"&Maintain mapping", L"&Nearest match", L"&Dither", L"Protect &color:",
-                                  L"Protect gr&id:", L"&Process", L"&Save as..."}) {
-        EXPECT_FALSE(isUsable(text)) << narrow(text);
-      }
+      EXPECT_EQ(controls(), "---x-------");
       // The first row is there, and below it the image that was loaded.
       editor().await("the first row", [&] {
         const PaletteEntry shown = pixelOf(view(), {2, 0});

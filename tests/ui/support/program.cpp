@@ -48,38 +48,28 @@ constexpr DWORD kPatienceMilliseconds = std::chrono::milliseconds(kPatience).cou
 
 void Program::setFile(std::wstring file) { programFile() = std::move(file); }
 
-Program::Program(const std::vector<std::wstring>& arguments) {
-  const PROCESS_INFORMATION made = startProcess(programFile(), arguments);
-  process_ = made.hProcess;
-  processId_ = made.dwProcessId;
-  threadId_ = made.dwThreadId;
-  try {
-    window_ = await("the main window", [this] {
-      HWND message = topWindow(kDialogClass);
-      return message != nullptr ? GetWindow(message, GW_OWNER) : topWindow(L"Quillhue4");
-    });
-    // Until it has handled all that its start brings.
-    WaitForInputIdle(process_, kPatienceMilliseconds);
-  } catch (...) {
-    TerminateProcess(process_, 1);
-    CloseHandle(process_);
-    throw;
-  }
+Program::Program(const std::vector<std::wstring>& arguments) : Program(startProcess(programFile(), arguments)) {
+  window_ = await("the main window", [this] {
+    HWND message = topWindow(kDialogClass);
+    return message != nullptr ? GetWindow(message, GW_OWNER) : topWindow(L"Quillhue4");
+  });
+  // Until it has handled all that its start brings.
+  WaitForInputIdle(process(), kPatienceMilliseconds);
 }
 
 Program::~Program() {
   if (isRunning()) {
-    TerminateProcess(process_, 1);
-    WaitForSingleObject(process_, kPatienceMilliseconds);
+    TerminateProcess(process(), 1);
+    WaitForSingleObject(process(), kPatienceMilliseconds);
   }
-  CloseHandle(process_);
+  CloseHandle(process());
 }
 
-bool Program::isRunning() const { return WaitForSingleObject(process_, 0) == WAIT_TIMEOUT; }
+bool Program::isRunning() const { return WaitForSingleObject(process(), 0) == WAIT_TIMEOUT; }
 
 void Program::checkRunning(const std::string& what) const {
   if (!isRunning()) {
-    throw ProgramError("the program ended with code " + std::to_string(exitCodeOf(process_)) +
+    throw ProgramError("the program ended with code " + std::to_string(exitCodeOf(process())) +
                        " when it was waited for " + what);
   }
 }
@@ -167,10 +157,10 @@ void Program::resize(Size size) const {
 }
 
 DWORD Program::awaitEnd() {
-  if (WaitForSingleObject(process_, kPatienceMilliseconds) != WAIT_OBJECT_0) {
+  if (WaitForSingleObject(process(), kPatienceMilliseconds) != WAIT_OBJECT_0) {
     throw ProgramError("waited in vain for the end; " + description());
   }
-  return exitCodeOf(process_);
+  return exitCodeOf(process());
 }
 
 void Program::close() {
@@ -180,7 +170,7 @@ void Program::close() {
 
 std::vector<HWND> Program::windows() const {
   std::vector<HWND> windows;
-  EnumThreadWindows(threadId_, addWindow, reinterpret_cast<LPARAM>(&windows));
+  EnumThreadWindows(threadId(), addWindow, reinterpret_cast<LPARAM>(&windows));
   return windows;
 }
 

@@ -36,9 +36,9 @@ class Program {
   static void setFile(std::wstring file);
 
   [[nodiscard]] HWND window() const { return window_; }
-  [[nodiscard]] HANDLE process() const { return process_; }
-  [[nodiscard]] DWORD processId() const { return processId_; }
-  [[nodiscard]] DWORD threadId() const { return threadId_; }
+  [[nodiscard]] HANDLE process() const { return process_.hProcess; }
+  [[nodiscard]] DWORD processId() const { return process_.dwProcessId; }
+  [[nodiscard]] DWORD threadId() const { return process_.dwThreadId; }
   [[nodiscard]] bool isRunning() const;
 
   /// Sends a message and returns the answer. Everything that it causes has happened then.
@@ -105,11 +105,10 @@ class Program {
   // Between two looks, in milliseconds.
   static constexpr DWORD kPause = 5;
 
+  explicit Program(const PROCESS_INFORMATION& process) : process_(process) {}
   void checkRunning(const std::string& what) const;
 
-  HANDLE process_ = nullptr;
-  DWORD processId_ = 0;
-  DWORD threadId_ = 0;
+  PROCESS_INFORMATION process_;
   HWND window_ = nullptr;
 };
 

@@ -8,28 +8,6 @@
 
 namespace quillhue {
 
-namespace {
-
-// The clipboard, as soon as no other program has it.
-class OpenClipboardHere {
- public:
-  OpenClipboardHere() {
-    constexpr int kTries = 500;
-    constexpr DWORD kPause = 5;
-    for (int i = 0; OpenClipboard(nullptr) == 0; ++i) {
-      if (i == kTries) {
-        throw ProgramError("the clipboard is taken");
-      }
-      Sleep(kPause);
-    }
-  }
-  OpenClipboardHere(const OpenClipboardHere&) = delete;
-  OpenClipboardHere& operator=(const OpenClipboardHere&) = delete;
-  ~OpenClipboardHere() { CloseClipboard(); }
-};
-
-}  // namespace
-
 std::wstring UseTest::indexedFile(const std::string& name, Size size) const {
   std::vector<std::uint8_t> rows;
   for (std::int32_t y = 0; y < size.height; ++y) {
@@ -87,26 +65,41 @@ std::string UseTest::toolsResult(const std::wstring& image, const std::vector<st
   return folder_.contentOf("tool.bmp");
 }
 
-std::string clipboardBitmap() {
-  const OpenClipboardHere open;
-  HANDLE memory = GetClipboardData(CF_DIB);
-  if (memory == nullptr) {
-    return {};
+std::string UseTest::controls() const {
+  std::string states;
+  for (HWND control : findControls(editor().window())) {
+    const std::wstring kind = windowClass(control);
+    if (kind == L"Button" || kind == L"Edit") {
+      const bool isChosen = kind == L"Button" && editor().ask(control, BM_GETCHECK) == BST_CHECKED;
+      states += IsWindowEnabled(control) != 0 ? "+X"[isChosen] : "-x"[isChosen];
+    }
   }
-  const std::string bytes(static_cast<const char*>(GlobalLock(memory)), GlobalSize(memory));
-  GlobalUnlock(memory);
+  return states;
+}
+
+void UseTest::openClipboard() const {
+  editor().await("the clipboard", [] { return OpenClipboard(nullptr) != 0; });
+}
+
+std::string UseTest::clipboardBitmap() const {
+  openClipboard();
+  std::string bytes;
+  if (HANDLE memory = GetClipboardData(CF_DIB)) {
+    bytes.assign(static_cast<const char*>(GlobalLock(memory)), GlobalSize(memory));
+    GlobalUnlock(memory);
+  }
+  CloseClipboard();
   return bytes;
 }
 
-void putOnClipboard(std::string_view bitmap) {
+void UseTest::putOnClipboard(std::string_view bitmap) const {
   HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bitmap.size());
   std::memcpy(GlobalLock(memory), bitmap.data(), bitmap.size());
   GlobalUnlock(memory);
-  const OpenClipboardHere open;
+  openClipboard();
   EmptyClipboard();
-  if (SetClipboardData(CF_DIB, memory) == nullptr) {
-    throw ProgramError("the clipboard refuses");
-  }
+  EXPECT_TRUE(SetClipboardData(CF_DIB, memory));
+  CloseClipboard();
 }
 
 }  // namespace quillhue

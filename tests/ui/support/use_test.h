@@ -30,6 +30,9 @@ class UseTest : public UiTest {
   [[nodiscard]] HWND view() const { return editor().control(L"QuillhueImage"); }
   [[nodiscard]] HWND field(Field field) const;
   [[nodiscard]] bool isUsable(const wchar_t* button) const { return IsWindowEnabled(editor().button(button)) != 0; }
+  /// Load, the three modes, Protect color with its field, Protect grid with its two, Process, Save as: + for what can
+  /// be used, X where it is chosen too, and - or x for what can't.
+  [[nodiscard]] std::string controls() const;
   [[nodiscard]] bool showsImage() const;
   /// Waits until the view shows a color there.
   void awaitShown(Point point, PaletteEntry color) const;
@@ -44,13 +47,16 @@ class UseTest : public UiTest {
   /// What the tool makes of the image with the palette that was opened.
   [[nodiscard]] std::string toolsResult(const std::wstring& image, const std::vector<std::wstring>& options) const;
 
+  /// The bytes of the bitmap on the clipboard; empty without one.
+  [[nodiscard]] std::string clipboardBitmap() const;
+  void putOnClipboard(std::string_view bitmap) const;
+
   const Palette imageColors_ = brightPalette(256);
   const std::wstring indexed_ = indexedFile("indexed.bmp", kSize);
   const std::wstring direct_ = directFile();
-};
 
-/// The bytes of the bitmap on the clipboard; empty without one.
-[[nodiscard]] std::string clipboardBitmap();
-void putOnClipboard(std::string_view bitmap);
+ private:
+  void openClipboard() const;
+};
 
 }  // namespace quillhue
