@@ -38,7 +38,7 @@ TEST_F(Documents, AreNotDiscardedWithoutTheQuestion) {
     for (const auto& [place, go, asks, ends] : kPlaces) {
       SCOPED_TRACE(place + ", answer " + std::to_string(answer));
       Palette expected = brightPalette(4);
-      Editor& editor = open(expected);
+      const Editor& editor = open(expected);
       editor.run(command_id::kClear);
       // Canceled, it is as before, and asks again.
       go(editor);
@@ -63,7 +63,7 @@ TEST_F(Documents, AreNotDiscardedWithoutTheQuestion) {
 }
 
 TEST_F(Documents, AreDiscardedAtOnceWhenUnmodified) {
-  Editor& editor = open(brightPalette(4));
+  const Editor& editor = open(brightPalette(4));
   editor.run(command_id::kClear);
   editor.run(command_id::kUndo);
   editor.run(command_id::kNewWindows);
@@ -73,7 +73,7 @@ TEST_F(Documents, AreDiscardedAtOnceWhenUnmodified) {
 }
 
 TEST_F(Documents, OfADialogAreModified) {
-  Program program;
+  const Program program;
   program.start(command_id::kNewGreyscale);
   {
     const Dialog dialog(program, L"Palette size");
@@ -106,7 +106,7 @@ TEST_F(Documents, AreSavedUnderANameWithItsExtension) {
       {palette_format::kJasc, "four.jpeg", "four.jpeg.pal"}, {palette_format::kGimp, "needs none", "needs none"},
       {palette_format::kCsv, "lines", "lines.csv"},
   };
-  Editor& editor = open(brightPalette(4));
+  const Editor& editor = open(brightPalette(4));
   const auto saveAs = [&](const char* name, PaletteFormat type) {
     editor.start(command_id::kSaveAs);
     chooseFile(editor, L"Save As", folder_.name(name), static_cast<int>(type) - 1);
@@ -142,7 +142,7 @@ TEST_F(Documents, AreSavedUnderANameWithItsExtension) {
 TEST_F(Documents, ComeFromFiles) {
   const std::wstring first = paletteFile("first.pal", brightPalette(3));
   const std::wstring second = paletteFile("second.pal", brightPalette(7));
-  Program program;
+  const Program program;
   program.start(command_id::kOpen);
   chooseFile(program, L"Open", paletteFile("chosen.pal", brightPalette(9)));
   program.awaitTitle(L"Quillhue - chosen.pal");
@@ -161,7 +161,7 @@ TEST_F(Documents, ComeFromFiles) {
 // An image of true colors asks how to make a palette of it.
 TEST_F(Documents, ComeFromTheColorsOfAnImage) {
   const std::wstring image = folder_.file("image.bmp", bitmapOf(2, 24, {1, 2, 3, 3}));
-  Program program;
+  const Program program;
   {
     program.drop({image});
     const Dialog dialog(program, L"Create from image");

@@ -38,7 +38,7 @@ class Frame : public UiTest {
 };
 
 TEST_F(Frame, UndoesAndRedoesOnEveryPage) {
-  Editor& editor = open(brightPalette(5));
+  const Editor& editor = open(brightPalette(5));
   const auto awaitEntries = [&](const std::wstring& count) {
     editor.awaitEqual(count, [&] { return statusText(editor); });
   };
@@ -66,7 +66,7 @@ TEST_F(Frame, UndoesAndRedoesOnEveryPage) {
 TEST_F(Frame, TellsCountAndAverageOfTheColors) {
   Palette palette = createPalette(4, {10, 20, 30});
   palette.setEntry(3, {14, 20, 31});
-  Editor& editor = open(palette);
+  const Editor& editor = open(palette);
   editor.start(command_id::kCountColors);
   EXPECT_EQ(answerMessage(editor, L"Quillhue", IDOK), L"2 different entries found in the palette.");
   editor.start(command_id::kAverageColor);
@@ -76,7 +76,7 @@ TEST_F(Frame, TellsCountAndAverageOfTheColors) {
 }
 
 TEST_F(Frame, ShowsAbout) {
-  Program program;
+  const Program program;
   program.start(command_id::kAbout);
   const Dialog dialog(program, L"About Quillhue");
   EXPECT_NE(dialog.text().find(L"Version 4.2"), std::wstring::npos);
@@ -90,7 +90,7 @@ TEST_F(Frame, ShowsAbout) {
 }
 
 TEST_F(Frame, PagesKeepTheirStateAndAreReachedByTheTabKey) {
-  Editor& editor = open(brightPalette(16));
+  const Editor& editor = open(brightPalette(16));
   HWND models = editor.control(L"ComboBox");
   for (const int page : {kEffectsPage, kUsePage, kValuesPage}) {
     SCOPED_TRACE(page);

@@ -30,7 +30,7 @@ TEST_F(Intro, ButtonsDoTheirCommands) {
                 {L"Grey", L"Palette size"},
                 {L"RGB", L"New palette properties"},
                 {L"Open", L"Open"}};
-  Program program;
+  const Program program;
   for (const auto& [button, dialog] : kCases) {
     program.click(button);
     Dialog(program, dialog).answer(IDCANCEL);
@@ -43,7 +43,7 @@ TEST_F(Intro, ButtonsDoTheirCommands) {
 }
 
 TEST_F(Intro, OffersSystemPalettesOnTheSixteenAlone) {
-  Program program;
+  const Program program;
   HWND sixteen = program.button(L"16");
   const Rect box = boxOnScreen(sixteen);
   // Beside it nothing opens. The click on a corner comes after, so what the others did is known by then.

@@ -25,12 +25,12 @@ class Settings : public UiTest {
 };
 
 TEST_F(Settings, OfAFirstStartAreTheDefaultsAndTheSizeOfTheWindowIsKept) {
-  Program first;
+  const Program first;
   EXPECT_EQ(outerSizeOf(first.window()), usual_);
   first.close();
   EXPECT_EQ(storedSettings(), defaults_);
   const Size size{least_.width + 31, least_.height + 17};
-  Program second;
+  const Program second;
   second.resize(size);
   second.close();
   const Program third;
@@ -86,7 +86,7 @@ TEST_F(Settings, AreCheckedWhenRead) {
       }
     }
     store(stored);
-    Program program;
+    const Program program;
     const Size size = outerSizeOf(program.window());
     EXPECT_EQ(storedNumber(size.width), written["Window width"]);
     EXPECT_EQ(storedNumber(size.height), written["Window height"]);
@@ -103,7 +103,7 @@ TEST_F(Settings, FillTheDialogForANewPalette) {
   store({{"Palette size", storedNumber(5000)},
          {"Windows colors", storedBytes({1})},
          {"RGB levels", storedBytes({2, 3, 4})}});
-  Program program;
+  const Program program;
   program.start(command_id::kNewRgb);
   {
     const Dialog dialog(program, L"New palette properties");

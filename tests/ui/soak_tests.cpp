@@ -156,7 +156,7 @@ class Soak : public UiTest {
 };
 
 TEST_F(Soak, EndsWithADocumentThatCanBeSaved) {
-  Editor& editor = open(brightPalette(16));
+  const Editor& editor = open(brightPalette(16));
   ResourceCount before;
   for (int i = 0; i < kActions; ++i) {
     SCOPED_TRACE("action " + std::to_string(i));

@@ -18,7 +18,7 @@ class Start : public UiTest {
 };
 
 TEST_F(Start, ShowsTheIntroScreen) {
-  Program program;
+  const Program program;
   expectIntroScreen(program);
   EXPECT_EQ(statusText(program), L"");
   EXPECT_EQ(statusText(program, 2), L"Version 4.2");
@@ -27,7 +27,7 @@ TEST_F(Start, ShowsTheIntroScreen) {
 }
 
 TEST_F(Start, OpensTheFileOfTheCommandLine) {
-  Program program({paletteFile("with blank.pal", brightPalette(5)), L"not this"});
+  const Program program({paletteFile("with blank.pal", brightPalette(5)), L"not this"});
   program.awaitTitle(L"Quillhue - with blank.pal");
   HWND tabs = program.await("the editor", [&] { return tabControl(program); });
   EXPECT_FALSE(findControl(program.window(), L"Button", L"Blank"));
@@ -49,7 +49,7 @@ TEST_F(Start, TellsThatTheFileCantBeOpened) {
   };
   for (const auto& [file, message] : kCases) {
     SCOPED_TRACE(narrow(file));
-    Program program({file});
+    const Program program({file});
     const std::wstring shown = answerMessage(program, L"Error", IDOK);
     EXPECT_TRUE(message.empty() ? !shown.empty() : shown == message) << narrow(shown);
     expectIntroScreen(program);

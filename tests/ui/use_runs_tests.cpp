@@ -59,7 +59,7 @@ TEST_F(UseRuns, WaitForTheQuestionBeforeTheWindowCloses) {
     if (answer == IDCANCEL) {
       editor().await("the result", [&] { return isUsable(L"&Save as..."); });
       editor().run(command_id::kSave);
-      EXPECT_EQ(result(), toolsResult(big_, {L"--mode", L"dither"}));
+      EXPECT_EQ(result(), toolsResult(big_, L"dither"));
       continue;
     }
     EXPECT_EQ(editor().awaitEnd(), 0U);

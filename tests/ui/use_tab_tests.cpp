@@ -88,27 +88,20 @@ TEST_F(Use, ResultIsWhatTheToolMakes) {
     std::int32_t paletteSize;
     bool isIndexed;
     const wchar_t* mode;
-    std::vector<std::wstring> options;
+    std::wstring toolsMode;
+    std::vector<std::wstring> options{};
     // What is protected: color, width and height of the grid.
     std::vector<const char*> typed{};
   } kCases[] = {
-      {100, true, L"&Maintain mapping", {L"--mode", L"maintain"}},
-      {16, true, L"&Nearest match", {L"--mode", L"nearest"}},
-      {16, false, L"&Nearest match", {L"--mode", L"nearest"}},
-      {17, true, L"&Dither", {L"--mode", L"dither"}},
-      {17,
-       false,
-       L"&Dither",
-       {L"--mode", L"dither", L"--protect-color", L"5", L"--protect-grid", L"20x7"},
-       {"5", "20", "7"}},
-      {17,
-       true,
-       L"&Dither",
-       {L"--mode", L"dither", L"--protect-color", L"16", L"--protect-grid", L"1x1000"},
-       {"99", "0", "5000"}},
+      {100, true, L"&Maintain mapping", L"maintain"},
+      {16, true, L"&Nearest match", L"nearest"},
+      {16, false, L"&Nearest match", L"nearest"},
+      {17, true, L"&Dither", L"dither"},
+      {17, false, L"&Dither", L"dither", {L"--protect-color=5", L"--protect-grid=20x7"}, {"5", "20", "7"}},
+      {17, true, L"&Dither", L"dither", {L"--protect-color=16", L"--protect-grid=1x1000"}, {"99", "0", "5000"}},
   };
-  for (const auto& [size, isIndexed, mode, options, typed] : kCases) {
-    SCOPED_TRACE(narrow(options[1]) + ' ' + std::to_string(size));
+  for (const auto& [size, isIndexed, mode, toolsMode, options, typed] : kCases) {
+    SCOPED_TRACE(narrow(toolsMode) + ' ' + std::to_string(size));
     open(brightPalette(size));
     load(isIndexed ? indexed_ : direct_);
     editor().click(mode);
@@ -120,7 +113,7 @@ TEST_F(Use, ResultIsWhatTheToolMakes) {
       }
     }
     process();
-    EXPECT_EQ(result(), toolsResult(isIndexed ? indexed_ : direct_, options));
+    EXPECT_EQ(result(), toolsResult(isIndexed ? indexed_ : direct_, toolsMode, options));
   }
 }
 

@@ -156,14 +156,14 @@ void Program::resize(Size size) const {
   SetWindowPos(window_, nullptr, 0, 0, size.width, size.height, SWP_NOMOVE | SWP_NOZORDER);
 }
 
-DWORD Program::awaitEnd() {
+DWORD Program::awaitEnd() const {
   if (WaitForSingleObject(process(), kPatienceMilliseconds) != WAIT_OBJECT_0) {
     throw ProgramError("waited in vain for the end; " + description());
   }
   return exitCodeOf(process());
 }
 
-void Program::close() {
+void Program::close() const {
   post(window_, WM_CLOSE);
   EXPECT_EQ(awaitEnd(), 0U);
 }

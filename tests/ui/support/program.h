@@ -90,9 +90,9 @@ class Program {
   void resize(Size size) const;
 
   /// Waits for the process to end, and returns its exit code.
-  DWORD awaitEnd();
+  DWORD awaitEnd() const;
   /// Closes the window, which must not ask anything, and waits for the end with exit code 0.
-  void close();
+  void close() const;
 
   /// All windows that have no parent, the hidden ones too.
   [[nodiscard]] std::vector<HWND> windows() const;

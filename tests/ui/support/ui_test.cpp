@@ -10,7 +10,7 @@ std::wstring UiTest::paletteFile(const std::string& name, const Palette& palette
   return folder_.file(name, composePaletteFile(palette, format, {}).value());
 }
 
-Editor& UiTest::open(const Palette& palette, int page) {
+const Editor& UiTest::open(const Palette& palette, int page) {
   editor_.reset();
   editor_ = std::make_unique<Editor>(paletteFile("own.pal", palette), page);
   return *editor_;

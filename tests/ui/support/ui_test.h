@@ -24,8 +24,8 @@ class UiTest : public testing::Test {
   /// full name.
   [[nodiscard]] std::wstring paletteFile(const std::string& name, const Palette& palette) const;
   /// Opens the palette as own.pal, in place of what this has opened before.
-  Editor& open(const Palette& palette, int page = kValuesPage);
-  [[nodiscard]] Editor& editor() const { return *editor_; }
+  const Editor& open(const Palette& palette, int page = kValuesPage);
+  [[nodiscard]] const Editor& editor() const { return *editor_; }
 
   ScratchFolder folder_;
 

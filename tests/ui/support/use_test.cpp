@@ -58,8 +58,10 @@ std::string UseTest::result() const {
   return folder_.contentOf("result.bmp");
 }
 
-std::string UseTest::toolsResult(const std::wstring& image, const std::vector<std::wstring>& options) const {
-  std::vector<std::wstring> arguments{L"remap", L"--force", image, editor().file(), folder_.name("tool.bmp")};
+std::string UseTest::toolsResult(const std::wstring& image, const std::wstring& mode,
+                                 const std::vector<std::wstring>& options) const {
+  std::vector<std::wstring> arguments{
+      L"remap", L"--force", L"--mode", mode, image, editor().file(), folder_.name("tool.bmp")};
   arguments.insert(arguments.end(), options.begin(), options.end());
   runTool(arguments);
   return folder_.contentOf("tool.bmp");

@@ -45,7 +45,8 @@ class UseTest : public UiTest {
   /// What "Save as" writes.
   [[nodiscard]] std::string result() const;
   /// What the tool makes of the image with the palette that was opened.
-  [[nodiscard]] std::string toolsResult(const std::wstring& image, const std::vector<std::wstring>& options) const;
+  [[nodiscard]] std::string toolsResult(const std::wstring& image, const std::wstring& mode,
+                                        const std::vector<std::wstring>& options = {}) const;
 
   /// The bytes of the bitmap on the clipboard; empty without one.
   [[nodiscard]] std::string clipboardBitmap() const;
