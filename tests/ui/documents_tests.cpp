@@ -1,4 +1,5 @@
 #include <functional>
+#include <future>
 
 #include "core/generators.h"
 #include "core/palette_format.h"
@@ -70,6 +71,24 @@ TEST_F(Documents, AreDiscardedAtOnceWhenUnmodified) {
   EXPECT_EQ(textOf(editor.window()), L"Quillhue - Untitled");
   EXPECT_EQ(statusText(editor), L"16 entries");
   editor.close();
+}
+
+TEST_F(Documents, AreAskedForWhenTheSessionEnds) {
+  const Editor& editor = open(brightPalette(4));
+  const auto maySessionEnd = [&] { return editor.ask(editor.window(), WM_QUERYENDSESSION); };
+  EXPECT_EQ(maySessionEnd(), TRUE);
+  editor.run(command_id::kClear);
+  for (const auto& [answer, mayEnd] : {std::pair{IDCANCEL, FALSE}, {IDNO, TRUE}, {IDYES, TRUE}}) {
+    auto asked = std::async(std::launch::async, maySessionEnd);
+    answerMessage(editor, L"Warning", answer);
+    EXPECT_EQ(asked.get(), mayEnd) << answer;
+  }
+  EXPECT_EQ(paletteIn(editor.file()).entry(0), PaletteEntry{});
+  // Another program may have refused. Otherwise it ends without a further message.
+  editor.ask(editor.window(), WM_ENDSESSION, FALSE);
+  EXPECT_TRUE(storedSettings().empty());
+  editor.ask(editor.window(), WM_ENDSESSION, TRUE);
+  EXPECT_FALSE(storedSettings().empty());
 }
 
 TEST_F(Documents, OfADialogAreModified) {
