@@ -123,12 +123,14 @@ class Soak : public UiTest {
 
   // A file, another page, or an item of the list that is shown.
   void chooseOrDrop() {
+    // Input that is still on its way may take the list away again.
+    HWND list = findControl(editor().window(), L"ComboBox");
     if (any(3) == 0) {
       editor().drop({anyOf(files_)});
-    } else if (findControl(editor().window(), L"ComboBox") == nullptr || any(2) == 0) {
+    } else if (list == nullptr || any(2) == 0) {
       editor().ask(tabControl(editor()), TCM_SETCURFOCUS, static_cast<WPARAM>(any(3)));
     } else {
-      editor().choose(static_cast<std::size_t>(any(9)));
+      editor().choose(list, static_cast<std::size_t>(any(9)));
     }
   }
 

@@ -93,13 +93,14 @@ TEST_F(Values, FollowWhatIsTyped) {
 }
 
 TEST_F(Values, OfAnotherModelKeepTheEntry) {
+  HWND models = editor().control(L"ComboBox");
   for (std::size_t i = 0; i < colorModels().size(); ++i) {
-    editor().choose(i);
+    editor().choose(models, i);
     EXPECT_FALSE(isOffered(editor(), command_id::kUndo)) << colorModels()[i]->name;
     expectSaved(kColor);
   }
   // Hue 210, saturation 100 / 200, value 200.
-  editor().choose(3);
+  editor().choose(models, 3);
   EXPECT_TRUE(numbers().starts_with("210 ")) << numbers();
   EXPECT_TRUE(numbers().ends_with(" 200")) << numbers();
   editor().close();

@@ -53,8 +53,7 @@ void Editor::typeInto(HWND field, std::string_view text) const {
   awaitInput();
 }
 
-void Editor::choose(std::size_t item) const {
-  HWND list = control(WC_COMBOBOXW);
+void Editor::choose(HWND list, std::size_t item) const {
   ask(list, CB_SETCURSEL, item);
   ask(window(), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), CBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
 }

@@ -39,8 +39,8 @@ class Editor : public Program {
 
   /// Gives an edit field the focus, and types into it in place of what is there.
   void typeInto(HWND field, std::string_view text) const;
-  /// Chooses an item of the drop-down list.
-  void choose(std::size_t item) const;
+  /// Chooses an item of a drop-down list.
+  void choose(HWND list, std::size_t item) const;
 
  private:
   std::wstring file_;
