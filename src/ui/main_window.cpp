@@ -203,7 +203,7 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       closeAsked();
       return 0;
     case WM_QUERYENDSESSION:
-      return closesAfterRun_ || mayClose() ? TRUE : FALSE;
+      return (closesAfterRun_ || mayClose()) ? TRUE : FALSE;
     case WM_ENDSESSION:
       // If the session ends the process ends after this, without further messages.
       if (wParam != FALSE) {
