@@ -146,6 +146,8 @@ TEST_F(Documents, AreSavedUnderANameWithItsExtension) {
   }
   editor.awaitTitle(L"Quillhue - plain.pal");
   EXPECT_NE(folder_.contentOf("plain.pal"), before);
+  saveAs(std::string(240, 'n').c_str(), palette_format::kCsv);
+  EXPECT_EQ(answerMessage(editor, L"Error", IDOK), L"The name of the file is too long.");
   // What the format can't hold is told, and nothing is written.
   editor.drop({paletteFile("large.pal", brightPalette(300))});
   editor.awaitTitle(L"Quillhue - large.pal");

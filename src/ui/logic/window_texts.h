@@ -19,6 +19,9 @@ inline constexpr std::string_view kWarningCaption = "Warning";
 inline constexpr std::string_view kErrorCaption = "Error";
 inline constexpr std::string_view kSaveAsCaption = "Save As";
 
+/// Of a file's full name that the system's dialogs do not take.
+inline constexpr std::string_view kNameTooLongText = "The name of the file is too long.";
+
 /// Fatal at start-up.
 inline constexpr std::string_view kNoWindowClassText = "Could not register window.";
 inline constexpr std::string_view kNoWindowText = "Could not create window.";

@@ -3,28 +3,46 @@
 #include <utility>
 
 #include "ui/dialogs/palette_from_image_dialog.h"
+#include "ui/logic/window_texts.h"
 #include "ui/main_window.h"
 #include "ui/services/file_types.h"
 
 namespace quillhue {
 
+namespace {
+
+template <typename File>
+std::optional<File> chosen(const MainWindow& owner, std::expected<File, NoFile> answer) {
+  if (answer) {
+    return std::move(*answer);
+  }
+  if (answer.error() == NoFile::nameTooLong) {
+    owner.services().messages.error(kNameTooLongText);
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
 std::optional<std::wstring> FileDialogs::askOpenPalette() const {
-  return askFileToOpen(owner_.dialogOwner(), openPaletteTypes());
+  return chosen(owner_, askFileToOpen(owner_.dialogOwner(), openPaletteTypes()));
 }
 
 std::optional<std::wstring> FileDialogs::askOpenImage() const {
-  return askFileToOpen(owner_.dialogOwner(), openImageTypes());
+  return chosen(owner_, askFileToOpen(owner_.dialogOwner(), openImageTypes()));
 }
 
 std::optional<std::wstring> FileDialogs::askSaveBitmap() const {
   const auto types = saveBitmapTypes();
-  auto file = askFileToSave(owner_.dialogOwner(), {.types = types, .extension = L"bmp", .asksToReplace = true});
+  auto file =
+      chosen(owner_, askFileToSave(owner_.dialogOwner(), {.types = types, .extension = L"bmp", .asksToReplace = true}));
   return file ? std::optional(std::move(file->name)) : std::nullopt;
 }
 
 std::optional<SaveAsAnswer> FileDialogs::askSaveAs(PaletteFormat preselected) {
   const auto types = savePaletteTypes();
-  auto file = askFileToSave(owner_.dialogOwner(), {.types = types, .type = preselected, .nameLength = 256});
+  auto file =
+      chosen(owner_, askFileToSave(owner_.dialogOwner(), {.types = types, .type = preselected, .nameLength = 256}));
   return file ? std::optional(SaveAsAnswer{std::move(file->name), file->type}) : std::nullopt;
 }
 

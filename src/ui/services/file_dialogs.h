@@ -11,7 +11,7 @@ namespace quillhue {
 class MainWindow;
 
 /// The system's dialogs for file names, and the question how to make a palette of an image. Each gives nothing when
-/// the user cancels.
+/// the user cancels, or is told that the name is too long.
 class FileDialogs final : public FileQuestions {
  public:
   explicit FileDialogs(const MainWindow& owner) : owner_(owner) {}

@@ -1,5 +1,7 @@
 #include "ui/win32/file_dialog.h"
 
+// Need windows.h before them.
+#include <cderr.h>
 #include <commdlg.h>
 
 #include <utility>
@@ -10,7 +12,8 @@ namespace quillhue {
 
 namespace {
 
-std::optional<FileToSave> ask(HWND owner, const SaveDialog& dialog, DWORD flags, decltype(GetOpenFileNameW)* show) {
+std::expected<FileToSave, NoFile> ask(HWND owner, const SaveDialog& dialog, DWORD flags,
+                                      decltype(GetOpenFileNameW)* show) {
   const std::wstring filter = filterOf(dialog.types);
   std::wstring name(dialog.nameLength, L'\0');
   OPENFILENAMEW question{};
@@ -23,7 +26,7 @@ std::optional<FileToSave> ask(HWND owner, const SaveDialog& dialog, DWORD flags,
   question.lpstrDefExt = dialog.extension;
   question.Flags = OFN_EXPLORER | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | flags;
   if (show(&question) == 0) {
-    return std::nullopt;
+    return std::unexpected(CommDlgExtendedError() == FNERR_BUFFERTOOSMALL ? NoFile::nameTooLong : NoFile::canceled);
   }
   return FileToSave{name.substr(0, name.find(L'\0')), question.nFilterIndex};
 }
@@ -38,12 +41,15 @@ std::wstring filterOf(std::span<const FileType> types) {
   return filter;
 }
 
-std::optional<std::wstring> askFileToOpen(HWND owner, std::span<const FileType> types) {
+std::expected<std::wstring, NoFile> askFileToOpen(HWND owner, std::span<const FileType> types) {
   auto file = ask(owner, {types}, OFN_FILEMUSTEXIST, GetOpenFileNameW);
-  return file ? std::optional(std::move(file->name)) : std::nullopt;
+  if (!file) {
+    return std::unexpected(file.error());
+  }
+  return std::move(file->name);
 }
 
-std::optional<FileToSave> askFileToSave(HWND owner, const SaveDialog& dialog) {
+std::expected<FileToSave, NoFile> askFileToSave(HWND owner, const SaveDialog& dialog) {
   return ask(owner, dialog, dialog.asksToReplace ? OFN_OVERWRITEPROMPT : 0, GetSaveFileNameW);
 }
 

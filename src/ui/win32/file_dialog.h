@@ -2,7 +2,8 @@
 
 #include <windows.h>
 
-#include <optional>
+#include <cstdint>
+#include <expected>
 #include <span>
 #include <string>
 
@@ -20,8 +21,11 @@ struct FileType {
 /// The list as the dialogs take it: text, null, patterns, null, and a null behind the last.
 [[nodiscard]] std::wstring filterOf(std::span<const FileType> types);
 
-/// A file that exists; nothing when the user cancels.
-[[nodiscard]] std::optional<std::wstring> askFileToOpen(HWND owner, std::span<const FileType> types);
+/// Why a dialog gives no file.
+enum class NoFile : std::uint8_t { canceled, nameTooLong };
+
+/// A file that exists.
+[[nodiscard]] std::expected<std::wstring, NoFile> askFileToOpen(HWND owner, std::span<const FileType> types);
 
 struct SaveDialog {
   std::span<const FileType> types;
@@ -39,7 +43,7 @@ struct FileToSave {
   /// From 1 on.
   DWORD type = 1;
 };
-/// A file in a folder that exists; nothing when the user cancels.
-[[nodiscard]] std::optional<FileToSave> askFileToSave(HWND owner, const SaveDialog& dialog);
+/// A file in a folder that exists.
+[[nodiscard]] std::expected<FileToSave, NoFile> askFileToSave(HWND owner, const SaveDialog& dialog);
 
 }  // namespace quillhue
