@@ -62,7 +62,7 @@ class Soak : public UiTest {
       if (dialog != nullptr) {
         answer(dialog);
       }
-      editor().ask(editor().window(), WM_NULL);
+      editor().awaitInput();
     }
     throw ProgramError("dialogs don't end; " + editor().description());
   }
@@ -166,12 +166,9 @@ TEST_F(Soak, EndsWithADocumentThatCanBeSaved) {
       before = countResources(editor);
     }
     act();
-    editor.ask(editor.window(), WM_NULL);
+    editor.awaitInput();
     answerAll();
   }
-  // What the last action has posted may still open a dialog.
-  editor.awaitInput();
-  answerAll();
   expectNoLeak(editor, before, 40);
   const std::string saved = saveTo("saved");
   editor.drop({folder_.name("saved")});
