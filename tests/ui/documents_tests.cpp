@@ -146,7 +146,8 @@ TEST_F(Documents, AreSavedUnderANameWithItsExtension) {
   }
   editor.awaitTitle(L"Quillhue - plain.pal");
   EXPECT_NE(folder_.contentOf("plain.pal"), before);
-  saveAs(std::string(240, 'n').c_str(), palette_format::kCsv);
+  // Longer by one than the dialog has room for; Wine's own has none for more than 259 characters.
+  saveAs(std::string(256 - folder_.name("").size(), 'n').c_str(), palette_format::kCsv);
   EXPECT_EQ(answerMessage(editor, L"Error", IDOK), L"The name of the file is too long.");
   // What the format can't hold is told, and nothing is written.
   editor.drop({paletteFile("large.pal", brightPalette(300))});
