@@ -30,7 +30,7 @@ TEST_F(Use, ImagesComeFromDialogDropAndClipboard) {
   awaitImage();
   // It is there still when another can't be loaded.
   editor().drop({folder_.file("none.bmp", bytesOf("BM nothing of the kind"))}, view());
-  EXPECT_NE(answerMessage(editor(), L"Error", IDOK), L"");
+  EXPECT_EQ(answerMessage(editor(), L"Error", IDOK), L"The image is too small.");
   awaitImage();
   clear();
   load(indexed_);

@@ -127,13 +127,16 @@ TEST_F(Values, ComeFromTheColorChooser) {
 }
 
 TEST_F(Values, GoToTheOtherPageAndBackByTheClipboard) {
-  editor().run(command_id::kCopy);
+  editor().run(command_id::kCut);
+  expectSaved({0, 0, 0});
   editor().choosePage(kEffectsPage);
   editor().run(command_id::kSelectAll);
   editor().run(command_id::kPaste);
-  editor().choosePage(kValuesPage);
-  // What was copied is one color; the selection's other entries stay.
+  // What was cut is one color; the selection's other entries stay.
   expectSaved(kColor);
+  // The color that comes back is the first of the selection.
+  editor().run(command_id::kCopy);
+  editor().choosePage(kValuesPage);
   editor().run(command_id::kClear);
   expectSaved({0, 0, 0});
   editor().run(command_id::kPaste);
