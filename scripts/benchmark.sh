@@ -5,7 +5,8 @@ set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 out=$(realpath "${1:-$root/docs/benchmarks.md}")
-"$root/scripts/need.sh" g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libbenchmark-dev python3
+"$root/scripts/need.sh" g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libpng-dev libjpeg-dev \
+  libbenchmark-dev python3
 for peer in imagemagick graphicsmagick netpbm ffmpeg pngquant python3-pil; do
   "$root/scripts/need.sh" $peer || echo "$peer cannot be installed and is left out"
 done

@@ -3,7 +3,7 @@
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
-scripts/need.sh xterm xvfb imagemagick g++ cmake ninja-build libcli11-dev nlohmann-json3-dev
+scripts/need.sh xterm xvfb imagemagick g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libpng-dev libjpeg-dev
 scripts/build.sh native quillhue-cli
 
 work=$(mktemp -d)

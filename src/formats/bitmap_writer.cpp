@@ -1,9 +1,11 @@
 #include "formats/bitmap_writer.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 #include "formats/byte_sink.h"
+#include "formats/work_image.h"
 #include "formats/writers/palette_writer.h"
 
 namespace quillhue {
