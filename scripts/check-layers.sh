@@ -7,20 +7,21 @@ cd "${1:-$(dirname "${BASH_SOURCE[0]}")/..}"
 # What each folder may include beside itself and the standard library.
 declare -A allowed=(
   [src/core]=""
-  [src/formats]="core"
+  [src/system]="core"
+  [src/formats]="core system"
   [src/colormodes]="core"
   [src/effects]="core"
   [src/remap]="core formats/work_image.h"
   [src/pictures]="core formats/work_image.h formats/indexed_pixels.h formats/image_limits.h formats/failure.h"
-  [src/cli]="core formats colormodes effects remap pictures"
-  [src/ui/logic]="core formats colormodes effects remap pictures"
+  [src/cli]="core system formats colormodes effects remap pictures"
+  [src/ui/logic]="core system formats colormodes effects remap pictures"
   [src/ui/win32]="core ui/logic/geometry.h"
-  [src/ui]="core formats colormodes effects remap pictures"
+  [src/ui]="core system formats colormodes effects remap pictures"
 )
 [ -d src ] || { echo "no src/ in $PWD"; exit 1; }
 status=0
 complain() {
-  echo "$1"
+  echo "$*"
   status=1
 }
 
@@ -44,10 +45,11 @@ while IFS=: read -r file line include; do
     case $file:$path in
       src/remap/*:emmintrin.h) continue ;;  # the instructions of SSE2
       src/pictures/posix/*:png.h | src/pictures/posix/*:jpeglib.h | src/pictures/posix/*:jerror.h) continue ;;
-      src/pictures/windows/*) continue ;;
+      src/pictures/windows/* | src/system/posix/* | src/system/windows/*) continue ;;
     esac
     [[ ($file == src/ui/* && $layer != src/ui/logic) || $file == src/cli/program_* ]] ||
-      complain "$file:$line: <$path> belongs to src/ui (not its logic), src/pictures/windows and the tool's program_*.cpp"
+      complain "$file:$line: <$path> belongs to src/ui (not its logic), src/system/posix, src/system/windows," \
+        "src/pictures/windows and the tool's program_*.cpp"
     continue
   fi
   [[ $path == */* ]] || continue

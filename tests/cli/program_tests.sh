@@ -43,5 +43,8 @@ expect_status 1 info empty
 if [ -e /dev/full ] && [ $# -eq 1 ]; then
   "${tool[@]}" info <(cat file.clp) >out || fail 'a pipe is no file'
   ! "${tool[@]}" info 'ö.act' >/dev/full 2>err || fail 'a full device goes unnoticed'
+  "${tool[@]}" convert 'ö.act' /dev/stdout --force --format clp >stdout.clp
+  "${tool[@]}" convert 'ö.act' /dev/stdout --force --format clp | cmp stdout.clp - || fail 'a pipe is not written'
+  cmp stdout.clp file.clp || fail 'standard output by its name is not written'
   ! "${tool[@]}" convert 'ö.act' /dev/full --force --format map 2>err || fail 'a full device goes unnoticed'
 fi

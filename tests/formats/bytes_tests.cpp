@@ -87,15 +87,5 @@ TEST(ByteSource, ReadsBlocksAndTellsWhenTheMediumFails) {
   EXPECT_EQ(readPalette({source, L"x.act"}).error(), Failure::couldNotOpen);
 }
 
-TEST(Files, RefuseWhatIsNoFile) {
-  const ScratchFolder folder;
-  for (const std::wstring& name : {folder.name(), folder.name("none"), std::wstring()}) {
-    EXPECT_EQ(openFile(name).error(), Failure::couldNotOpen);
-  }
-  EXPECT_FALSE(writeFile(folder.name(), Bytes{1}));
-  EXPECT_FALSE(writeFile(folder.name("none/x"), Bytes{1}));
-  EXPECT_FALSE(fileExists(folder.name("none")));
-}
-
 }  // namespace
 }  // namespace quillhue

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <iterator>
 #include <random>
 #include <string>
 #include <system_error>
@@ -37,6 +39,8 @@ class ScratchFolder {
     const Bytes bytes = source->bytes(0, static_cast<std::size_t>(source->size()));
     return {bytes.begin(), bytes.end()};
   }
+  /// The files in the folder.
+  [[nodiscard]] std::ptrdiff_t count() const { return std::distance(std::filesystem::directory_iterator(path_), {}); }
 
  private:
   std::filesystem::path path_;
