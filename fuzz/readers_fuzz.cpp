@@ -9,7 +9,8 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quillhue;
   MemorySource source(std::vector(data, data + size));
-  for (const wchar_t* name : {L"x", L"x.map", L"x.csv", L"x.tga", L"x.act", L"x.pal", L"x.col"}) {
+  for (const wchar_t* name :
+       {L"x", L"x.map", L"x.csv", L"x.tga", L"x.act", L"x.pal", L"x.col", L"x.aco", L"x.txt", L"x.hex"}) {
     (void)findPaletteReader({source, name});
   }
   for (const PaletteReader* reader : paletteReaders()) {

@@ -21,9 +21,10 @@ struct InfoOptions {
 };
 
 void showFilePalette(const std::string& file, const Input& input, bool json, Console& console) {
-  const auto& [palette, format] = std::get<FilePalette>(input.content);
+  const auto& content = std::get<FilePalette>(input.content);
+  const Palette& palette = content.palette;
   if (json) {
-    writeJson(console, paletteJson(file, input.reader->name, format, palette));
+    writeJson(console, paletteJson(file, input.reader->name, content.format, palette));
     return;
   }
   console.out << file << ": " << input.reader->title << ", " << palette.getSize()

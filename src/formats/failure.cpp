@@ -45,6 +45,11 @@ constexpr std::array kTexts{
     FailureText{rawPalTooLarge, "This palette file is too large."},
     FailureText{rawColTooSmall, "This AA palette file is too small."},
     FailureText{rawColTooLarge, "This AA palette file is too large."},
+    FailureText{hexInvalid, "This is not a valid list of hexadecimal colors."},
+    FailureText{paintNetInvalid, "This is not a valid Paint.NET palette file."},
+    FailureText{aseInvalid, "This is not a valid Swatch Exchange file."},
+    FailureText{acoInvalid, "This is not a valid Photoshop swatches file."},
+    FailureText{swatchModelUnsupported, "This file has a swatch in a color model that is not supported."},
     FailureText{mightHoldMore,
                 "This file might contain additional information which would be removed.\n"
                 "Choose \"Save as...\" to overwrite or to select a different file."},

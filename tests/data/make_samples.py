@@ -152,10 +152,39 @@ def true_color_images():
     save_image("alpha.bmp", bitmap_info(13, 11, 32, 54) + alpha, distinct)
 
 
+def web_formats():
+    few = colors(12)
+    digits = [bytes(entry).hex() for entry in few]
+    save("lines.hex", ("\r\n".join(digits[:6]) + "\n#" + "\n#".join(digits[6:]).upper()).encode(), "hex", 0, few)
+    paint = ["; Paint.NET Palette File", "; x", "", *("7f" + line.upper() for line in digits[:11]), " " + digits[11]]
+    save("lines.txt", "\r\n".join(paint).encode(), "paint-net", 0, few)
+    # Swatches of one color in every model, with the colors that they are by the formulas of each.
+    models = [(255, 128, 0), (64, 64, 64), (0, 128, 255), (60, 38, 30), (255, 0, 0), (255, 255, 255)]
+    lab = [(54.2917, 80.8125, 69.8851), (100, 0, 0)]
+
+    def block(tag, *components, name="\u00e4b\0"):
+        label = struct.pack(">H", len(name)) + name.encode("utf-16-be")
+        data = label + tag + struct.pack(f">{len(components)}f", *components) + b"\0\2"
+        return struct.pack(">HI", 1, len(data)) + data
+
+    ase = [b"\xc0\1" + struct.pack(">I", 4) + b"\0\1\0\0", block(b"RGB ", 1, 0.5, -0.5), block(b"Gray", 0.25, name="")]
+    ase += [b"\xc0\2" + bytes(4), block(b"RGB ", float("nan"), 0.5, 7), block(b"CMYK", 0.5, 0.685, 0.75, 0.53)]
+    ase += [block(b"LAB ", lightness / 100, a, b) for lightness, a, b in lab]
+    save("models.ase", b"ASEF\0\1\0\0" + struct.pack(">I", len(ase)) + b"".join(ase), "ase", 0, models)
+    rgb = [(0, red * 257, green << 8, blue * 257, 0) for red, green, blue in few]
+    save("rgb.aco", struct.pack(">HH60H", 1, 12, *sum(rgb, ())) + b"\0\2", "aco", 0, few)
+    inks = [round(65535 * (1 - ink)) for ink in (0.5, 0.685, 0.75, 0.53)]
+    swatches = [(1, 5462, 65535, 65535, 0), (8, 2500, 0, 0, 0), (1, 38207, 65535, 65535, 0), (2, *inks)]
+    swatches += [(7, *(round(100 * value) & 0xFFFF for value in color), 0) for color in lab]
+    named = b"".join(struct.pack(">5HI", *swatch, 2) + "x\0".encode("utf-16-be") for swatch in swatches)
+    save("models.aco", struct.pack(">HH", 2, len(swatches)) + named, "aco", 0, models)
+
+
 SAMPLES.mkdir(exist_ok=True)
 text_formats()
 fixed_formats()
 image_formats()
 clipboard_formats()
 true_color_images()
+web_formats()
 (HERE / "samples.txt").write_text("\n".join(sorted(lines)) + "\n")

@@ -72,8 +72,9 @@ TEST(Samples, HoldWhatTheirListTells) {
 // A file that ends early is the file with zeros behind its end, except where the size itself or an end of the text
 // tells something; those still have to read within their bounds.
 TEST(Samples, CutAtEveryByteReadAsIfZerosFollowed) {
-  const std::set<std::string> sizeMatters{"color-table", "pcx", "aa-palette", "act",  "raw", "ms-draw", "bmp",
-                                          "map",         "csv", "gimp",       "jasc", "png", "lbm"};
+  const std::set<std::string> sizeMatters{"color-table", "pcx", "aa-palette", "act",  "raw",  "ms-draw",
+                                          "bmp",         "map", "csv",        "gimp", "jasc", "png",
+                                          "lbm",         "hex", "paint-net",  "ase",  "aco"};
   for (const auto& [file, reader, holds] : allSamples()) {
     const Bytes whole = contentOf(file);
     for (std::size_t length = 4; length < whole.size(); ++length) {
@@ -87,8 +88,8 @@ TEST(Samples, CutAtEveryByteReadAsIfZerosFollowed) {
 
 TEST(Samples, LoseTheirReaderWithAnyByteOfItsSignature) {
   const std::map<std::string, std::set<std::size_t>> shorter{
-      {"bmp", {0, 1}}, {"clp", {0, 1}}, {"ms-draw", {0, 2, 3}}, {"pcx", {0, 1, 2}}, {"map", {}}, {"csv", {}},
-      {"act", {}},     {"raw", {}},     {"tga", {0}},
+      {"bmp", {0, 1}}, {"clp", {0, 1}}, {"ms-draw", {0, 2, 3}}, {"pcx", {0, 1, 2}}, {"map", {}},     {"csv", {}},
+      {"act", {}},     {"raw", {}},     {"tga", {0}},           {"hex", {}},        {"aco", {0, 1}},
   };
   for (const auto& [file, reader, holds] : allSamples()) {
     for (std::size_t at = 0; at < 4; ++at) {

@@ -21,6 +21,20 @@ Palette paletteFromRecords(std::span<const std::uint8_t> bytes, std::int32_t cou
 
 }  // namespace
 
+void ListedEntries::add(PaletteEntry color) {
+  isCut_ = colors_.size() == kMaxPaletteSize;
+  if (!isCut_) {
+    colors_.push_back(color);
+  }
+}
+
+ReadResult ListedEntries::result(Failure ifNone, PaletteFormat format) const {
+  if (colors_.empty()) {
+    return std::unexpected(ifNone);
+  }
+  return FilePalette{paletteOf(colors_), format, isCut_};
+}
+
 bool nameEndsWith(std::wstring_view name, std::string_view word) {
   if (name.size() < word.size()) {
     return false;

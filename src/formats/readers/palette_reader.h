@@ -6,6 +6,7 @@
 #include <span>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "core/palette.h"
 #include "core/palette_format.h"
@@ -25,6 +26,8 @@ struct ReaderInput {
 struct FilePalette {
   Palette palette;
   PaletteFormat format = palette_format::kNone;
+  /// The file has more entries than kMaxPaletteSize; the palette has the first of them.
+  bool isCut = false;
 };
 
 /// What a reader finds: a palette, or an image of true colors from which one can be made.
@@ -45,6 +48,21 @@ struct PaletteReader {
   bool (*matches)(const ReaderInput& input);
   /// Reads a file that matches. Sizes that the file claims are checked before anything of that size is made.
   ReadResult (*read)(const ReaderInput& input);
+};
+
+/// The entries of a file that lists them one after the other.
+class ListedEntries {
+ public:
+  /// Keeps the first kMaxPaletteSize colors.
+  void add(PaletteEntry color);
+  /// True when one more was added than is kept.
+  [[nodiscard]] bool isCut() const { return isCut_; }
+  /// The palette, or `ifNone` when there are no entries.
+  [[nodiscard]] ReadResult result(Failure ifNone, PaletteFormat format = palette_format::kNone) const;
+
+ private:
+  std::vector<PaletteEntry> colors_;
+  bool isCut_ = false;
 };
 
 /// True when the name's last characters are `word` (upper-case letters); in the name a to z count as A to Z.

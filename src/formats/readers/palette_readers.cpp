@@ -8,10 +8,11 @@ namespace quillhue {
 namespace {
 
 constexpr std::array kReaders{
-    &kJascReader,   &kGimpReader, &kXcfReader,       &kRiffReader,        &kColorTableReader, &kCmpReader,
-    &kBitmapReader, &kGifReader,  &kClipboardReader, &kPngReader,         &kMsDrawReader,     &kLbmReader,
-    &kDrHaloReader, &kPcxReader,  &kTiffReader,      &kAaAnimationReader, &kAaPaletteReader,  &kMapReader,
-    &kCsvReader,    &kTgaReader,  &kActReader,       &kRawReader,
+    &kJascReader,     &kGimpReader, &kXcfReader,       &kRiffReader,        &kColorTableReader, &kCmpReader,
+    &kBitmapReader,   &kGifReader,  &kClipboardReader, &kPngReader,         &kMsDrawReader,     &kLbmReader,
+    &kDrHaloReader,   &kPcxReader,  &kTiffReader,      &kAaAnimationReader, &kAaPaletteReader,  &kMapReader,
+    &kCsvReader,      &kTgaReader,  &kActReader,       &kRawReader,         &kAseReader,        &kAcoReader,
+    &kPaintNetReader, &kHexReader,
 };
 
 }  // namespace

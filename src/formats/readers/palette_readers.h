@@ -28,8 +28,13 @@ extern const PaletteReader kCsvReader;
 extern const PaletteReader kTgaReader;
 extern const PaletteReader kActReader;
 extern const PaletteReader kRawReader;
+extern const PaletteReader kAseReader;
+extern const PaletteReader kAcoReader;
+extern const PaletteReader kPaintNetReader;
+extern const PaletteReader kHexReader;
 
-/// All readers, in the order in which they are asked whether they know a file: signatures first, extensions last.
+/// All readers, in the order in which they are asked whether they know a file: signatures first, then extensions.
+/// kAseReader and those after it come last, so that they only get files that no other reader takes.
 [[nodiscard]] std::span<const PaletteReader* const> paletteReaders();
 
 /// The first reader that matches; null when none does.

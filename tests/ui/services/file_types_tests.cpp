@@ -21,8 +21,8 @@ std::string shown(const std::vector<FileType>& types) {
 // The string's own end is the null behind the last type.
 TEST(FileTypes, AreListedForEachDialog) {
   EXPECT_EQ(shown(openPaletteTypes()),
-            "All Supported File Types|*.act;*.anm;*.bmp;*.clp;*.cmp;*.col;*.csv;*.dib;*.gif;*.gpl;*.iff;*.lbm;*.map;"
-            "*.pal;*.pcx;*.png;*.tga;*.tif;*.tiff;*.xcf|All Files|*|");
+            "All Supported File Types|*.aco;*.act;*.anm;*.ase;*.bmp;*.clp;*.cmp;*.col;*.csv;*.dib;*.gif;*.gpl;*.hex;"
+            "*.iff;*.lbm;*.map;*.pal;*.pcx;*.png;*.tga;*.tif;*.tiff;*.txt;*.xcf|All Files|*|");
   EXPECT_EQ(shown(openImageTypes()), "Supported File Types|*.bmp;*.clp;*.dib;*.lbm;*.pcx|All Files|*|");
   EXPECT_EQ(shown(savePaletteTypes()),
             "Adobe Color Table (*.act)|*.act|CMP Palette (*.cmp)|*.cmp|Color Table (*.pal)|*.pal|"

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "formats/byte_source.h"
+
+namespace quillhue {
+
+/// The lines of a text file, which end with LF or CR LF. A byte order mark of UTF-8 at its start is skipped.
+class TextLines {
+ public:
+  explicit TextLines(ByteSource& source);
+
+  /// The next line without its end, cut to kMaxLength bytes and valid until the next call; nothing after the last line.
+  [[nodiscard]] std::optional<std::string_view> next();
+  /// Where the next line begins.
+  [[nodiscard]] std::uint64_t offset() const { return offset_; }
+  [[nodiscard]] bool atEnd() const { return offset_ >= source_.size(); }
+
+  static constexpr std::size_t kMaxLength = 4096;
+
+ private:
+  ByteSource& source_;
+  std::uint64_t offset_ = 0;
+  std::string line_;
+};
+
+/// `text` without blanks, tabs and carriage returns at both ends.
+[[nodiscard]] std::string_view trimmed(std::string_view text);
+
+}  // namespace quillhue
