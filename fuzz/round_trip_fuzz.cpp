@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "formats/exports/export_formats.h"
 #include "formats/readers/palette_reader.h"
 #include "formats/writers/palette_writers.h"
 #include "fuzz_target.h"
@@ -20,6 +21,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   for (const PaletteWriter* writer : paletteWriters()) {
     const std::string fault = checkRoundTrip(palette, *writer, blank);
     require(fault.empty(), (std::string(writer->name) + ": " + fault).c_str());
+  }
+  for (const ExportFormat* format : exportFormats()) {
+    const std::string fault = checkRoundTrip(palette, *format);
+    require(fault.empty(), (std::string(format->name) + ": " + fault).c_str());
   }
   return 0;
 }

@@ -21,11 +21,10 @@ struct ConvertOptions {
   std::vector<std::string> files;
   std::string name;
   std::optional<std::string> outDir;
-  std::string format;
+  OutputOptions output;
   std::string colors;
   std::optional<std::int32_t> size;
   PaletteEntry blank;
-  bool force = false;
 };
 
 constexpr std::int32_t kReducedSize = 256;
@@ -48,34 +47,38 @@ std::expected<Palette, std::string> paletteOfImage(const std::string& file, cons
   return colors.exactPalette(options.size.value_or(all), options.blank);
 }
 
-std::expected<Palette, std::string> readPaletteOf(const std::string& file, const ConvertOptions& options,
-                                                  Console& console) try {
+std::expected<InputPalette, std::string> readPaletteOf(const std::string& file, const ConvertOptions& options,
+                                                       Console& console) try {
   auto input = openInput(file, options.name, console);
   if (!input) {
     return refusalOf(input.error());
   }
   const auto* const bitmap = std::get_if<TrueColorBitmap>(&input->content);
   if (bitmap == nullptr) {
-    return std::move(std::get<FilePalette>(input->content).palette);
+    return InputPalette{std::move(std::get<FilePalette>(input->content).palette), input->reader->name};
   }
   auto palette = paletteOfImage(file, *bitmap, options, console);
+  if (!palette) {
+    return Refusal(palette.error());
+  }
   if (input->source->failed()) {
     return refusalOf(Failure::couldNotOpen);
   }
-  return palette;
+  return InputPalette{*std::move(palette), {}};
 } catch (const std::bad_alloc&) {
   return refusalOf(Failure::notEnoughMemory);
 }
 
 // Reports a refusal and answers false.
-bool convertFile(const std::string& from, const std::string& to, const PaletteWriter& writer,
+bool convertFile(const std::string& from, const std::string& to, const FormatChoice& choice,
                  const ConvertOptions& options, Console& console) {
-  const auto palette = readPaletteOf(from, options, console);
-  if (!palette) {
-    reportRefusal(console, from, palette.error());
+  const auto input = readPaletteOf(from, options, console);
+  if (!input) {
+    reportRefusal(console, from, input.error());
     return false;
   }
-  const auto written = writePalette(from, *palette, to, writer, options.blank, options.force, console);
+  const OutputFormat& format = choice.formatFor(input->format, input->palette.getSize());
+  const auto written = writePalette({from, to, format, options.blank, options.output}, input->palette, console);
   if (!written) {
     reportRefusal(console, written.error().file, written.error().text);
   }
@@ -83,13 +86,13 @@ bool convertFile(const std::string& from, const std::string& to, const PaletteWr
 }
 
 ExitStatus convertAll(const std::string& outDir, const ConvertOptions& options, Console& console) {
-  if (options.format.empty()) {
+  if (options.output.format.empty()) {
     refuseUsage("--format", "is needed with --out-dir");
   }
-  const PaletteWriter& writer = chooseWriter(options.format, {});
-  const FolderOutput output{outDir, writer.extension, options.name, options.force};
+  const FormatChoice choice(options.output, {});
+  const FolderOutput output{outDir, choice.formatFor({}, 0).extension, options.name, options.output.force};
   return writeIntoFolder(output, options.files, console, [&](const std::string& from, const std::string& to) {
-    return convertFile(from, to, writer, options, console);
+    return convertFile(from, to, choice, options, console);
   });
 }
 
@@ -103,8 +106,10 @@ ExitStatus convert(const ConvertOptions& options, Console& console) {
   if (options.files.size() != 2) {
     refuseUsage("convert", "takes IN and OUT, or any number of files with --out-dir");
   }
+  const std::string& from = options.files[0];
   const std::string& to = options.files[1];
-  return convertFile(options.files[0], to, chooseWriter(options.format, to), options, console) ? kDone : kRefused;
+  const FormatChoice choice(options.output, to, inputName(from, options.name));
+  return convertFile(from, to, choice, options, console) ? kDone : kRefused;
 }
 
 }  // namespace
@@ -116,14 +121,13 @@ void addConvertVerb(CommandLine& tool, Console& console, ExitStatus& status) {
                    "IN and OUT; with --out-dir any number of files and folders of them. - is standard input or output");
   verb.addOption("--name", options->name, "The file name that standard input is taken to have");
   verb.addOption("--out-dir", options->outDir, "Convert all files into this folder");
-  addFormatOption(verb, options->format);
+  addOutputOptions(verb, options->output);
   verb.addChoice("--colors", options->colors, {"exact", "reduce"},
                  "How an image without a palette becomes one: its colors, or fewer");
   addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},
                   "The number of entries for --colors (default: all colors, reduced 256)");
   addColorOption(verb, "--blank", options->blank,
                  "The color of entries that a format has and the palette has not (default 0,0,0)");
-  addForceFlag(verb, options->force);
   verb.onRun([options, &console, &status] { status = convert(*options, console); });
 }
 

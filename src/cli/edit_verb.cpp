@@ -25,14 +25,13 @@ struct EditOptions {
   std::string to;
   std::string name;
   std::vector<WrittenStep> steps;
-  std::string format;
-  bool force = false;
+  OutputOptions output;
   bool json = false;
 };
 
-JsonObject editedJson(const EditOptions& options, const PaletteWriter& writer, const PaletteDocument& document) {
+JsonObject editedJson(const EditOptions& options, const OutputFormat& format, const PaletteDocument& document) {
   const ColorCount count = countColors(document);
-  JsonObject json = paletteJson(options.to, writer.name, writer.format, document.getPalette());
+  JsonObject json = paletteJson(options.to, format.name, format.code, document.getPalette());
   return json.add("selected", selectedIndexes(document.getPalette()))
       .add("modificationCount", document.modificationCount())
       .add("canUndo", document.canUndo())
@@ -43,7 +42,7 @@ JsonObject editedJson(const EditOptions& options, const PaletteWriter& writer, c
 
 ExitStatus edit(const EditOptions& options, Console& console) {
   refuseJsonOnStandardOutput(options.json, options.to);
-  const PaletteWriter& writer = chooseWriter(options.format, options.to);
+  const FormatChoice choice(options.output, options.to, inputName(options.from, options.name));
   auto read = readFilePalette(options.from, options.name, console);
   if (!read) {
     return refuseFile({options.from, read.error()}, options.json, console);
@@ -59,13 +58,14 @@ ExitStatus edit(const EditOptions& options, Console& console) {
     }
   }
   const PaletteDocument& document = session.document();
-  const auto written = writePalette(options.from, document.getPalette(), options.to, writer,
-                                    session.tool.settings.blank, options.force, console);
+  const OutputFormat& format = choice.formatFor(read->format, document.getSize());
+  const auto written = writePalette({options.from, options.to, format, session.tool.settings.blank, options.output},
+                                    document.getPalette(), console);
   if (!written) {
     return refuseFile(written.error(), options.json, console);
   }
   if (options.json) {
-    writeJson(console, editedJson(options, writer, document));
+    writeJson(console, editedJson(options, format, document));
   }
   return kDone;
 }
@@ -92,8 +92,7 @@ void addEditVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addArgument("IN", options->from, "The palette or image file to read, or - for standard input");
   verb.addArgument("OUT", options->to, "The file to write, or - for standard output");
   verb.addOption("--name", options->name, "The file name that standard input is taken to have");
-  addFormatOption(verb, options->format);
-  addForceFlag(verb, options->force);
+  addOutputOptions(verb, options->output);
   verb.addFlag("--json", options->json, "Write JSON: the palette that was written, and what the steps left");
   for (const auto& kinds : {selectionSteps(), colorSteps(), documentSteps(), entrySteps()}) {
     for (const StepKind& kind : kinds) {

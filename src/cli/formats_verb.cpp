@@ -3,6 +3,7 @@
 
 #include "cli/json.h"
 #include "cli/list_verb.h"
+#include "cli/output_format.h"
 #include "cli/verbs.h"
 #include "formats/readers/palette_readers.h"
 #include "formats/writers/palette_writers.h"
@@ -13,14 +14,14 @@ namespace {
 
 void showJson(Console& console) {
   std::vector<JsonObject> written;
-  for (const PaletteWriter* writer : paletteWriters()) {
-    const bool limited = writer->maxSize != kAnySize;
+  for (const OutputFormat& format : outputFormats()) {
+    const bool limited = format.maxSize != kAnySize;
     written.push_back(JsonObject()
-                          .add("name", writer->name)
-                          .add("code", writer->format)
-                          .add("fileType", writer->fileType)
-                          .add("extension", writer->extension)
-                          .add("maxSize", limited ? jsonOf(writer->maxSize) : Json()));
+                          .add("name", format.name)
+                          .add("code", format.code)
+                          .add("fileType", format.title)
+                          .add("extension", format.extension)
+                          .add("maxSize", limited ? jsonOf(format.maxSize) : Json()));
   }
   std::vector<JsonObject> read;
   for (const PaletteReader* reader : paletteReaders()) {
@@ -35,11 +36,11 @@ void showText(Console& console) {
     return console.out << std::left << std::setw(width) << text;
   };
   console.out << "Written (name for --format, extension, most entries):\n";
-  for (const PaletteWriter* writer : paletteWriters()) {
+  for (const OutputFormat& format : outputFormats()) {
     column(2, "");
-    column(14, writer->name);
-    column(6, writer->extension);
-    column(10, writer->maxSize == kAnySize ? "any" : std::to_string(writer->maxSize)) << writer->fileType << '\n';
+    column(14, format.name);
+    column(6, format.extension);
+    column(10, format.maxSize == kAnySize ? "any" : std::to_string(format.maxSize)) << format.title << '\n';
   }
   console.out << "\nRead (in the order in which a file is tried):\n";
   for (const PaletteReader* reader : paletteReaders()) {

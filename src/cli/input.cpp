@@ -13,12 +13,11 @@
 namespace quillhue::cli {
 
 std::expected<Input, Failure> openInput(const std::string& file, const std::string& streamName, Console& console) {
-  const bool isStream = file == "-";
-  auto source = isStream ? readStream(console.in) : openFile(fromUtf8(file));
+  auto source = file == "-" ? readStream(console.in) : openFile(fromUtf8(file));
   if (!source) {
     return std::unexpected(source.error());
   }
-  const std::wstring name = fromUtf8(isStream ? streamName : file);
+  const std::wstring name = fromUtf8(inputName(file, streamName));
   const ReaderInput input{**source, name};
   const PaletteReader* const reader = findPaletteReader(input);
   auto content = readPalette(input);
@@ -26,6 +25,10 @@ std::expected<Input, Failure> openInput(const std::string& file, const std::stri
     return std::unexpected(content.error());
   }
   return Input{std::move(*source), reader, std::move(*content)};
+}
+
+const std::string& inputName(const std::string& file, const std::string& streamName) {
+  return file == "-" ? streamName : file;
 }
 
 std::vector<std::string> expandFolders(const std::vector<std::string>& files) {
@@ -53,8 +56,8 @@ std::vector<std::string> expandFolders(const std::vector<std::string>& files) {
   return expanded;
 }
 
-std::expected<FilePalette, std::string> readFilePalette(const std::string& file, const std::string& streamName,
-                                                        Console& console) try {
+std::expected<InputPalette, std::string> readFilePalette(const std::string& file, const std::string& streamName,
+                                                         Console& console) try {
   auto input = openInput(file, streamName, console);
   if (!input) {
     return refusalOf(input.error());
@@ -62,7 +65,7 @@ std::expected<FilePalette, std::string> readFilePalette(const std::string& file,
   if (!std::holds_alternative<FilePalette>(input->content)) {
     return Refusal("The image has no palette. The verb convert makes one of its colors.");
   }
-  return std::move(std::get<FilePalette>(input->content));
+  return InputPalette{std::move(std::get<FilePalette>(input->content).palette), input->reader->name};
 } catch (const std::bad_alloc&) {
   return refusalOf(Failure::notEnoughMemory);
 }

@@ -4,6 +4,7 @@
 #include <expected>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/console.h"
@@ -23,9 +24,18 @@ struct Input {
 [[nodiscard]] std::expected<Input, Failure> openInput(const std::string& file, const std::string& streamName,
                                                       Console& console);
 
+/// A palette, and the format that it was read in; empty where it was made of an image's colors.
+struct InputPalette {
+  Palette palette;
+  std::string_view format;
+};
+
 /// The palette of such a file; true colors are refused.
-[[nodiscard]] std::expected<FilePalette, std::string> readFilePalette(const std::string& file,
-                                                                      const std::string& streamName, Console& console);
+[[nodiscard]] std::expected<InputPalette, std::string> readFilePalette(const std::string& file,
+                                                                       const std::string& streamName, Console& console);
+
+/// The name that the file has, or that standard input is taken to have.
+[[nodiscard]] const std::string& inputName(const std::string& file, const std::string& streamName);
 
 /// The files with every folder among them replaced by the regular files in it, by name.
 [[nodiscard]] std::vector<std::string> expandFolders(const std::vector<std::string>& files);

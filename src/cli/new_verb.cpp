@@ -21,8 +21,7 @@ struct NewOptions {
   std::optional<RgbLevels> levels;
   bool windowsColors = false;
   PaletteEntry blank;
-  std::string format;
-  bool force = false;
+  OutputOptions output;
   bool json = false;
 };
 
@@ -88,14 +87,16 @@ std::vector<std::string> kindNames() {
 
 ExitStatus makeNew(const NewOptions& options, Console& console) {
   refuseJsonOnStandardOutput(options.json, options.file);
-  const PaletteWriter& writer = chooseWriter(options.format, options.file);
+  const FormatChoice choice(options.output, options.file);
   const Palette palette = createPaletteFor(options);
-  const auto written = writePalette(options.file, palette, options.file, writer, options.blank, options.force, console);
+  const OutputFormat& format = choice.formatFor({}, palette.getSize());
+  const auto written =
+      writePalette({options.file, options.file, format, options.blank, options.output}, palette, console);
   if (!written) {
     return refuseFile(written.error(), options.json, console);
   }
   if (options.json) {
-    writeJson(console, paletteJson(options.file, writer.name, writer.format, palette));
+    writeJson(console, paletteJson(options.file, format.name, format.code, palette));
   }
   return kDone;
 }
@@ -126,8 +127,7 @@ void addNewVerb(CommandLine& tool, Console& console, ExitStatus& status) {
                   [options](const std::string& text) { options->levels = parseLevels(text); }});
   verb.addFlag("--windows-colors", options->windowsColors, "Include the 20 Windows colors in blank or rgb");
   addColorOption(verb, "--blank", options->blank, "The color of unused entries (default 0,0,0)");
-  addFormatOption(verb, options->format);
-  addForceFlag(verb, options->force);
+  addOutputOptions(verb, options->output);
   verb.addFlag("--json", options->json, "Write JSON: the palette that was written");
   verb.onRun([options, &console, &status] { status = makeNew(*options, console); });
 }

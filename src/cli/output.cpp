@@ -1,44 +1,35 @@
 #include "cli/output.h"
 
-#include <algorithm>
-#include <cctype>
-
-#include "cli/arguments.h"
 #include "core/utf8.h"
 #include "formats/files.h"
-#include "formats/readers/palette_reader.h"
 
 namespace quillhue::cli {
 
-void addFormatOption(Verb& verb, std::string& format) {
-  verb.addChoice("--format", format, namesOf(paletteWriters()),
-                 "The format to write (default: what OUT's extension stands for)");
+namespace {
+
+Composition compositionFor(const PaletteOutput& output) {
+  const SwatchLayout usual;
+  const bool isPng = output.format.name == kPngFormat;
+  if (!isPng && (output.options.columns || output.options.cell)) {
+    refuseUsage(output.options.columns ? "--columns" : "--cell", "goes with --format png");
+  }
+  const std::string name = output.to == "-" ? "" : toUtf8(toFileName(toPath(fromUtf8(output.to)).stem()));
+  return {
+      output.blank, name, {output.options.columns.value_or(usual.columns), output.options.cell.value_or(usual.cell)}};
 }
+
+}  // namespace
 
 void addForceFlag(Verb& verb, bool& force) { verb.addFlag("--force", force, "Replace files that exist"); }
 
-const PaletteWriter& chooseWriter(const std::string& format, const std::string& file) {
-  for (const PaletteWriter* writer : paletteWriters()) {
-    std::string ending(".");
-    ending += writer->extension;
-    std::ranges::transform(ending, ending.begin(), [](unsigned char letter) { return std::toupper(letter); });
-    if (format.empty() ? writer->ownsExtension && nameEndsWith(fromUtf8(file), ending) : writer->name == format) {
-      return *writer;
-    }
-  }
-  refuseUsage("--format", "is needed where the output's extension does not tell the format");
-}
-
-std::expected<void, FileRefusal> writePalette(const std::string& from, const Palette& palette, const std::string& to,
-                                              const PaletteWriter& writer, PaletteEntry blank, bool force,
-                                              Console& console) {
-  const auto content = composePaletteFile(palette, writer.format, blank);
+std::expected<void, FileRefusal> writePalette(const PaletteOutput& output, const Palette& palette, Console& console) {
+  const auto content = output.format.compose(palette, compositionFor(output));
   if (!content) {
-    return std::unexpected(FileRefusal{from, std::string(textOf(content.error()))});
+    return std::unexpected(FileRefusal{output.from, std::string(textOf(content.error()))});
   }
-  const auto written = writeOutput(to, *content, force, console);
+  const auto written = writeOutput(output.to, *content, output.options.force, console);
   if (!written) {
-    return std::unexpected(FileRefusal{to, written.error()});
+    return std::unexpected(FileRefusal{output.to, written.error()});
   }
   return {};
 }

@@ -7,24 +7,27 @@
 
 #include "cli/command_line.h"
 #include "cli/console.h"
+#include "cli/output_format.h"
 #include "cli/refusal.h"
-#include "formats/writers/palette_writers.h"
 
 namespace quillhue::cli {
 
-/// The options of every verb that writes palettes.
-void addFormatOption(Verb& verb, std::string& format);
 void addForceFlag(Verb& verb, bool& force);
 
-/// The writer that --format names, or else the one that the file's extension stands for; refuses the usage
-/// when that tells none.
-[[nodiscard]] const PaletteWriter& chooseWriter(const std::string& format, const std::string& file);
+/// A palette on its way into a file.
+struct PaletteOutput {
+  /// What a palette that the format can't hold is reported for.
+  const std::string& from;
+  const std::string& to;
+  const OutputFormat& format;
+  /// The color of entries that the format has and the palette has not.
+  PaletteEntry blank;
+  const OutputOptions& options;
+};
 
-/// Composes the palette in the writer's format and writes it to the file `to`. `from` is what a palette that the
-/// format can't hold is reported for.
-[[nodiscard]] std::expected<void, FileRefusal> writePalette(const std::string& from, const Palette& palette,
-                                                            const std::string& to, const PaletteWriter& writer,
-                                                            PaletteEntry blank, bool force, Console& console);
+/// Composes the palette and writes it. Refuses the usage when an option goes with another format.
+[[nodiscard]] std::expected<void, FileRefusal> writePalette(const PaletteOutput& output, const Palette& palette,
+                                                            Console& console);
 
 /// Refuses the usage when data and JSON would both go to standard output.
 void refuseJsonOnStandardOutput(bool json, const std::string& file);

@@ -13,6 +13,15 @@ void ByteSink::u32le(std::size_t offset, std::uint32_t value) {
   u16le(offset + 2, static_cast<std::uint16_t>(value >> 16));
 }
 
+void ByteSink::u16be(std::size_t offset, std::uint16_t value) {
+  bytes(offset, {static_cast<std::uint8_t>(value >> 8), static_cast<std::uint8_t>(value)});
+}
+
+void ByteSink::u32be(std::size_t offset, std::uint32_t value) {
+  u16be(offset, static_cast<std::uint16_t>(value >> 16));
+  u16be(offset + 2, static_cast<std::uint16_t>(value));
+}
+
 void ByteSink::bytes(std::size_t offset, std::initializer_list<std::uint8_t> values) {
   std::ranges::copy(values, reserve(offset, values.size()));
 }

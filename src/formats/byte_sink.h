@@ -18,8 +18,11 @@ class ByteSink {
   [[nodiscard]] std::vector<std::uint8_t> take() { return std::move(bytes_); }
 
   void u8(std::size_t offset, std::uint8_t value) { *reserve(offset, 1) = value; }
+  /// Little-endian (le) or big-endian (be) values.
   void u16le(std::size_t offset, std::uint16_t value);
   void u32le(std::size_t offset, std::uint32_t value);
+  void u16be(std::size_t offset, std::uint16_t value);
+  void u32be(std::size_t offset, std::uint32_t value);
   void bytes(std::size_t offset, std::initializer_list<std::uint8_t> values);
   void text(std::size_t offset, std::string_view letters);
   /// Three bytes: red, green, blue.

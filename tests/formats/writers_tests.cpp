@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "formats/exports/export_formats.h"
 #include "formats/writers/palette_writers.h"
 #include "support/palettes.h"
 #include "support/round_trip.h"
@@ -63,6 +64,18 @@ TEST(Writers, ComeBackThroughTheReaders) {
       }
     }
   }
+  for (const ExportFormat* format : exportFormats()) {
+    EXPECT_EQ(checkRoundTrip(variedPalette(1), *format), "") << format->name;
+    EXPECT_EQ(checkRoundTrip(variedPalette(1024), *format), "") << format->name;
+  }
+}
+
+TEST(Exports, NameTheArrayOfCAfterTheFile) {
+  ByteSink sink;
+  kCExport.compose(createPalette(2, {1, 2, 3}), "3-\xC3\xA9 int", sink);
+  EXPECT_EQ(hexOf(sink.take()),
+            hexOf(bytesOf("/* 2 entries: red, green, blue. */\nconst unsigned char palette_3____int[6]"
+                          " = {\n    1, 2, 3,\n    1, 2, 3,\n};\n")));
 }
 
 }  // namespace

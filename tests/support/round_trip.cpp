@@ -69,4 +69,19 @@ std::string checkRoundTrip(const Palette& palette, const PaletteWriter& writer, 
   return same && file.format % kMayHoldMore == writer.format ? "" : "read as something else";
 }
 
+std::string checkRoundTrip(const Palette& palette, const ExportFormat& format) {
+  ByteSink sink;
+  format.compose(palette, "x", sink);
+  MemorySource source(sink.take());
+  const std::wstring name = L"x." + std::wstring(format.extension.begin(), format.extension.end());
+  const PaletteReader* const reader = findPaletteReader({source, name});
+  if (reader == nullptr) {
+    const bool hasNone =
+        std::ranges::find(paletteReaders(), format.name, &PaletteReader::name) == paletteReaders().end();
+    return hasNone ? "" : "not detected";
+  }
+  const ReadResult result = reader->read({source, name});
+  return result && show(std::get<FilePalette>(*result).palette) == show(palette) ? "" : "read as something else";
+}
+
 }  // namespace quillhue

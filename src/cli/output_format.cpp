@@ -1,0 +1,126 @@
+#include "cli/output_format.h"
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <utility>
+
+#include "cli/arguments.h"
+#include "core/utf8.h"
+#include "formats/exports/export_formats.h"
+#include "formats/files.h"
+#include "formats/writers/palette_writers.h"
+
+namespace quillhue::cli {
+
+namespace {
+
+constexpr std::int32_t kMaxPngEntries = 256;
+
+OutputFormat formatOf(const PaletteWriter& writer) {
+  return {writer.name,
+          writer.format,
+          writer.fileType,
+          writer.extension,
+          writer.ownsExtension,
+          writer.maxSize,
+          [&writer](const Palette& palette, const Composition& composition) {
+            return composePaletteFile(palette, writer.format, composition.blank);
+          }};
+}
+
+OutputFormat formatOf(const ExportFormat& format) {
+  return {format.name,
+          palette_format::kNone,
+          format.title,
+          format.extension,
+          format.ownsExtension,
+          kAnySize,
+          [&format](const Palette& palette, const Composition& composition) -> Composed {
+            ByteSink sink;
+            format.compose(palette, composition.name, sink);
+            return sink.take();
+          }};
+}
+
+OutputFormat pngFormat() {
+  return {kPngFormat,
+          palette_format::kNone,
+          "PNG image of the entries (*.png)",
+          "png",
+          true,
+          kMaxPngEntries,
+          [](const Palette& palette, const Composition& composition) -> Composed {
+            if (palette.getSize() > kMaxPngEntries) {
+              return std::unexpected(Failure::tooLargeForFormat);
+            }
+            return composeSwatches(palette, composition.swatches);
+          }};
+}
+
+[[noreturn]] void refuseNoFormat() {
+  refuseUsage("--format", "is needed where the output's extension does not tell the format");
+}
+
+// In lower case and with its dot; empty for standard output and names that have none.
+std::string extensionOf(const std::string& file) {
+  const std::string name = toUtf8(toFileName(toPath(fromUtf8(file)).filename()));
+  std::string extension = name.substr(std::min(name.rfind('.'), name.size()));
+  std::ranges::transform(extension, extension.begin(), [](unsigned char letter) { return std::tolower(letter); });
+  return extension;
+}
+
+}  // namespace
+
+std::vector<OutputFormat> outputFormats() {
+  std::vector<OutputFormat> formats;
+  for (const PaletteWriter* writer : paletteWriters()) {
+    formats.push_back(formatOf(*writer));
+  }
+  for (const ExportFormat* format : exportFormats()) {
+    formats.push_back(formatOf(*format));
+  }
+  formats.push_back(pngFormat());
+  return formats;
+}
+
+void addOutputOptions(Verb& verb, OutputOptions& options) {
+  verb.addChoice("--format", options.format, namesOf(outputFormats()),
+                 "The format to write (default: what OUT's extension stands for, and the format of IN where both have "
+                 "the same extension)");
+  addNumberOption(verb, "--columns", options.columns, {1, SwatchLayout::kMaxColumns},
+                  "The squares in a row of --format png (default 16)");
+  addNumberOption(verb, "--cell", options.cell, {1, SwatchLayout::kMaxCell},
+                  "The pixels of a side of each square of --format png (default 16)");
+  verb.addFlag("--force", options.force, "Replace files that exist");
+}
+
+FormatChoice::FormatChoice(const OutputOptions& options, const std::string& to, const std::string& from)
+    : formats_(outputFormats()) {
+  const std::string extension = extensionOf(to);
+  const auto isChosen = [&](const OutputFormat& format) {
+    return options.format.empty() ? format.ownsExtension && '.' + std::string(format.extension) == extension
+                                  : format.name == options.format;
+  };
+  const auto chosen = std::ranges::find_if(formats_, isChosen);
+  if (chosen != formats_.end()) {
+    chosen_ = static_cast<std::size_t>(chosen - formats_.begin());
+  }
+  keepsFormat_ = options.format.empty() && !extension.empty() && extension == extensionOf(from);
+  if (!chosen_ && !keepsFormat_) {
+    refuseNoFormat();
+  }
+}
+
+const OutputFormat& FormatChoice::formatFor(std::string_view readAs, std::int32_t size) const {
+  const auto own = std::ranges::find(formats_, readAs, &OutputFormat::name);
+  if (keepsFormat_ && own != formats_.end() && size <= own->maxSize) {
+    return *own;
+  }
+  if (!chosen_) {
+    refuseNoFormat();
+  }
+  return formats_[*chosen_];
+}
+
+}  // namespace quillhue::cli

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstdint>
+#include <expected>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/command_line.h"
+#include "cli/swatches.h"
+#include "core/palette.h"
+#include "core/palette_format.h"
+#include "formats/failure.h"
+
+namespace quillhue::cli {
+
+/// What a written file depends on beside the palette and the format.
+struct Composition {
+  /// Of entries that the format has and the palette has not.
+  PaletteEntry blank;
+  /// The file's name without folder and extension, empty for standard output.
+  std::string name;
+  SwatchLayout swatches;
+};
+
+using Composed = std::expected<std::vector<std::uint8_t>, Failure>;
+
+/// The format that SwatchLayout is for.
+inline constexpr std::string_view kPngFormat = "png";
+
+/// A format that the tool writes: one of the editor's, or one of its own.
+struct OutputFormat {
+  std::string_view name;
+  PaletteFormat code;
+  std::string_view title;
+  std::string_view extension;
+  bool ownsExtension;
+  std::int32_t maxSize;
+  std::function<Composed(const Palette& palette, const Composition& composition)> compose;
+};
+
+[[nodiscard]] std::vector<OutputFormat> outputFormats();
+
+/// The options of a verb that writes palettes.
+struct OutputOptions {
+  std::string format;
+  std::optional<std::int32_t> columns;
+  std::optional<std::int32_t> cell;
+  bool force = false;
+};
+void addOutputOptions(Verb& verb, OutputOptions& options);
+
+/// The format of one output file.
+class FormatChoice {
+ public:
+  /// Chooses by --format, or else by the extension of the file `to`. Where `from`, the name of the file that is read,
+  /// has the same extension, that file's own format comes first. Refuses the usage when neither can tell a format.
+  FormatChoice(const OutputOptions& options, const std::string& to, const std::string& from = {});
+
+  /// The format for a palette of `size` entries that was read in the format `readAs`. The file's own format counts only
+  /// when it can be written and holds the palette. Refuses the usage when no other format was chosen.
+  [[nodiscard]] const OutputFormat& formatFor(std::string_view readAs, std::int32_t size) const;
+
+ private:
+  std::vector<OutputFormat> formats_;
+  std::optional<std::size_t> chosen_;
+  bool keepsFormat_ = false;
+};
+
+}  // namespace quillhue::cli
