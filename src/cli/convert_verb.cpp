@@ -11,7 +11,6 @@
 #include "cli/output.h"
 #include "cli/output_folder.h"
 #include "cli/verbs.h"
-#include "formats/image_colors.h"
 
 namespace quillhue::cli {
 
@@ -29,12 +28,12 @@ struct ConvertOptions {
 
 constexpr std::int32_t kReducedSize = 256;
 
-std::expected<Palette, std::string> paletteOfImage(const std::string& file, const TrueColorBitmap& bitmap,
+std::expected<Palette, std::string> paletteOfImage(const std::string& file, const FileContent& image,
                                                    const ConvertOptions& options, Console& console) {
   if (options.colors.empty()) {
     return Refusal("The image has no palette. Make one of its colors with --colors exact or --colors reduce.");
   }
-  const ImageColors colors(bitmap);
+  const ImageColors colors = colorsOf(image);
   if (options.colors == "reduce") {
     return colors.reducedPalette(options.size.value_or(kReducedSize), options.blank);
   }
@@ -53,11 +52,10 @@ std::expected<InputPalette, std::string> readPaletteOf(const std::string& file, 
   if (!input) {
     return refusalOf(input.error());
   }
-  const auto* const bitmap = std::get_if<TrueColorBitmap>(&input->content);
-  if (bitmap == nullptr) {
-    return InputPalette{std::move(std::get<FilePalette>(input->content).palette), input->reader->name};
+  if (auto* const stored = std::get_if<FilePalette>(&input->content)) {
+    return InputPalette{std::move(stored->palette), input->reader->name};
   }
-  auto palette = paletteOfImage(file, *bitmap, options, console);
+  auto palette = paletteOfImage(file, input->content, options, console);
   if (!palette) {
     return Refusal(palette.error());
   }

@@ -8,7 +8,6 @@
 #include "cli/json.h"
 #include "cli/palette_text.h"
 #include "cli/verbs.h"
-#include "formats/image_colors.h"
 
 namespace quillhue::cli {
 
@@ -46,12 +45,11 @@ std::expected<void, Failure> show(const std::string& file, const InfoOptions& op
   if (!input) {
     return std::unexpected(input.error());
   }
-  const auto* const bitmap = std::get_if<TrueColorBitmap>(&input->content);
-  if (bitmap == nullptr) {
+  if (std::holds_alternative<FilePalette>(input->content)) {
     showFilePalette(file, *input, options.json, console);
     return {};
   }
-  const ImageColors colors(*bitmap);
+  const ImageColors colors = colorsOf(input->content);
   if (input->source->failed()) {
     return std::unexpected(Failure::couldNotOpen);
   }

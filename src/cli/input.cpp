@@ -27,6 +27,11 @@ std::expected<Input, Failure> openInput(const std::string& file, const std::stri
   return Input{std::move(*source), reader, std::move(*content)};
 }
 
+ImageColors colorsOf(const FileContent& image) {
+  const auto* const bitmap = std::get_if<TrueColorBitmap>(&image);
+  return bitmap == nullptr ? ImageColors(std::get<WorkImage>(image)) : ImageColors(*bitmap);
+}
+
 const std::string& inputName(const std::string& file, const std::string& streamName) {
   return file == "-" ? streamName : file;
 }

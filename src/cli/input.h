@@ -9,6 +9,7 @@
 
 #include "cli/console.h"
 #include "cli/refusal.h"
+#include "formats/image_colors.h"
 #include "formats/readers/palette_readers.h"
 
 namespace quillhue::cli {
@@ -23,6 +24,9 @@ struct Input {
 /// Reads the file, or for "-" standard input, which is then taken to be called `streamName`.
 [[nodiscard]] std::expected<Input, Failure> openInput(const std::string& file, const std::string& streamName,
                                                       Console& console);
+
+/// The colors of an image without a palette, which outlives them. Throws std::bad_alloc.
+[[nodiscard]] ImageColors colorsOf(const FileContent& image);
 
 /// A palette, and the format that it was read in; empty where it was made of an image's colors.
 struct InputPalette {

@@ -4,6 +4,7 @@
 #include <span>
 #include <utility>
 
+#include "formats/bitmap_layout.h"
 #include "formats/byte_sink.h"
 #include "formats/work_image.h"
 #include "formats/writers/palette_writer.h"
@@ -12,7 +13,9 @@ namespace quillhue {
 
 namespace {
 
-constexpr std::size_t kHeaders = 14 + 40;
+using namespace bitmap_layout;
+
+constexpr std::size_t kHeaders = kFileHeader + kInfoHeader;
 
 // Two pixels a byte, the left one in the high half. `row` has an even length.
 void packRow(std::span<const std::uint8_t> row, std::span<std::uint8_t> packed) {
@@ -34,13 +37,13 @@ std::vector<std::uint8_t> composeBitmap(const IndexedPixels& pixels, const Palet
   const std::size_t size = offset + stride * height;
   ByteSink sink;
   sink.text(0, "BM");
-  sink.u32le(2, static_cast<std::uint32_t>(size));
-  sink.u32le(10, static_cast<std::uint32_t>(offset));
-  sink.u32le(14, 40);
-  sink.u32le(18, static_cast<std::uint32_t>(pixels.width));
-  sink.u32le(22, static_cast<std::uint32_t>(pixels.height));
-  sink.u16le(26, 1);
-  sink.u16le(28, isPacked ? 4 : 8);
+  sink.u32le(kFileSize, static_cast<std::uint32_t>(size));
+  sink.u32le(kPixelOffset, static_cast<std::uint32_t>(offset));
+  sink.u32le(kFileHeader + kHeaderSize, kInfoHeader);
+  sink.u32le(kFileHeader + kWidth, static_cast<std::uint32_t>(pixels.width));
+  sink.u32le(kFileHeader + kHeight, static_cast<std::uint32_t>(pixels.height));
+  sink.u16le(kFileHeader + kPlanes, 1);
+  sink.u16le(kFileHeader + kBitCount, isPacked ? 4 : 8);
   for (std::int32_t i = 0; i < entries; ++i) {
     const PaletteEntry color = entryOr(palette, i, blank);
     sink.bytes(kHeaders + 4 * static_cast<std::size_t>(i), {color.blue, color.green, color.red, 0});

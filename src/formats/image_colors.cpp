@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <numeric>
 #include <optional>
+#include <utility>
 
 #include "formats/median_cut.h"
 
@@ -38,12 +39,39 @@ void forEachBit(const std::vector<std::uint64_t>& bits, Visit visit) {
   }
 }
 
+void readWords(const WorkImage& image, std::int32_t y, std::span<ColorWord> words) {
+  const auto row = image.row(y);
+  for (std::size_t x = 0; x < words.size(); ++x) {
+    if (const auto& palette = image.palette()) {
+      const PaletteEntry color = palette->entry(row[x]);
+      words[x] = color.blue | static_cast<ColorWord>(color.green) << 8 | static_cast<ColorWord>(color.red) << 16;
+    } else {
+      words[x] =
+          row[3 * x] | static_cast<ColorWord>(row[3 * x + 1]) << 8 | static_cast<ColorWord>(row[3 * x + 2]) << 16;
+    }
+  }
+}
+
 }  // namespace
 
-ImageColors::ImageColors(const TrueColorBitmap& bitmap) : bitmap_(bitmap), occurring_(kColors / 64) {
+ImageColors::ImageColors(const TrueColorBitmap& bitmap)
+    : ImageColors(bitmap.pixelCount(), [bitmap](const VisitWords& visit) { bitmap.forEachBlock(visit); }) {}
+
+ImageColors::ImageColors(const WorkImage& image)
+    : ImageColors(static_cast<std::uint64_t>(image.width()) * static_cast<std::uint64_t>(image.height()),
+                  [&image](const VisitWords& visit) {
+                    std::vector<ColorWord> words(static_cast<std::size_t>(image.width()));
+                    for (std::int32_t y = 0; y < image.height(); ++y) {
+                      readWords(image, y, words);
+                      visit(words);
+                    }
+                  }) {}
+
+ImageColors::ImageColors(std::uint64_t pixelCount, ForEachBlock forEachBlock)
+    : pixelCount_(pixelCount), forEachBlock_(std::move(forEachBlock)), occurring_(kColors / 64) {
   std::optional<ColorWord> first;
   ColorWord differing = 0;
-  bitmap_.forEachBlock([&](std::span<const ColorWord> words) {
+  forEachBlock_([&](std::span<const ColorWord> words) {
     const ColorWord reference = first.value_or(words.front());
     first = reference;
     for (const ColorWord word : words) {
@@ -75,11 +103,11 @@ Palette ImageColors::exactPalette(std::int32_t size, PaletteEntry blank) const {
 }
 
 Palette ImageColors::reducedPalette(std::int32_t size, PaletteEntry blank) const {
-  const std::uint64_t share = bitmap_.pixelCount() / static_cast<std::uint64_t>(size);
+  const std::uint64_t share = pixelCount_ / static_cast<std::uint64_t>(size);
   // The first color may keep one pixel more than its share, and every color keeps one.
   std::uint64_t kept = share + 1;
   std::vector<ColorWord> thinned;
-  thinned.reserve(static_cast<std::size_t>(bitmap_.pixelCount()));
+  thinned.reserve(static_cast<std::size_t>(pixelCount_));
   forEachColor([&](ColorWord color, std::uint64_t pixels) {
     thinned.insert(thinned.end(), static_cast<std::size_t>(std::min(pixels, kept)), color);
     kept = std::max<std::uint64_t>(share, 1);
@@ -110,8 +138,8 @@ void ImageColors::forEachColor(const VisitColor& visit) const {
 // All pixels, the order of the color above the fourth byte, ascending.
 std::vector<std::uint32_t> ImageColors::sortedPixels() const {
   std::vector<std::uint32_t> pixels;
-  pixels.reserve(static_cast<std::size_t>(bitmap_.pixelCount()));
-  bitmap_.forEachBlock([&](std::span<const ColorWord> words) {
+  pixels.reserve(static_cast<std::size_t>(pixelCount_));
+  forEachBlock_([&](std::span<const ColorWord> words) {
     std::ranges::transform(words, std::back_inserter(pixels),
                            [](ColorWord word) { return orderOf(word) << 8 | word >> 24; });
   });
@@ -127,7 +155,7 @@ std::vector<std::uint32_t> ImageColors::pixelsOfEachColor() const {
                                 [](std::uint64_t bits) { return static_cast<std::uint32_t>(std::popcount(bits)); });
   // One more than needed, for a color that came into the file after the first reading.
   std::vector<std::uint32_t> counts(static_cast<std::size_t>(distinctCount_) + 1);
-  bitmap_.forEachBlock([&](std::span<const ColorWord> words) {
+  forEachBlock_([&](std::span<const ColorWord> words) {
     for (const ColorWord word : words) {
       const std::uint32_t order = orderOf(word);
       const std::uint64_t lower = occurring_[order / 64] & (bitOf(order) - 1);

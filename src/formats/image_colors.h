@@ -2,10 +2,12 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <vector>
 
 #include "core/palette.h"
 #include "formats/true_color_bitmap.h"
+#include "formats/work_image.h"
 
 namespace quillhue {
 
@@ -19,6 +21,8 @@ namespace quillhue {
 class ImageColors {
  public:
   explicit ImageColors(const TrueColorBitmap& bitmap);
+  /// The image outlives this.
+  explicit ImageColors(const WorkImage& image);
 
   [[nodiscard]] std::uint64_t distinctCount() const { return distinctCount_; }
 
@@ -29,12 +33,18 @@ class ImageColors {
   [[nodiscard]] Palette reducedPalette(std::int32_t size, PaletteEntry blank) const;
 
  private:
+  using VisitWords = std::function<void(std::span<const ColorWord>)>;
+  using ForEachBlock = std::function<void(const VisitWords&)>;
+  ImageColors(std::uint64_t pixelCount, ForEachBlock forEachBlock);
+
   using VisitColor = std::function<void(ColorWord color, std::uint64_t pixels)>;
   void forEachColor(const VisitColor& visit) const;
   [[nodiscard]] std::vector<std::uint32_t> sortedPixels() const;
   [[nodiscard]] std::vector<std::uint32_t> pixelsOfEachColor() const;
 
-  TrueColorBitmap bitmap_;
+  std::uint64_t pixelCount_;
+  // Hands over all pixels, some at a time.
+  ForEachBlock forEachBlock_;
   // One bit for each of the 2^24 colors, by its place in the order.
   std::vector<std::uint64_t> occurring_;
   std::uint64_t distinctCount_ = 0;

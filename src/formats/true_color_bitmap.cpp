@@ -5,11 +5,14 @@
 #include <cstdlib>
 #include <vector>
 
+#include "formats/bitmap_layout.h"
 #include "formats/image_limits.h"
 
 namespace quillhue {
 
 namespace {
+
+using namespace bitmap_layout;
 
 constexpr std::uint64_t kBlockBytes = std::uint64_t{1} << 18;
 
@@ -38,17 +41,17 @@ void decode32(std::span<const std::uint8_t> row, std::span<ColorWord> words) {
 }  // namespace
 
 std::expected<TrueColorBitmap, Failure> TrueColorBitmap::open(ByteSource& source) {
-  const auto width = static_cast<std::int32_t>(source.u32le(18));
+  const auto width = static_cast<std::int32_t>(source.u32le(kFileHeader + kWidth));
   // Negative in a bitmap whose first row is the upper one; colors have no order.
-  const std::int64_t height = std::abs(std::int64_t{static_cast<std::int32_t>(source.u32le(22))});
+  const std::int64_t height = std::abs(std::int64_t{static_cast<std::int32_t>(source.u32le(kFileHeader + kHeight))});
   if (const auto failure = checkImageSize(width, height)) {
     return std::unexpected(*failure);
   }
   TrueColorBitmap bitmap;
   bitmap.source_ = &source;
-  bitmap.bytesPerPixel_ = source.u8(28) / 8;
+  bitmap.bytesPerPixel_ = source.u8(kFileHeader + kBitCount) / 8;
   // kept on purpose: of the offset of the pixels only the low byte counts.
-  bitmap.offset_ = source.u8(10);
+  bitmap.offset_ = source.u8(kPixelOffset);
   bitmap.width_ = static_cast<std::uint64_t>(width);
   bitmap.stride_ = (bitmap.width_ * bitmap.bytesPerPixel_ + 3) / 4 * 4;
   const std::uint64_t stored = source.size() - std::min(source.size(), bitmap.offset_);

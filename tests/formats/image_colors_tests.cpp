@@ -4,6 +4,7 @@
 #include <random>
 
 #include "formats/image_colors.h"
+#include "formats/images/image_loaders.h"
 #include "support/bitmaps.h"
 
 namespace quillhue {
@@ -114,6 +115,12 @@ TEST(ImageColors, EqualThePlainMethod) {
     const ImageColors product(TrueColorBitmap::open(source).value());
     const SortedImage plain(words);
     ASSERT_EQ(product.distinctCount(), plain.distinctCount()) << round;
+    if (bits == 24) {
+      const WorkImage image = loadImage(source).value();
+      const ImageColors loaded(image);
+      ASSERT_EQ(loaded.distinctCount(), plain.distinctCount()) << round;
+      ASSERT_EQ(show(loaded.reducedPalette(16, kBlank)), plain.reduced(16, kBlank)) << round;
+    }
     for (const std::int32_t size : {1, 2, 3, 16, 255, 1024}) {
       ASSERT_EQ(show(product.exactPalette(size, kBlank)), plain.exact(size, kBlank)) << round << ", " << size;
       ASSERT_EQ(show(product.reducedPalette(size, kBlank)), plain.reduced(size, kBlank)) << round << ", " << size;

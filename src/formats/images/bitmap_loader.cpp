@@ -1,3 +1,4 @@
+#include "formats/bitmap_layout.h"
 #include "formats/images/dib.h"
 #include "formats/images/image_loaders.h"
 
@@ -5,14 +6,12 @@ namespace quillhue {
 
 namespace {
 
-constexpr std::uint64_t kFileHeader = 14;
-
 bool matches(ByteSource& source) { return matchTag(source, 0, "BM"); }
 
 ImageResult load(ByteSource& source) {
   // kept on purpose: of the offset of the pixels only the low byte counts. It is where the palette stands: 54 in most
   // files, whose 8-bit pixels stand at 1078.
-  return loadDib(source, {kFileHeader, source.u8(10)}, Failure::bitmapDepth);
+  return loadDib(source, {bitmap_layout::kFileHeader, source.u8(bitmap_layout::kPixelOffset)}, Failure::bitmapDepth);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "formats/bitmap_layout.h"
 #include "formats/clipboard_directory.h"
 #include "formats/images/dib.h"
 #include "formats/images/image_loaders.h"
@@ -18,7 +19,7 @@ ImageResult load(ByteSource& source) {
   if (!bitmap) {
     return std::unexpected(Failure::clipboardNoImages);
   }
-  return loadDib(source, {*bitmap, *bitmap + 40}, Failure::bitmapDepth);
+  return loadDib(source, {*bitmap, *bitmap + bitmap_layout::kInfoHeader}, Failure::bitmapDepth);
 }
 
 }  // namespace

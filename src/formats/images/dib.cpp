@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "formats/bitmap_layout.h"
 #include "formats/image_limits.h"
 #include "formats/readers/palette_reader.h"
 #include "formats/true_color_bitmap.h"
@@ -54,12 +55,13 @@ constexpr std::array<Depth, 6> kDepths{
 }  // namespace
 
 ImageResult loadDib(ByteSource& source, const DibLayout& layout, Failure unsupportedDepth) {
-  const auto* const depth = std::ranges::find(kDepths, source.u8(layout.header + 14), &Depth::bits);
+  const auto* const depth =
+      std::ranges::find(kDepths, source.u8(layout.header + bitmap_layout::kBitCount), &Depth::bits);
   if (depth == kDepths.end()) {
     return std::unexpected(unsupportedDepth);
   }
-  const auto width = static_cast<std::int32_t>(source.u32le(layout.header + 4));
-  const auto height = static_cast<std::int32_t>(source.u32le(layout.header + 8));
+  const auto width = static_cast<std::int32_t>(source.u32le(layout.header + bitmap_layout::kWidth));
+  const auto height = static_cast<std::int32_t>(source.u32le(layout.header + bitmap_layout::kHeight));
   if (const auto failure = checkImageSize(width, height)) {
     return std::unexpected(*failure);
   }

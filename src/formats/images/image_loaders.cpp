@@ -5,6 +5,7 @@
 #include <new>
 #include <utility>
 
+#include "formats/bitmap_layout.h"
 #include "formats/images/dib.h"
 
 namespace quillhue {
@@ -42,7 +43,7 @@ ImageResult loadImage(ByteSource& source) {
 
 ImageResult loadClipboardImage(std::vector<std::uint8_t> block) {
   MemorySource source(std::move(block));
-  return guarded(source, [&] { return loadDib(source, {0, 40}, Failure::clipboardDepth); });
+  return guarded(source, [&] { return loadDib(source, {0, bitmap_layout::kInfoHeader}, Failure::clipboardDepth); });
 }
 
 }  // namespace quillhue

@@ -1,16 +1,19 @@
+#include "formats/bitmap_layout.h"
 #include "formats/readers/palette_readers.h"
 
 namespace quillhue {
 
 namespace {
 
+using namespace bitmap_layout;
+
 bool matches(const ReaderInput& input) { return matchTag(input.source, 0, "BM"); }
 
 ReadResult read(const ReaderInput& input) {
-  const std::uint8_t bits = input.source.u8(28);
+  const std::uint8_t bits = input.source.u8(kFileHeader + kBitCount);
   if (bits <= 8) {
     // kept on purpose: header size and colors used are not consulted, the table is full and stands behind 54 bytes.
-    return FilePalette{blueFirst(readQuads(input.source, 54, 1 << bits)), palette_format::kNone};
+    return FilePalette{blueFirst(readQuads(input.source, kFileHeader + kInfoHeader, 1 << bits)), palette_format::kNone};
   }
   if (bits != 16 && bits != 24 && bits != 32) {
     return std::unexpected(Failure::bitmapUnsupported);

@@ -1,5 +1,6 @@
 #include <optional>
 
+#include "formats/bitmap_layout.h"
 #include "formats/clipboard_directory.h"
 #include "formats/readers/palette_readers.h"
 
@@ -30,10 +31,11 @@ ReadResult read(const ReaderInput& input) {
     return FilePalette{readQuads(source, *palette + 4, entryCount(*palette)),
                        palette_format::kWindowsClipboard | palette_format::kMayHoldMore};
   }
-  const auto bitsPerPixel = [&](std::uint64_t data) { return source.u8(data + 14); };
+  const auto bitsPerPixel = [&](std::uint64_t data) { return source.u8(data + bitmap_layout::kBitCount); };
   const auto bitmap = findItem(source, kBitmapItem, [&](std::uint64_t data) { return bitsPerPixel(data) <= 10; });
   if (bitmap) {
-    return FilePalette{blueFirst(readQuads(source, *bitmap + 40, 1 << bitsPerPixel(*bitmap))), palette_format::kNone};
+    return FilePalette{blueFirst(readQuads(source, *bitmap + bitmap_layout::kInfoHeader, 1 << bitsPerPixel(*bitmap))),
+                       palette_format::kNone};
   }
   return std::unexpected(Failure::clipboardNoPalette);
 }

@@ -13,6 +13,7 @@
 #include "formats/byte_source.h"
 #include "formats/failure.h"
 #include "formats/true_color_bitmap.h"
+#include "formats/work_image.h"
 
 namespace quillhue {
 
@@ -30,8 +31,9 @@ struct FilePalette {
   bool isCut = false;
 };
 
-/// What a reader finds: a palette, or an image of true colors from which one can be made.
-using FileContent = std::variant<FilePalette, TrueColorBitmap>;
+/// What a reader finds: a palette, or an image of true colors from which one can be made. An image that is decoded at
+/// once comes only from readers that the tool asks by their own means.
+using FileContent = std::variant<FilePalette, TrueColorBitmap, WorkImage>;
 using ReadResult = std::expected<FileContent, Failure>;
 
 /// One layout of palette files.

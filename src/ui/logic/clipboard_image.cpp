@@ -5,6 +5,7 @@
 #include <optional>
 #include <span>
 
+#include "formats/bitmap_layout.h"
 #include "formats/bitmap_writer.h"
 #include "formats/byte_sink.h"
 
@@ -12,26 +13,24 @@ namespace quillhue {
 
 namespace {
 
-// What a bitmap file has before its header.
-constexpr std::ptrdiff_t kFileHeader = 14;
-constexpr std::size_t kHeader = 40;
+using namespace bitmap_layout;
 
 std::vector<std::uint8_t> withoutFileHeader(std::vector<std::uint8_t> file) {
-  file.erase(file.begin(), file.begin() + kFileHeader);
+  file.erase(file.begin(), file.begin() + std::ptrdiff_t{kFileHeader});
   return file;
 }
 
 std::vector<std::uint8_t> trueColorBitmap(const WorkImage& image) {
   const std::size_t stride = paddedRowLength(image.width() * 3);
   ByteSink sink;
-  sink.u32le(0, kHeader);
-  sink.u32le(4, static_cast<std::uint32_t>(image.width()));
-  sink.u32le(8, static_cast<std::uint32_t>(image.height()));
-  sink.u16le(12, 1);
-  sink.u16le(14, 24);
-  sink.extend(kHeader);
+  sink.u32le(kHeaderSize, kInfoHeader);
+  sink.u32le(kWidth, static_cast<std::uint32_t>(image.width()));
+  sink.u32le(kHeight, static_cast<std::uint32_t>(image.height()));
+  sink.u16le(kPlanes, 1);
+  sink.u16le(kBitCount, 24);
+  sink.extend(kInfoHeader);
   std::vector<std::uint8_t> block = sink.take();
-  block.reserve(kHeader + stride * static_cast<std::size_t>(image.height()));
+  block.reserve(kInfoHeader + stride * static_cast<std::size_t>(image.height()));
   for (std::int32_t y = image.height(); y-- > 0;) {
     const auto row = image.row(y);
     block.insert(block.end(), row.begin(), row.end());
