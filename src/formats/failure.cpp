@@ -69,9 +69,11 @@ constexpr std::array kTexts{
     FailureText{lbmUnsupported, "Quillhue cannot load this type of LBM file."},
     FailureText{lbmNot8Bit, "LBM files must contain an 8-bit bitmap."},
     FailureText{couldNotCreate, "Could not create the file."},
+    FailureText{pictureDamaged, "This image file is damaged or incomplete."},
+    FailureText{pictureUnsupported, "Quillhue cannot load this type of image."},
 };
 
-static_assert(kTexts.size() == static_cast<std::size_t>(couldNotCreate) + 1);
+static_assert(kTexts.size() == static_cast<std::size_t>(pictureUnsupported) + 1);
 static_assert(std::ranges::adjacent_find(kTexts, std::ranges::greater_equal(), &FailureText::failure) == kTexts.end());
 
 }  // namespace

@@ -52,6 +52,8 @@ enum class Failure : std::uint8_t {
   lbmUnsupported,
   lbmNot8Bit,
   couldNotCreate,
+  pictureDamaged,
+  pictureUnsupported,
 };
 
 /// What the user is told; lines end with a line feed.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -35,14 +36,35 @@ class WorkImage {
     return pixels().subspan(rowStart(y), rowLength());
   }
 
+  /// Whether a pixel may be transparent, which is less than half covered by the image. Such a pixel still has the color
+  /// that it has without transparency.
+  [[nodiscard]] bool hasTransparency() const { return transparentIndexes_.any() || !transparent_.all().empty(); }
+  /// Indexes whose pixels are transparent; for an image with a palette.
+  [[nodiscard]] std::bitset<256>& transparentIndexes() { return transparentIndexes_; }
+  [[nodiscard]] const std::bitset<256>& transparentIndexes() const { return transparentIndexes_; }
+  /// One byte a pixel, 1 for a transparent one and 0 for all others; for an image without a palette, with transparency.
+  [[nodiscard]] std::span<std::uint8_t> transparentRow(std::int32_t y) {
+    return transparent_.all().subspan(at(y), columns());
+  }
+  [[nodiscard]] std::span<const std::uint8_t> transparentRow(std::int32_t y) const {
+    return transparent_.all().subspan(at(y), columns());
+  }
+  /// Makes room for transparent pixels; none is yet. Throws std::bad_alloc.
+  void addTransparency() { transparent_ = ZeroedMemory<std::uint8_t>(at(height_)); }
+
  private:
-  [[nodiscard]] std::size_t rowLength() const { return static_cast<std::size_t>(width_) * bytesPerPixel(); }
-  [[nodiscard]] std::size_t rowStart(std::int32_t y) const { return static_cast<std::size_t>(y) * rowLength(); }
+  [[nodiscard]] std::size_t columns() const { return static_cast<std::size_t>(width_); }
+  // The place of a row's first pixel.
+  [[nodiscard]] std::size_t at(std::int32_t y) const { return static_cast<std::size_t>(y) * columns(); }
+  [[nodiscard]] std::size_t rowLength() const { return columns() * bytesPerPixel(); }
+  [[nodiscard]] std::size_t rowStart(std::int32_t y) const { return at(y) * bytesPerPixel(); }
 
   std::int32_t width_;
   std::int32_t height_;
   std::optional<Palette> palette_;
   ZeroedMemory<std::uint8_t> pixels_;
+  std::bitset<256> transparentIndexes_;
+  ZeroedMemory<std::uint8_t> transparent_;
 };
 
 }  // namespace quillhue

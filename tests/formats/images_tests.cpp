@@ -1,13 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include "formats/bitmap_writer.h"
 #include "formats/image_file.h"
 #include "formats/images/image_loaders.h"
 #include "support/fakes.h"
 #include "support/palettes.h"
+#include "support/patches.h"
 #include "support/scratch_folder.h"
+#include "support/shown_image.h"
 #include "support/table.h"
 
 namespace quillhue {
@@ -16,31 +16,8 @@ namespace {
 // "offset:bytes ..." put into zeros.
 Bytes contentOf(std::size_t size, const std::string& patches) {
   Bytes content(size);
-  std::istringstream words(patches);
-  for (std::string word; words >> word;) {
-    std::size_t at = std::stoul(word);
-    const std::string digits = word.substr(word.find(':') + 1);
-    for (std::size_t i = 0; i < digits.size(); i += 2, ++at) {
-      content.resize(std::max(content.size(), at + 1));
-      content[at] = static_cast<std::uint8_t>(std::stoi(digits.substr(i, 2), nullptr, 16));
-    }
-  }
+  patch(content, patches);
   return content;
-}
-
-std::string shown(const ImageResult& image) {
-  if (!image) {
-    return std::string(textOf(image.error()));
-  }
-  std::string text = std::to_string(image->width()) + 'x' + std::to_string(image->height());
-  if (const auto& palette = image->palette()) {
-    text += ", " + std::to_string(palette->getSize()) + " (" + show(createPalette(1, palette->entry(1))) + ')';
-  }
-  text += ':';
-  for (std::int32_t y = 0; y < image->height(); ++y) {
-    text += ' ' + hexOf(image->row(y));
-  }
-  return text;
 }
 
 TEST(Images, LoadAsTheTableSays) {
