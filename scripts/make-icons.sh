@@ -40,11 +40,11 @@ icon() {
 }
 
 icon quillhue quillhue-small:16 quillhue-small:24 quillhue:32 quillhue:48 quillhue:64 quillhue:72 quillhue:96 quillhue:256
-# Buttons and the About dialog show 48 pixels at 96 dpi; 72 and 96 are for 144 and 192 dpi.
+# Buttons and the About dialog show 48 pixels at 96 dpi; 60, 72, 84 and 96 are for 120, 144, 168 and 192 dpi.
 for name in blank sixteen grey rgb; do
-  icon $name $name-16:16 $name-24:24 $name-16:32 $name:48 $name:72 $name:96
+  icon $name $name-16:16 $name-24:24 $name-16:32 $name:48 $name:60 $name:72 $name:84 $name:96
 done
-icon open open-16:16 open-24:24 open:32 open:48 open:72 open:96
+icon open open-16:16 open-24:24 open:32 open:48 open:60 open:72 open:84 open:96
 # Its hotspot is the arrow's tip, which is the corner at every size.
 icotool --create --cursor --hotspot-x 0 --hotspot-y 0 --output $resources/row.cur \
   "$(image row:32)" "$(image row-48:48)" "$(image row:64)"
