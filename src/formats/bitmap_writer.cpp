@@ -16,6 +16,8 @@ namespace {
 using namespace bitmap_layout;
 
 constexpr std::size_t kHeaders = kFileHeader + kInfoHeader;
+// Up to this number of colors a pixel takes 4 bits.
+constexpr std::size_t kPackedColors = 16;
 
 // Two pixels a byte, the left one in the high half. `row` has an even length.
 void packRow(std::span<const std::uint8_t> row, std::span<std::uint8_t> packed) {
@@ -26,14 +28,24 @@ void packRow(std::span<const std::uint8_t> row, std::span<std::uint8_t> packed) 
 
 }  // namespace
 
+std::array<PaletteEntry, kBitmapColors> bitmapColors(std::span<const PaletteEntry> palette, PaletteEntry blank) {
+  const std::size_t entries = palette.size() <= kPackedColors ? kPackedColors : kBitmapColors;
+  std::array<PaletteEntry, kBitmapColors> colors{};
+  for (std::size_t i = 0; i < colors.size(); ++i) {
+    const std::size_t stored = i % entries;
+    colors[i] = stored < palette.size() ? palette[stored] : blank;
+  }
+  return colors;
+}
+
 std::vector<std::uint8_t> composeBitmap(const IndexedPixels& pixels, const Palette& palette, PaletteEntry blank) {
-  const bool isPacked = palette.getSize() <= 16;
-  const std::int32_t entries = isPacked ? 16 : 256;
+  const bool isPacked = palette.getSize() <= static_cast<std::int32_t>(kPackedColors);
+  const std::size_t entries = isPacked ? kPackedColors : kBitmapColors;
   const auto width = static_cast<std::size_t>(pixels.width);
   const auto height = static_cast<std::size_t>(pixels.height);
   const std::size_t stored = paddedRowLength(pixels.width);
   const std::size_t stride = isPacked ? (width + 7) / 2 / 4 * 4 : stored;
-  const std::size_t offset = kHeaders + 4 * static_cast<std::size_t>(entries);
+  const std::size_t offset = kHeaders + 4 * entries;
   const std::size_t size = offset + stride * height;
   ByteSink sink;
   sink.text(0, "BM");
@@ -44,9 +56,9 @@ std::vector<std::uint8_t> composeBitmap(const IndexedPixels& pixels, const Palet
   sink.u32le(kFileHeader + kHeight, static_cast<std::uint32_t>(pixels.height));
   sink.u16le(kFileHeader + kPlanes, 1);
   sink.u16le(kFileHeader + kBitCount, isPacked ? 4 : 8);
-  for (std::int32_t i = 0; i < entries; ++i) {
-    const PaletteEntry color = entryOr(palette, i, blank);
-    sink.bytes(kHeaders + 4 * static_cast<std::size_t>(i), {color.blue, color.green, color.red, 0});
+  const auto colors = bitmapColors(entriesOf(palette), blank);
+  for (std::size_t i = 0; i < entries; ++i) {
+    sink.bytes(kHeaders + 4 * i, {colors[i].blue, colors[i].green, colors[i].red, 0});
   }
   // Rows are appended: room that is filled with zeros first is touched twice.
   std::vector<std::uint8_t> file = sink.take();

@@ -34,6 +34,14 @@ TEST(Images, LoadFromTheClipboard) {
   EXPECT_EQ(shown(loadClipboardImage(contentOf(0, "4:01 8:01 14:01"))),
             "Clipboard must contain a 4-bit, 8-bit, 24-bit, or 32-bit bitmap.");
   EXPECT_EQ(shown(loadClipboardImage({})), "The image is too small.");
+  // With masks the pixels begin behind them, or behind a longer header that holds them.
+  const std::string masked = " 4:01 8:01 14:20 16:03 ";
+  EXPECT_EQ(shown(loadClipboardImage(contentOf(0, "0:28" + masked + "40:0000FF0000FF0000FF000000 52:01020304"))),
+            "1x1: 010203");
+  EXPECT_EQ(shown(loadClipboardImage(contentOf(0, "0:6C" + masked + "40:FF00000000FF00000000FF00 108:01020304"))),
+            "1x1: 030201");
+  EXPECT_EQ(shown(loadClipboardImage(contentOf(0, "0:28 4:02 8:01 14:10 16:03 40:00F80000E00700001F 52:2100FF07"))),
+            "2x1: 090400 FFFF00");
 }
 
 TEST(Images, AFileThatCannotBeLoadedLeavesTheImage) {
@@ -74,6 +82,16 @@ TEST(BitmapWriter, WritesFourBitsUpToSixteenEntries) {
   // A row is a multiple of 4 bytes.
   EXPECT_EQ(composeBitmap({8, 3, rows}, variedPalette(16), {}).size(), 118U + 3 * 4);
   EXPECT_EQ(composeBitmap({9, 1, rows}, variedPalette(16), {}).size(), 118U + 8);
+}
+
+TEST(BitmapWriter, TellsTheColorOfEveryIndex) {
+  const auto colors = [](std::int32_t entries) { return bitmapColors(entriesOf(variedPalette(entries)), {7, 8, 9}); };
+  // Four bits hold an index up to 15, eight bits any.
+  EXPECT_EQ(colors(2)[1], variedPalette(2).entry(1));
+  EXPECT_EQ(colors(2)[2], (PaletteEntry{7, 8, 9}));
+  EXPECT_EQ(colors(16)[16], variedPalette(16).entry(0));
+  EXPECT_EQ(colors(17)[17], (PaletteEntry{7, 8, 9}));
+  EXPECT_EQ(colors(300)[255], variedPalette(300).entry(255));
 }
 
 TEST(BitmapWriter, WritesWhatTheLoaderReads) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <utility>
 #include <vector>
 
@@ -37,6 +38,31 @@ void decode16(Bytes stored, std::span<std::uint8_t> row) {
 void decode32(Bytes stored, std::span<std::uint8_t> row) {
   for (std::size_t x = 0; x < row.size() / 3; ++x) {
     std::ranges::copy(stored.subspan(4 * x, 3), row.subspan(3 * x).begin());
+  }
+}
+
+// A field of a pixel as a whole byte, the largest value as 255.
+std::uint8_t fieldOf(std::uint32_t pixel, std::uint32_t mask) {
+  constexpr std::uint32_t kFiveBits = 31;
+  if (mask == 0) {
+    return 0;
+  }
+  const int shift = std::countr_zero(mask);
+  const std::uint64_t most = mask >> shift;
+  const std::uint32_t value = (pixel & mask) >> shift;
+  return static_cast<std::uint8_t>(most == kFiveBits ? widenField(value)
+                                                     : (value * std::uint64_t{255} + most / 2) / most);
+}
+
+void decodeMasked(Bytes stored, std::span<std::uint8_t> row, const BitMasks& masks, std::size_t pixelBytes) {
+  for (std::size_t x = 0; x < row.size() / 3; ++x) {
+    std::uint32_t pixel = 0;
+    for (std::size_t i = pixelBytes; i-- > 0;) {
+      pixel = pixel << 8 | stored[pixelBytes * x + i];
+    }
+    for (std::size_t field = 0; field < masks.size(); ++field) {
+      row[3 * x + field] = fieldOf(pixel, masks[field]);
+    }
   }
 }
 
@@ -83,7 +109,11 @@ ImageResult loadDib(ByteSource& source, const DibLayout& layout, Failure unsuppo
       source.read(offset, row);
     } else {
       source.read(offset, stored);
-      depth->decode(stored, row);
+      if (layout.masks) {
+        decodeMasked(stored, row, *layout.masks, depth->bits / 8);
+      } else {
+        depth->decode(stored, row);
+      }
     }
   }
   return image;

@@ -26,6 +26,21 @@ ImageResult guarded(ByteSource& source, Load load) try {
   return std::unexpected(Failure::notEnoughMemory);
 }
 
+// Programs that take pictures of the screen put masks between the header of 40 bytes and the pixels, or into a longer
+// header at the same place.
+DibLayout clipboardLayout(ByteSource& source) {
+  using namespace bitmap_layout;
+  constexpr std::uint32_t kBitFields = 3;
+  const std::uint64_t header = source.u32le(kHeaderSize);
+  const std::uint8_t depth = source.u8(kBitCount);
+  if (source.u32le(kCompression) != kBitFields || (depth != 16 && depth != 32)) {
+    return {.palette = kInfoHeader};
+  }
+  // Stored in the order of red, green, blue.
+  const BitMasks masks{source.u32le(kInfoHeader + 8), source.u32le(kInfoHeader + 4), source.u32le(kInfoHeader)};
+  return {.palette = header <= kInfoHeader ? kInfoHeader + 12 : header, .masks = masks};
+}
+
 }  // namespace
 
 std::span<const ImageLoader* const> imageLoaders() { return kLoaders; }
@@ -43,7 +58,7 @@ ImageResult loadImage(ByteSource& source) {
 
 ImageResult loadClipboardImage(std::vector<std::uint8_t> block) {
   MemorySource source(std::move(block));
-  return guarded(source, [&] { return loadDib(source, {0, bitmap_layout::kInfoHeader}, Failure::clipboardDepth); });
+  return guarded(source, [&] { return loadDib(source, clipboardLayout(source), Failure::clipboardDepth); });
 }
 
 }  // namespace quillhue

@@ -19,8 +19,9 @@ extern const ImageLoader kPcxLoader;
 /// be, or that is too large for the memory is refused.
 [[nodiscard]] ImageResult loadImage(ByteSource& source);
 
-/// Loads a device-independent bitmap as it stands on the clipboard (CF_DIB): its header, its palette 40 bytes behind
-/// the header's start, its pixels.
+/// Loads a device-independent bitmap from the clipboard (CF_DIB): its header, its palette 40 bytes behind the header's
+/// start, its pixels. With bit fields (compression 3) the three masks are there instead, and the pixels follow them or
+/// the header, whichever ends later.
 [[nodiscard]] ImageResult loadClipboardImage(std::vector<std::uint8_t> block);
 
 }  // namespace quillhue
