@@ -1,5 +1,6 @@
 #pragma once
 
+#include <expected>
 #include <optional>
 #include <vector>
 
@@ -33,9 +34,15 @@ class ToolServices : private Messages, private DocumentObserver, private FileQue
   void documentReplaced() override {}
   std::optional<SaveAsAnswer> askSaveAs(PaletteFormat /*preselected*/) override { return std::nullopt; }
   std::int32_t askPaletteFromImage(std::uint64_t /*distinctColors*/) override { return 0; }
-  void put(std::span<const PaletteEntry> entries) override { clipboard_ = {entries.begin(), entries.end()}; }
-  std::optional<std::vector<PaletteEntry>> get() override {
-    return clipboard_.empty() ? std::nullopt : std::optional(clipboard_);
+  bool put(std::span<const PaletteEntry> entries) override {
+    clipboard_ = {entries.begin(), entries.end()};
+    return true;
+  }
+  std::expected<std::vector<PaletteEntry>, NoPalette> get() override {
+    if (clipboard_.empty()) {
+      return std::unexpected(NoPalette::notThere);
+    }
+    return clipboard_;
   }
 
   Console& console_;

@@ -10,8 +10,6 @@ namespace quillhue {
 
 namespace {
 
-constexpr std::int32_t kWheelNotch = 120;
-
 using CustomColors = std::array<PaletteEntry, ColorChooser::kCustomColors>;
 
 CustomColors customColorsFor(const PaletteDocument& document, std::int32_t index, PaletteEntry blank) {
@@ -32,8 +30,11 @@ ChannelEditor::ChannelEditor(const DocumentSlot& slot, AppSettings& settings, Ch
 }
 
 void ChannelEditor::setCurrentEntry(std::int32_t index) {
-  currentEntry_ = document().contains(index) ? index : -1;
-  refreshAndRepaint();
+  const std::int32_t chosen = document().contains(index) ? index : -1;
+  if (chosen != currentEntry_) {
+    currentEntry_ = chosen;
+    refreshAndRepaint();
+  }
 }
 
 void ChannelEditor::chooseModel(std::int32_t index) {
@@ -42,19 +43,26 @@ void ChannelEditor::chooseModel(std::int32_t index) {
   refreshAndRepaint();
 }
 
-// Locked, so that setting the numbers again builds the bars and writes nothing, whoever does it: a control that
-// reports its new number as a change, or this function where the number was there before.
 void ChannelEditor::refreshValues() {
   mode_->setEntry(currentEntry_);
+  endRun();
+  showValues();
+}
+
+// Locked, so that setting the numbers again builds the bars and writes nothing, whoever does it: a control that
+// reports its new number as a change, or this function where the number was there before.
+void ChannelEditor::showValues() {
+  const bool isRunOver = recordsNext();
   document().lock();
   recordArmed_ = false;
+  runSaveCount_ = document().saveCount();
   for (const Bar bar : kBars) {
     const std::int32_t value = mode_->getValue(bar);
     view_.showChannel(bar, mode_->channelRange(bar), value);
     mode_->setValue(bar, value);
   }
   document().unlock();
-  recordArmed_ = true;
+  recordArmed_ = isRunOver;
 }
 
 void ChannelEditor::paletteChanged() {
@@ -70,10 +78,11 @@ void ChannelEditor::documentReplaced() {
 }
 
 void ChannelEditor::recordOnce() {
-  if (recordArmed_) {
+  if (recordsNext()) {
     document().recordColor(currentEntry_);
   }
   recordArmed_ = false;
+  runSaveCount_ = document().saveCount();
 }
 
 void ChannelEditor::refreshAndRepaint() {
@@ -99,24 +108,7 @@ void ChannelEditor::fieldChanged(Bar bar, std::int32_t value) {
   view_.entryChanged(currentEntry_);
 }
 
-std::int32_t ChannelEditor::stepField(Bar bar, std::int32_t position, std::int32_t step) {
-  const ValueRange& range = mode_->channelRange(bar);
-  const std::int64_t wanted = std::int64_t{position} + step;
-  const std::int32_t target = range.clamp(wanted);
-  // A step is only ever shortened: from outside the range none that is too short leads back.
-  const bool leadsThere = step > 0 ? target > position && target <= wanted : target < position && target >= wanted;
-  if (!leadsThere) {
-    return 0;
-  }
-  recordOnce();
-  mode_->setValue(bar, target);
-  view_.entryChanged(currentEntry_);
-  return target - position;
-}
-
-void ChannelEditor::turnWheel(Bar bar, std::int32_t delta) {
-  changeChannel(bar, mode_->getValue(bar) + delta / kWheelNotch);
-}
+void ChannelEditor::turnWheel(Bar bar, std::int32_t notches) { changeChannel(bar, mode_->getValue(bar) + notches); }
 
 void ChannelEditor::dragBar(std::int32_t y, std::int32_t height) {
   if (!dragTarget_ || height <= 0) {
@@ -144,9 +136,9 @@ void ChannelEditor::editEntry(std::int32_t index, ColorChooser& chooser) {
   }
 }
 
-void ChannelEditor::copy(PaletteClipboard& clipboard) {
-  copyEntry(document(), currentEntry_, clipboard);
+bool ChannelEditor::copy(PaletteClipboard& clipboard) {
   endRun();
+  return copyEntry(document(), currentEntry_, clipboard);
 }
 
 void ChannelEditor::paste(PaletteClipboard& clipboard) {

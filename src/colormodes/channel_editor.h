@@ -23,8 +23,8 @@ class ChannelView {
 };
 
 /// Edits the current entry of the open palette as three numbers of the chosen color model. All changes between two
-/// calls of refreshValues are one undo step, however many they are. The slot holds a document as long as an editor
-/// lives.
+/// calls of refreshValues are one undo step, however many they are, unless the document is saved between them. The slot
+/// holds a document as long as an editor lives.
 class ChannelEditor {
  public:
   /// Starts with entry 0 and the color model of the settings.
@@ -33,13 +33,17 @@ class ChannelEditor {
   [[nodiscard]] const ColorMode& mode() const { return *mode_; }
   [[nodiscard]] std::int32_t currentEntry() const { return currentEntry_; }
 
-  /// Another current entry, as the user chose it; an index that is no entry makes it none, -1.
+  /// Another current entry, as the user chose it; an index that is no entry makes it none, -1. The entry that is the
+  /// current one already keeps its numbers and its run of changes.
   void setCurrentEntry(std::int32_t index);
   /// Another color model, of which the settings keep the index.
   void chooseModel(std::int32_t index);
   /// Brings numbers, controls and bars up to date with the entry; the next change is a new undo step. Called whenever
-  /// the editor is shown, and after a save.
+  /// the editor is shown.
   void refreshValues();
+  /// Shows the numbers again, as after the controls have moved or something else was typed: that neither records nor
+  /// writes anything, and the run goes on.
+  void showValues();
   /// After undo, redo and resizing: a current entry past the end becomes the last one.
   void paletteChanged();
   /// Another document was opened: its entry 0 becomes the current one.
@@ -51,11 +55,8 @@ class ChannelEditor {
   void changeChannel(Bar bar, std::int32_t value);
   /// An edit field has another text: its number is set and recorded also where it is the same.
   void fieldChanged(Bar bar, std::int32_t value);
-  /// An arrow of a field at `position` asks for a step. Shortens it to the range, sets the number that it leads to,
-  /// and answers how far the control is to go; 0 for a step that is refused.
-  std::int32_t stepField(Bar bar, std::int32_t position, std::int32_t step);
-  /// The wheel turned over a bar, 120 a notch.
-  void turnWheel(Bar bar, std::int32_t delta);
+  /// The wheel turned over a bar, by whole notches.
+  void turnWheel(Bar bar, std::int32_t notches);
   /// A bar is pressed, dragged and released; only dragging sets the number. `y` is the pointer's height above the
   /// bar's bottom edge in pixels, `height` the bar's usable height; a bar without one can't be dragged.
   void pressBar(Bar bar) { dragTarget_ = bar; }
@@ -66,16 +67,18 @@ class ChannelEditor {
   /// The system's color chooser for any entry, one undo step also when it is cancelled. Beside the basic colors it
   /// offers the entry's group of sixteen, filled up with the blank color.
   void editEntry(std::int32_t index, ColorChooser& chooser);
-  /// The next change is a new undo step, but the numbers stay as they were set.
+  /// Ends the run of changes: the next change is a new undo step, but the numbers stay as they were set.
   void endRun() { recordArmed_ = true; }
-  /// The current entry and the clipboard. A copy ends the run.
-  void copy(PaletteClipboard& clipboard);
+  /// The current entry and the clipboard. A copy ends the run; false when nothing was copied.
+  bool copy(PaletteClipboard& clipboard);
   void paste(PaletteClipboard& clipboard);
   /// The blank color for the current entry.
   void blank();
 
  private:
   [[nodiscard]] PaletteDocument& document() const { return *slot_.document(); }
+  /// Whether the next change begins a run.
+  [[nodiscard]] bool recordsNext() const { return recordArmed_ || runSaveCount_ != document().saveCount(); }
   void recordOnce();
   void refreshAndRepaint();
 
@@ -85,6 +88,8 @@ class ChannelEditor {
   std::int32_t currentEntry_ = 0;
   std::unique_ptr<ColorMode> mode_;
   bool recordArmed_ = true;
+  // The document's saves when the run began: a later save ends it.
+  std::int32_t runSaveCount_ = 0;
   std::optional<Bar> dragTarget_;
 };
 

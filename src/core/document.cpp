@@ -114,6 +114,7 @@ void PaletteDocument::setFileName(const std::wstring& name) {
 
 void PaletteDocument::markSaved(const std::wstring& fileName, PaletteFormat format) {
   modificationCount_ = 0;
+  ++saveCount_;
   format_ = format;
   setFileName(fileName);
 }

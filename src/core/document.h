@@ -41,6 +41,9 @@ class PaletteDocument {
   [[nodiscard]] bool isModified() const { return modificationCount_ != 0; }
   /// Recorded changes since the last save less those undone, so undoing back to the saved state gives 0 again.
   [[nodiscard]] std::int32_t modificationCount() const { return modificationCount_; }
+  /// How many times the document has been saved. A run of changes that is one undo step ends with each save, so that
+  /// undoing leads back to the saved state.
+  [[nodiscard]] std::int32_t saveCount() const { return saveCount_; }
   [[nodiscard]] bool canUndo() const { return history_.canUndo(); }
   [[nodiscard]] bool canRedo() const { return history_.canRedo(); }
   [[nodiscard]] PaletteFormat getFormat() const { return format_; }
@@ -74,7 +77,7 @@ class PaletteDocument {
 
   /// Titles the window after the name's part behind its last backslash, unless it is the current name.
   void setFileName(const std::wstring& name);
-  /// The document stands in this file now, unmodified.
+  /// Notes that this file now holds the document: it is unmodified, and saveCount rises by 1.
   void markSaved(const std::wstring& fileName, PaletteFormat format);
 
  private:
@@ -89,6 +92,7 @@ class PaletteDocument {
   EditHistory history_;
   bool locked_ = false;
   std::int32_t modificationCount_;
+  std::int32_t saveCount_ = 0;
   PaletteFormat format_;
   std::wstring fileName_;
   const AppSettings& settings_;

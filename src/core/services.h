@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <expected>
 #include <optional>
 #include <span>
 #include <string>
@@ -60,15 +61,19 @@ class FileQuestions {
   virtual std::int32_t askPaletteFromImage(std::uint64_t distinctColors) = 0;
 };
 
+/// Why the clipboard gives no palette: it holds none, or another program keeps it open.
+enum class NoPalette : std::uint8_t { notThere, unavailable };
+
 /// The place where palettes are exchanged with other programs.
 class PaletteClipboard {
  public:
   virtual ~PaletteClipboard() = default;
 
-  /// Replaces whatever the clipboard holds. Without entries it is left empty: no palette has none.
-  virtual void put(std::span<const PaletteEntry> entries) = 0;
-  /// The palette's first kMaxPaletteSize entries; nothing when the clipboard holds no palette or can't be opened.
-  [[nodiscard]] virtual std::optional<std::vector<PaletteEntry>> get() = 0;
+  /// Replaces the clipboard's content. Without entries the clipboard is left empty, because no palette has none. False
+  /// when the clipboard can't be opened or refuses the palette: then nothing was copied.
+  [[nodiscard]] virtual bool put(std::span<const PaletteEntry> entries) = 0;
+  /// The first kMaxPaletteSize entries of the clipboard's palette.
+  [[nodiscard]] virtual std::expected<std::vector<PaletteEntry>, NoPalette> get() = 0;
 };
 
 /// What the screen tells about its colors.

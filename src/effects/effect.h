@@ -1,17 +1,18 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 #include "core/palette.h"
-#include "core/services.h"
 #include "core/value_range.h"
 
 namespace quillhue {
 
-/// The open palette, which an effect reads and never changes, and the clipboard for the effect that blends it in.
+/// The open palette, which an effect reads and never changes, and the clipboard's palette for the effect that blends it
+/// in: empty when there is none.
 struct EffectInput {
   const Palette& palette;
-  PaletteClipboard& clipboard;
+  std::span<const PaletteEntry> clipboard{};
 };
 
 /// A computation of new colors for the selected entries, with one number as its parameter.

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include "core/document.h"
 #include "core/services.h"
@@ -27,9 +28,14 @@ class EffectEditor {
   /// The default value again.
   void reset();
 
+  /// Reads the clipboard again for an effect that uses it. False when another program keeps the clipboard open; then
+  /// the palette read before stays in use.
+  bool readClipboard();
+
   /// What the palette would become; valid until the next call. The document is not changed.
   const Palette& preview(ChannelMask mask);
-  /// Changes the document, as one undo step, also when nothing changes; then the default value again.
+  /// Changes the document, as one undo step, also when nothing changes; then the default value again. When the effect
+  /// needs the clipboard and can't open it, no color changes and the value stays for another try.
   void apply(ChannelMask mask);
 
  private:
@@ -39,6 +45,8 @@ class EffectEditor {
   AppSettings& settings_;
   PaletteClipboard& clipboard_;
   std::unique_ptr<Effect> effect_;
+  // The clipboard's palette when it was last read.
+  std::vector<PaletteEntry> pasted_;
   Palette output_;
 };
 

@@ -17,10 +17,14 @@ constexpr std::array kEffects{
 
 std::span<const EffectDescription* const> effects() { return kEffects; }
 
+const EffectDescription& effectOf(std::int32_t index) {
+  const auto at = static_cast<std::size_t>(index);
+  return at < kEffects.size() ? *kEffects[at] : kColorEffect;
+}
+
 Effect& createEffect(std::int32_t index, std::int32_t paletteSize, std::unique_ptr<Effect>& slot) {
   slot.reset();
-  const auto at = static_cast<std::size_t>(index);
-  const EffectDescription& description = at < kEffects.size() ? *kEffects[at] : kColorEffect;
+  const EffectDescription& description = effectOf(index);
   const ValueRange range = description.followsPaletteSize ? ValueRange{-paletteSize, paletteSize} : description.range;
   slot = description.create(range, description.defaultValue);
   return *slot;

@@ -50,8 +50,10 @@ extern const EffectDescription kTwistEffect;
 /// All effects, in the order of the list; an effect's place is its index.
 [[nodiscard]] std::span<const EffectDescription* const> effects();
 
-/// Destroys the effect in `slot`, then puts the one of the index there, with its default value. Any index without an
-/// effect gives Color.
+/// The effect of an index; any index without one gives Color.
+[[nodiscard]] const EffectDescription& effectOf(std::int32_t index);
+
+/// Destroys the effect in `slot`, then puts the one of the index there, with its default value.
 Effect& createEffect(std::int32_t index, std::int32_t paletteSize, std::unique_ptr<Effect>& slot);
 
 }  // namespace quillhue

@@ -10,17 +10,13 @@ class pasteEffect final : public Effect {
   using Effect::Effect;
 
   void apply(const EffectInput& input, ChannelMask mask, Palette& output) const override {
-    const auto pasted = input.clipboard.get();
-    if (!pasted) {
-      return;
-    }
     const std::int32_t weight = getValue();
     const auto blend = [weight](std::int32_t over, std::int32_t under) {
       return static_cast<std::uint8_t>((over * weight + (100 - weight) * under) / 100);
     };
-    auto next = pasted->begin();
+    auto next = input.clipboard.begin();
     for (const std::int32_t index : selectedIndexes(input.palette)) {
-      if (next == pasted->end()) {
+      if (next == input.clipboard.end()) {
         break;
       }
       const PaletteEntry color = input.palette.entry(index);

@@ -66,22 +66,23 @@ TEST_F(ChannelEditorTest, ChangesBetweenTwoRefreshesAreOneStep) {
   editor->changeChannel(Bar::left, 200);
   EXPECT_FALSE(document.canUndo());
   editor->changeChannel(Bar::left, 10);
-  editor->turnWheel(Bar::middle, 240);
+  editor->turnWheel(Bar::middle, 2);
   editor->changeChannel(Bar::right, 999);
   EXPECT_EQ(palette(), "200,100,50 10,102,255 200,100,50");
   EXPECT_EQ(view.shown, (std::array<std::int32_t, 3>{10, 102, 255}));
   EXPECT_EQ(document.modificationCount(), 1);
   editor->refreshValues();
-  EXPECT_EQ(editor->stepField(Bar::left, 10, 5), 5);
+  editor->fieldChanged(Bar::left, 15);
   EXPECT_EQ(document.modificationCount(), 2);
-  // Copying ends the run; so does choosing the entry again.
-  editor->copy(fakes);
+  // Copying ends the run. Choosing the entry again, or showing its numbers, does not.
+  EXPECT_TRUE(editor->copy(fakes));
   EXPECT_EQ(fakes.clipboard, (std::vector<PaletteEntry>{{15, 102, 255}}));
   editor->changeChannel(Bar::left, 16);
   editor->setCurrentEntry(1);
+  editor->showValues();
   editor->changeChannel(Bar::left, 17);
-  EXPECT_EQ(document.modificationCount(), 4);
-  for (const char* expected : {"16,102,255", "15,102,255", "10,102,255", "200,100,50"}) {
+  EXPECT_EQ(document.modificationCount(), 3);
+  for (const char* expected : {"15,102,255", "10,102,255", "200,100,50"}) {
     document.undo();
     EXPECT_EQ(show(createPalette(1, document.getColor(1))), expected);
   }
@@ -91,6 +92,40 @@ TEST_F(ChannelEditorTest, ChangesBetweenTwoRefreshesAreOneStep) {
   EXPECT_EQ(document.modificationCount(), 1);
   editor->fieldChanged(Bar::left, -5);
   EXPECT_EQ(document.getRed(1), 0);
+}
+
+TEST_F(ChannelEditorTest, ASaveEndsTheRunAndNothingElseOfTheDocument) {
+  PaletteDocument& document = open();
+  const auto edit = [&](std::int32_t value) { editor->changeChannel(Bar::left, value); };
+  edit(1);
+  edit(2);
+  document.markSaved(L"one.pal", 1);
+  // Nor do controls that show their numbers again between the save and the change.
+  editor->showValues();
+  edit(3);
+  EXPECT_EQ(document.modificationCount(), 1);
+  edit(4);
+  EXPECT_EQ(document.modificationCount(), 1);
+  document.undo();
+  EXPECT_EQ(document.getRed(0), 2);
+  // Saved and undone, the count is where it was after the record before.
+  editor->paletteChanged();
+  edit(5);
+  document.markSaved(L"one.pal", 1);
+  edit(6);
+  EXPECT_TRUE(document.isModified());
+}
+
+// In HSV the hue of a grey is what was set, until another entry is chosen.
+TEST_F(ChannelEditorTest, TheEntryChosenAgainKeepsItsNumbers) {
+  fakes.settings.colorMode = kHsv;
+  open(createPalette(2, {90, 90, 90}));
+  editor->changeChannel(Bar::left, 200);
+  editor->setCurrentEntry(0);
+  EXPECT_EQ(editor->mode().getLeftValue(), 200);
+  editor->setCurrentEntry(1);
+  editor->setCurrentEntry(0);
+  EXPECT_EQ(editor->mode().getLeftValue(), 0);
 }
 
 TEST_F(ChannelEditorTest, DragsToTheValueUnderThePointer) {
@@ -135,32 +170,15 @@ TEST_F(ChannelEditorTest, PressingWhereTheValueIsChangesNothing) {
   EXPECT_EQ(document.modificationCount(), 0);
 }
 
-TEST_F(ChannelEditorTest, ShortensSteps) {
-  const struct {
-    std::int32_t position;
-    std::int32_t step;
-    std::int32_t taken;
-  } cases[] = {{200, 10, 10}, {250, 10, 5}, {255, 1, 0},         {255, -300, -255}, {0, -1, 0},
-               {3, -10, -3},  {200, 0, 0},  {300, 10, 0},        {300, -10, 0},     {300, -60, -60},
-               {-5, 2, 0},    {-5, 6, 6},   {0, 2147483647, 255}};
-  for (const auto& [position, step, taken] : cases) {
-    const PaletteDocument& document = open();
-    editor->documentReplaced();
-    EXPECT_EQ(editor->stepField(Bar::left, position, step), taken) << position << ' ' << step;
-    EXPECT_EQ(document.modificationCount(), taken == 0 ? 0 : 1);
-    EXPECT_EQ(document.getRed(0), taken == 0 ? 200 : position + taken);
-  }
-}
-
 TEST_F(ChannelEditorTest, TheWheelStopsAtTheEnds) {
   const PaletteDocument& document = open(createPalette(1, {255, 0, 5}));
   editor->chooseModel(kHsv);
   EXPECT_EQ(view.greatest[0], 359);
   EXPECT_EQ(editor->mode().getLeftValue(), 359);
-  editor->turnWheel(Bar::left, 120);
-  editor->turnWheel(Bar::left, -119);
+  editor->turnWheel(Bar::left, 1);
+  editor->turnWheel(Bar::left, 0);
   EXPECT_FALSE(document.canUndo());
-  editor->turnWheel(Bar::left, -120 * 400);
+  editor->turnWheel(Bar::left, -400);
   EXPECT_EQ(editor->mode().getLeftValue(), 0);
 }
 
@@ -195,12 +213,10 @@ TEST_F(ChannelEditorTest, RepaintsWhatChanged) {
       {[](ChannelEditor& changed) { changed.changeChannel(Bar::left, 300); }, true},
       {[](ChannelEditor& changed) { changed.changeChannel(Bar::left, 300); }, false},
       {[](ChannelEditor& changed) { changed.fieldChanged(Bar::middle, 9999); }, true},
-      {[](ChannelEditor& changed) { changed.stepField(Bar::middle, 255, -5); }, true},
-      {[](ChannelEditor& changed) { changed.stepField(Bar::right, 255, 1); }, false},
       {[](ChannelEditor& changed) { changed.paletteChanged(); }, true},
       {[](ChannelEditor& changed) { changed.refreshValues(); }, false},
       {[](ChannelEditor& changed) { changed.chooseModel(kHsv); }, true},
-      {[](ChannelEditor& changed) { changed.setCurrentEntry(1); }, true},
+      {[](ChannelEditor& changed) { changed.setCurrentEntry(1); }, false},
   };
   for (const auto& [change, repaints] : cases) {
     view.repainted.clear();

@@ -33,7 +33,7 @@ TEST_F(CommandsTest, NeedACurrentEntry) {
     selectDarker(document, none);
     fill(document, kAllChannels, none);
     useAsBlankColor(document, none, fakes.settings);
-    copyEntry(document, none, fakes);
+    EXPECT_FALSE(copyEntry(document, none, fakes));
     clearEntry(document, none, {});
     fakes.clipboard = {{1, 1, 1}};
     pasteEntry(document, none, fakes);
@@ -44,6 +44,18 @@ TEST_F(CommandsTest, NeedACurrentEntry) {
   EXPECT_EQ(document.countSelected(), 3);
   EXPECT_EQ(fakes.settings.blank, PaletteEntry());
   EXPECT_EQ(fakes.clipboard, (std::vector<PaletteEntry>{{1, 1, 1}}));
+}
+
+TEST_F(CommandsTest, CutClearsOnlyWhatWasCopied) {
+  PaletteDocument& document = open(2, {0});
+  fakes.clipboardIsBusy = true;
+  cutSelection(document, kAllChannels, {9, 9, 9}, fakes);
+  EXPECT_FALSE(copyEntry(document, 0, fakes));
+  EXPECT_FALSE(document.canUndo());
+  fakes.clipboardIsBusy = false;
+  cutSelection(document, kAllChannels, {9, 9, 9}, fakes);
+  EXPECT_EQ(document.getColor(0), (PaletteEntry{9, 9, 9}));
+  EXPECT_EQ(show(paletteOf(*fakes.clipboard)), show(createPalette(1, variedPalette(1).entry(0))));
 }
 
 TEST_F(CommandsTest, AnEmptyPaletteOnTheClipboardIsPastedAsAStep) {

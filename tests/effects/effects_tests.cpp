@@ -40,7 +40,7 @@ TEST_F(EffectsTest, CurvesAreExact) {
     for (std::int32_t value = effect->getMinimum(); value <= effect->getMaximum(); ++value) {
       Palette output = greys;
       effect->setValue(value);
-      effect->apply({greys, fakes}, kAllChannels, output);
+      effect->apply({.palette = greys}, kAllChannels, output);
       std::ranges::for_each(output.channel(Channel::green), [&](std::uint8_t grey) { sum.add(grey); });
     }
     EXPECT_EQ(sum.value(), expected);
@@ -64,7 +64,7 @@ TEST_F(EffectsTest, ThoseWithoutEffectWriteNothing) {
     // No channel; one selected entry; no palette on the clipboard.
     Palette input = palette;
     input.selected()[1] = input.selected()[2] = 0;
-    effect->apply({input, fakes}, index == kNegative ? 0 : kAllChannels, output);
+    effect->apply({.palette = input}, index == kNegative ? 0 : kAllChannels, output);
     EXPECT_EQ(output, createPalette(3, {1, 1, 1})) << index;
   }
 }
@@ -119,6 +119,27 @@ TEST_F(EffectsTest, PreviewShowsAndApplyWrites) {
   editor.choose(255);
   EXPECT_EQ(fakes.settings.effect, 255);
   EXPECT_EQ(editor.effect().getValue(), 100);
+}
+
+TEST_F(EffectsTest, PasteWaitsForABusyClipboard) {
+  PaletteDocument& document = open(createPalette(1, {10, 20, 30}));
+  document.select(0);
+  fakes.clipboard = {{100, 100, 100}};
+  EffectEditor editor(slot, fakes.settings, fakes);
+  editor.choose(kPaste);
+  editor.setValue(100);
+  fakes.clipboard = {{50, 50, 50}};
+  // The preview shows what was read last.
+  EXPECT_EQ(show(editor.preview(kAllChannels)), "100,100,100");
+  fakes.clipboardIsBusy = true;
+  EXPECT_FALSE(editor.readClipboard());
+  editor.apply(kAllChannels);
+  EXPECT_EQ(editor.effect().getValue(), 100);
+  EXPECT_EQ(document.getRed(0), 10);
+  fakes.clipboardIsBusy = false;
+  editor.apply(kAllChannels);
+  EXPECT_EQ(editor.effect().getValue(), 0);
+  EXPECT_EQ(document.getRed(0), 50);
 }
 
 TEST_F(EffectsTest, RotateTakesItsRangeFromTheSizeWhenItIsChosen) {

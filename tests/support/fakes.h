@@ -1,5 +1,6 @@
 #pragma once
 
+#include <expected>
 #include <optional>
 #include <string>
 
@@ -23,6 +24,8 @@ class RecordingServices : public Messages,
   std::int32_t paletteFromImage = 0;
   /// What the clipboard holds, if it is a palette.
   std::optional<std::vector<PaletteEntry>> clipboard;
+  /// Another program keeps the clipboard open.
+  bool clipboardIsBusy = false;
   std::vector<PaletteEntry> screenColors;
 
   /// The lines since the last call.
@@ -59,13 +62,22 @@ class RecordingServices : public Messages,
     note("from image? ", std::to_string(distinctColors));
     return paletteFromImage;
   }
-  void put(std::span<const PaletteEntry> entries) override {
+  bool put(std::span<const PaletteEntry> entries) override {
+    if (clipboardIsBusy) {
+      return false;
+    }
     clipboard.reset();
     if (!entries.empty()) {
       clipboard.emplace(entries.begin(), entries.end());
     }
+    return true;
   }
-  std::optional<std::vector<PaletteEntry>> get() override { return clipboard; }
+  std::expected<std::vector<PaletteEntry>, NoPalette> get() override {
+    if (!clipboard || clipboardIsBusy) {
+      return std::unexpected(clipboardIsBusy ? NoPalette::unavailable : NoPalette::notThere);
+    }
+    return *clipboard;
+  }
   std::vector<PaletteEntry> halftone() override { return screenColors; }
 
  private:

@@ -12,7 +12,7 @@ namespace {
 PaletteClipboard& clipboardOf(EditSession& session) { return session.tool.services.clipboard; }
 
 ParsedStep parseCopy(const std::string& /*argument*/) {
-  return stepOf([](EditSession& session) { copySelection(session.document(), clipboardOf(session)); });
+  return stepOf([](EditSession& session) { static_cast<void>(copySelection(session.document(), clipboardOf(session))); });
 }
 
 ParsedStep parseCut(const std::string& /*argument*/) {
@@ -45,7 +45,7 @@ ParsedStep parseClipboard(const std::string& argument) {
     if (!read) {
       return Refusal(read.error());
     }
-    clipboardOf(session).put(entriesOf(read->palette));
+    static_cast<void>(clipboardOf(session).put(entriesOf(read->palette)));
     return {};
   };
 }

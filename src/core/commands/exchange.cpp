@@ -4,8 +4,8 @@
 
 namespace quillhue {
 
-void copySelection(const PaletteDocument& document, PaletteClipboard& clipboard) {
-  clipboard.put(selectedColors(document.getPalette()));
+bool copySelection(const PaletteDocument& document, PaletteClipboard& clipboard) {
+  return clipboard.put(selectedColors(document.getPalette()));
 }
 
 void clearSelection(PaletteDocument& document, ChannelMask mask, PaletteEntry blank) {
@@ -13,8 +13,9 @@ void clearSelection(PaletteDocument& document, ChannelMask mask, PaletteEntry bl
 }
 
 void cutSelection(PaletteDocument& document, ChannelMask mask, PaletteEntry blank, PaletteClipboard& clipboard) {
-  copySelection(document, clipboard);
-  clearSelection(document, mask, blank);
+  if (copySelection(document, clipboard)) {
+    clearSelection(document, mask, blank);
+  }
 }
 
 void pasteIntoSelection(PaletteDocument& document, ChannelMask mask, PaletteClipboard& clipboard) {
@@ -28,11 +29,12 @@ void pasteIntoSelection(PaletteDocument& document, ChannelMask mask, PaletteClip
   }
 }
 
-void copyEntry(const PaletteDocument& document, std::int32_t index, PaletteClipboard& clipboard) {
-  if (document.contains(index)) {
-    const PaletteEntry color = document.getColor(index);
-    clipboard.put({&color, 1});
+bool copyEntry(const PaletteDocument& document, std::int32_t index, PaletteClipboard& clipboard) {
+  if (!document.contains(index)) {
+    return false;
   }
+  const PaletteEntry color = document.getColor(index);
+  return clipboard.put({&color, 1});
 }
 
 void clearEntry(PaletteDocument& document, std::int32_t index, PaletteEntry blank) {
