@@ -9,7 +9,6 @@
 #include <string_view>
 
 #include "core/utf8.h"
-#include "formats/palette_file.h"
 #include "ui/logic/window_texts.h"
 #include "ui/win32/command_line.h"
 #include "ui/win32/drawing.h"
@@ -47,7 +46,7 @@ int Application::run(int showCommand) {
     return 0;
   }
   if (const std::optional<std::wstring> file = fileArgument()) {
-    readPaletteFile(*file, slot_, services_);
+    window_.openFile(*file);
   }
   MSG message{};
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {

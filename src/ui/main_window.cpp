@@ -3,8 +3,8 @@
 // Needs windows.h before it.
 #include <commctrl.h>
 
+#include <algorithm>
 #include <array>
-#include <utility>
 #include <vector>
 
 #include "core/utf8.h"
@@ -17,6 +17,7 @@
 #include "ui/screens/tabs_ui.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
+#include "ui/win32/wait_cursor.h"
 
 namespace quillhue {
 
@@ -25,7 +26,7 @@ namespace {
 constexpr const wchar_t* kClassName = L"Quillhue4";
 constexpr int kStatusBarId = 1;
 // Posted when a run has ended after the window was closed.
-constexpr UINT kDestroyMessage = WM_APP;
+constexpr UINT kRunEndedMessage = WM_APP;
 
 // True when an item of the menu itself has changed.
 bool updateItems(HMENU menu, const std::vector<MenuItem>& items, const CommandState& state) {
@@ -44,17 +45,42 @@ bool updateItems(HMENU menu, const std::vector<MenuItem>& items, const CommandSt
   return changed;
 }
 
-// Of a minimised window the size that it has when it is restored.
+// The size of a minimised or maximised window when it is restored.
 Size outerSize(HWND window) {
   WINDOWPLACEMENT placement{};
   placement.length = sizeof placement;
   RECT box{};
-  if (IsIconic(window) && GetWindowPlacement(window, &placement)) {
+  if ((IsIconic(window) != 0 || IsZoomed(window) != 0) && GetWindowPlacement(window, &placement) != 0) {
     box = placement.rcNormalPosition;
   } else {
     GetWindowRect(window, &box);
   }
   return {box.right - box.left, box.bottom - box.top};
+}
+
+// The keys that mean OK and Cancel in a dialog. The keyboard navigation would send them as commands 1 and 2, which are
+// commands of the menus here.
+bool isDialogAnswer(const MSG& message) {
+  constexpr std::array<WPARAM, 4> kKeys{VK_RETURN, VK_EXECUTE, VK_ESCAPE, VK_CANCEL};
+  return message.message == WM_KEYDOWN && std::ranges::find(kKeys, message.wParam) != kKeys.end();
+}
+
+// A key that belongs to the text field that has the focus.
+bool editsFocusedText(const MSG& message) {
+  const Accelerator key{.control = GetKeyState(VK_CONTROL) < 0,
+                        .shift = GetKeyState(VK_SHIFT) < 0,
+                        .key = static_cast<std::int32_t>(message.wParam)};
+  return message.message == WM_KEYDOWN && editsText(key) && isControl(message.hwnd, WC_EDITW);
+}
+
+// The window that a turn of the wheel is for: the one under the pointer, wherever the focus is. Null for a closed list
+// without the focus, whose choice would change unseen.
+HWND wheelTarget(HWND window, const MSG& message) {
+  const HWND under = WindowFromPoint(toSystem(pointOf(message.lParam)));
+  if (under != window && IsChild(window, under) == 0) {
+    return message.hwnd;
+  }
+  return isControl(under, WC_COMBOBOXW) && GetFocus() != under ? nullptr : under;
 }
 
 // Enter presses the button with the focus. The keyboard navigation knows that only of one that Tab has led to.
@@ -98,23 +124,30 @@ std::string_view MainWindow::open(int showCommand) {
 }
 
 void MainWindow::take(MSG& message) {
+  focus_.note();
   if (message.message == WM_MOUSEWHEEL || message.message == WM_MOUSEHWHEEL) {
-    // The wheel turns what is under the pointer, wherever the focus is.
-    const HWND under = WindowFromPoint(toSystem(pointOf(message.lParam)));
-    if (under == handle() || IsChild(handle(), under)) {
-      message.hwnd = under;
+    message.hwnd = wheelTarget(handle(), message);
+    if (message.hwnd == nullptr) {
+      return;
     }
+  }
+  if (editsFocusedText(message)) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+    return;
   }
   if (TranslateAcceleratorW(handle(), accelerators_.get(), &message) != 0 || pressesButton(message)) {
     return;
   }
-  // Escape is no command here: as that of a dialog it would arrive under the number of a system palette.
-  const bool isEscape = message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE;
-  if (!isEscape && IsDialogMessageW(handle(), &message)) {
+  if (isDialogAnswer(message)) {
+    // A drop-down list closes by them. As characters they would only make a text field beep.
+    DispatchMessageW(&message);
     return;
   }
-  TranslateMessage(&message);
-  DispatchMessageW(&message);
+  if (!IsDialogMessageW(handle(), &message)) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
 }
 
 Rect MainWindow::screenArea() const {
@@ -143,6 +176,11 @@ void MainWindow::updateMenus() {
     CheckMenuRadioItem(menu, commandOf(SelectionMode::free), commandOf(SelectionMode::range),
                        static_cast<UINT>(commandOf(settings().selectionMode)), MF_BYCOMMAND);
   }
+}
+
+void MainWindow::openFile(const std::wstring& name) {
+  const WaitCursor waiting;
+  readPaletteFile(name, slot(), services());
 }
 
 void MainWindow::openContextMenu(std::int32_t menu, Point screenPoint) const {
@@ -203,23 +241,27 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       closeAsked();
       return 0;
     case WM_QUERYENDSESSION:
-      return (closesAfterRun_ || mayClose()) ? TRUE : FALSE;
+      return maySessionEnd() ? TRUE : FALSE;
     case WM_ENDSESSION:
-      // If the session ends the process ends after this, without further messages.
-      if (wParam != FALSE) {
-        saveSettings();
-      }
+      sessionEnds(wParam != FALSE);
       return 0;
     case WM_ACTIVATE:
-      if (LOWORD(wParam) == WA_INACTIVE) {
-        lastFocus_ = GetFocus();
-      }
+    case WM_SYSCOMMAND:
+      // Both may take the focus from the controls.
+      focus_.note();
       return DefWindowProcW(handle(), message, wParam, lParam);
     case WM_SETFOCUS:
-      focused();
+      focus_.enter();
       return 0;
-    case kDestroyMessage:
-      DestroyWindow(handle());
+    case WM_SYSCOLORCHANGE:
+    case WM_SETTINGCHANGE:
+    case WM_THEMECHANGED:
+      // The system sends them to main windows only.
+      passToChildren(handle(), message, wParam, lParam);
+      repaintAll(handle());
+      return 0;
+    case kRunEndedMessage:
+      runEnded();
       return 0;
     default:
       return screen_ != nullptr ? screen_->otherMessage(handle(), message, wParam, lParam)
@@ -228,6 +270,8 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void MainWindow::created() {
+  focus_.attach(handle());
+  AddClipboardFormatListener(handle());
   scale_.dpi = screenDpi();
   constexpr int kWeight = 500;
   font_.reset(CreateFontW(fontHeight(scale_), 0, 0, 0, kWeight, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
@@ -244,6 +288,7 @@ void MainWindow::created() {
 }
 
 void MainWindow::destroyed() {
+  RemoveClipboardFormatListener(handle());
   // Controls that end may report it: by then there is no screen any more that would look for the document.
   screen_.reset();
   workplace_.slot.closeDocument();
@@ -264,13 +309,15 @@ void MainWindow::sized() {
   const Size client = clientSize(handle());
   const std::int32_t height = box.bottom - box.top;
   moveTo(statusBar_, boxAt({0, client.height - height}, {client.width, height}));
-  // What moves with it would leave the grip standing where the bar ended before.
-  repaint(statusBar_);
   if (screen_ != nullptr) {
     const Rect area = screenArea();
     screen_->resize({area.width(), area.height()});
   }
-  repaint(handle());
+  if (GetFocus() == handle()) {
+    // It was minimised.
+    focus_.enter();
+  }
+  repaintAll(handle());
   UpdateWindow(handle());
 }
 
@@ -283,14 +330,6 @@ void MainWindow::paint() {
   const PaintDc dc(handle());
   if (screen_ != nullptr) {
     screen_->paint(dc.get(), screenArea());
-  }
-}
-
-void MainWindow::focused() {
-  const HWND last = std::exchange(lastFocus_, nullptr);
-  const bool isUsable = IsChild(handle(), last) && IsWindowVisible(last) && IsWindowEnabled(last);
-  if (const HWND control = isUsable ? last : GetNextDlgTabItem(handle(), nullptr, FALSE)) {
-    SetFocus(control);
   }
 }
 
@@ -318,11 +357,31 @@ void MainWindow::filesDropped(WPARAM wParam) {
   if (!IsWindowEnabled(handle()) || !letsDocumentGo()) {
     return;
   }
-  readPaletteFile(firstFile(drop), slot(), services());
+  openFile(firstFile(drop));
 }
 
 // While a dialog is open it has to be answered first.
 bool MainWindow::mayClose() const { return IsWindowEnabled(handle()) && letsDocumentGo(); }
+
+bool MainWindow::maySessionEnd() const {
+  if (closesAfterRun_ || document() == nullptr || !document()->isModified()) {
+    return true;
+  }
+  if (IsWindowEnabled(handle()) != 0) {
+    return letsDocumentGo();
+  }
+  ShutdownBlockReasonCreate(handle(), L"The palette is not saved. Close the open dialog first.");
+  return false;
+}
+
+// The process ends without further messages if the session ends.
+void MainWindow::sessionEnds(bool ends) {
+  if (ends) {
+    saveSettings();
+  } else {
+    ShutdownBlockReasonDestroy(handle());
+  }
+}
 
 void MainWindow::closeAsked() {
   if (closesAfterRun_ || !mayClose()) {
@@ -335,6 +394,13 @@ void MainWindow::closeAsked() {
   }
 }
 
+// Any program may post the message.
+void MainWindow::runEnded() const {
+  if (closesAfterRun_ && !runIsOn_) {
+    DestroyWindow(handle());
+  }
+}
+
 bool MainWindow::letsDocumentGo() const { return document() == nullptr || askToSave(*document(), services()); }
 
 MainWindow::Run::Run(MainWindow& window) : window_(window) { window_.runIsOn_ = true; }
@@ -342,7 +408,7 @@ MainWindow::Run::Run(MainWindow& window) : window_(window) { window_.runIsOn_ = 
 MainWindow::Run::~Run() {
   window_.runIsOn_ = false;
   if (window_.closesAfterRun_) {
-    PostMessageW(window_.handle(), kDestroyMessage, 0, 0);
+    PostMessageW(window_.handle(), kRunEndedMessage, 0, 0);
   }
 }
 

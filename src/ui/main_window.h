@@ -15,6 +15,7 @@
 #include "ui/services/clipboard.h"
 #include "ui/services/file_dialogs.h"
 #include "ui/win32/custom_window.h"
+#include "ui/win32/focus_keeper.h"
 #include "ui/win32/handle.h"
 #include "ui/win32/open_dialog.h"
 
@@ -47,6 +48,9 @@ class MainWindow final : public CustomWindow, public DocumentObserver {
   /// Gives a message of the loop to the accelerators, to the keyboard navigation or to its window.
   void take(MSG& message);
 
+  /// Opens a palette file in place of the document, or shows why that can't be done.
+  void openFile(const std::wstring& name);
+
   /// What a dialog or message box stands on: the window, or the dialog that is open already.
   [[nodiscard]] HWND dialogOwner() const { return openDialogOf(handle()); }
   [[nodiscard]] HFONT font() const { return font_.get(); }
@@ -55,6 +59,8 @@ class MainWindow final : public CustomWindow, public DocumentObserver {
   [[nodiscard]] Services& services() const { return workplace_.services; }
   [[nodiscard]] AppSettings& settings() const { return workplace_.settings.app; }
   [[nodiscard]] DocumentSlot& slot() const { return workplace_.slot; }
+  /// The keyboard focus of the window's controls.
+  [[nodiscard]] FocusKeeper& focus() { return focus_; }
   /// Null on the intro screen.
   [[nodiscard]] PaletteDocument* document() const { return workplace_.slot.document(); }
   /// True when no document would be lost, or the user has been asked and lets it go.
@@ -99,13 +105,15 @@ class MainWindow final : public CustomWindow, public DocumentObserver {
   void sized();
   void sizing(WPARAM edge, LPARAM lParam) const;
   void paint();
-  void focused();
   void menuCommand(std::int32_t command);
   void controlNotification(WPARAM wParam, LPARAM lParam);
   [[nodiscard]] static LRESULT staticColors(HDC dc);
   void filesDropped(WPARAM wParam);
   [[nodiscard]] bool mayClose() const;
+  [[nodiscard]] bool maySessionEnd() const;
+  void sessionEnds(bool ends);
   void closeAsked();
+  void runEnded() const;
   void saveSettings();
 
   Workplace& workplace_;
@@ -115,8 +123,7 @@ class MainWindow final : public CustomWindow, public DocumentObserver {
   Accelerators accelerators_;
   Menu contextMenus_;
   std::unique_ptr<MainUI> screen_;
-  // The control that had the focus before another window got it; null when it is back.
-  HWND lastFocus_ = nullptr;
+  FocusKeeper focus_;
   bool runIsOn_ = false;
   bool closesAfterRun_ = false;
 };

@@ -1,14 +1,43 @@
 #include "ui/number_field.h"
 
-// Needs windows.h before it.
-#include <commctrl.h>
-
+#include <algorithm>
 #include <string>
 
 #include "ui/logic/typed_number.h"
 #include "ui/win32/controls.h"
+#include "ui/win32/drawing.h"
 
 namespace quillhue {
+
+namespace {
+
+std::int32_t textWidth(HFONT font, const ValueRange& range) {
+  const ScreenDc dc(GetDC(nullptr));
+  const Selected selected(dc.get(), font);
+  LONG width = 0;
+  for (const std::int32_t number : {range.minimum, range.maximum}) {
+    const std::wstring text = std::to_wstring(number);
+    SIZE size{};
+    GetTextExtentPoint32W(dc.get(), text.c_str(), static_cast<int>(text.size()), &size);
+    width = std::max(width, size.cx);
+  }
+  return width;
+}
+
+// The largest font like this one in which the numbers of the range are at most `room` wide; null for the font itself.
+Font smallerFont(HFONT font, const ValueRange& range, std::int32_t room) {
+  constexpr LONG kLeastHeight = 6;
+  LOGFONTW description{};
+  GetObjectW(font, sizeof description, &description);
+  Font fitting;
+  while (textWidth(fitting ? fitting.get() : font, range) > room && -description.lfHeight > kLeastHeight) {
+    ++description.lfHeight;
+    fitting.reset(CreateFontIndirectW(&description));
+  }
+  return fitting;
+}
+
+}  // namespace
 
 NumberField::NumberField(HWND parent, HFONT font, DWORD style, DWORD arrowStyle)
     : field_(createControl(parent, font,
@@ -18,9 +47,8 @@ NumberField::NumberField(HWND parent, HFONT font, DWORD style, DWORD arrowStyle)
       arrows_(
           createControl(parent, nullptr,
                         {.windowClass = UPDOWN_CLASSW,
-                         .style = UDS_ARROWKEYS | UDS_ALIGNRIGHT | UDS_SETBUDDYINT | UDS_NOTHOUSANDS | arrowStyle})) {
-  // Beside the arrows there is room for four digits and no margins.
-  SendMessageW(field_.get(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+                         .style = UDS_ARROWKEYS | UDS_ALIGNRIGHT | UDS_SETBUDDYINT | UDS_NOTHOUSANDS | arrowStyle})),
+      font_(font) {
   SendMessageW(arrows_.get(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(field_.get()), 0);
   setRange(range_);
   setValue(0);
@@ -35,6 +63,7 @@ NumberField::NumberField(HWND field, HWND arrows, const ValueRange& range, std::
 void NumberField::setRange(const ValueRange& range) {
   range_ = range;
   SendMessageW(arrows_.get(), UDM_SETRANGE32, static_cast<WPARAM>(range.minimum), range.maximum);
+  fitText();
 }
 
 void NumberField::setValue(std::int32_t value) {
@@ -59,10 +88,28 @@ void NumberField::settle() {
   }
 }
 
+void NumberField::step(const NMUPDOWN& asked) { setValue(steppedValue(value(), asked.iDelta, range_)); }
+
+void NumberField::fitText() {
+  RECT text{};
+  SendMessageW(field_.get(), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&text));
+  // The caret stands behind the last digit.
+  const std::int32_t room = text.right - text.left - 1;
+  if (font_ == nullptr || room <= 0) {
+    return;
+  }
+  Font small = smallerFont(font_, range_, room);
+  SendMessageW(field_.get(), WM_SETFONT, reinterpret_cast<WPARAM>(small ? small.get() : font_), TRUE);
+  smallFont_ = std::move(small);
+  // Beside the arrows there is no room for margins, which a font may bring along.
+  SendMessageW(field_.get(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+}
+
 void NumberField::move(const Rect& box) {
   moveTo(field_.get(), box);
   // Taking the field as its buddy again, the arrows take their place in it anew.
   SendMessageW(arrows_.get(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(field_.get()), 0);
+  fitText();
 }
 
 void NumberField::show(bool visible) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <windows.h>
+// Needs windows.h before it.
+#include <commctrl.h>
 
 #include <cstdint>
 #include <optional>
@@ -33,17 +35,42 @@ class NumberField {
   [[nodiscard]] std::optional<std::int32_t> typed() const;
   /// Shows value() where something else was typed. For the focus lost.
   void settle();
+  /// Carries out a step that the arrows ask for, from the number that value() gives. The arrows' own step is to be
+  /// refused: it would go on from a number that they have kept while another was typed.
+  void step(const NMUPDOWN& asked);
 
-  /// Moves the field and puts the arrows into its right end.
+  /// Moves the field and puts the arrows into its right end. Repaints nothing.
   void move(const Rect& box);
   void show(bool visible);
   void enable(bool enabled);
 
  private:
+  /// Takes a smaller font where the range has numbers that the field has no room for.
+  void fitText();
+
   Window field_;
   Window arrows_;
+  // Null in a dialog, whose fields have room.
+  HFONT font_ = nullptr;
+  Font smallFont_;
   ValueRange range_;
   std::int32_t value_ = 0;
 };
+
+/// Answers UDN_DELTAPOS for the fields of a window: true when one of them has taken the step, which refuses the arrows'
+/// own.
+template <typename Fields>
+[[nodiscard]] bool stepField(const Fields& fields, const NMHDR& notification) {
+  if (notification.code != static_cast<UINT>(UDN_DELTAPOS)) {
+    return false;
+  }
+  for (NumberField* const field : fields) {
+    if (field->arrows() == notification.hwndFrom) {
+      field->step(reinterpret_cast<const NMUPDOWN&>(notification));
+      return true;
+    }
+  }
+  return false;
+}
 
 }  // namespace quillhue

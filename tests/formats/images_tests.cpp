@@ -41,7 +41,7 @@ TEST(Images, LoadFromTheClipboard) {
   EXPECT_EQ(shown(loadClipboardImage(contentOf(0, "0:6C" + masked + "40:FF00000000FF00000000FF00 108:01020304"))),
             "1x1: 030201");
   EXPECT_EQ(shown(loadClipboardImage(contentOf(0, "0:28 4:02 8:01 14:10 16:03 40:00F80000E00700001F 52:2100FF07"))),
-            "2x1: 090400 FFFF00");
+            "2x1: 090400FFFF00");
 }
 
 TEST(Images, AFileThatCannotBeLoadedLeavesTheImage) {

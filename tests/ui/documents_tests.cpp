@@ -7,6 +7,8 @@
 #include "support/bitmaps.h"
 #include "ui/logic/command_ids.h"
 #include "ui/resources/dialog_ids.h"
+#include "ui/support/input.h"
+#include "ui/support/menus.h"
 #include "ui/support/ui_test.h"
 
 namespace quillhue {
@@ -63,6 +65,36 @@ TEST_F(Documents, AreNotDiscardedWithoutTheQuestion) {
   }
 }
 
+TEST_F(Documents, AreAskedForAgainAfterEachSave) {
+  const Editor& editor = open(brightPalette(4));
+  HWND field = findControls(editor.window(), L"Edit")[0];
+  const auto saveAndStay = [&] {
+    editor.start(command_id::kOpen);
+    answerMessage(editor, L"Warning", IDYES);
+    Dialog(editor, L"Open").answer(IDCANCEL);
+  };
+  editor.typeInto(field, "77");
+  // A save that is canceled leaves the run of changes as it is.
+  editor.start(command_id::kSaveAs);
+  Dialog(editor, L"Save As").answer(IDCANCEL);
+  editor.typeInto(field, "78");
+  saveAndStay();
+  editor.run(command_id::kUndo);
+  EXPECT_FALSE(isOffered(editor, command_id::kUndo));
+  editor.run(command_id::kRedo);
+  // The same entry once more.
+  editor.typeInto(field, "79");
+  saveAndStay();
+  EXPECT_EQ(paletteIn(editor.file()).entry(0).red, 79);
+  editor.typeInto(field, "80");
+  // No message of another program closes the window without the question.
+  editor.ask(editor.window(), WM_APP);
+  editor.post(editor.window(), WM_CLOSE);
+  answerMessage(editor, L"Warning", IDYES);
+  EXPECT_EQ(editor.awaitEnd(), 0U);
+  EXPECT_EQ(paletteIn(editor.file()).entry(0).red, 80);
+}
+
 TEST_F(Documents, AreDiscardedAtOnceWhenUnmodified) {
   const Editor& editor = open(brightPalette(4));
   editor.run(command_id::kClear);
@@ -77,7 +109,17 @@ TEST_F(Documents, AreAskedForWhenTheSessionEnds) {
   const Editor& editor = open(brightPalette(4));
   const auto maySessionEnd = [&] { return editor.ask(editor.window(), WM_QUERYENDSESSION); };
   EXPECT_EQ(maySessionEnd(), TRUE);
+  // A dialog can't be asked over, and holds the session only where something would be lost.
+  const auto mayEndOverADialog = [&] {
+    editor.start(command_id::kAbout);
+    const Dialog about(editor, L"About Quillhue");
+    const LRESULT answer = maySessionEnd();
+    about.answer(IDOK);
+    return answer;
+  };
+  EXPECT_EQ(mayEndOverADialog(), TRUE);
   editor.run(command_id::kClear);
+  EXPECT_EQ(mayEndOverADialog(), FALSE);
   for (const auto& [answer, mayEnd] : {std::pair{IDCANCEL, FALSE}, {IDNO, TRUE}, {IDYES, TRUE}}) {
     auto asked = std::async(std::launch::async, maySessionEnd);
     answerMessage(editor, L"Warning", answer);

@@ -2,6 +2,8 @@
 
 #include "effects/effects.h"
 #include "ui/logic/command_ids.h"
+#include "ui/support/input.h"
+#include "ui/support/menus.h"
 #include "ui/support/ui_test.h"
 
 namespace quillhue {
@@ -49,6 +51,49 @@ TEST_F(Effects, AreShownBeforeTheyAreApplied) {
   EXPECT_EQ(show(editor.saved()), show(applied));
   editor.run(command_id::kUndo);
   EXPECT_EQ(show(editor.saved()), show(palette));
+}
+
+TEST_F(Effects, PasteShowsWhatTheClipboardHoldsNow) {
+  constexpr std::uint8_t kPaste = 13;
+  store({{"Effect", storedBytes({kPaste})}});
+  const Editor& editor = open(brightPalette(2), kEffectsPage);
+  editor.run(command_id::kSelectAll);
+  editor.ask(editor.control(L"Edit"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"100"));
+  for (const PaletteEntry color : {PaletteEntry{1, 2, 3}, {200, 100, 7}}) {
+    const Editor other(paletteFile("other.pal", createPalette(1, color)));
+    other.run(command_id::kCopy);
+    SetForegroundWindow(editor.window());
+    editor.awaitEqual(color, [&] { return pixelOf(editor.gridWindow(), middleOf(editor.grid().cellBox(0))); });
+  }
+}
+
+TEST_F(Effects, ShowTheirLongestNumbers) {
+  constexpr std::uint8_t kRotate = 12;
+  store({{"Effect", storedBytes({kRotate})}});
+  const Editor editor(paletteFile("large.gpl", brightPalette(1000)), kEffectsPage);
+  HWND field = editor.control(L"Edit");
+  editor.ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"-1000"));
+  const auto left = [&](WPARAM character) {
+    return static_cast<std::int16_t>(LOWORD(editor.ask(field, EM_POSFROMCHAR, character)));
+  };
+  const std::int32_t digit = left(4) - left(3);
+  EXPECT_GE(left(0), 0);
+  EXPECT_LE(left(4) + digit, clientSizeOf(field).width);
+}
+
+// Held down, Space is one click on the current entry.
+TEST_F(Effects, SelectOnceByAHeldSpace) {
+  const Editor& editor = open(brightPalette(4), kEffectsPage);
+  tabTo(editor, editor.gridWindow());
+  pressKey(VK_HOME);
+  {
+    const HeldKeys held({VK_SPACE});
+    pressKey(VK_SPACE);
+  }
+  editor.awaitInput();
+  editor.run(command_id::kUndo);
+  EXPECT_FALSE(isOffered(editor, command_id::kUndo));
+  EXPECT_TRUE(isOffered(editor, command_id::kRedo));
 }
 
 }  // namespace

@@ -89,6 +89,26 @@ TEST_F(Frame, ShowsAbout) {
   program.close();
 }
 
+TEST_F(Frame, GivesTheFocusBack) {
+  const Editor& editor = open(brightPalette(5));
+  HWND field = findControls(editor.window(), L"Edit")[1];
+  tabTo(editor, field);
+  editor.ask(editor.window(), WM_SYSCOMMAND, SC_MINIMIZE);
+  editor.await("the minimised window", [&] { return IsIconic(editor.window()) != 0; });
+  editor.ask(editor.window(), WM_SYSCOMMAND, SC_RESTORE);
+  activate(editor);
+  editor.awaitEqual(field, [&] { return focusOf(editor); });
+}
+
+TEST_F(Frame, ShowsTheManual) {
+  const Program program;
+  program.start(command_id::kReadMe);
+  HWND manual = program.await("a program for texts", [] { return FindWindowW(L"Notepad", nullptr); });
+  EXPECT_FALSE(program.topWindow(kDialogClass));
+  PostMessageW(manual, WM_CLOSE, 0, 0);
+  program.close();
+}
+
 TEST_F(Frame, PagesKeepTheirStateAndAreReachedByTheTabKey) {
   const Editor& editor = open(brightPalette(16));
   HWND models = editor.control(L"ComboBox");

@@ -3,6 +3,7 @@
 
 #include "ui/logic/command_ids.h"
 #include "ui/logic/menus.h"
+#include "ui/support/input.h"
 #include "ui/support/menus.h"
 #include "ui/support/ui_test.h"
 
@@ -43,6 +44,9 @@ TEST_F(MenuBar, OffersWhatHasAnEffect) {
   const Editor& editor = open(brightPalette(16));
   const auto runs = [&](std::int32_t command) { return [&, command] { editor.run(command); }; };
   const auto chooses = [&](int page) { return [&, page] { editor.choosePage(page); }; };
+  const auto rightClicks = [&](const std::function<HWND()>& control) {
+    return [&, control] { clickAt(editor, middleOf(boxOnScreen(control())), Button::right); };
+  };
   const struct {
     const char* what;
     std::function<void()> act;
@@ -54,6 +58,14 @@ TEST_F(MenuBar, OffersWhatHasAnEffect) {
       {"a step to redo", runs(command_id::kUndo), {{20, 20}, {36, 38}}},
       {"Use Palette", chooses(kUsePage), {{20, 20}, {30, 50}}},
       {"back to Edit Values", chooses(kValuesPage), {{20, 20}, {30, 50}}},
+      // Only a right click on the grid itself takes the current entry away.
+      {"a right click on the status bar",
+       rightClicks([&] { return editor.control(L"msctls_statusbar32"); }),
+       {{20, 20}, {30, 50}}},
+      {"a right click on the list", rightClicks([&] { return editor.control(L"ComboBox"); }), {{20, 20}, {30, 50}}},
+      {"a right click on the margin",
+       [&] { clickAt(editor, onScreen(editor.gridWindow(), {2, 2}), Button::right); },
+       {{20, 20}, {22, 25}, {30, 50}}},
   };
   const auto expectGreyed = [](const Program& program, const std::vector<Commands>& greyed) {
     for (const auto& item : menuBar(program)) {
@@ -66,6 +78,7 @@ TEST_F(MenuBar, OffersWhatHasAnEffect) {
   for (const auto& [what, act, greyed] : kStates) {
     SCOPED_TRACE(what);
     act();
+    editor.awaitInput();
     expectGreyed(editor, greyed);
   }
   SCOPED_TRACE("the intro screen");

@@ -1,9 +1,11 @@
+#include <algorithm>
 #include <set>
 
 #include "core/utf8.h"
 #include "ui/logic/frame_layout.h"
 #include "ui/logic/intro_layout.h"
 #include "ui/logic/window_size.h"
+#include "ui/support/input.h"
 #include "ui/support/ui_test.h"
 
 namespace quillhue {
@@ -20,6 +22,35 @@ class Sizing : public UiTest {
     EXPECT_EQ(program.ask(program.window(), WM_SIZING, static_cast<WPARAM>(edge), reinterpret_cast<LPARAM>(&box)),
               TRUE);
     return boxFrom(box);
+  }
+  // What the window shows once it stays the same: the display has it some time after it is painted.
+  static std::vector<std::uint32_t> settledPixels(const Program& program) {
+    constexpr int kLooks = 12;
+    program.awaitInput();
+    std::vector<std::uint32_t> last;
+    int same = 0;
+    program.await("a picture that stays", [&] {
+      auto now = pixelsOf(program.window());
+      same = now == last ? same + 1 : 0;
+      last = std::move(now);
+      return same >= kLooks;
+    });
+    return last;
+  }
+  // The box around all pixels that are not the same in two pictures of this width.
+  static Rect difference(const std::vector<std::uint32_t>& one, const std::vector<std::uint32_t>& other,
+                         std::int32_t width) {
+    Rect box;
+    for (std::int32_t i = 0; i < static_cast<std::int32_t>(one.size()); ++i) {
+      const auto at = static_cast<std::size_t>(i);
+      if (one[at] != other.at(at)) {
+        const Rect pixel = boxAt({i % width, i / width}, {1, 1});
+        box = box.isEmpty()
+                  ? pixel
+                  : Rect{std::min(box.left, pixel.left), box.top, std::max(box.right, pixel.right), pixel.bottom};
+      }
+    }
+    return box;
   }
   static Rect statusBarBox(const Program& program) { return boxInParent(program.control(L"msctls_statusbar32")); }
 };
@@ -95,6 +126,61 @@ TEST_F(Sizing, LayoutOfTheEditorFollowsTheWindow) {
     editor.resize(size);
     EXPECT_EQ(boxInParent(tabControl(editor)),
               (Rect{gap, gap, clientSizeOf(editor.window()).width - gap, statusBarBox(editor).top - gap}));
+  }
+}
+
+// However a window got its size, it looks as if it were painted anew.
+TEST_F(Sizing, LayoutLeavesNothingBehind) {
+  const Editor& editor = open(brightPalette(256));
+  for (const int page : {kValuesPage, kEffectsPage, kUsePage}) {
+    editor.choosePage(page);
+    if (page == kUsePage) {
+      tabTo(editor, editor.control(L"QuillhueImage"));
+    }
+    Size size{least_.width + 240, least_.height + 240};
+    for (const Point step :
+         {Point{-3, 0}, {-40, -7}, {60, 31}, {-80, -50}, {9, 100}, {0, -130}, {-186, -184}, {5, 5}}) {
+      size = {size.width + step.x, size.height + step.y};
+      editor.resize(size);
+      const auto shown = settledPixels(editor);
+      RedrawWindow(editor.window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+      EXPECT_EQ(difference(shown, settledPixels(editor), clientSizeOf(editor.window()).width), Rect{})
+          << page << ' ' << size.width << ' ' << size.height;
+    }
+  }
+}
+
+TEST_F(Sizing, AMaximisedWindowKeepsItsRestoredSize) {
+  const Program program;
+  const Size size = outerSizeOf(program.window());
+  program.ask(program.window(), WM_SYSCOMMAND, SC_MAXIMIZE);
+  EXPECT_NE(outerSizeOf(program.window()), size);
+  program.close();
+  EXPECT_EQ(storedSettings()["Window width"], storedNumber(size.width));
+  EXPECT_EQ(storedSettings()["Window height"], storedNumber(size.height));
+}
+
+TEST_F(Sizing, LayoutShowsTheCurrentEntryInTheSmallestCells) {
+  Palette palette = brightPalette(1024);
+  const std::vector<PaletteEntry> colors{{0, 0, 0}, {255, 255, 255}, {128, 128, 128}};
+  for (std::int32_t i = 0; i < 3; ++i) {
+    palette.setEntry(i, colors[static_cast<std::size_t>(i)]);
+  }
+  const Editor editor(paletteFile("large.gpl", palette));
+  editor.resize(least_);
+  tabTo(editor, editor.gridWindow());
+  pressKey(VK_HOME);
+  for (std::int32_t i = 0; i < 3; ++i) {
+    editor.await("the mark of entry " + std::to_string(i), [&] {
+      std::set<PaletteEntry> shown;
+      const Rect cell = editor.grid().cellBox(i);
+      for (std::int32_t offset = 0; offset < cell.width(); ++offset) {
+        shown.insert(pixelOf(editor.gridWindow(), {cell.left + offset, middleOf(cell).y}));
+      }
+      return shown.contains({0, 0, 0}) && shown.contains({255, 255, 255}) &&
+             shown.contains(colors[static_cast<std::size_t>(i)]);
+    });
+    pressKey(VK_RIGHT);
   }
 }
 

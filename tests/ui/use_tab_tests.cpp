@@ -144,6 +144,44 @@ TEST_F(Use, CopyGivesTheBitmap) {
   EXPECT_EQ(clipboardBitmap(), before);
 }
 
+TEST_F(Use, WhatCantBeCopiedIsNotCut) {
+  open(brightPalette(4));
+  load(indexed_);
+  for (const int page : {kUsePage, kValuesPage, kEffectsPage}) {
+    editor().choosePage(page);
+    openClipboard();
+    editor().run(command_id::kCut);
+    CloseClipboard();
+    EXPECT_FALSE(isOffered(editor(), command_id::kUndo)) << page;
+  }
+  editor().choosePage(kUsePage);
+  EXPECT_TRUE(showsImage());
+  // In a field, Del is for its text.
+  editor().click(L"&Dither");
+  editor().click(L"Protect gr&id:");
+  editor().typeInto(field(Field::width), "5");
+  pressKey(VK_DELETE);
+  editor().awaitInput();
+  EXPECT_TRUE(showsImage());
+  // "Scroll Here" of a scroll bar.
+  editor().resize({600, 376});
+  HWND bar = findControls(editor().window(), L"ScrollBar")[0];
+  editor().ask(editor().window(), WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 3), reinterpret_cast<LPARAM>(bar));
+  editor().awaitInput();
+}
+
+// An index one past the palette is kept, and has the blank color in the file.
+TEST_F(Use, MaintainedIndexesLookAsTheyAreSaved) {
+  store({{"Blank", storedBytes({250, 20, 90})}});
+  open(brightPalette(20));
+  load(indexed_);
+  process();
+  ASSERT_EQ(indexAt({20, 0}), 20);
+  awaitShown({20, 0}, {250, 20, 90});
+  // In the file's table of blue, green, red.
+  EXPECT_EQ(result().substr(54 + 4 * 20, 3), "\x5A\x14\xFA");
+}
+
 TEST_F(Use, ResultKeepsItsColorsUntilTheNextRun) {
   open(brightPalette(2));
   load(indexed_);

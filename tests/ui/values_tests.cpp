@@ -79,7 +79,18 @@ TEST_F(Values, FollowTheWheel) {
   turnWheel(1);
   turnWheel(-1);
   awaitNumbers("254 150 198");
-  expectSaved({254, 150, 198});
+  // A touchpad reports a notch in parts.
+  for (int i = 0; i < 3; ++i) {
+    turnWheelBy(-40);
+  }
+  awaitNumbers("253 150 198");
+  expectSaved({253, 150, 198});
+  // A closed list that has not the focus keeps its choice.
+  HWND models = editor().control(L"ComboBox");
+  moveTo(editor(), middleOf(boxOnScreen(models)));
+  turnWheel(-1);
+  editor().awaitInput();
+  EXPECT_EQ(editor().ask(models, CB_GETCURSEL), 4);
 }
 
 TEST_F(Values, FollowWhatIsTyped) {
@@ -90,6 +101,45 @@ TEST_F(Values, FollowWhatIsTyped) {
   awaitNumbers("100 78 200");
   expectSaved({100, 78, 200});
   expectOneStep();
+  // Arrows go on from the number that counts.
+  HWND field = findControls(editor().window(), L"Edit")[1];
+  editor().typeInto(field, "300");
+  pressKey(VK_UP);
+  awaitNumbers("100 255 200");
+  editor().typeInto(field, "300");
+  pressKey(VK_DOWN);
+  awaitNumbers("100 254 200");
+  editor().ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L""));
+  pressKey(VK_UP);
+  awaitNumbers("100 255 200");
+}
+
+TEST_F(Values, LeaveTheKeysOfATextToTheField) {
+  HWND field = findControls(editor().window(), L"Edit")[1];
+  editor().typeInto(field, "123");
+  expectSaved({100, 123, 200});
+  pressKey('A', {VK_CONTROL});
+  pressKey('X', {VK_CONTROL});
+  awaitNumbers("100  200");
+  pressKey('V', {VK_CONTROL});
+  awaitNumbers("100 123 200");
+  pressKey('A', {VK_CONTROL});
+  pressKey(VK_DELETE);
+  awaitNumbers("100  200");
+  pressKey('Z', {VK_CONTROL});
+  awaitNumbers("100 123 200");
+  pressKey(VK_TAB);
+  expectSaved({100, 123, 200});
+  // None of the keys of a dialog is a command: the numbers of OK and Cancel are those of new palettes.
+  for (const int key : {VK_CANCEL, VK_ESCAPE, VK_RETURN, VK_EXECUTE}) {
+    for (HWND control : {field, tabControl(editor())}) {
+      tabTo(editor(), control);
+      pressKey(key);
+      editor().awaitInput();
+      EXPECT_EQ(textOf(editor().window()), L"Quillhue - own.pal") << key;
+      EXPECT_FALSE(editor().topWindow(kDialogClass)) << key;
+    }
+  }
 }
 
 TEST_F(Values, OfAnotherModelKeepTheEntry) {

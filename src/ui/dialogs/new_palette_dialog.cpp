@@ -38,6 +38,7 @@ class NewPaletteDialog final : public ModalDialog {
  private:
   void opened() override;
   void command(int id, int notification) override;
+  [[nodiscard]] bool notified(const NMHDR& notification) override { return stepField(numbers(), notification); }
   void closing() override;
 
   void hideWhatIsNotAsked();
@@ -45,6 +46,7 @@ class NewPaletteDialog final : public ModalDialog {
   void endAbove(int id);
   [[nodiscard]] Rect boxOf(int id) const;
 
+  [[nodiscard]] std::array<NumberField*, 4> numbers() { return {&size_, &levels_[0], &levels_[1], &levels_[2]}; }
   [[nodiscard]] NewPaletteFields fields();
   void showMinimum();
   void settle(HWND field);
@@ -111,7 +113,7 @@ NewPaletteFields NewPaletteDialog::fields() {
 void NewPaletteDialog::showMinimum() { setWindowText(control(NEW_MINIMUM), minimumSizeText(kind_, fields())); }
 
 void NewPaletteDialog::settle(HWND field) {
-  for (NumberField* number : {&size_, &levels_[0], &levels_[1], &levels_[2]}) {
+  for (NumberField* const number : numbers()) {
     if (number->field() == field) {
       number->settle();
     }

@@ -28,10 +28,10 @@ constexpr auto kCommands = std::to_array<Command>({
 
     {id::kUndo, Handler::frame, Need::undoStep, "&Undo", control('Z')},
     {id::kRedo, Handler::frame, Need::redoStep, "&Redo", control('Y')},
-    {id::kCut, Handler::frame, Need::nothing, "Cu&t", control('X')},
-    {id::kCopy, Handler::frame, Need::nothing, "&Copy", control('C')},
-    {id::kPaste, Handler::frame, Need::nothing, "&Paste", control('V')},
-    {id::kClear, Handler::frame, Need::nothing, "C&lear", {.key = kDeleteKey}},
+    {id::kCut, Handler::frame, Need::clipboardEntry, "Cu&t", control('X')},
+    {id::kCopy, Handler::frame, Need::clipboardEntry, "&Copy", control('C')},
+    {id::kPaste, Handler::frame, Need::clipboardEntry, "&Paste", control('V')},
+    {id::kClear, Handler::frame, Need::clipboardEntry, "C&lear", {.key = kDeleteKey}},
     {id::kResize, Handler::frame, Need::nothing, "R&esize..."},
     {id::kCountColors, Handler::frame, Need::nothing, "C&ount colors"},
     {id::kAverageColor, Handler::frame, Need::nothing, "&Average color"},
@@ -76,20 +76,6 @@ std::vector<Command> allCommands() {
   return all;
 }
 
-bool isMet(Need need, const CommandState& state) {
-  switch (need) {
-    case Need::nothing:
-      return true;
-    case Need::undoStep:
-      return state.canUndo;
-    case Need::redoStep:
-      return state.canRedo;
-    case Need::currentEntry:
-      return state.hasCurrentEntry;
-  }
-  return false;
-}
-
 }  // namespace
 
 std::string acceleratorText(const Accelerator& accelerator) {
@@ -102,6 +88,12 @@ std::string acceleratorText(const Accelerator& accelerator) {
     text += static_cast<char>(accelerator.key);
   }
   return text;
+}
+
+bool editsText(const Accelerator& accelerator) {
+  constexpr std::array kTextCommands{id::kUndo, id::kCut, id::kCopy, id::kPaste, id::kClear, id::kSelectAll};
+  return std::ranges::any_of(kTextCommands,
+                             [&](std::int32_t command) { return findCommand(command)->accelerator == accelerator; });
 }
 
 std::span<const Command> commands() {
@@ -135,6 +127,22 @@ bool isHandled(CommandHandler handler, ActiveTab tab) {
       return tab == ActiveTab::effects;
     case Handler::paletteTabs:
       return tab == ActiveTab::values || tab == ActiveTab::effects;
+  }
+  return false;
+}
+
+bool isMet(Need need, const CommandState& state) {
+  switch (need) {
+    case Need::nothing:
+      return true;
+    case Need::undoStep:
+      return state.canUndo;
+    case Need::redoStep:
+      return state.canRedo;
+    case Need::currentEntry:
+      return state.hasCurrentEntry;
+    case Need::clipboardEntry:
+      return state.hasCurrentEntry || state.tab != ActiveTab::values;
   }
   return false;
 }

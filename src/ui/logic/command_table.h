@@ -25,7 +25,14 @@ enum class CommandHandler : std::uint8_t {
 };
 
 /// What a command needs beside its handler to have an effect.
-enum class CommandNeed : std::uint8_t { nothing, undoStep, redoStep, currentEntry };
+enum class CommandNeed : std::uint8_t {
+  nothing,
+  undoStep,
+  redoStep,
+  currentEntry,
+  /// A current entry on the tab "Edit Values", where cutting, copying, pasting and clearing act on it alone.
+  clipboardEntry,
+};
 
 /// A key that does the same as a menu item; a key of 0 stands for none.
 struct Accelerator {
@@ -40,6 +47,10 @@ inline constexpr std::int32_t kDeleteKey = 0x2E;
 
 /// As it stands in a menu: "Ctrl+Shift+S", "Del".
 [[nodiscard]] std::string acceleratorText(const Accelerator& accelerator);
+
+/// Whether the key edits the text of a field that has the focus, as everywhere in the system, instead of the palette:
+/// Ctrl+Z, X, C, V, A and Del.
+[[nodiscard]] bool editsText(const Accelerator& accelerator);
 
 struct Command {
   std::int32_t id;
@@ -72,6 +83,7 @@ struct CommandState {
 
 /// Whether there is anything that the command goes to. One that has no handler does nothing, wherever it comes from.
 [[nodiscard]] bool isHandled(CommandHandler handler, ActiveTab tab);
+[[nodiscard]] bool isMet(CommandNeed need, const CommandState& state);
 /// Whether a menu offers it. A command that is sent all the same is up to its handler.
 [[nodiscard]] bool isEnabled(const Command& command, const CommandState& state);
 

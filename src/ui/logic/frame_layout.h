@@ -14,10 +14,8 @@ namespace quillhue {
 /// Of that the tab control's part.
 [[nodiscard]] Rect frameArea(const Rect& screen, Scale scale);
 
-/// What lies around `inner` in `outer`: left and right over all the height, above and below between them.
-[[nodiscard]] std::array<Rect, 4> stripsAround(const Rect& outer, const Rect& inner);
-
-/// What the editor's screen paints around the tab control: those strips, going one pixel over its edges.
+/// The four strips that the editor's screen paints around the tab control, going one pixel over its edges: left and
+/// right over all the height, above and below between them.
 [[nodiscard]] std::array<Rect, 4> frameBackground(const Rect& screen, Scale scale);
 
 /// The x where each of the status bar's three parts ends: the number of entries, nothing, the version.

@@ -100,6 +100,7 @@ void GridSelection::begin(Means by, SelectionMode mode, std::int32_t index, Keys
       .base = keys.control ? currentFlags() : Flags(static_cast<std::size_t>(document().getSize())),
       .recorded = false,
       .modifications = document().modificationCount(),
+      .saves = document().saveCount(),
   };
   if (mode != SelectionMode::range || !keys.shift) {
     anchor_ = index;
@@ -111,7 +112,7 @@ void GridSelection::begin(Means by, SelectionMode mode, std::int32_t index, Keys
 
 bool GridSelection::goesOn(Means by) const {
   return gesture_.by == by && gesture_.modifications == document().modificationCount() &&
-         gesture_.base.size() == document().getPalette().selected().size();
+         gesture_.saves == document().saveCount() && gesture_.base.size() == document().getPalette().selected().size();
 }
 
 // Cells past the end are those of no entry, but their row may have entries.

@@ -68,8 +68,9 @@ class GridSelection {
     /// Range: what is selected beside it.
     Flags base;
     bool recorded = false;
-    /// The document's modification count after the gesture's last change.
+    /// The document's modification count and saves after the gesture's last change.
     std::int32_t modifications = 0;
+    std::int32_t saves = 0;
   };
 
   [[nodiscard]] PaletteDocument& document() const { return *slot_.document(); }

@@ -37,7 +37,8 @@ enum class Start : std::uint8_t {
 bool isEnabledAtStart(const MenuItem& item, Start start) {
   const CommandState nothing;
   if (start == Start::byNeed) {
-    return item.command == 0 || findCommand(item.command)->need == CommandNeed::nothing;
+    // The menu is open only in the editor.
+    return item.command == 0 || isMet(findCommand(item.command)->need, {.tab = ActiveTab::use});
   }
   return start == Start::enabled || isEnabled(item, nothing);
 }

@@ -73,16 +73,25 @@ Items colorsItems() {
 }
 
 Items valuesPopupItems() {
-  return {item(id::kEditColor), separator(),      item(id::kCut), item(id::kCopy),
-          item(id::kPaste),     item(id::kClear), separator(),    item(id::kUseAsBlank)};
+  return {item(id::kEditColor), separator(),    item(id::kUndo),      item(id::kRedo),
+          separator(),          item(id::kCut), item(id::kCopy),      item(id::kPaste),
+          item(id::kClear),     separator(),    item(id::kUseAsBlank)};
 }
 
 Items effectsPopupItems() {
-  return {item(id::kFreeSelection),
+  return {item(id::kUndo),
+          item(id::kRedo),
+          separator(),
+          item(id::kCut),
+          item(id::kCopy),
+          item(id::kPaste),
+          item(id::kClear),
+          separator(),
+          item(id::kFreeSelection),
           item(id::kRowSelection),
           item(id::kRangeSelection),
           separator(),
-          item(id::kSelectAll),
+          item(id::kSelectAll, "&Select all\tCtrl+A"),
           item(id::kSelectNone),
           item(id::kInvertSelection),
           item(id::kSelectMatches),

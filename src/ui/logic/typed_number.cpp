@@ -28,6 +28,10 @@ std::optional<std::int32_t> typedNumber(std::wstring_view text) {
   return static_cast<std::int32_t>(isNegative ? -number : std::min(number, kMost));
 }
 
+std::int32_t steppedValue(std::int32_t value, std::int32_t step, const ValueRange& range) {
+  return range.clamp(std::int64_t{value} + step);
+}
+
 std::int32_t typedValue(std::wstring_view text, const ValueRange& range, std::int32_t previous) {
   return range.clamp(typedNumber(text).value_or(previous));
 }

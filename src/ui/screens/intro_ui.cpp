@@ -74,7 +74,6 @@ void IntroUI::resize(Size area) {
   area_ = area;
   for (const Button& button : buttons_) {
     moveTo(button.control.get(), introButtonBox(button.description, area, window_.scale()));
-    repaint(button.control.get());
   }
 }
 

@@ -12,7 +12,6 @@
 #include "core/new_palette.h"
 #include "core/system_palettes.h"
 #include "formats/failure.h"
-#include "formats/palette_file.h"
 #include "ui/dialogs/about_dialog.h"
 #include "ui/dialogs/new_palette_dialog.h"
 #include "ui/logic/command_ids.h"
@@ -59,18 +58,25 @@ void openPalette(MainWindow& window) {
     return;
   }
   if (const auto name = window.workplace().fileDialogs.askOpenPalette()) {
-    readPaletteFile(*name, window.slot(), window.services());
+    window.openFile(*name);
   }
 }
 
 void leave(MainWindow& window) { PostMessageW(window.handle(), WM_CLOSE, 0, 0); }
 
+INT_PTR openByShell(HWND owner, const wchar_t* file, const wchar_t* arguments, const std::wstring& folder) {
+  return reinterpret_cast<INT_PTR>(ShellExecuteW(owner, L"open", file, arguments, folder.c_str(), SW_SHOWNORMAL));
+}
+
 void showReadMe(MainWindow& window) {
-  const HINSTANCE opened = ShellExecuteW(window.handle(), L"open", L"readme.txt", nullptr,
-                                         window.workplace().programFolder.c_str(), SW_SHOWNORMAL);
+  const std::wstring& folder = window.workplace().programFolder;
+  INT_PTR result = openByShell(window.handle(), L"readme.txt", L"", folder);
+  if (result == SE_ERR_NOASSOC) {
+    result = openByShell(window.handle(), L"notepad.exe", L"readme.txt", folder);
+  }
   // Up to 32 it is the number of an error.
   constexpr INT_PTR kLastError = 32;
-  if (reinterpret_cast<INT_PTR>(opened) <= kLastError) {
+  if (result <= kLastError) {
     window.services().messages.error(textOf(Failure::couldNotOpen));
   }
 }

@@ -45,7 +45,7 @@ TabsUI::TabsUI(MainWindow& window)
   SetWindowPos(tabControl_.get(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   show(tabControl_.get(), true);
   active_->show();
-  SetFocus(tabControl_.get());
+  window_.focus().give(tabControl_.get());
 }
 
 TabsUI::~TabsUI() {
@@ -90,11 +90,9 @@ void TabsUI::frameCommand(std::int32_t command) {
   switch (command) {
     case command_id::kSave:
       static_cast<void>(save(document, services));
-      active_->documentSaved();
       break;
     case command_id::kSaveAs:
       static_cast<void>(saveAs(document, services));
-      active_->documentSaved();
       break;
     case command_id::kUndo:
       stepThroughHistory(&PaletteDocument::undo);
@@ -103,11 +101,12 @@ void TabsUI::frameCommand(std::int32_t command) {
       stepThroughHistory(&PaletteDocument::redo);
       break;
     case command_id::kCut:
-      active_->copy();
-      active_->clear();
+      if (active_->copy()) {
+        active_->clear();
+      }
       break;
     case command_id::kCopy:
-      active_->copy();
+      static_cast<void>(active_->copy());
       break;
     case command_id::kPaste:
       active_->paste();
@@ -149,16 +148,17 @@ void TabsUI::resizePalette() {
 
 void TabsUI::rebuild(DocumentChange change) {
   // A control that is hidden loses the focus.
-  const HWND focused = GetFocus();
+  const HWND focused = window_.focus().current();
   active_->hide();
   for (const auto& tab : tabs_) {
     tab->documentReplaced(change);
     tab->layout(pageArea());
   }
   active_->show();
-  if (IsChild(window_.handle(), focused)) {
-    SetFocus(focused);
+  if (focused != nullptr) {
+    window_.focus().give(focused);
   }
+  repaintAll(window_.handle());
   UpdateWindow(window_.handle());
 }
 
@@ -187,17 +187,12 @@ void TabsUI::chooseTab() {
   active_->layout(pageArea());
   active_->show();
   window_.updateMenus();
+  repaintAll(window_.handle());
   UpdateWindow(window_.handle());
 }
 
 void TabsUI::resize(Size area) {
-  const Rect screen{0, 0, area.width, area.height};
-  const Rect frame = frameArea(screen, window_.scale());
-  MoveWindow(tabControl_.get(), frame.left, frame.top, frame.width(), frame.height(), FALSE);
-  for (const Rect& strip : stripsAround(screen, frame)) {
-    repaint(window_.handle(), strip, true);
-  }
-  repaint(tabControl_.get());
+  moveTo(tabControl_.get(), frameArea({0, 0, area.width, area.height}, window_.scale()));
   active_->layout(pageArea());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <expected>
 #include <optional>
 #include <span>
 #include <vector>
@@ -17,12 +18,13 @@ class Clipboard final : public PaletteClipboard {
   /// `owner` owns what is put there.
   explicit Clipboard(const MainWindow& owner) : owner_(owner) {}
 
-  void put(std::span<const PaletteEntry> entries) override;
-  [[nodiscard]] std::optional<std::vector<PaletteEntry>> get() override;
+  [[nodiscard]] bool put(std::span<const PaletteEntry> entries) override;
+  [[nodiscard]] std::expected<std::vector<PaletteEntry>, NoPalette> get() override;
 
-  /// A device-independent bitmap: header, colors, pixels. Replaces whatever the clipboard holds.
-  void putBitmap(std::span<const std::uint8_t> block);
-  /// Nothing when the clipboard holds none, can't be opened, or holds more than there is memory for.
+  /// A device-independent bitmap: header, colors, pixels. Replaces the clipboard's content; false when the clipboard
+  /// can't be opened or refuses the bitmap.
+  [[nodiscard]] bool putBitmap(std::span<const std::uint8_t> block);
+  /// Nothing when the clipboard holds none or can't be opened. Throws std::bad_alloc.
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> getBitmap() const;
 
  private:

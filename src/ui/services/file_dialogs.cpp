@@ -47,7 +47,10 @@ std::optional<SaveAsAnswer> FileDialogs::askSaveAs(PaletteFormat preselected) {
 }
 
 std::int32_t FileDialogs::askPaletteFromImage(std::uint64_t distinctColors) {
-  return showPaletteFromImageDialog(owner_, distinctColors);
+  const std::int32_t answer = showPaletteFromImageDialog(owner_, distinctColors);
+  // Making the palette may take long; the dialog has put the cursor back.
+  SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+  return answer;
 }
 
 }  // namespace quillhue

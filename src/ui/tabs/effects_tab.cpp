@@ -55,6 +55,24 @@ ChannelMask EffectsTab::mask() const {
   return ticked;
 }
 
+LRESULT EffectsTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NOTIFY && stepField(std::array{&value_}, *reinterpret_cast<const NMHDR*>(lParam))) {
+    return TRUE;
+  }
+  if (message == WM_CLIPBOARDUPDATE) {
+    editor_.readClipboard();
+    repaintGrid();
+    return 0;
+  }
+  return PaletteTab::otherMessage(window, message, wParam, lParam);
+}
+
+void EffectsTab::show() {
+  // It may have changed while another tab was active.
+  editor_.readClipboard();
+  PaletteTab::show();
+}
+
 void EffectsTab::controlNotification(HWND control, WPARAM wParam) {
   const WORD code = HIWORD(wParam);
   if (control == value_.field()) {
@@ -96,7 +114,7 @@ void EffectsTab::showValue() {
   value_.setValue(value);
 }
 
-void EffectsTab::copy() { copySelection(document(), window().services().clipboard); }
+bool EffectsTab::copy() { return copySelection(document(), window().services().clipboard); }
 
 void EffectsTab::paste() {
   pasteIntoSelection(document(), mask(), window().services().clipboard);

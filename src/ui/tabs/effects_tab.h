@@ -19,8 +19,10 @@ class EffectsTab final : public PaletteTab {
  public:
   explicit EffectsTab(MainWindow& window);
 
+  LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
   void controlNotification(HWND control, WPARAM wParam) override;
-  void copy() override;
+  void show() override;
+  bool copy() override;
   void paste() override;
   void clear() override;
   void menuCommand(std::int32_t command) override;

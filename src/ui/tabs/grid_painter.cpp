@@ -24,9 +24,16 @@ void paintSelected(HDC dc, const Rect& cell, const Rect& color) {
   frameBox(dc, color, 1, kLight);
 }
 
-// Within the color; two pixels of each line where the color is large enough to stay visible.
-void paintCurrent(HDC dc, const Rect& color) {
+// Within the color; two pixels of each line where the color is large enough to stay visible. A color that has no room
+// for lines within it gets them around it, up to the edge of its cell.
+void paintCurrent(HDC dc, const Rect& cell, const Rect& color) {
+  constexpr std::int32_t kSmallColor = 8;
   constexpr std::int32_t kLargeColor = 24;
+  if (color.width() < kSmallColor) {
+    frameBox(dc, cell, 1, kDark);
+    frameBox(dc, cell.inset(1), 1, kLight);
+    return;
+  }
   const std::int32_t line = color.width() >= kLargeColor ? 2 : 1;
   const Rect inside = color.inset(1);
   frameBox(dc, inside, line, kDark);
@@ -51,18 +58,20 @@ void paintGrid(HDC dc, const Rect& box, const GridLayout& grid, const GridPictur
   for (std::int32_t index = 0; index < size; ++index) {
     const Rect cell = grid.cellBox(index);
     const Rect color = filledPart(grid.colorBox(index));
-    if (color.isEmpty() || !overlap(cell, box)) {
+    if (!overlap(cell, box)) {
       continue;
     }
-    fillBox(dc, color, toSystem(picture.palette.entry(index)));
-    // So that an entry in the background's color does not look like no entry.
-    frameBox(dc, color.inset(-1), 1, GetSysColor(COLOR_BTNSHADOW));
+    if (!color.isEmpty()) {
+      fillBox(dc, color, toSystem(picture.palette.entry(index)));
+      // An entry in the background's color must not look like no entry.
+      frameBox(dc, color.inset(-1), 1, GetSysColor(COLOR_BTNSHADOW));
+    }
     const auto place = static_cast<std::size_t>(index);
     if (place < picture.selected.size() && picture.selected[place] != 0) {
       paintSelected(dc, cell, color);
     }
     if (index == picture.currentEntry) {
-      paintCurrent(dc, color);
+      paintCurrent(dc, cell, color);
     }
   }
   if (picture.hasFocus) {

@@ -63,12 +63,14 @@ LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       client_.releaseGrid();
       return 0;
     case WM_KEYDOWN:
-      return keyPressed(wParam) ? 0 : DefWindowProcW(handle(), message, wParam, lParam);
+      return keyPressed(wParam, (HIWORD(lParam) & KF_REPEAT) != 0) ? 0
+                                                                   : DefWindowProcW(handle(), message, wParam, lParam);
     case WM_KEYUP:
       if (wParam == VK_SHIFT) {
         client_.releaseShift();
       }
-      return 0;
+      // The menu key has its effect when it is released.
+      return DefWindowProcW(handle(), message, wParam, lParam);
     case WM_GETDLGCODE:
       // Letters without Alt would press the buttons that are named by them.
       return DLGC_WANTARROWS | DLGC_WANTCHARS;
@@ -87,9 +89,12 @@ LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
-bool GridWindow::keyPressed(WPARAM key) {
+bool GridWindow::keyPressed(WPARAM key, bool isRepeated) {
   if (key == VK_SPACE) {
-    client_.pressSpace(heldKeys());
+    // Held down, it would flip the entry back and forth.
+    if (!isRepeated) {
+      client_.pressSpace(heldKeys());
+    }
     return true;
   }
   const auto row = std::ranges::find(kKeys, key, &KeyRow::key);

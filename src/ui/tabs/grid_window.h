@@ -37,7 +37,7 @@ class GridWindow final : public CustomWindow {
 
  private:
   LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override;
-  bool keyPressed(WPARAM key);
+  bool keyPressed(WPARAM key, bool isRepeated);
 
   GridClient& client_;
 };

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/palette.h"
+#include "formats/bitmap_writer.h"
 
 namespace quillhue {
 
@@ -74,9 +75,11 @@ void paintRows(HDC dc, const Rect& box, Point offset, const WorkImage& image, co
             [&](std::int32_t y) { return image.row(y); });
 }
 
-void paintRows(HDC dc, const Rect& box, Point offset, const RemappedImage& image, const RowRange& rows) {
+void paintRows(HDC dc, const Rect& box, Point offset, const RemappedImage& image, PaletteEntry blank,
+               const RowRange& rows) {
+  const auto colors = bitmapColors(image.colors(), blank);
   const std::size_t stride = paddedRowLength(image.width());
-  paintPart(dc, offset, partInView(box, offset, image.width(), rows), 1, image.colors(),
+  paintPart(dc, offset, partInView(box, offset, image.width(), rows), 1, colors,
             [&](std::int32_t y) { return image.rows().subspan(static_cast<std::size_t>(y) * stride, stride); });
 }
 

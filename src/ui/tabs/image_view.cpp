@@ -69,7 +69,8 @@ bool ImageView::scrollNotification(HWND control, WPARAM wParam) {
   for (Scrolling* const scrolling : {&horizontal_, &vertical_}) {
     if (control == scrolling->bar.get()) {
       if (const auto action = scrollActionOf(LOWORD(wParam))) {
-        scrollTo(*scrolling, scrolled(*action, scrolling->position, trackedPosition(control), scrolling->range));
+        scrollTo(*scrolling,
+                 scrolled(*action, scrolling->position, trackedPosition(control, HIWORD(wParam)), scrolling->range));
       }
       return true;
     }
@@ -84,7 +85,7 @@ void ImageView::paintImage(HDC dc, const Rect& box) {
   }
   const Point offset{horizontal_.position, vertical_.position};
   if (result_ != nullptr) {
-    paintRows(dc, box, offset, *result_, {0, resultRows_});
+    paintRows(dc, box, offset, *result_, window_.settings().blank, {0, resultRows_});
   }
   paintRows(dc, box, offset, *image_, {resultRows_, image_->height()});
 }
@@ -98,7 +99,7 @@ void ImageView::wheelImage(bool isVertical, std::int32_t delta) {
   // Pixels a notch.
   constexpr std::int32_t kStep = 48;
   Scrolling& scrolling = isVertical ? vertical_ : horizontal_;
-  scrollTo(scrolling, scrolling.range.clamp(scrolling.position - delta * kStep / WHEEL_DELTA));
+  scrollTo(scrolling, scrolling.range.clamp(scrolling.position - scrolling.wheel.add(delta, kStep)));
 }
 
 void ImageView::scrollTo(Scrolling& scrolling, std::int32_t position) {

@@ -11,6 +11,7 @@
 #include "ui/logic/geometry.h"
 #include "ui/logic/image_view.h"
 #include "ui/logic/use_layout.h"
+#include "ui/logic/wheel_sum.h"
 #include "ui/tabs/image_window.h"
 #include "ui/win32/handle.h"
 
@@ -49,6 +50,7 @@ class ImageView final : private ImageClient {
     Window bar;
     ScrollRange range{};
     std::int32_t position = 0;
+    WheelSum wheel{};
   };
 
   void paintImage(HDC dc, const Rect& box) override;

@@ -19,7 +19,7 @@ class ImageClient {
   /// `box` is relative to the view's corner.
   virtual void paintImage(HDC dc, const Rect& box) = 0;
   virtual void scrollImage(bool isVertical, ScrollAction action) = 0;
-  /// The wheel turned by so much, 120 a notch.
+  /// The wheel turned, 120 a notch.
   virtual void wheelImage(bool isVertical, std::int32_t delta) = 0;
   virtual void fileDropped(const std::wstring& name) = 0;
 };

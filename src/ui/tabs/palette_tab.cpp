@@ -29,9 +29,13 @@ bool PaletteTab::openContextMenu(Point screenPoint) {
     window_.openContextMenu(contextMenu_, fromSystem(point));
     return true;
   }
-  POINT point = toSystem(screenPoint);
-  ScreenToClient(gridWindow_.handle(), &point);
-  const ContextClick click = contextClick(grid_, fromSystem(point), document().getSize());
+  POINT onGrid = toSystem(screenPoint);
+  ScreenToClient(gridWindow_.handle(), &onGrid);
+  const Point point = fromSystem(onGrid);
+  if (!grid_.paletteArea().contains(point)) {
+    return false;
+  }
+  const ContextClick click = contextClick(grid_, point, document().getSize());
   chooseEntry(click.currentEntry);
   window_.updateMenus();
   if (click.opensMenu) {
@@ -46,7 +50,6 @@ void PaletteTab::layout(const Rect& area) {
     grid_ = grid;
     const Rect cells = grid_.paletteArea();
     moveTo(gridWindow_.handle(), boxAt({area.left, area.top}, {cells.width(), cells.height()}));
-    repaintGrid();
   }
   layOutControls();
 }

@@ -13,6 +13,8 @@ std::optional<ScrollAction> scrollActionOf(WORD code) {
     case SB_PAGEDOWN:
       return ScrollAction::pageForward;
     case SB_THUMBTRACK:
+    // "Scroll Here" in the context menu of the bar.
+    case SB_THUMBPOSITION:
       return ScrollAction::track;
     case SB_TOP:
       return ScrollAction::toStart;
@@ -23,12 +25,13 @@ std::optional<ScrollAction> scrollActionOf(WORD code) {
   }
 }
 
-std::int32_t trackedPosition(HWND bar) {
+std::int32_t trackedPosition(HWND bar, WORD lowWord) {
   SCROLLINFO info{};
   info.cbSize = sizeof info;
   info.fMask = SIF_TRACKPOS;
   GetScrollInfo(bar, SB_CTL, &info);
-  return info.nTrackPos;
+  // Without a drag there is no such position, only the notification's.
+  return LOWORD(info.nTrackPos) == lowWord ? info.nTrackPos : lowWord;
 }
 
 void showScrolling(HWND bar, const ScrollRange& range, std::int32_t position) {

@@ -33,10 +33,10 @@ class Tab {
   /// The document's colors or selection have changed.
   virtual void paletteChanged() = 0;
   virtual void documentReplaced(DocumentChange change) = 0;
-  virtual void documentSaved() {}
   virtual void show() = 0;
   virtual void hide() = 0;
-  virtual void copy() = 0;
+  /// False when nothing was copied.
+  virtual bool copy() = 0;
   virtual void paste() = 0;
   virtual void clear() = 0;
   /// A command of a menu, before the frame's own.

@@ -16,6 +16,7 @@
 #include "ui/logic/use_layout.h"
 #include "ui/main_window.h"
 #include "ui/win32/controls.h"
+#include "ui/win32/wait_cursor.h"
 
 namespace quillhue {
 
@@ -98,6 +99,10 @@ void UseTab::showControls(bool visible) {
 }
 
 LRESULT UseTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NOTIFY &&
+      stepField(std::array{&color_, &gridWidth_, &gridHeight_}, *reinterpret_cast<const NMHDR*>(lParam))) {
+    return TRUE;
+  }
   return DefWindowProcW(window, message, wParam, lParam);
 }
 
@@ -218,7 +223,11 @@ void UseTab::loadByDialog() {
 }
 
 void UseTab::load(const std::wstring& name) {
-  if (!isBusy_ && loadImageFile(name, image_, window_.services().messages)) {
+  if (isBusy_) {
+    return;
+  }
+  const WaitCursor waiting;
+  if (loadImageFile(name, image_, window_.services().messages)) {
     imageChanged();
   }
 }
@@ -252,13 +261,12 @@ void UseTab::process() {
   if (!image_ || isBusy_) {
     return;
   }
-  const HWND focused = GetFocus();
+  FocusKeeper& focus = window_.focus();
+  const HWND focused = focus.current();
   isBusy_ = true;
   stops_ = false;
   view_.showResult(nullptr, 0);
-  if (focused != nullptr) {
-    SetFocus(view_.handle());
-  }
+  focus.give(view_.handle());
   refreshControls();
   runOn(*image_);
   isBusy_ = false;
@@ -266,8 +274,8 @@ void UseTab::process() {
     view_.showResult(&*result_, result_->height());
   }
   refreshControls();
-  if (GetFocus() == view_.handle()) {
-    SetFocus(focused);
+  if (focused != nullptr && focus.current() == view_.handle()) {
+    focus.give(focused);
   }
 }
 
@@ -302,16 +310,17 @@ void UseTab::saveRemappedBitmap() {
   }
 }
 
-void UseTab::copy() {
+bool UseTab::copy() {
   if (!image_ || isBusy_) {
-    return;
+    return false;
   }
   const PaletteEntry blank = window_.settings().blank;
   try {
-    window_.workplace().clipboard.putBitmap(result_ ? clipboardBitmap(*result_, blank)
-                                                    : clipboardBitmap(*image_, blank));
+    return window_.workplace().clipboard.putBitmap(result_ ? clipboardBitmap(*result_, blank)
+                                                           : clipboardBitmap(*image_, blank));
   } catch (const std::bad_alloc&) {
     window_.services().messages.error(textOf(Failure::notEnoughMemory));
+    return false;
   }
 }
 
@@ -319,15 +328,20 @@ void UseTab::paste() {
   if (isBusy_) {
     return;
   }
-  auto block = window_.workplace().clipboard.getBitmap();
-  if (!block) {
-    return;
-  }
-  if (auto loaded = loadClipboardImage(std::move(*block))) {
-    image_ = std::move(*loaded);
-    imageChanged();
-  } else {
-    window_.services().messages.error(textOf(loaded.error()));
+  const WaitCursor waiting;
+  try {
+    auto block = window_.workplace().clipboard.getBitmap();
+    if (!block) {
+      return;
+    }
+    if (auto loaded = loadClipboardImage(std::move(*block))) {
+      image_ = std::move(*loaded);
+      imageChanged();
+    } else {
+      window_.services().messages.error(textOf(loaded.error()));
+    }
+  } catch (const std::bad_alloc&) {
+    window_.services().messages.error(textOf(Failure::notEnoughMemory));
   }
 }
 

@@ -35,7 +35,7 @@ class UseTab final : public Tab {
   void documentReplaced(DocumentChange change) override;
   void show() override { showControls(true); }
   void hide() override { showControls(false); }
-  void copy() override;
+  bool copy() override;
   void paste() override;
   void clear() override;
   void menuCommand(std::int32_t /*command*/) override {}

@@ -1,11 +1,12 @@
 #include "ui/tabs/values_tab.h"
 
+#include <array>
+
 #include "colormodes/color_models.h"
 #include "ui/logic/menus.h"
 #include "ui/logic/palette_commands.h"
 #include "ui/logic/values_layout.h"
 #include "ui/main_window.h"
-#include "ui/tabs/bars_painter.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
 
@@ -18,7 +19,9 @@ constexpr std::size_t at(Bar bar) { return static_cast<std::size_t>(bar); }
 }  // namespace
 
 ValuesTab::ValuesTab(MainWindow& window)
-    : PaletteTab(window, kValuesPopup), editor_(window.slot(), window.settings(), *this) {
+    : PaletteTab(window, kValuesPopup),
+      editor_(window.slot(), window.settings(), *this),
+      bars_(window.handle(), editor_, window.scale()) {
   const HWND parent = window.handle();
   for (Channel& channel : channels_) {
     channel.label = createControl(parent, nullptr, {.windowClass = L"Static"});
@@ -31,8 +34,9 @@ ValuesTab::ValuesTab(MainWindow& window)
     addItem(models_.get(), model->name);
   }
   chooseItem(models_.get(), window.settings().colorMode);
-  surface_ = createControl(parent, nullptr, {.windowClass = L"Static", .style = SS_OWNERDRAW | WS_CLIPSIBLINGS});
   nameChannels();
+  // Below the controls that lie on it.
+  SetWindowPos(bars_.handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 // The text before a field and the one that appears under the pointer.
@@ -47,27 +51,13 @@ void ValuesTab::nameChannels() {
 
 LRESULT ValuesTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case WM_LBUTTONDOWN:
-      pressBars(onSurface(pointOf(lParam)));
-      return 0;
-    case WM_MOUSEMOVE:
-      dragBars(onSurface(pointOf(lParam)));
-      return 0;
-    case WM_LBUTTONUP:
-      ReleaseCapture();
-      return 0;
-    case WM_CAPTURECHANGED:
-      editor_.releaseBar();
-      return 0;
-    case WM_MOUSEWHEEL:
-      turnWheel(pointOf(lParam), GET_WHEEL_DELTA_WPARAM(wParam));
-      return 0;
     case WM_DRAWITEM:
-      paintSurface(reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->hDC);
+      bars_.paint(reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->hDC);
       return TRUE;
     case WM_NOTIFY:
-      if (reinterpret_cast<const NMHDR*>(lParam)->code == static_cast<UINT>(UDN_DELTAPOS)) {
-        return stepField(*reinterpret_cast<NMUPDOWN*>(lParam)) ? FALSE : TRUE;
+      if (stepField(std::array{&channels_[0].field, &channels_[1].field, &channels_[2].field},
+                    *reinterpret_cast<const NMHDR*>(lParam))) {
+        return TRUE;
       }
       break;
     default:
@@ -96,25 +86,11 @@ std::optional<Bar> ValuesTab::barOfField(HWND field) const {
 }
 
 void ValuesTab::fieldNotification(Bar bar, WORD code) {
-  NumberField& field = channels_[at(bar)].field;
-  if (code == EN_CHANGE && !isShowing_) {
-    editor_.fieldChanged(bar, field.value());
+  if (code == EN_CHANGE) {
+    editor_.fieldChanged(bar, channels_[at(bar)].field.value());
   } else if (code == EN_KILLFOCUS) {
-    isShowing_ = true;
-    field.settle();
-    isShowing_ = false;
+    editor_.showValues();
   }
-}
-
-// False refuses the step.
-bool ValuesTab::stepField(NMUPDOWN& step) {
-  for (const Bar bar : kBars) {
-    if (channels_[at(bar)].field.arrows() == step.hdr.hwndFrom) {
-      step.iDelta = editor_.stepField(bar, step.iPos, step.iDelta);
-      return step.iDelta != 0;
-    }
-  }
-  return true;
 }
 
 void ValuesTab::modelChosen() {
@@ -127,7 +103,7 @@ void ValuesTab::show() {
   PaletteTab::show();
 }
 
-void ValuesTab::copy() { editor_.copy(window().services().clipboard); }
+bool ValuesTab::copy() { return editor_.copy(window().services().clipboard); }
 
 void ValuesTab::paste() { editor_.paste(window().services().clipboard); }
 
@@ -165,12 +141,10 @@ void ValuesTab::layOutControls() {
   const ValuesLayout layout = valuesLayout(grid(), window().scale());
   for (const Bar bar : kBars) {
     channels_[at(bar)].field.move(layout.fields[at(bar)]);
-    showChannel(bar, editor_.mode().channelRange(bar), editor_.mode().getValue(bar));
   }
+  editor_.showValues();
   moveTo(models_.get(), layout.modelList);
-  moveTo(surface_.get(), layout.surface);
-  surfaceCorner_ = {layout.surface.left, layout.surface.top};
-  repaint(surface_.get());
+  moveTo(bars_.handle(), layout.surface);
 }
 
 void ValuesTab::showControls(bool visible) {
@@ -178,57 +152,22 @@ void ValuesTab::showControls(bool visible) {
     quillhue::show(channel.label.get(), visible);
     channel.field.show(visible);
   }
-  for (const Window* const control : {&modelLabel_, &models_, &surface_}) {
-    quillhue::show(control->get(), visible);
+  for (const HWND control : {modelLabel_.get(), models_.get(), bars_.handle()}) {
+    quillhue::show(control, visible);
   }
 }
 
 void ValuesTab::showChannel(Bar bar, const ValueRange& range, std::int32_t value) {
   NumberField& field = channels_[at(bar)].field;
-  isShowing_ = true;
   field.setRange(range);
   field.setValue(value);
-  isShowing_ = false;
 }
 
 void ValuesTab::entryChanged(std::int32_t index) {
   repaintEntry(index);
   if (index == editor_.currentEntry()) {
-    repaint(surface_.get(), bars().changingBox());
+    bars_.repaintBars();
   }
-}
-
-BarsLayout ValuesTab::bars() const { return {clientSize(surface_.get()), window().scale()}; }
-
-void ValuesTab::paintSurface(HDC dc) const {
-  RECT clip{};
-  GetClipBox(dc, &clip);
-  const BackBuffer buffer(dc, fromSystem(clip));
-  paintBars(buffer.get(), fromSystem(clip), bars(), editor_.mode(), window().scale());
-}
-
-void ValuesTab::pressBars(Point point) {
-  if (const auto bar = bars().barAt(point)) {
-    editor_.pressBar(*bar);
-    SetCapture(window().handle());
-  }
-}
-
-void ValuesTab::dragBars(Point point) {
-  const BarsLayout layout = bars();
-  editor_.dragBar(layout.heightAt(point.y), layout.usableHeight());
-}
-
-void ValuesTab::turnWheel(Point screenPoint, std::int32_t delta) {
-  POINT point = toSystem(screenPoint);
-  ScreenToClient(surface_.get(), &point);
-  if (const auto bar = bars().barAt(fromSystem(point))) {
-    editor_.turnWheel(*bar, delta);
-  }
-}
-
-Point ValuesTab::onSurface(Point inWindow) const {
-  return {inWindow.x - surfaceCorner_.x, inWindow.y - surfaceCorner_.y};
 }
 
 }  // namespace quillhue

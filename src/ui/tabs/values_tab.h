@@ -1,16 +1,14 @@
 #pragma once
 
 #include <windows.h>
-// Needs windows.h before it.
-#include <commctrl.h>
 
 #include <array>
 #include <cstdint>
 #include <optional>
 
 #include "colormodes/channel_editor.h"
-#include "ui/logic/bars_layout.h"
 #include "ui/number_field.h"
+#include "ui/tabs/bars_view.h"
 #include "ui/tabs/palette_tab.h"
 #include "ui/win32/handle.h"
 
@@ -23,10 +21,8 @@ class ValuesTab final : public PaletteTab, private ChannelView {
 
   LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
   void controlNotification(HWND control, WPARAM wParam) override;
-  /// What is changed from now on is a step of its own, so that undoing it leads to what was saved.
-  void documentSaved() override { editor_.endRun(); }
   void show() override;
-  void copy() override;
+  bool copy() override;
   void paste() override;
   void clear() override;
   void menuCommand(std::int32_t command) override;
@@ -58,26 +54,16 @@ class ValuesTab final : public PaletteTab, private ChannelView {
   void showChannel(Bar bar, const ValueRange& range, std::int32_t value) override;
   void entryChanged(std::int32_t index) override;
 
-  [[nodiscard]] BarsLayout bars() const;
   [[nodiscard]] std::optional<Bar> barOfField(HWND field) const;
   void fieldNotification(Bar bar, WORD code);
-  bool stepField(NMUPDOWN& step);
   void modelChosen();
   void nameChannels();
-  void paintSurface(HDC dc) const;
-  void pressBars(Point point);
-  void dragBars(Point point);
-  void turnWheel(Point screenPoint, std::int32_t delta);
-  [[nodiscard]] Point onSurface(Point inWindow) const;
 
   std::array<Channel, kBars.size()> channels_;
   Window modelLabel_;
   Window models_;
-  Window surface_;
-  Point surfaceCorner_;
-  // Changes of the fields that are not the user's.
-  bool isShowing_ = false;
   ChannelEditor editor_;
+  BarsView bars_;
 };
 
 }  // namespace quillhue

@@ -41,8 +41,8 @@ bool copyInto(HGLOBAL memory, std::span<const std::uint8_t> bytes) {
 }  // namespace
 
 ClipboardAccess::ClipboardAccess(HWND owner) {
-  // Programs that watch the clipboard have it for a moment after each change.
-  constexpr int kTries = 3;
+  // Remote desktops and clipboard histories open the clipboard after each change, for a part of a second.
+  constexpr int kTries = 50;
   constexpr DWORD kPauseMilliseconds = 10;
   for (int i = 0; i < kTries && !open_; ++i) {
     if (i > 0) {
@@ -64,18 +64,22 @@ void ClipboardAccess::empty() {
   }
 }
 
-void ClipboardAccess::put(LogicalPalette palette) {
+bool ClipboardAccess::put(LogicalPalette palette) {
   // Null would promise to give one later.
-  if (open_ && palette && SetClipboardData(CF_PALETTE, palette.get()) != nullptr) {
+  const bool taken = open_ && palette && SetClipboardData(CF_PALETTE, palette.get()) != nullptr;
+  if (taken) {
     palette.release();
   }
+  return taken;
 }
 
-void ClipboardAccess::put(UINT format, std::span<const std::uint8_t> bytes) {
+bool ClipboardAccess::put(UINT format, std::span<const std::uint8_t> bytes) {
   GlobalMemory memory(GlobalAlloc(GMEM_MOVEABLE, bytes.size()));
-  if (open_ && copyInto(memory.get(), bytes) && SetClipboardData(format, memory.get()) != nullptr) {
+  const bool taken = open_ && copyInto(memory.get(), bytes) && SetClipboardData(format, memory.get()) != nullptr;
+  if (taken) {
     memory.release();
   }
+  return taken;
 }
 
 HPALETTE ClipboardAccess::palette() const { return static_cast<HPALETTE>(data(CF_PALETTE)); }

@@ -14,7 +14,8 @@ namespace quillhue {
 /// The system's clipboard, which no other program gets while this lives.
 class ClipboardAccess {
  public:
-  /// `owner` owns what is put there; nothing can be put without one.
+  /// Waits up to half a second while another program has it open. `owner` owns what is put there; nothing can be put
+  /// without one.
   explicit ClipboardAccess(HWND owner);
   ClipboardAccess(const ClipboardAccess&) = delete;
   ClipboardAccess& operator=(const ClipboardAccess&) = delete;
@@ -24,9 +25,9 @@ class ClipboardAccess {
   [[nodiscard]] explicit operator bool() const { return open_; }
 
   void empty();
-  /// Gives to the clipboard what it takes of a palette or a block of bytes, and drops what it refuses.
-  void put(LogicalPalette palette);
-  void put(UINT format, std::span<const std::uint8_t> bytes);
+  /// Gives a palette or a block of bytes to the clipboard; false when it refuses them.
+  [[nodiscard]] bool put(LogicalPalette palette);
+  [[nodiscard]] bool put(UINT format, std::span<const std::uint8_t> bytes);
 
   /// The clipboard's own palette; null when it holds none.
   [[nodiscard]] HPALETTE palette() const;

@@ -31,7 +31,14 @@ Size clientSize(HWND window) {
   return {box.right, box.bottom};
 }
 
-void moveTo(HWND window, const Rect& box) { MoveWindow(window, box.left, box.top, box.width(), box.height(), TRUE); }
+void moveTo(HWND window, const Rect& box) {
+  SetWindowPos(window, nullptr, box.left, box.top, box.width(), box.height(),
+               SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS | SWP_NOREDRAW);
+}
+
+void repaintAll(HWND window) {
+  RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
 
 void show(HWND window, bool visible) { ShowWindow(window, visible ? SW_SHOWNA : SW_HIDE); }
 
@@ -50,6 +57,12 @@ void repaint(HWND window, const Rect& box, bool erase) {
   InvalidateRect(window, &system, erase ? TRUE : FALSE);
 }
 
+void passToChildren(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+    SendMessageW(child, message, wParam, lParam);
+  }
+}
+
 bool isTicked(HWND button) { return SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED; }
 
 void tick(HWND button, bool ticked) { SendMessageW(button, BM_SETCHECK, ticked ? BST_CHECKED : BST_UNCHECKED, 0); }
@@ -61,6 +74,12 @@ void addItem(HWND combo, std::string_view text) {
 void chooseItem(HWND combo, std::int32_t index) { SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0); }
 
 std::int32_t chosenItem(HWND combo) { return static_cast<std::int32_t>(SendMessageW(combo, CB_GETCURSEL, 0, 0)); }
+
+bool isControl(HWND window, const wchar_t* windowClass) {
+  std::array<wchar_t, 64> name{};
+  GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+  return lstrcmpiW(name.data(), windowClass) == 0;
+}
 
 std::wstring firstFile(const Drop& drop) {
   std::array<wchar_t, MAX_PATH> name{};

@@ -32,13 +32,19 @@ void setWindowText(HWND window, std::string_view text);
 
 /// The client area, from 0, 0 on.
 [[nodiscard]] Size clientSize(HWND window);
-/// Moves a child window and repaints it.
+/// Moves a child window and paints nothing: a window that is moved alone copies pixels that its neighbor may cover by
+/// then. Whoever has moved windows calls repaintAll.
 void moveTo(HWND window, const Rect& box);
+/// Repaints a window with all its children.
+void repaintAll(HWND window);
 void show(HWND window, bool visible);
 /// Disabled, a window leaves the focus to its parent: otherwise no window would have it.
 void enable(HWND window, bool enabled);
 void repaint(HWND window, bool erase = false);
 void repaint(HWND window, const Rect& box, bool erase = false);
+
+/// Sends a message to all children of a window.
+void passToChildren(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 [[nodiscard]] bool isTicked(HWND button);
 void tick(HWND button, bool ticked);
@@ -47,6 +53,9 @@ void tick(HWND button, bool ticked);
 void addItem(HWND combo, std::string_view text);
 void chooseItem(HWND combo, std::int32_t index);
 [[nodiscard]] std::int32_t chosenItem(HWND combo);
+
+/// Whether the window is a control of this class of the system's.
+[[nodiscard]] bool isControl(HWND window, const wchar_t* windowClass);
 
 /// The name of the first dropped file, of which at most MAX_PATH - 1 characters are taken.
 [[nodiscard]] std::wstring firstFile(const Drop& drop);

@@ -19,10 +19,10 @@ INT_PTR CALLBACK ModalDialog::dialogProcedure(HWND window, UINT message, WPARAM 
     reinterpret_cast<ModalDialog*>(lParam)->window_ = window;
   }
   auto* dialog = reinterpret_cast<ModalDialog*>(GetWindowLongPtrW(window, DWLP_USER));
-  return dialog == nullptr ? FALSE : dialog->answer(message, wParam);
+  return dialog == nullptr ? FALSE : dialog->answer(message, wParam, lParam);
 }
 
-INT_PTR ModalDialog::answer(UINT message, WPARAM wParam) {
+INT_PTR ModalDialog::answer(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_INITDIALOG:
       initialize();
@@ -33,6 +33,9 @@ INT_PTR ModalDialog::answer(UINT message, WPARAM wParam) {
       } else {
         command(LOWORD(wParam), HIWORD(wParam));
       }
+      return TRUE;
+    case WM_NOTIFY:
+      SetWindowLongPtrW(window_, DWLP_MSGRESULT, notified(*reinterpret_cast<const NMHDR*>(lParam)) ? TRUE : FALSE);
       return TRUE;
     case WM_DESTROY:
       closing();

@@ -30,11 +30,13 @@ class ModalDialog {
   virtual void opened() = 0;
   /// WM_COMMAND of a control, but for Cancel.
   virtual void command(int id, int notification) = 0;
+  /// WM_NOTIFY of a control. True for an answer other than 0.
+  [[nodiscard]] virtual bool notified(const NMHDR& /*notification*/) { return false; }
   /// Last chance to give back what belongs to the controls.
   virtual void closing() {}
 
   static INT_PTR CALLBACK dialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-  INT_PTR answer(UINT message, WPARAM wParam);
+  INT_PTR answer(UINT message, WPARAM wParam, LPARAM lParam);
   void initialize();
   void centerOverOwner() const;
 

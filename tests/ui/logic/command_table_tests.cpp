@@ -15,8 +15,8 @@ const struct {
   const char* offered;
 } kExpected[] = {
     {1, 13, "++++"},  {14, 15, "-+++"}, {16, 16, "++++"}, {20, 20, "-uuu"}, {21, 21, "-rrr"},
-    {22, 28, "-+++"}, {30, 35, "--+-"}, {36, 38, "--c-"}, {39, 50, "--+-"}, {60, 61, "++++"},
-    {70, 70, "-c--"}, {71, 71, "--c-"}, {72, 72, "-cc-"},
+    {22, 25, "-c++"}, {26, 28, "-+++"}, {30, 35, "--+-"}, {36, 38, "--c-"}, {39, 50, "--+-"},
+    {60, 61, "++++"}, {70, 70, "-c--"}, {71, 71, "--c-"}, {72, 72, "-cc-"},
 };
 
 bool offeredWithout(char needed, char offered) { return offered != '-' && offered != needed; }
@@ -42,6 +42,12 @@ TEST(CommandTable, OffersWhatHasAnEffect) {
   for (const std::int32_t none : {-1, 0, 17, 29, 51, 62, 73}) {
     EXPECT_EQ(findCommand(none), nullptr) << none;
   }
+  std::string textKeys;
+  for (const Command& command : commands()) {
+    textKeys += editsText(command.accelerator) ? acceleratorText(command.accelerator) + ' ' : "";
+  }
+  EXPECT_EQ(textKeys, "Ctrl+Z Ctrl+X Ctrl+C Ctrl+V Del Ctrl+A ");
+  EXPECT_FALSE(editsText({.shift = true, .key = kDeleteKey}));
 }
 
 // "1 Text, |, Text [3 Text, 4 Text]" for a command, a separator and a menu of its own.
@@ -65,19 +71,21 @@ TEST(Menus, HoldTheCommands) {
       "S&wap channels [42 &Red and green, 43 &Green and blue, 44 &Blue and red], 45 &Reverse, "
       "&Sort [46 By &intensity, 47 By &red value, 48 By &green value, 49 By &blue value, 50 By &deviation]";
   const std::string modes = "30 Free selection, 31 Row selection\tCtrl+R, 32 Range selection";
-  const std::string all = "33 Select &all\tCtrl+A, 34 Select &none, 35 &Invert selection\tCtrl+I";
+  const std::string rest = "34 Select &none, 35 &Invert selection\tCtrl+I";
   const std::string some = "36 Select &matches, 37 Select &brighter, 38 Select &darker";
   EXPECT_EQ(show(mainMenu()), "&File [1 &New blank palette...\tCtrl+N, New system palette " + systemPalettes +
                                   ", 11 New &greyscale palette..., 12 New &RGB palette..., |, "
                                   "13 &Open...\tCtrl+O, 14 &Save\tCtrl+S, 15 Save &as...\tCtrl+Shift+S, |, 16 E&xit], "
                                   "&Edit [20 &Undo\tCtrl+Z, 21 &Redo\tCtrl+Y, |, " +
                                   clipboard + ", |, 26 R&esize..., |, 27 C&ount colors, 28 &Average color], &Select [" +
-                                  modes + ", |, " + all + ", |, " + some +
+                                  modes + ", |, 33 Select &all\tCtrl+A, " + rest + ", |, " + some +
                                   ", 39 Select &redundant], &Colors [40 &Gradient, 41 &Bright gradient, |, " +
                                   swapReverseSort + "], &Help [60 &Read me, 61 &About...]");
-  EXPECT_EQ(show(contextMenus()), "NewPopup " + systemPalettes + ", ValuesPopup [70 &Edit..., |, " + clipboard +
-                                      ", |, 72 Use as &blank color], EffectsPopup [" + modes + ", |, " + all + ", " +
-                                      some + ", 39 Select re&dundant, |, 40 &Gradient, 41 Bright gradient, " +
+  const std::string history = "20 &Undo\tCtrl+Z, 21 &Redo\tCtrl+Y, |, ";
+  EXPECT_EQ(show(contextMenus()), "NewPopup " + systemPalettes + ", ValuesPopup [70 &Edit..., |, " + history +
+                                      clipboard + ", |, 72 Use as &blank color], EffectsPopup [" + history + clipboard +
+                                      ", |, " + modes + ", |, 33 &Select all\tCtrl+A, " + rest + ", " + some +
+                                      ", 39 Select re&dundant, |, 40 &Gradient, 41 Bright gradient, " +
                                       swapReverseSort + ", |, 71 &Fill, 72 Use as &blank color]");
   EXPECT_EQ(contextMenus()[kValuesPopup].text, "ValuesPopup");
   EXPECT_EQ(contextMenus()[kEffectsPopup].text, "EffectsPopup");

@@ -3,6 +3,7 @@
 #include "ui/logic/from_image_dialog.h"
 #include "ui/logic/typed_number.h"
 #include "ui/logic/use_controls.h"
+#include "ui/logic/wheel_sum.h"
 
 namespace quillhue {
 namespace {
@@ -77,6 +78,31 @@ TEST(TypedNumber, BringsAnythingIntoTheRange) {
     EXPECT_EQ(typedValue(text, {-100, 200}, 7), value) << testing::PrintToString(text);
   }
   EXPECT_EQ(typedValue(L"", {1, 5}, 7), 5);
+}
+
+TEST(TypedNumber, StepsWithinTheRange) {
+  const struct {
+    std::int32_t value;
+    std::int32_t step;
+    std::int32_t result;
+  } cases[] = {{200, 10, 210}, {250, 10, 255}, {255, 1, 255}, {255, -300, 0}, {0, -1, 0}, {0, 2147483647, 255}};
+  for (const auto& [value, step, result] : cases) {
+    EXPECT_EQ(steppedValue(value, step, {0, 255}), result) << value << ' ' << step;
+  }
+}
+
+TEST(WheelSum, AddsUpPartsOfANotch) {
+  WheelSum sum;
+  std::vector<std::int32_t> steps;
+  for (const std::int32_t delta : {240, 50, 50, 50, -100, -20, 119, 1}) {
+    steps.push_back(sum.add(delta));
+  }
+  EXPECT_EQ(steps, (std::vector{2, 0, 0, 1, 0, -1, 0, 1}));
+  static_cast<void>(sum.add(100));
+  sum.reset();
+  EXPECT_EQ(sum.add(20), 0);
+  // 48 pixels a notch.
+  EXPECT_EQ(sum.add(5, 48), 2);
 }
 
 TEST(FromImageDialog, ProposesAndAnswers) {

@@ -22,8 +22,6 @@ TEST(FrameLayout, LeavesAMarginAroundTheTabs) {
   EXPECT_EQ(frameArea(screen, {144}), (Rect{6, 6, 854, 661}));
   const std::array<Rect, 4> background{{{0, 0, 5, 667}, {5, 0, 855, 5}, {855, 0, 860, 667}, {5, 662, 855, 667}}};
   EXPECT_EQ(frameBackground(screen, {96}), background);
-  const std::array<Rect, 4> strips{{{0, 0, 4, 667}, {4, 0, 856, 4}, {856, 0, 860, 667}, {4, 663, 856, 667}}};
-  EXPECT_EQ(stripsAround(screen, frameArea(screen, {96})), strips);
   EXPECT_EQ(statusPartEdges({96}), (std::array<std::int32_t, 3>{80, 160, 392}));
   EXPECT_EQ(statusPartEdges({120}), (std::array<std::int32_t, 3>{100, 200, 490}));
   EXPECT_EQ(fontHeight({96}), -12);

@@ -66,7 +66,9 @@ void press(Button button) { sendMouse(button == Button::left ? MOUSEEVENTF_LEFTD
 
 void release(Button button) { sendMouse(button == Button::left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP); }
 
-void turnWheel(int notches) { sendMouse(MOUSEEVENTF_WHEEL, notches * WHEEL_DELTA); }
+void turnWheel(int notches) { turnWheelBy(notches * WHEEL_DELTA); }
+
+void turnWheelBy(int delta) { sendMouse(MOUSEEVENTF_WHEEL, delta); }
 
 void clickAt(const Program& program, Point point, Button button, const std::vector<int>& held) {
   activate(program);

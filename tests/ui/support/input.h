@@ -22,6 +22,8 @@ void moveTo(const Program& program, Point point);
 void press(Button button = Button::left);
 void release(Button button = Button::left);
 void turnWheel(int notches);
+/// By parts of a notch, which is 120.
+void turnWheelBy(int delta);
 /// Activates the program, moves there, and presses and releases while keys (VK_CONTROL, VK_SHIFT) are held.
 void clickAt(const Program& program, Point point, Button button = Button::left, const std::vector<int>& held = {});
 

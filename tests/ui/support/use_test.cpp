@@ -4,6 +4,7 @@
 #include <random>
 
 #include "formats/bitmap_writer.h"
+#include "formats/work_image.h"
 #include "support/bitmaps.h"
 
 namespace quillhue {

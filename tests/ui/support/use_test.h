@@ -56,7 +56,7 @@ class UseTest : public UiTest {
   const std::wstring indexed_ = indexedFile("indexed.bmp", kSize);
   const std::wstring direct_ = directFile();
 
- private:
+  /// Keeps the clipboard from the program until it is closed.
   void openClipboard() const;
 };
 

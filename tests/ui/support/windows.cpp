@@ -108,6 +108,25 @@ PaletteEntry pixelOf(HWND window, Point point) {
   return colorFrom(color);
 }
 
+std::vector<std::uint32_t> pixelsOf(HWND window) {
+  const Size size = clientSizeOf(window);
+  const Point corner = onScreen(window, {});
+  std::vector<std::uint32_t> pixels(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height));
+  HDC screen = GetDC(nullptr);
+  HDC memory = CreateCompatibleDC(screen);
+  HBITMAP bitmap = CreateCompatibleBitmap(screen, size.width, size.height);
+  HGDIOBJ before = SelectObject(memory, bitmap);
+  BitBlt(memory, 0, 0, size.width, size.height, screen, corner.x, corner.y, SRCCOPY);
+  SelectObject(memory, before);
+  BITMAPINFO rows{};
+  rows.bmiHeader = {sizeof(BITMAPINFOHEADER), size.width, -size.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  GetDIBits(memory, bitmap, 0, static_cast<UINT>(size.height), pixels.data(), &rows, DIB_RGB_COLORS);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+  ReleaseDC(nullptr, screen);
+  return pixels;
+}
+
 PaletteEntry systemColor(int color) { return colorFrom(GetSysColor(color)); }
 
 HWND focusOf(const Program& program) {

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -45,6 +46,8 @@ BOOL CALLBACK addWindow(HWND window, LPARAM windows);
 
 /// What the user sees at a point of the window's client area.
 [[nodiscard]] PaletteEntry pixelOf(HWND window, Point point);
+/// What the user sees of the window's client area, row by row.
+[[nodiscard]] std::vector<std::uint32_t> pixelsOf(HWND window);
 /// One of the system's colors, COLOR_BTNFACE and so on.
 [[nodiscard]] PaletteEntry systemColor(int color);
 

@@ -35,7 +35,7 @@ TEST(ClipboardAccess, GivesThePaletteThatItTook) {
       ClipboardAccess clipboard(owner.get());
       ASSERT_TRUE(clipboard);
       clipboard.empty();
-      clipboard.put(createLogicalPalette(colors(count)));
+      EXPECT_TRUE(clipboard.put(createLogicalPalette(colors(count))));
     }
     const ClipboardAccess clipboard(owner.get());
     EXPECT_EQ(entriesOf(clipboard.palette()), colors(std::min(count, 1024))) << count;
@@ -49,9 +49,9 @@ TEST(ClipboardAccess, APaletteWithoutEntriesLeavesItEmpty) {
   const Window owner = createOwner();
   ClipboardAccess clipboard(owner.get());
   clipboard.empty();
-  clipboard.put(createLogicalPalette(colors(1)));
+  EXPECT_TRUE(clipboard.put(createLogicalPalette(colors(1))));
   clipboard.empty();
-  clipboard.put(createLogicalPalette({}));
+  EXPECT_FALSE(clipboard.put(createLogicalPalette({})));
   EXPECT_EQ(CountClipboardFormats(), 0);
   EXPECT_EQ(clipboard.palette(), nullptr);
   EXPECT_TRUE(entriesOf(clipboard.palette()).empty());
@@ -65,7 +65,7 @@ TEST(ClipboardAccess, GivesBitmapsOfAnySize) {
       ClipboardAccess clipboard(owner.get());
       clipboard.empty();
       EXPECT_EQ(clipboard.bytes(CF_DIB), std::nullopt);
-      clipboard.put(CF_DIB, block);
+      EXPECT_TRUE(clipboard.put(CF_DIB, block));
     }
     Bytes found = ClipboardAccess(owner.get()).bytes(CF_DIB).value_or(Bytes());
     ASSERT_GE(found.size(), size);
@@ -79,7 +79,7 @@ TEST(ClipboardAccess, HasNothingWhileAnotherHasIt) {
   {
     ClipboardAccess clipboard(owner.get());
     clipboard.empty();
-    clipboard.put(createLogicalPalette(colors(2)));
+    EXPECT_TRUE(clipboard.put(createLogicalPalette(colors(2))));
     bool opened = true;
     bool found = true;
     std::thread([&] {
@@ -88,7 +88,7 @@ TEST(ClipboardAccess, HasNothingWhileAnotherHasIt) {
       opened = static_cast<bool>(other);
       found = other.palette() != nullptr || other.bytes(CF_DIB);
       other.empty();
-      other.put(createLogicalPalette(colors(1)));
+      opened = opened || other.put(createLogicalPalette(colors(1)));
     }).join();
     EXPECT_FALSE(opened);
     EXPECT_FALSE(found);
