@@ -5,7 +5,7 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 cd "$root"
 scripts/need.sh g++ cmake ninja-build googletest libcli11-dev nlohmann-json3-dev libpng-dev libjpeg-dev \
-  g++-mingw-w64-x86-64-posix wine wine64 fonts-dejavu-core fonts-wine xvfb nsis zip unzip \
+  g++-mingw-w64-x86-64-posix wine wine64 fonts-dejavu-core fonts-wine xvfb nsis zip unzip attr \
   clang-19 clang-tidy-19 clang-format-19 libclang-rt-19-dev
 mkdir -p build
 if [ ! -f build/wine/system.reg ]; then

@@ -68,14 +68,14 @@ void readPaletteFile(const std::wstring& fileName, DocumentSlot& slot, Services&
   }
 }
 
-bool writePaletteFile(PaletteDocument& document, const std::wstring& fileName, PaletteFormat format,
-                      Services& services) {
+bool writePaletteFile(PaletteDocument& document, const std::wstring& fileName, PaletteFormat format, Services& services,
+                      FileSystem& files) {
   const auto bytes = composePaletteFile(document.getPalette(), format, services.settings.blank);
   if (!bytes) {
     services.messages.error(textOf(bytes.error()));
     return false;
   }
-  if (!writeFile(fileName, *bytes)) {
+  if (!writeFile(fileName, *bytes, files)) {
     services.messages.error(textOf(Failure::couldNotCreate));
     return false;
   }

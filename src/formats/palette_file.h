@@ -6,6 +6,7 @@
 #include "core/document.h"
 #include "core/palette_format.h"
 #include "core/services.h"
+#include "system/file_system.h"
 
 namespace quillhue {
 
@@ -16,7 +17,7 @@ void readPaletteFile(const std::wstring& fileName, DocumentSlot& slot, Services&
 /// Writes the document's palette in the format. Everything that can be refused is refused, with one message, before a
 /// file is touched. On success the document is unmodified and has this format and name; otherwise it stays as it was.
 [[nodiscard]] bool writePaletteFile(PaletteDocument& document, const std::wstring& fileName, PaletteFormat format,
-                                    Services& services);
+                                    Services& services, FileSystem& files = systemFiles());
 
 /// The Save As dialog, with the extension rule and the question before a file is replaced, then writePaletteFile.
 [[nodiscard]] bool saveAs(PaletteDocument& document, Services& services);

@@ -3,58 +3,70 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "system/file_system.h"
 
 namespace quillhue {
 
-/// The system's files with calls that fail. The calls of saving are counted from 0: creating or opening, and each
-/// write, flush and finish. `count` of them fail from `first` on.
+/// What becomes of one of the calls that save a file. A power cut ends all: later calls fail, nothing is removed, and
+/// what was not flushed never reaches the disk.
+enum class Fault { failed, notReplaceable, powerCut };
+
+/// The system's files with a fault in the call with the number `at`: 0 creates or opens a file, and then each write,
+/// flush and finish counts.
 class FaultyFiles final : public FileSystem {
  public:
-  explicit FaultyFiles(int first, int count = 1, SaveError error = SaveError::failed)
-      : first_(first), end_(first + count), error_(error) {}
+  FaultyFiles(Fault fault, int at) : fault_(fault), at_(at) {}
 
   [[nodiscard]] int calls() const { return calls_; }
 
   bool exists(const std::wstring& name) override { return systemFiles().exists(name); }
   std::unique_ptr<InputFile> open(const std::wstring& name) override { return systemFiles().open(name); }
   Output createReplacement(const std::wstring& name) override {
-    return fails() ? std::unexpected(error_) : wrap(systemFiles().createReplacement(name));
+    return fails() ? std::unexpected(error()) : wrap(systemFiles().createReplacement(name));
   }
   Output overwrite(const std::wstring& name, std::uint64_t size) override {
-    return fails() ? std::unexpected(error_) : wrap(systemFiles().overwrite(name, size));
+    return fails() ? std::unexpected(error()) : wrap(systemFiles().overwrite(name, size));
   }
 
  private:
-  class FaultyOutput final : public OutputFile {
-   public:
-    FaultyOutput(std::unique_ptr<OutputFile> file, FaultyFiles& files) : file_(std::move(file)), files_(files) {}
-
+  struct FaultyOutput final : OutputFile {
+    FaultyOutput(std::unique_ptr<OutputFile> opened, FaultyFiles& all) : file(std::move(opened)), files(all) {}
+    FaultyOutput(const FaultyOutput&) = delete;
+    FaultyOutput& operator=(const FaultyOutput&) = delete;
+    ~FaultyOutput() override {
+      if (files.fault_ == Fault::powerCut) {
+        files.left_.push_back(std::move(file));
+      }
+    }
     bool write(std::span<const std::uint8_t> content) override {
-      const bool fails = files_.fails();
-      return file_->write(fails ? content.first(content.size() / 2) : content) && !fails;
+      unflushed.insert(unflushed.end(), content.begin(), content.end());
+      return !files.fails();
     }
-    bool flush() override { return !files_.fails() && file_->flush(); }
+    bool flush() override { return !files.fails() && file->write(std::exchange(unflushed, {})) && file->flush(); }
     std::expected<void, SaveError> finish() override {
-      return files_.fails() ? std::unexpected(files_.error_) : file_->finish();
+      return files.fails() ? std::unexpected(files.error()) : file->finish();
     }
 
-   private:
-    std::unique_ptr<OutputFile> file_;
-    FaultyFiles& files_;
+    std::unique_ptr<OutputFile> file;
+    FaultyFiles& files;
+    std::vector<std::uint8_t> unflushed;
   };
 
   bool fails() {
     const int call = calls_++;
-    return call >= first_ && call < end_;
+    return call == at_ || (fault_ == Fault::powerCut && call > at_);
+  }
+  [[nodiscard]] SaveError error() const {
+    return fault_ == Fault::notReplaceable ? SaveError::notReplaceable : SaveError::failed;
   }
   Output wrap(Output file) { return file ? std::make_unique<FaultyOutput>(std::move(*file), *this) : std::move(file); }
 
-  int first_;
-  int end_;
-  SaveError error_;
+  Fault fault_;
+  int at_;
   int calls_ = 0;
+  std::vector<std::unique_ptr<OutputFile>> left_;
 };
 
 }  // namespace quillhue

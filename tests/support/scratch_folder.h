@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <fstream>
 #include <iterator>
 #include <random>
 #include <string>
@@ -32,7 +33,9 @@ class ScratchFolder {
   }
   /// Writes a file and returns its full name.
   [[nodiscard]] std::wstring file(const std::filesystem::path& file, const Bytes& content) const {
-    return writeFile(name(file), content) ? name(file) : throw std::system_error();
+    std::ofstream stream(path_ / file, std::ios::binary);
+    stream << std::string(content.begin(), content.end()) << std::flush;
+    return stream ? name(file) : throw std::system_error();
   }
   [[nodiscard]] std::string contentOf(const std::filesystem::path& file) const {
     const auto source = openFile(name(file)).value();
