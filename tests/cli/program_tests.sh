@@ -32,6 +32,11 @@ cmp direct.clp file.clp || fail 'standard output differs from a file'
 "${tool[@]}" convert - back.act --format act <file.clp
 cmp 'ö.act' back.act || fail 'there and back is not the same'
 
+echo old >linked.clp
+ln -s linked.clp link.clp
+expect_status 0 convert 'ö.act' link.clp --force
+[ -L link.clp ] && cmp direct.clp linked.clp || fail 'a link is not followed'
+
 expect_status 1 info 'ö.act' none.pal .
 expect_status 1 convert 'ö.act' file.clp
 expect_status 2 convert 'ö.act'

@@ -185,7 +185,7 @@ std::wstring fullName(const std::wstring& name) {
 
 bool isDevice(const std::wstring& fullName) { return fullName.starts_with(LR"(\\.\)"); }
 
-// The file to which the links of this name lead; nothing when it does not exist.
+// The file to which the links of this name lead; nothing when it does not exist or its disk does not name it.
 std::optional<std::wstring> followLinks(const std::wstring& name) {
   const FileHandle file = openHandle(name, 0, kSharedWithAll, OPEN_EXISTING);
   std::wstring target(GetFinalPathNameByHandleW(file.get(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
@@ -221,12 +221,13 @@ class WindowsFiles final : public FileSystem {
     }
     const DWORD attributes = GetFileAttributesW(target.c_str());
     const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
-    if (exists && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
+    if (exists) {
+      // Asked of every file: under Wine a link of the host looks like the file itself.
       auto linked = followLinks(target);
-      if (!linked) {
+      if (!linked && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
         return std::unexpected(SaveError::notReplaceable);
       }
-      target = std::move(*linked);
+      target = std::move(linked).value_or(target);
     }
     const bool isReadOnly = exists && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
     if (isReadOnly || (exists && !openHandle(target, GENERIC_WRITE, kSharedWithNobody, OPEN_EXISTING))) {
