@@ -12,7 +12,8 @@ namespace {
 PaletteClipboard& clipboardOf(EditSession& session) { return session.tool.services.clipboard; }
 
 ParsedStep parseCopy(const std::string& /*argument*/) {
-  return stepOf([](EditSession& session) { static_cast<void>(copySelection(session.document(), clipboardOf(session))); });
+  return stepOf(
+      [](EditSession& session) { static_cast<void>(copySelection(session.document(), clipboardOf(session))); });
 }
 
 ParsedStep parseCut(const std::string& /*argument*/) {
