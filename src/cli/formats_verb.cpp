@@ -1,9 +1,11 @@
+#include <algorithm>
 #include <iomanip>
 #include <vector>
 
 #include "cli/json.h"
 #include "cli/list_verb.h"
 #include "cli/output_format.h"
+#include "cli/picture_input.h"
 #include "cli/verbs.h"
 #include "formats/readers/palette_readers.h"
 #include "formats/writers/palette_writers.h"
@@ -11,6 +13,10 @@
 namespace quillhue::cli {
 
 namespace {
+
+JsonObject jsonOfReader(const PaletteReader& reader) {
+  return JsonObject().add("name", reader.name).add("title", reader.title).add("recognisedBy", reader.recognisedBy);
+}
 
 void showJson(Console& console) {
   std::vector<JsonObject> written;
@@ -25,10 +31,13 @@ void showJson(Console& console) {
   }
   std::vector<JsonObject> read;
   for (const PaletteReader* reader : paletteReaders()) {
-    read.push_back(
-        JsonObject().add("name", reader->name).add("title", reader->title).add("recognisedBy", reader->recognisedBy));
+    read.push_back(jsonOfReader(*reader));
   }
-  writeJson(console, JsonObject().add("written", written).add("read", read));
+  std::vector<JsonObject> pictures;
+  for (const PaletteReader& reader : pictureReaders()) {
+    pictures.push_back(jsonOfReader(reader));
+  }
+  writeJson(console, JsonObject().add("written", written).add("read", read).add("pictures", pictures));
 }
 
 void showText(Console& console) {
@@ -42,12 +51,17 @@ void showText(Console& console) {
     column(6, format.extension);
     column(10, format.maxSize == kAnySize ? "any" : std::to_string(format.maxSize)) << format.title << '\n';
   }
+  const auto showReader = [&](const PaletteReader& reader) {
+    column(2, "");
+    column(14, reader.name);
+    column(26, reader.title) << reader.recognisedBy << '\n';
+  };
   console.out << "\nRead (in the order in which a file is tried):\n";
   for (const PaletteReader* reader : paletteReaders()) {
-    column(2, "");
-    column(14, reader->name);
-    column(26, reader->title) << reader->recognisedBy << '\n';
+    showReader(*reader);
   }
+  console.out << "\nPictures without a palette (for info, convert --colors and remap):\n";
+  std::ranges::for_each(pictureReaders(), showReader);
 }
 
 }  // namespace

@@ -7,10 +7,19 @@
 #include <utility>
 #include <variant>
 
+#include "cli/picture_input.h"
 #include "core/utf8.h"
 #include "formats/files.h"
 
 namespace quillhue::cli {
+
+namespace {
+
+bool isWithoutPalette(Failure failure) {
+  return failure == Failure::unrecognisedType || failure == Failure::pngNotIndexed;
+}
+
+}  // namespace
 
 std::expected<Input, Failure> openInput(const std::string& file, const std::string& streamName, Console& console) {
   auto source = file == "-" ? readStream(console.in) : openFile(fromUtf8(file));
@@ -19,8 +28,14 @@ std::expected<Input, Failure> openInput(const std::string& file, const std::stri
   }
   const std::wstring name = fromUtf8(inputName(file, streamName));
   const ReaderInput input{**source, name};
-  const PaletteReader* const reader = findPaletteReader(input);
-  auto content = readPalette(input);
+  const PaletteReader* reader = findPaletteReader(input);
+  ReadResult content = readPalette(input);
+  if (!content && isWithoutPalette(content.error())) {
+    if (const PaletteReader* const picture = findPictureReader(input)) {
+      reader = picture;
+      content = picture->read(input);
+    }
+  }
   if (!content) {
     return std::unexpected(content.error());
   }

@@ -12,6 +12,7 @@
 #include "cli/input.h"
 #include "cli/output.h"
 #include "cli/output_folder.h"
+#include "cli/picture_input.h"
 #include "cli/verbs.h"
 #include "core/utf8.h"
 #include "formats/bitmap_writer.h"
@@ -45,12 +46,15 @@ class NoProgress final : public RemapProgress {
   [[nodiscard]] bool rowsDone(std::int32_t /*rows*/, const RemappedImage& /*result*/) override { return true; }
 };
 
-std::expected<WorkImage, std::string> readImage(const std::string& file, Console& console) {
+std::expected<WorkImage, std::string> readImage(const std::string& file, PaletteEntry blank, Console& console) {
   const auto source = file == "-" ? readStream(console.in) : openFile(fromUtf8(file));
   if (!source) {
     return refusalOf(source.error());
   }
-  auto image = loadImage(**source);
+  ImageResult image = loadImage(**source);
+  if (!image && image.error() == Failure::unrecognisedType) {
+    image = loadPicture(**source, blank);
+  }
   if (!image) {
     return refusalOf(image.error());
   }
@@ -66,7 +70,7 @@ struct Target {
 // The image is gone when the result is written: they need not fit into the memory with the bitmap.
 std::expected<RemappedImage, std::string> remapFile(const std::string& file, Remapper& remapper,
                                                     const RemapVerbOptions& options, Console& console) {
-  const auto image = readImage(file, console);
+  const auto image = readImage(file, options.blank, console);
   if (!image) {
     return Refusal(image.error());
   }
@@ -173,7 +177,8 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   Verb verb = tool.addVerb("remap", "Turn images into bitmaps that use the colors of a palette");
   const auto options = std::make_shared<RemapVerbOptions>();
   verb.addArgument("FILE", options->files,
-                   "IMAGE (bitmap, clipboard file, PCX, LBM), PALETTE and OUT.bmp; with --out-dir any number of images "
+                   "IMAGE (bitmap, PNG, JPEG, PNM, PCX, LBM, clipboard file), PALETTE and OUT.bmp; with --out-dir any "
+                   "number of images "
                    "and folders of them. - is standard input or output");
   verb.addOption("--palette", options->palette, "The palette or image file whose colors are used, with --out-dir");
   verb.addOption("--out-dir", options->outDir, "Write all bitmaps into this folder");

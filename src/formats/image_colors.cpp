@@ -39,15 +39,25 @@ void forEachBit(const std::vector<std::uint64_t>& bits, Visit visit) {
   }
 }
 
-void readWords(const WorkImage& image, std::int32_t y, std::span<ColorWord> words) {
+bool isTransparent(const WorkImage& image, std::int32_t y, std::size_t x) {
+  return image.palette() ? image.transparentIndexes()[image.row(y)[x]] : image.transparentRow(y)[x] != 0;
+}
+
+ColorWord wordOf(const WorkImage& image, std::int32_t y, std::size_t x) {
   const auto row = image.row(y);
-  for (std::size_t x = 0; x < words.size(); ++x) {
-    if (const auto& palette = image.palette()) {
-      const PaletteEntry color = palette->entry(row[x]);
-      words[x] = color.blue | static_cast<ColorWord>(color.green) << 8 | static_cast<ColorWord>(color.red) << 16;
-    } else {
-      words[x] =
-          row[3 * x] | static_cast<ColorWord>(row[3 * x + 1]) << 8 | static_cast<ColorWord>(row[3 * x + 2]) << 16;
+  if (const auto& palette = image.palette()) {
+    const PaletteEntry color = palette->entry(row[x]);
+    return color.blue | static_cast<ColorWord>(color.green) << 8 | static_cast<ColorWord>(color.red) << 16;
+  }
+  return row[3 * x] | static_cast<ColorWord>(row[3 * x + 1]) << 8 | static_cast<ColorWord>(row[3 * x + 2]) << 16;
+}
+
+// The pixels of a row that are not transparent.
+void readWords(const WorkImage& image, std::int32_t y, std::vector<ColorWord>& words) {
+  words.clear();
+  for (std::size_t x = 0; x < static_cast<std::size_t>(image.width()); ++x) {
+    if (!image.hasTransparency() || !isTransparent(image, y, x)) {
+      words.push_back(wordOf(image, y, x));
     }
   }
 }
@@ -55,25 +65,26 @@ void readWords(const WorkImage& image, std::int32_t y, std::span<ColorWord> word
 }  // namespace
 
 ImageColors::ImageColors(const TrueColorBitmap& bitmap)
-    : ImageColors(bitmap.pixelCount(), [bitmap](const VisitWords& visit) { bitmap.forEachBlock(visit); }) {}
+    : ImageColors([bitmap](const VisitWords& visit) { bitmap.forEachBlock(visit); }) {}
 
 ImageColors::ImageColors(const WorkImage& image)
-    : ImageColors(static_cast<std::uint64_t>(image.width()) * static_cast<std::uint64_t>(image.height()),
-                  [&image](const VisitWords& visit) {
-                    std::vector<ColorWord> words(static_cast<std::size_t>(image.width()));
-                    for (std::int32_t y = 0; y < image.height(); ++y) {
-                      readWords(image, y, words);
-                      visit(words);
-                    }
-                  }) {}
+    : ImageColors([&image](const VisitWords& visit) {
+        std::vector<ColorWord> words;
+        for (std::int32_t y = 0; y < image.height(); ++y) {
+          readWords(image, y, words);
+          if (!words.empty()) {
+            visit(words);
+          }
+        }
+      }) {}
 
-ImageColors::ImageColors(std::uint64_t pixelCount, ForEachBlock forEachBlock)
-    : pixelCount_(pixelCount), forEachBlock_(std::move(forEachBlock)), occurring_(kColors / 64) {
+ImageColors::ImageColors(ForEachBlock forEachBlock) : forEachBlock_(std::move(forEachBlock)), occurring_(kColors / 64) {
   std::optional<ColorWord> first;
   ColorWord differing = 0;
   forEachBlock_([&](std::span<const ColorWord> words) {
     const ColorWord reference = first.value_or(words.front());
     first = reference;
+    pixelCount_ += words.size();
     for (const ColorWord word : words) {
       const std::uint32_t order = orderOf(word);
       occurring_[order / 64] |= bitOf(order);

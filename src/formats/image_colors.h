@@ -21,7 +21,7 @@ namespace quillhue {
 class ImageColors {
  public:
   explicit ImageColors(const TrueColorBitmap& bitmap);
-  /// The image outlives this.
+  /// Transparent pixels do not count. The image outlives this.
   explicit ImageColors(const WorkImage& image);
 
   [[nodiscard]] std::uint64_t distinctCount() const { return distinctCount_; }
@@ -35,16 +35,16 @@ class ImageColors {
  private:
   using VisitWords = std::function<void(std::span<const ColorWord>)>;
   using ForEachBlock = std::function<void(const VisitWords&)>;
-  ImageColors(std::uint64_t pixelCount, ForEachBlock forEachBlock);
+  explicit ImageColors(ForEachBlock forEachBlock);
 
   using VisitColor = std::function<void(ColorWord color, std::uint64_t pixels)>;
   void forEachColor(const VisitColor& visit) const;
   [[nodiscard]] std::vector<std::uint32_t> sortedPixels() const;
   [[nodiscard]] std::vector<std::uint32_t> pixelsOfEachColor() const;
 
-  std::uint64_t pixelCount_;
   // Hands over all pixels, some at a time.
   ForEachBlock forEachBlock_;
+  std::uint64_t pixelCount_ = 0;
   // One bit for each of the 2^24 colors, by its place in the order.
   std::vector<std::uint64_t> occurring_;
   std::uint64_t distinctCount_ = 0;

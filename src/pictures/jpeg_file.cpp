@@ -130,6 +130,6 @@ std::expected<JpegHeader, Failure> readJpegHeader(PictureBytes file) {
   return std::unexpected(Failure::pictureDamaged);
 }
 
-constinit const PictureKind kJpegPicture{"jpeg", "JPEG image", "signature FF D8 FF", matches, decode};
+constinit const PictureKind kJpegPicture{"jpeg", "JPEG image", "signature FF D8 FF", "*.jpg;*.jpeg", matches, decode};
 
 }  // namespace quillhue

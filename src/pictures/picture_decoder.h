@@ -22,6 +22,8 @@ struct PictureKind {
   std::string_view title;
   /// The signature, in words.
   std::string_view recognisedBy;
+  /// File name patterns of a dialog, with semicolons between them.
+  std::string_view patterns;
   /// True when the first bytes of a file, at least kSignatureSize where it has as many, are of this kind.
   bool (*matches)(PictureBytes start);
   /// Decodes a whole file that matches. The image has a palette, of 256 entries with black for those that the file

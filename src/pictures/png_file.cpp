@@ -198,6 +198,6 @@ PictureResult decode(PictureBytes file, PaletteEntry blank) {
 
 }  // namespace
 
-constinit const PictureKind kPngPicture{"png", "PNG image", "signature 89 PNG", matches, decode};
+constinit const PictureKind kPngPicture{"png", "PNG image", "signature 89 PNG", "*.png", matches, decode};
 
 }  // namespace quillhue

@@ -211,6 +211,7 @@ PictureResult decode(PictureBytes file, PaletteEntry blank) {
 
 }  // namespace
 
-constinit const PictureKind kPnmPicture{"pnm", "PNM image", "signature P1 to P7", matches, decode};
+constinit const PictureKind kPnmPicture{"pnm",   "PNM image", "signature P1 to P7", "*.pbm;*.pgm;*.ppm;*.pnm;*.pam",
+                                        matches, decode};
 
 }  // namespace quillhue
