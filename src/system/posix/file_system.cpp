@@ -101,14 +101,17 @@ class PosixOutput : public OutputFile {
 
   bool flush() override {
     // EINVAL and ENOSYS come from what keeps nothing: pipes, devices, some network drives.
-    return uninterrupted([&] { return fsync(file_.get()); }) == 0 || errno == EINVAL || errno == ENOSYS;
+    isFlushed_ = uninterrupted([&] { return fsync(file_.get()); }) == 0 || errno == EINVAL || errno == ENOSYS;
+    return isFlushed_;
   }
 
  protected:
   [[nodiscard]] const Descriptor& file() const { return file_; }
+  [[nodiscard]] bool isFlushed() const { return isFlushed_; }
 
  private:
   Descriptor file_;
+  bool isFlushed_ = false;
 };
 
 SaveError saveErrorOf(int error) {
@@ -142,7 +145,7 @@ class Replacement final : public PosixOutput {
     temporary_.clear();
     // Until the folder is on the disk as well, a power cut may bring back the old file. A folder that can't be listed
     // can't be flushed.
-    if (const Descriptor listed = openAt(folder_.get(), ".", O_RDONLY | O_DIRECTORY)) {
+    if (const Descriptor listed = openAt(folder_.get(), ".", O_RDONLY | O_DIRECTORY); listed && isFlushed()) {
       uninterrupted([&] { return fsync(listed.get()); });
     }
     return {};
