@@ -11,12 +11,13 @@ declare -A allowed=(
   [src/formats]="core system"
   [src/colormodes]="core"
   [src/effects]="core"
+  [src/commands]="core"
   [src/remap]="core formats/work_image.h"
   [src/pictures]="core formats/work_image.h formats/indexed_pixels.h formats/image_limits.h formats/failure.h"
-  [src/cli]="core system formats colormodes effects remap pictures"
-  [src/ui/logic]="core system formats colormodes effects remap pictures"
+  [src/cli]="core commands system formats colormodes effects remap pictures"
+  [src/ui/logic]="core commands system formats colormodes effects remap pictures"
   [src/ui/win32]="core ui/logic/geometry.h"
-  [src/ui]="core system formats colormodes effects remap pictures"
+  [src/ui]="core commands system formats colormodes effects remap pictures"
 )
 [ -d src ] || { echo "no src/ in $PWD"; exit 1; }
 status=0
@@ -63,6 +64,15 @@ while IFS=: read -r file line include; do
   done
   [ $fine = yes ] || complain "$file:$line: $layer may not include $path"
 done < <(grep -rnE '^[[:space:]]*#[[:space:]]*include' src --include='*.h' --include='*.cpp')
+
+# The window is made last, from complete parts: it knows none of what it is made from, and only the application knows it.
+while IFS= read -r hit; do
+  complain "$hit: the main window takes its parts from the application"
+done < <(grep -nE 'include "ui/(screens|tabs|services|dialogs)/' src/ui/main_window.* src/ui/window_context.h 2>/dev/null || true
+         grep -rn 'include "ui/main_window.h"' src | grep -v '^src/ui/\(application\.h\|main_window\.cpp\):' || true)
+while IFS= read -r hit; do
+  complain "$hit: the system's headers come by ui/win32/system.h"
+done < <(grep -rnE '#include <.*\.h>' src --include='*.h' --include='*.cpp' | grep '^src/ui/' | grep -v '^src/ui/win32/system.h:' || true)
 
 # files.cpp turns the bytes of a stream into ours; nothing else in formats/ gets at bytes but by source and sink.
 while IFS= read -r hit; do

@@ -29,21 +29,9 @@ struct NewOptions {
 struct Generator {
   std::string_view name;
   NewPaletteKind kind;
-  Palette (*create)(const NewPaletteFields& fields, PaletteEntry blank);
 };
-
-constexpr std::array<Generator, 3> kGenerators{{
-    {"blank", NewPaletteKind::blank,
-     [](const NewPaletteFields& fields, PaletteEntry blank) {
-       return createBlankPalette(fields.size, fields.windowsColors, blank);
-     }},
-    {"greyscale", NewPaletteKind::sizeOnly,
-     [](const NewPaletteFields& fields, PaletteEntry /*blank*/) { return createGreyscalePalette(fields.size); }},
-    {"rgb", NewPaletteKind::rgb,
-     [](const NewPaletteFields& fields, PaletteEntry blank) {
-       return createRgbPalette(fields.size, fields.levels, fields.windowsColors, blank);
-     }},
-}};
+constexpr std::array<Generator, 3> kGenerators{
+    {{"blank", NewPaletteKind::blank}, {"greyscale", NewPaletteKind::sizeOnly}, {"rgb", NewPaletteKind::rgb}}};
 
 void refuseOption(bool given, const char* option, const char* kinds) {
   if (given) {
@@ -63,7 +51,7 @@ Palette generate(const Generator& generator, const NewOptions& options) {
   if (!accepted) {
     refuseUsage("--size", std::string(accepted.error()) + ' ' + minimumSizeText(generator.kind, fields));
   }
-  return generator.create(*accepted, options.blank);
+  return createNewPalette(generator.kind, *accepted, options.blank);
 }
 
 Palette createPaletteFor(const NewOptions& options) {

@@ -60,4 +60,16 @@ std::expected<NewPaletteFields, std::string_view> acceptNewPalette(NewPaletteKin
   return fields;
 }
 
+Palette createNewPalette(NewPaletteKind kind, const NewPaletteFields& fields, PaletteEntry blank) {
+  switch (kind) {
+    case NewPaletteKind::blank:
+      return createBlankPalette(fields.size, fields.windowsColors, blank);
+    case NewPaletteKind::rgb:
+      return createRgbPalette(fields.size, fields.levels, fields.windowsColors, blank);
+    case NewPaletteKind::sizeOnly:
+      break;
+  }
+  return createGreyscalePalette(fields.size);
+}
+
 }  // namespace quillhue

@@ -48,4 +48,7 @@ struct NewPaletteFields {
                                                                                  NewPaletteFields fields,
                                                                                  AppSettings& settings);
 
+/// The palette that accepted fields describe, at its kind's rules; `blank` fills what the colors leave.
+[[nodiscard]] Palette createNewPalette(NewPaletteKind kind, const NewPaletteFields& fields, PaletteEntry blank);
+
 }  // namespace quillhue

@@ -1,41 +1,50 @@
 #include "ui/application.h"
 
-#include <windows.h>
-// Needs windows.h before it.
-#include <commctrl.h>
-
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "core/utf8.h"
 #include "ui/logic/window_texts.h"
+#include "ui/screens/intro_ui.h"
+#include "ui/screens/tabs_ui.h"
 #include "ui/win32/command_line.h"
 #include "ui/win32/drawing.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 
+namespace {
+
+template <typename Screen>
+std::unique_ptr<MainUI> makeScreen(WindowContext& context) {
+  return std::make_unique<Screen>(context);
+}
+
+}  // namespace
+
 Application::Application()
     : settings_(readSettings(store_, Scale{screenDpi()})),
-      window_(workplace_),
-      messages_(window_),
-      fileDialogs_(window_),
-      clipboard_(window_),
-      colorDialog_(window_),
-      services_{.settings = settings_.app,
-                .messages = messages_,
-                .observer = window_,
-                .fileQuestions = fileDialogs_,
-                .clipboard = clipboard_,
-                .screen = screen_},
-      workplace_{.settings = settings_,
-                 .settingsStore = store_,
-                 .slot = slot_,
-                 .services = services_,
-                 .colorChooser = colorDialog_,
-                 .fileDialogs = fileDialogs_,
-                 .clipboard = clipboard_,
-                 .programFolder = programFolder()} {}
+      messages_(dialogOwner_),
+      fileDialogs_(dialogOwner_, messages_),
+      clipboard_(dialogOwner_),
+      colorDialog_(dialogOwner_),
+      window_({.settings = settings_,
+               .settingsStore = store_,
+               .slot = slot_,
+               .messages = messages_,
+               .fileQuestions = fileDialogs_,
+               .clipboard = clipboard_,
+               .screen = screen_,
+               .dialogOwner = dialogOwner_,
+               .services = {.dialogOwner = dialogOwner_,
+                            .fileDialogs = fileDialogs_,
+                            .clipboard = clipboard_,
+                            .colorChooser = colorDialog_,
+                            .programFolder = programFolder()},
+               .makeIntro = makeScreen<IntroUI>,
+               .makeEditor = makeScreen<TabsUI>}) {}
 
 int Application::run(int showCommand) {
   const INITCOMMONCONTROLSEX classes{.dwSize = sizeof classes, .dwICC = ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
@@ -50,7 +59,7 @@ int Application::run(int showCommand) {
   }
   MSG message{};
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    window_.take(message);
+    window_.dispatch(message);
   }
   return static_cast<int>(message.wParam);
 }

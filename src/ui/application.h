@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/document.h"
-#include "core/services.h"
 #include "ui/logic/settings_store.h"
 #include "ui/main_window.h"
 #include "ui/services/clipboard.h"
@@ -10,10 +9,11 @@
 #include "ui/services/halftone_palette.h"
 #include "ui/services/message_boxes.h"
 #include "ui/services/registry_settings.h"
+#include "ui/win32/dialog_owner.h"
 
 namespace quillhue {
 
-/// The running editor: everything there is one of.
+/// The running editor: everything there is one of, each part made from those before it.
 class Application {
  public:
   Application();
@@ -29,15 +29,13 @@ class Application {
   RegistrySettings store_;
   SavedSettings settings_;
   DocumentSlot slot_;
-  // It takes the address of the workplace, which is complete before the window is opened.
-  MainWindow window_;
+  DialogOwner dialogOwner_;
   MessageBoxes messages_;
   FileDialogs fileDialogs_;
   Clipboard clipboard_;
   ColorDialog colorDialog_;
   HalftonePalette screen_;
-  Services services_;
-  Workplace workplace_;
+  MainWindow window_;
 };
 
 }  // namespace quillhue

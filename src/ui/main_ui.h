@@ -1,11 +1,10 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 
-#include "ui/logic/command_table.h"
+#include "commands/command_table.h"
 #include "ui/logic/geometry.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

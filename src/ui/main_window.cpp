@@ -1,22 +1,20 @@
 #include "ui/main_window.h"
 
-// Needs windows.h before it.
-#include <commctrl.h>
-
 #include <algorithm>
 #include <array>
+#include <utility>
 #include <vector>
 
+#include "commands/command_table.h"
 #include "core/utf8.h"
 #include "formats/palette_file.h"
 #include "ui/logic/frame_layout.h"
 #include "ui/logic/menus.h"
 #include "ui/logic/window_size.h"
 #include "ui/logic/window_texts.h"
-#include "ui/screens/intro_ui.h"
-#include "ui/screens/tabs_ui.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
+#include "ui/win32/system.h"
 #include "ui/win32/wait_cursor.h"
 
 namespace quillhue {
@@ -95,6 +93,15 @@ bool pressesButton(const MSG& message) {
 
 }  // namespace
 
+MainWindow::MainWindow(WindowParts parts)
+    : parts_(std::move(parts)),
+      services_{.settings = parts_.settings.app,
+                .messages = parts_.messages,
+                .observer = *this,
+                .fileQuestions = parts_.fileQuestions,
+                .clipboard = parts_.clipboard,
+                .screen = parts_.screen} {}
+
 MainWindow::~MainWindow() = default;
 
 std::string_view MainWindow::open(int showCommand) {
@@ -106,7 +113,7 @@ std::string_view MainWindow::open(int showCommand) {
   if (!registerClass(description)) {
     return kNoWindowClassText;
   }
-  const Size size = workplace_.settings.window;
+  const Size size = parts_.settings.window;
   if (!create({.windowClass = kClassName,
                .title = std::wstring(kWelcomeTitle),
                .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
@@ -123,7 +130,7 @@ std::string_view MainWindow::open(int showCommand) {
   return {};
 }
 
-void MainWindow::take(MSG& message) {
+void MainWindow::dispatch(MSG& message) {
   focus_.note();
   if (message.message == WM_MOUSEWHEEL || message.message == WM_MOUSEHWHEEL) {
     message.hwnd = wheelTarget(handle(), message);
@@ -157,9 +164,9 @@ Rect MainWindow::screenArea() const {
 }
 
 void MainWindow::showEditor() {
-  // Messages that come while one screen goes and the other is made find none.
+  // No screen is active while one replaces the other, so messages in between are ignored.
   screen_.reset();
-  screen_ = std::make_unique<TabsUI>(*this);
+  screen_ = parts_.makeEditor(*context_);
   updateMenus();
   repaint(handle(), true);
   UpdateWindow(handle());
@@ -174,13 +181,13 @@ void MainWindow::updateMenus() {
   updateItems(contextMenus_.get(), contextMenus(), state);
   for (const HMENU menu : {bar, contextMenus_.get()}) {
     CheckMenuRadioItem(menu, commandOf(SelectionMode::free), commandOf(SelectionMode::range),
-                       static_cast<UINT>(commandOf(settings().selectionMode)), MF_BYCOMMAND);
+                       static_cast<UINT>(commandOf(parts_.settings.app.selectionMode)), MF_BYCOMMAND);
   }
 }
 
 void MainWindow::openFile(const std::wstring& name) {
   const WaitCursor waiting;
-  readPaletteFile(name, slot(), services());
+  readPaletteFile(name, parts_.slot, services_);
 }
 
 void MainWindow::openContextMenu(std::int32_t menu, Point screenPoint) const {
@@ -272,18 +279,26 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
 void MainWindow::created() {
   focus_.attach(handle());
   AddClipboardFormatListener(handle());
-  scale_.dpi = screenDpi();
+  const Scale scale{screenDpi()};
   constexpr int kWeight = 500;
-  font_.reset(CreateFontW(fontHeight(scale_), 0, 0, 0, kWeight, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
-                          OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, PROOF_QUALITY, DEFAULT_PITCH | FF_DONTCARE,
-                          L"Segoe UI"));
+  font_.reset(CreateFontW(fontHeight(scale), 0, 0, 0, kWeight, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
+                          CLIP_DEFAULT_PRECIS, PROOF_QUALITY, DEFAULT_PITCH | FF_DONTCARE, L"Segoe UI"));
   statusBar_ =
       CreateStatusWindowW(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, L"", handle(), static_cast<UINT>(kStatusBarId));
-  const std::array<std::int32_t, 3> edges = statusPartEdges(scale_);
+  const std::array<std::int32_t, 3> edges = statusPartEdges(scale);
   SendMessageW(statusBar_, SB_SETPARTS, edges.size(), reinterpret_cast<LPARAM>(edges.data()));
   SendMessageW(statusBar_, SB_SETTEXTW, kVersionPart, reinterpret_cast<LPARAM>(fromUtf8(kVersionText).c_str()));
   contextMenus_.reset(LoadMenuW(GetModuleHandleW(nullptr), L"MAINPOPUP"));
-  screen_ = std::make_unique<IntroUI>(*this);
+  parts_.dialogOwner.set(handle(), font_.get(), scale);
+  context_.emplace(WindowContext{.window = handle(),
+                                 .font = font_.get(),
+                                 .scale = scale,
+                                 .slot = parts_.slot,
+                                 .services = services_,
+                                 .windowServices = parts_.services,
+                                 .focus = focus_,
+                                 .frame = *this});
+  screen_ = parts_.makeIntro(*context_);
   updateMenus();
 }
 
@@ -291,7 +306,7 @@ void MainWindow::destroyed() {
   RemoveClipboardFormatListener(handle());
   // Controls that end may report it: by then there is no screen any more that would look for the document.
   screen_.reset();
-  workplace_.slot.closeDocument();
+  parts_.slot.closeDocument();
   contextMenus_.reset();
   font_.reset();
   saveSettings();
@@ -299,8 +314,8 @@ void MainWindow::destroyed() {
 }
 
 void MainWindow::saveSettings() {
-  workplace_.settings.window = outerSize(handle());
-  writeSettings(workplace_.settings, workplace_.settingsStore);
+  parts_.settings.window = outerSize(handle());
+  writeSettings(parts_.settings, parts_.settingsStore);
 }
 
 void MainWindow::sized() {
@@ -323,7 +338,7 @@ void MainWindow::sized() {
 
 void MainWindow::sizing(WPARAM edge, LPARAM lParam) const {
   auto* const window = reinterpret_cast<RECT*>(lParam);
-  *window = toSystem(keepMinimum(fromSystem(*window), static_cast<SizingEdge>(edge), scale_));
+  *window = toSystem(keepMinimum(fromSystem(*window), static_cast<SizingEdge>(edge), context_->scale));
 }
 
 void MainWindow::paint() {
@@ -354,21 +369,21 @@ LRESULT MainWindow::staticColors(HDC dc) {
 
 void MainWindow::filesDropped(WPARAM wParam) {
   const Drop drop(reinterpret_cast<HDROP>(wParam));
-  if (!IsWindowEnabled(handle()) || !letsDocumentGo()) {
+  if (!IsWindowEnabled(handle()) || !confirmDiscard()) {
     return;
   }
   openFile(firstFile(drop));
 }
 
 // While a dialog is open it has to be answered first.
-bool MainWindow::mayClose() const { return IsWindowEnabled(handle()) && letsDocumentGo(); }
+bool MainWindow::mayClose() { return IsWindowEnabled(handle()) && confirmDiscard(); }
 
-bool MainWindow::maySessionEnd() const {
+bool MainWindow::maySessionEnd() {
   if (closesAfterRun_ || document() == nullptr || !document()->isModified()) {
     return true;
   }
   if (IsWindowEnabled(handle()) != 0) {
-    return letsDocumentGo();
+    return confirmDiscard();
   }
   ShutdownBlockReasonCreate(handle(), L"The palette is not saved. Close the open dialog first.");
   return false;
@@ -401,28 +416,26 @@ void MainWindow::runEnded() const {
   }
 }
 
-bool MainWindow::letsDocumentGo() const { return document() == nullptr || askToSave(*document(), services()); }
+bool MainWindow::confirmDiscard() { return document() == nullptr || askToSave(*document(), services_); }
 
-MainWindow::Run::Run(MainWindow& window) : window_(window) { window_.runIsOn_ = true; }
-
-MainWindow::Run::~Run() {
-  window_.runIsOn_ = false;
-  if (window_.closesAfterRun_) {
-    PostMessageW(window_.handle(), kRunEndedMessage, 0, 0);
+void MainWindow::endRun() {
+  runIsOn_ = false;
+  if (closesAfterRun_) {
+    PostMessageW(handle(), kRunEndedMessage, 0, 0);
   }
 }
 
-bool MainWindow::Run::pumpMessages() {
+bool MainWindow::pumpMessages() {
   MSG message{};
-  while (!window_.closesAfterRun_ && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+  while (!closesAfterRun_ && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
     if (message.message == WM_QUIT) {
       // For the loop outside.
       PostQuitMessage(static_cast<int>(message.wParam));
       return false;
     }
-    window_.take(message);
+    dispatch(message);
   }
-  return !window_.closesAfterRun_;
+  return !closesAfterRun_;
 }
 
 }  // namespace quillhue

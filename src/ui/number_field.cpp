@@ -88,7 +88,13 @@ void NumberField::settle() {
   }
 }
 
-void NumberField::step(const NMUPDOWN& asked) { setValue(steppedValue(value(), asked.iDelta, range_)); }
+bool NumberField::takesStep(const NMHDR& notification) {
+  if (notification.code != static_cast<UINT>(UDN_DELTAPOS) || notification.hwndFrom != arrows_.get()) {
+    return false;
+  }
+  setValue(steppedValue(value(), reinterpret_cast<const NMUPDOWN&>(notification).iDelta, range_));
+  return true;
+}
 
 void NumberField::fitText() {
   RECT text{};

@@ -1,15 +1,12 @@
 #pragma once
 
-#include <windows.h>
-// Needs windows.h before it.
-#include <commctrl.h>
-
 #include <cstdint>
 #include <optional>
 
 #include "core/value_range.h"
 #include "ui/logic/geometry.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 
@@ -35,9 +32,10 @@ class NumberField {
   [[nodiscard]] std::optional<std::int32_t> typed() const;
   /// Shows value() where something else was typed. For the focus lost.
   void settle();
-  /// Carries out a step that the arrows ask for, from the number that value() gives. The arrows' own step is to be
-  /// refused: it would go on from a number that they have kept while another was typed.
-  void step(const NMUPDOWN& asked);
+  /// Carries out the step that a notification of the arrows (UDN_DELTAPOS) asks for, from the number that value()
+  /// gives. True when it was one of this field's: then the arrows' own step is to be refused, because it would go on
+  /// from a number that they have kept while another was typed.
+  [[nodiscard]] bool takesStep(const NMHDR& notification);
 
   /// Moves the field and puts the arrows into its right end. Repaints nothing.
   void move(const Rect& box);
@@ -56,21 +54,5 @@ class NumberField {
   ValueRange range_;
   std::int32_t value_ = 0;
 };
-
-/// Answers UDN_DELTAPOS for the fields of a window: true when one of them has taken the step, which refuses the arrows'
-/// own.
-template <typename Fields>
-[[nodiscard]] bool stepField(const Fields& fields, const NMHDR& notification) {
-  if (notification.code != static_cast<UINT>(UDN_DELTAPOS)) {
-    return false;
-  }
-  for (NumberField* const field : fields) {
-    if (field->arrows() == notification.hwndFrom) {
-      field->step(reinterpret_cast<const NMUPDOWN&>(notification));
-      return true;
-    }
-  }
-  return false;
-}
 
 }  // namespace quillhue

@@ -1,6 +1,5 @@
-#include <windows.h>
-
 #include "ui/application.h"
+#include "ui/win32/system.h"
 
 // NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): the system's declaration has other names.
 int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*commandLine*/, int showCommand) {

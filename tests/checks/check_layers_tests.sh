@@ -16,7 +16,11 @@ expect() {
 
 expect accepted src/formats/a.cpp '#include "core/palette.h"'
 expect accepted src/core/a.cpp '#include <vector>'
-expect accepted src/ui/win32/a.cpp '#include <windows.h>'
+expect accepted src/ui/win32/system.h '#include <windows.h>'
+expect rejected src/ui/win32/a.cpp '#include <windows.h>'
+expect rejected src/ui/main_window.cpp '#include "ui/tabs/tab.h"'
+expect rejected src/ui/tabs/a.cpp '#include "ui/main_window.h"'
+expect accepted src/ui/application.h '#include "ui/main_window.h"'
 expect accepted src/remap/a.cpp '#include "formats/work_image.h"'
 expect rejected src/remap/a.cpp '#include "formats/files.h"'
 expect rejected src/core/a.cpp '#include "formats/files.h"'

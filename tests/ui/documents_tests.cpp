@@ -1,11 +1,11 @@
 #include <functional>
 #include <future>
 
+#include "commands/command_ids.h"
 #include "core/generators.h"
 #include "core/palette_format.h"
 #include "core/utf8.h"
 #include "support/bitmaps.h"
-#include "ui/logic/command_ids.h"
 #include "ui/resources/dialog_ids.h"
 #include "ui/support/input.h"
 #include "ui/support/menus.h"

@@ -1,7 +1,7 @@
 #include <algorithm>
 
+#include "commands/command_ids.h"
 #include "effects/effects.h"
-#include "ui/logic/command_ids.h"
 #include "ui/support/input.h"
 #include "ui/support/menus.h"
 #include "ui/support/ui_test.h"

@@ -1,6 +1,6 @@
 #include <set>
 
-#include "ui/logic/command_ids.h"
+#include "commands/command_ids.h"
 #include "ui/resources/dialog_ids.h"
 #include "ui/support/input.h"
 #include "ui/support/menus.h"

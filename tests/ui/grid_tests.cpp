@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "ui/logic/command_ids.h"
+#include "commands/command_ids.h"
 #include "ui/support/input.h"
 #include "ui/support/menus.h"
 #include "ui/support/ui_test.h"

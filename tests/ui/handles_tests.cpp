@@ -1,10 +1,7 @@
-#include <windows.h>
-// Needs windows.h before it.
-#include <commctrl.h>
-
-#include "ui/logic/command_ids.h"
+#include "commands/command_ids.h"
 #include "ui/support/resources.h"
 #include "ui/support/ui_test.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 namespace {

@@ -1,7 +1,3 @@
-#include <windows.h>
-// Needs windows.h before it.
-#include <commctrl.h>
-
 #include <array>
 #include <map>
 
@@ -11,6 +7,7 @@
 #include "ui/support/input.h"
 #include "ui/support/menus.h"
 #include "ui/support/ui_test.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 namespace {

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <windows.h>
 
 #include <cstdlib>
 #include <iostream>
@@ -7,6 +6,7 @@
 #include "core/utf8.h"
 #include "ui/support/program.h"
 #include "ui/support/registry.h"
+#include "ui/win32/system.h"
 
 /// ui_tests [FLAG...] PROGRAM: tests the editor, which is the file PROGRAM.
 int main(int argumentCount, char** arguments) {

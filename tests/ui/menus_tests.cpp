@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <functional>
 
-#include "ui/logic/command_ids.h"
+#include "commands/command_ids.h"
 #include "ui/logic/menus.h"
 #include "ui/support/input.h"
 #include "ui/support/menus.h"

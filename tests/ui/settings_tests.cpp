@@ -1,4 +1,4 @@
-#include "ui/logic/command_ids.h"
+#include "commands/command_ids.h"
 #include "ui/logic/window_size.h"
 #include "ui/resources/dialog_ids.h"
 #include "ui/support/menus.h"

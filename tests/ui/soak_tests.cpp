@@ -1,22 +1,19 @@
-#include <windows.h>
-// Needs windows.h before it.
-#include <commctrl.h>
-
 #include <concepts>
 #include <cstdlib>
 #include <iostream>
 #include <random>
 
+#include "commands/command_ids.h"
+#include "commands/command_table.h"
 #include "core/palette_format.h"
 #include "core/utf8.h"
 #include "support/bitmaps.h"
-#include "ui/logic/command_ids.h"
-#include "ui/logic/command_table.h"
 #include "ui/resources/dialog_ids.h"
 #include "ui/support/input.h"
 #include "ui/support/menus.h"
 #include "ui/support/resources.h"
 #include "ui/support/ui_test.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 namespace {

@@ -1,6 +1,6 @@
 #include <chrono>
 
-#include "ui/logic/command_ids.h"
+#include "commands/command_ids.h"
 #include "ui/support/input.h"
 #include "ui/support/use_test.h"
 
@@ -10,7 +10,7 @@ namespace {
 // What comes while an image is remapped.
 class UseRuns : public UseTest {
  protected:
-  static constexpr Size kBig{1500, 1000};
+  static constexpr Size kBig{3000, 2000};
 
   // Opens a palette and an image that is to be dithered; the document is modified if that is wanted.
   void prepare(bool isModified) {
@@ -84,7 +84,7 @@ TEST_F(UseRuns, StopWhereAnotherPaletteIsOpened) {
   runTool({L"remap", L"--force", L"--mode", L"dither", big_, paletteFile("other.pal", twoColors_),
            folder_.name("whole.bmp")});
   // Of each row the tool's file has half a byte a pixel, the other one a byte.
-  constexpr std::size_t kPackedRow = 752;
+  constexpr std::size_t kPackedRow = 1500;
   const std::string whole = folder_.contentOf("whole.bmp");
   const std::string packed = whole.substr(whole.size() - kPackedRow, kBig.width / 2);
   std::string row;

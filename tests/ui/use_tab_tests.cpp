@@ -1,6 +1,6 @@
 #include <functional>
 
-#include "ui/logic/command_ids.h"
+#include "commands/command_ids.h"
 #include "ui/support/input.h"
 #include "ui/support/menus.h"
 #include "ui/support/use_test.h"

@@ -1,6 +1,6 @@
 #include "colormodes/color_models.h"
+#include "commands/command_ids.h"
 #include "ui/logic/bars_layout.h"
-#include "ui/logic/command_ids.h"
 #include "ui/support/input.h"
 #include "ui/support/menus.h"
 #include "ui/support/ui_test.h"

@@ -2,8 +2,6 @@
 #include <string_view>
 
 #include "cli/steps/step.h"
-#include "core/commands/colors.h"
-#include "core/commands/order.h"
 #include "effects/effect_editor.h"
 #include "effects/effects.h"
 
@@ -45,62 +43,36 @@ ParsedStep parseEffect(const std::string& argument) {
   };
 }
 
-struct Swap {
-  std::string_view name;
-  Channel one;
-  Channel other;
-};
-constexpr std::array<Swap, 3> kSwaps{
-    {{"rg", Channel::red, Channel::green}, {"gb", Channel::green, Channel::blue}, {"br", Channel::blue, Channel::red}}};
-
-ParsedStep parseSwap(const std::string& argument) {
-  const Swap* const swap = findByName(kSwaps, argument);
-  if (swap == nullptr) {
-    return Refusal(refusedName(argument, namesOf(kSwaps)));
+// The commands of a step that differ by its argument.
+template <const char* kStep>
+ParsedStep parseChoice(const std::string& argument) {
+  const Command* const command = findStep(kStep, argument);
+  if (argument.empty() || command == nullptr) {
+    return Refusal(refusedName(argument, stepArguments(kStep)));
   }
-  return stepOf([swap](EditSession& session) { swapChannels(session.document(), swap->one, swap->other); });
+  return stepOf(*command);
 }
+constexpr char kSwap[] = "swap";
+constexpr char kSort[] = "sort";
 
-struct SortKey {
-  std::string_view name;
-  void (*sort)(PaletteDocument& document, ChannelMask mask);
-};
-template <Channel kKey>
-void sortBy(PaletteDocument& document, ChannelMask mask) {
-  sortByChannel(document, kKey, mask);
-}
-constexpr std::array<SortKey, 5> kSortKeys{{{"intensity", sortByIntensity},
-                                            {"red", sortBy<Channel::red>},
-                                            {"green", sortBy<Channel::green>},
-                                            {"blue", sortBy<Channel::blue>},
-                                            {"deviation", sortByDeviation}}};
-
-ParsedStep parseSort(const std::string& argument) {
-  const SortKey* const key = findByName(kSortKeys, argument);
-  if (key == nullptr) {
-    return Refusal(refusedName(argument, namesOf(kSortKeys)));
-  }
-  return stepOf([key](EditSession& session) { key->sort(session.document(), session.mask); });
-}
-
-template <void (*kCommand)(PaletteDocument& document, ChannelMask mask)>
+template <const char* kStep>
 ParsedStep parseCommand(const std::string& /*argument*/) {
-  return stepOf([](EditSession& session) { kCommand(session.document(), session.mask); });
+  return stepOf(*findStep(kStep));
 }
+constexpr char kGradient[] = "gradient";
+constexpr char kBrightGradient[] = "bright-gradient";
+constexpr char kReverse[] = "reverse";
 
-ParsedStep parseFill(const std::string& argument) {
-  return entryStepOf(argument,
-                     [](EditSession& session, std::int32_t entry) { fill(session.document(), session.mask, entry); });
-}
+ParsedStep parseFill(const std::string& argument) { return entryStepOf(argument, *findStep("fill")); }
 
 constexpr std::array<StepKind, 7> kSteps{{
     {"--effect", "NAME=VALUE", "Apply an effect; the verb effects lists them", parseEffect},
-    {"--gradient", nullptr, "Lead from the first selected color to the last one", parseCommand<gradient>},
-    {"--bright-gradient", nullptr, "The same, brighter in the middle", parseCommand<brightGradient>},
-    {"--swap", "rg|gb|br", "Exchange two channels", parseSwap},
-    {"--reverse", nullptr, "Reverse the order of the selected colors", parseCommand<reverseSelection>},
+    {"--gradient", nullptr, "Lead from the first selected color to the last one", parseCommand<kGradient>},
+    {"--bright-gradient", nullptr, "The same, brighter in the middle", parseCommand<kBrightGradient>},
+    {"--swap", "rg|gb|br", "Exchange two channels", parseChoice<kSwap>},
+    {"--reverse", nullptr, "Reverse the order of the selected colors", parseCommand<kReverse>},
     {"--sort", "KEY", "Sort the selected colors by intensity, red, green, blue or deviation (from their mean)",
-     parseSort},
+     parseChoice<kSort>},
     {"--fill", "N", "Fill the selected entries with the color of entry N", parseFill},
 }};
 

@@ -78,11 +78,7 @@ ParsedStep parseChannel(const std::string& argument) {
                     EditSession& session, std::int32_t entry) { changeChannel(session, entry, index, bar, value); });
 }
 
-ParsedStep parseUseAsBlank(const std::string& argument) {
-  return entryStepOf(argument, [](EditSession& session, std::int32_t entry) {
-    useAsBlankColor(session.document(), entry, session.tool.settings);
-  });
-}
+ParsedStep parseUseAsBlank(const std::string& argument) { return entryStepOf(argument, *findStep("use-as-blank")); }
 
 constexpr std::array<StepKind, 3> kSteps{{
     {"--set", "N=R,G,B", "Give entry N this color", parseSet},

@@ -8,30 +8,12 @@ namespace quillhue::cli {
 
 namespace {
 
-struct Selection {
-  std::string_view name;
-  void (*select)(PaletteDocument& document);
-};
-constexpr std::array<Selection, 4> kSelections{
-    {{"all", selectAll}, {"none", selectNone}, {"invert", invertSelection}, {"redundant", selectRedundant}}};
-
-struct Comparison {
-  std::string_view name;
-  void (*select)(PaletteDocument& document, std::int32_t current);
-};
-constexpr std::array<Comparison, 3> kComparisons{
-    {{"matches", selectMatches}, {"brighter", selectBrighter}, {"darker", selectDarker}}};
-
 ParsedStep parseSelect(const std::string& argument) {
-  if (const Selection* const selection = findByName(kSelections, argument)) {
-    return stepOf([select = selection->select](EditSession& session) { select(session.document()); });
-  }
   const auto colon = argument.find(':');
-  const Comparison* const comparison = findByName(kComparisons, argument.substr(0, colon));
-  if (colon != std::string::npos && comparison != nullptr) {
-    return entryStepOf(
-        argument.substr(colon + 1),
-        [select = comparison->select](EditSession& session, std::int32_t entry) { select(session.document(), entry); });
+  const Command* const command = findStep("select", argument.substr(0, colon));
+  const bool takesEntry = command != nullptr && command->need == CommandNeed::currentEntry;
+  if (command != nullptr && takesEntry == (colon != std::string::npos)) {
+    return takesEntry ? entryStepOf(argument.substr(colon + 1), *command) : stepOf(*command);
   }
   auto entries = EntryList::parse(argument);
   if (!entries) {

@@ -11,6 +11,7 @@
 #include "cli/refusal.h"
 #include "cli/tool_services.h"
 #include "colormodes/channel_editor.h"
+#include "commands/command_table.h"
 #include "core/document.h"
 
 namespace quillhue::cli {
@@ -21,6 +22,9 @@ struct EditSession {
   EditSession(Palette palette, Console& toolConsole);
 
   [[nodiscard]] PaletteDocument& document() const { return *slot.document(); }
+  [[nodiscard]] PaletteCommandInput commandInput(std::int32_t currentEntry = -1) {
+    return {.document = document(), .settings = tool.settings, .mask = mask, .currentEntry = currentEntry};
+  }
 
   Console& console;
   ToolServices tool;
@@ -64,6 +68,14 @@ Step stepOf(Command command) {
   };
 }
 
+/// A step that carries out a command of the catalogue.
+[[nodiscard]] inline Step stepOf(const Command& command) {
+  return [&command](EditSession& session) -> StepResult {
+    command.change(session.commandInput());
+    return {};
+  };
+}
+
 /// A step of a command that takes an entry, written as `number`.
 template <typename Command>
 ParsedStep entryStepOf(const std::string& number, Command command) {
@@ -80,11 +92,10 @@ ParsedStep entryStepOf(const std::string& number, Command command) {
   };
 }
 
-/// The row of a table of choices whose member `name` is `wanted`; null when there is none.
-template <typename Rows>
-auto findByName(const Rows& rows, const std::string& wanted) -> decltype(std::data(rows)) {
-  const auto place = placeOf(namesOf(rows), wanted);
-  return place ? std::data(rows) + *place : nullptr;
+/// The same for a command of the catalogue.
+[[nodiscard]] inline ParsedStep entryStepOf(const std::string& number, const Command& command) {
+  return entryStepOf(
+      number, [&command](EditSession& session, std::int32_t entry) { command.change(session.commandInput(entry)); });
 }
 
 }  // namespace quillhue::cli

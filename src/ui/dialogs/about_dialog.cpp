@@ -1,9 +1,9 @@
 #include "ui/dialogs/about_dialog.h"
 
 #include "ui/logic/window_texts.h"
-#include "ui/main_window.h"
 #include "ui/resources/dialog_ids.h"
 #include "ui/win32/controls.h"
+#include "ui/win32/dialog_owner.h"
 #include "ui/win32/modal_dialog.h"
 
 namespace quillhue {
@@ -27,10 +27,10 @@ Font nameFont(HFONT font) {
 
 class AboutDialog final : public ModalDialog {
  public:
-  explicit AboutDialog(const MainWindow& owner)
+  explicit AboutDialog(const DialogOwner& owner)
       : owner_(owner), icon_(loadIcon(owner.scale()(kIconSize))), nameFont_(nameFont(owner.font())) {}
 
-  void show() { run(owner_.dialogOwner(), L"DBABOUT", owner_.font()); }
+  void show() { run(owner_.top(), L"DBABOUT", owner_.font()); }
 
  private:
   void opened() override {
@@ -40,13 +40,13 @@ class AboutDialog final : public ModalDialog {
   }
   void command(int /*id*/, int /*notification*/) override { close(); }
 
-  const MainWindow& owner_;
+  const DialogOwner& owner_;
   Icon icon_;
   Font nameFont_;
 };
 
 }  // namespace
 
-void showAboutDialog(const MainWindow& owner) { AboutDialog(owner).show(); }
+void showAboutDialog(const DialogOwner& owner) { AboutDialog(owner).show(); }
 
 }  // namespace quillhue

@@ -2,9 +2,9 @@
 
 namespace quillhue {
 
-class MainWindow;
+class DialogOwner;
 
 /// Tells what the program is; returns when the user has seen it.
-void showAboutDialog(const MainWindow& owner);
+void showAboutDialog(const DialogOwner& owner);
 
 }  // namespace quillhue

@@ -1,13 +1,15 @@
 #include "ui/dialogs/new_palette_dialog.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
 #include "core/palette.h"
-#include "ui/main_window.h"
+#include "core/services.h"
 #include "ui/number_field.h"
 #include "ui/resources/dialog_ids.h"
 #include "ui/win32/controls.h"
+#include "ui/win32/dialog_owner.h"
 #include "ui/win32/drawing.h"
 #include "ui/win32/modal_dialog.h"
 
@@ -28,17 +30,20 @@ constexpr ValueRange kLevels{.minimum = kMinRgbLevel, .maximum = kMaxRgbLevel};
 
 class NewPaletteDialog final : public ModalDialog {
  public:
-  NewPaletteDialog(const MainWindow& owner, NewPaletteKind kind) : owner_(owner), kind_(kind) {}
+  NewPaletteDialog(const DialogOwner& owner, AppSettings& settings, Messages& messages, NewPaletteKind kind)
+      : owner_(owner), settings_(settings), messages_(messages), kind_(kind) {}
 
   std::optional<NewPaletteFields> ask() {
-    run(owner_.dialogOwner(), L"DBNEW", owner_.font());
+    run(owner_.top(), L"DBNEW", owner_.font());
     return accepted_;
   }
 
  private:
   void opened() override;
   void command(int id, int notification) override;
-  [[nodiscard]] bool notified(const NMHDR& notification) override { return stepField(numbers(), notification); }
+  [[nodiscard]] bool notified(const NMHDR& notification) override {
+    return std::ranges::any_of(numbers(), [&](NumberField* number) { return number->takesStep(notification); });
+  }
   void closing() override;
 
   void hideWhatIsNotAsked();
@@ -52,7 +57,9 @@ class NewPaletteDialog final : public ModalDialog {
   void settle(HWND field);
   void accept();
 
-  const MainWindow& owner_;
+  const DialogOwner& owner_;
+  AppSettings& settings_;
+  Messages& messages_;
   NewPaletteKind kind_;
   NumberField size_;
   std::array<NumberField, kLevelControls.size()> levels_;
@@ -60,7 +67,7 @@ class NewPaletteDialog final : public ModalDialog {
 };
 
 void NewPaletteDialog::opened() {
-  const NewPaletteFields initial = newPaletteFields(owner_.settings());
+  const NewPaletteFields initial = newPaletteFields(settings_);
   setWindowText(window(), newPaletteTitle(kind_));
   size_ = NumberField(control(NEW_SIZE), control(NEW_SIZE_ARROWS), kSizes, initial.size);
   for (std::size_t channel = 0; channel < levels_.size(); ++channel) {
@@ -121,13 +128,13 @@ void NewPaletteDialog::settle(HWND field) {
 }
 
 void NewPaletteDialog::accept() {
-  const auto answer = acceptNewPalette(kind_, fields(), owner_.settings());
+  const auto answer = acceptNewPalette(kind_, fields(), settings_);
   if (answer) {
     accepted_ = *answer;
     close();
     return;
   }
-  owner_.services().messages.error(answer.error());
+  messages_.error(answer.error());
   focus(NEW_SIZE);
 }
 
@@ -148,8 +155,9 @@ void NewPaletteDialog::closing() {
 
 }  // namespace
 
-std::optional<NewPaletteFields> askNewPalette(const MainWindow& owner, NewPaletteKind kind) {
-  return NewPaletteDialog(owner, kind).ask();
+std::optional<NewPaletteFields> askNewPalette(const DialogOwner& owner, AppSettings& settings, Messages& messages,
+                                              NewPaletteKind kind) {
+  return NewPaletteDialog(owner, settings, messages, kind).ask();
 }
 
 }  // namespace quillhue

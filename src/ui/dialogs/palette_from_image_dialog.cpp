@@ -2,12 +2,13 @@
 
 #include <string>
 
+#include "core/services.h"
 #include "ui/logic/from_image_dialog.h"
 #include "ui/logic/typed_number.h"
 #include "ui/logic/window_texts.h"
-#include "ui/main_window.h"
 #include "ui/resources/dialog_ids.h"
 #include "ui/win32/controls.h"
+#include "ui/win32/dialog_owner.h"
 #include "ui/win32/modal_dialog.h"
 
 namespace quillhue {
@@ -16,11 +17,11 @@ namespace {
 
 class PaletteFromImageDialog final : public ModalDialog {
  public:
-  PaletteFromImageDialog(const MainWindow& owner, std::uint64_t distinctColors)
-      : owner_(owner), distinctColors_(distinctColors) {}
+  PaletteFromImageDialog(const DialogOwner& owner, Messages& messages, std::uint64_t distinctColors)
+      : owner_(owner), messages_(messages), distinctColors_(distinctColors) {}
 
   std::int32_t ask() {
-    run(owner_.dialogOwner(), L"DBNEWFROMIMAGE", owner_.font());
+    run(owner_.top(), L"DBNEWFROMIMAGE", owner_.font());
     return answer_;
   }
 
@@ -32,7 +33,8 @@ class PaletteFromImageDialog final : public ModalDialog {
   void chooseDefault() const;
   void take(const FromImageAnswer& answer);
 
-  const MainWindow& owner_;
+  const DialogOwner& owner_;
+  Messages& messages_;
   std::uint64_t distinctColors_;
   std::int32_t answer_ = 0;
 };
@@ -58,7 +60,7 @@ void PaletteFromImageDialog::take(const FromImageAnswer& answer) {
     close();
     return;
   }
-  owner_.services().messages.error(answer.error());
+  messages_.error(answer.error());
   focus(FROM_IMAGE_SIZE);
 }
 
@@ -74,8 +76,8 @@ void PaletteFromImageDialog::command(int id, int notification) {
 
 }  // namespace
 
-std::int32_t showPaletteFromImageDialog(const MainWindow& owner, std::uint64_t distinctColors) {
-  return PaletteFromImageDialog(owner, distinctColors).ask();
+std::int32_t showPaletteFromImageDialog(const DialogOwner& owner, Messages& messages, std::uint64_t distinctColors) {
+  return PaletteFromImageDialog(owner, messages, distinctColors).ask();
 }
 
 }  // namespace quillhue

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "ui/logic/command_ids.h"
+#include "commands/command_ids.h"
 
 namespace quillhue {
 

@@ -128,7 +128,7 @@ bool isEnabled(const MenuItem& item, const CommandState& state) {
     return isEnabled(*findCommand(item.command), state);
   }
   return std::ranges::any_of(item.items, [&](const MenuItem& inner) {
-    return inner.command == 0 ? isEnabled(inner, state) : isHandled(findCommand(inner.command)->handler, state.tab);
+    return inner.command == 0 ? isEnabled(inner, state) : isHandled(findCommand(inner.command)->scope, state.tab);
   });
 }
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/logic/command_table.h"
+#include "commands/command_table.h"
 
 namespace quillhue {
 

@@ -10,9 +10,8 @@ namespace {
 void layOutView(UseLayout& layout, Size scrollBar, Scale scale) {
   const Rect& area = layout.surface;
   const std::int32_t top = area.top + scale(24);
-  layout.statusText = {area.left + scale(8), area.top + scale(8)};
   layout.imageArea = {area.left, area.top, area.right - scale(147), area.bottom};
-  layout.statusArea = {area.left, area.top, layout.imageArea.right, top};
+  layout.status = {area.left + scale(8), area.top + scale(8), layout.imageArea.right, top};
   const std::int32_t right = std::max(layout.imageArea.right - scrollBar.width, area.left);
   const std::int32_t bottom = std::max(area.bottom - scrollBar.height, top);
   layout.view = {area.left, top, right, bottom};
@@ -42,10 +41,12 @@ UseLayout useLayout(const Rect& area, Size scrollBar, Scale scale) {
   layout.protectGrid = box(139, 138, {131, 18});
   layout.gridWidth = box(56, 160, {48, 22});
   layout.gridHeight = box(56, 184, {48, 22});
-  layout.widthLabel = corner(104, 162);
-  layout.heightLabel = corner(104, 186);
-  const Point labelEnd = corner(56, 204);
-  layout.labelArea = {layout.widthLabel.x, layout.widthLabel.y, labelEnd.x, labelEnd.y};
+  const auto label = [&](std::int32_t top, const Rect& field) {
+    const Point start = corner(104, top);
+    return Rect{start.x, start.y, corner(56, top).x, field.bottom};
+  };
+  layout.widthLabel = label(162, layout.gridWidth);
+  layout.heightLabel = label(186, layout.gridHeight);
   layout.process = box(139, 216, {60, 22});
   layout.saveAs = box(68, 216, {60, 22});
   return layout;

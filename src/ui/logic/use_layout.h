@@ -9,9 +9,8 @@ struct UseLayout {
   /// All of the tab; the other controls lie on it.
   Rect surface;
 
-  /// Where the status text begins, and the strip that it has to itself.
-  Point statusText;
-  Rect statusArea;
+  /// The status text, above the image.
+  Rect status;
   /// All that is left of the controls, and within it where the image is seen.
   Rect imageArea;
   Rect view;
@@ -27,10 +26,9 @@ struct UseLayout {
   Rect protectGrid;
   Rect gridWidth;
   Rect gridHeight;
-  /// Where the texts beside the grid's numbers begin, and the area that they have to themselves.
-  Point widthLabel;
-  Point heightLabel;
-  Rect labelArea;
+  /// The texts beside the grid's numbers.
+  Rect widthLabel;
+  Rect heightLabel;
   Rect process;
   Rect saveAs;
 };

@@ -9,7 +9,9 @@ ValuesLayout valuesLayout(const GridLayout& grid, Scale scale) {
   const auto field = [&](std::int32_t left) { return boxAt({center + scale(left), fieldsTop}, scale({48, 22})); };
   return {
       .surface = {area.left + grid.rightEdge(), area.top, area.right, area.bottom},
-      .fields = {field(-72), field(-24), field(24)},
+      .leftField = field(-72),
+      .middleField = field(-24),
+      .rightField = field(24),
       .modelList = boxAt({center - scale(58), area.bottom - scale(34)}, scale({116, 256})),
   };
 }

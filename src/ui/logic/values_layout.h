@@ -1,8 +1,5 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
-
 #include "ui/logic/geometry.h"
 #include "ui/logic/grid_layout.h"
 
@@ -12,8 +9,9 @@ namespace quillhue {
 struct ValuesLayout {
   /// The bars are painted on it; the other controls lie on its lower end.
   Rect surface;
-  /// The three numbers, left to right.
-  std::array<Rect, 3> fields;
+  Rect leftField;
+  Rect middleField;
+  Rect rightField;
   /// With the list that drops down.
   Rect modelList;
 };

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
+#include "commands/command_table.h"
 #include "core/utf8.h"
 #include "ui/logic/menus.h"
-#include "ui/main_window.h"
-#include "ui/screens/shared_commands.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
+#include "ui/window_context.h"
 
 namespace quillhue {
 
@@ -18,28 +18,33 @@ constexpr std::int32_t kIconSide = 48;
 
 }  // namespace
 
-IntroUI::IntroUI(MainWindow& window) : window_(window) {
+IntroUI::IntroUI(WindowContext& context) : context_(context), commands_(context) {
   for (const IntroButton& description : introButtons()) {
     buttons_.push_back(makeButton(description));
   }
-  const Rect area = window_.screenArea();
+  const Rect area = context_.frame.screenArea();
   resize({area.width(), area.height()});
 }
 
 IntroUI::Button IntroUI::makeButton(const IntroButton& description) const {
-  const std::int32_t side = window_.scale()(kIconSide);
+  const std::int32_t side = context_.scale(kIconSide);
   Button button{.description = description};
   button.icon.reset(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), fromUtf8(description.icon).c_str(),
                                                   IMAGE_ICON, side, side, LR_DEFAULTCOLOR)));
   button.control =
-      createControl(window_.handle(), nullptr,
+      createControl(context_.window, nullptr,
                     {.windowClass = L"Button", .text = description.text, .style = WS_VISIBLE | WS_TABSTOP | BS_ICON});
   SendMessageW(button.control.get(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(button.icon.get()));
-  button.tooltip = createTooltip(window_.handle(), button.control.get(), description.tooltip);
+  button.tooltip = createTooltip(context_.window, button.control.get(), description.tooltip);
   return button;
 }
 
-void IntroUI::menuCommand(std::int32_t command) { runSharedCommand(window_, command); }
+void IntroUI::menuCommand(std::int32_t command) {
+  const Command* const known = findCommand(command);
+  if (known != nullptr && isHandled(known->scope, ActiveTab::none)) {
+    known->act(commands_, command);
+  }
+}
 
 LRESULT IntroUI::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_CONTEXTMENU && openSystemPalettes(pointOf(lParam))) {
@@ -52,7 +57,7 @@ bool IntroUI::openSystemPalettes(Point screenPoint) {
   const auto button =
       std::ranges::find_if(buttons_, [](const Button& each) { return &each.description == &systemPalettesButton(); });
   const HWND control = button->control.get();
-  const Rect face = introButtonFace(window_.scale());
+  const Rect face = introButtonFace(context_.scale);
   if (screenPoint == Point{-1, -1} && GetFocus() == control) {
     POINT middle{face.width() / 2, face.height() / 2};
     ClientToScreen(control, &middle);
@@ -63,7 +68,7 @@ bool IntroUI::openSystemPalettes(Point screenPoint) {
   if (!face.contains(fromSystem(onButton))) {
     return false;
   }
-  window_.openContextMenu(kNewPopup, screenPoint);
+  context_.frame.openContextMenu(kNewPopup, screenPoint);
   return true;
 }
 
@@ -73,7 +78,7 @@ void IntroUI::resize(Size area) {
   }
   area_ = area;
   for (const Button& button : buttons_) {
-    moveTo(button.control.get(), introButtonBox(button.description, area, window_.scale()));
+    moveTo(button.control.get(), introButtonBox(button.description, area, context_.scale));
   }
 }
 
@@ -81,20 +86,20 @@ void IntroUI::controlNotification(HWND control, WPARAM wParam) {
   const auto button =
       std::ranges::find_if(buttons_, [control](const Button& each) { return each.control.get() == control; });
   if (button != buttons_.end() && HIWORD(wParam) == BN_CLICKED) {
-    runSharedCommand(window_, button->description.command);
+    menuCommand(button->description.command);
   }
 }
 
 // The buttons are left out, so that they do not flicker.
 void IntroUI::paint(HDC dc, const Rect& area) {
-  for (const Rect& box : introBackground({area.width(), area.height()}, window_.scale())) {
+  for (const Rect& box : introBackground({area.width(), area.height()}, context_.scale)) {
     fillBoxWithSystemColor(dc, box, COLOR_BTNFACE);
   }
 }
 
 void IntroUI::documentReplaced() {
   // Ends this screen.
-  window_.showEditor();
+  context_.frame.showEditor();
 }
 
 }  // namespace quillhue

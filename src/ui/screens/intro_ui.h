@@ -1,21 +1,21 @@
 #pragma once
 
-#include <windows.h>
-
 #include <vector>
 
 #include "ui/logic/intro_layout.h"
 #include "ui/main_ui.h"
+#include "ui/screens/shared_commands.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 
-class MainWindow;
+struct WindowContext;
 
 /// The screen of the beginning: a button for each way to get a palette.
 class IntroUI final : public MainUI {
  public:
-  explicit IntroUI(MainWindow& window);
+  explicit IntroUI(WindowContext& context);
 
   void menuCommand(std::int32_t command) override;
   LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -37,7 +37,8 @@ class IntroUI final : public MainUI {
   /// True when the menu was opened. A point of -1, -1 stands for the key that asks for a menu.
   bool openSystemPalettes(Point screenPoint);
 
-  MainWindow& window_;
+  WindowContext& context_;
+  SharedCommands commands_;
   Size area_;
   std::vector<Button> buttons_;
 };

@@ -1,13 +1,31 @@
 #pragma once
 
-#include <cstdint>
+#include "commands/command_target.h"
 
 namespace quillhue {
 
-class MainWindow;
+struct WindowContext;
 
-/// Carries out a command that both screens know: new palettes, opening, leaving, help. False for any other. A document
-/// that it opens may end the intro screen.
-bool runSharedCommand(MainWindow& window, std::int32_t command);
+/// The commands that both screens know: new palettes, opening, leaving, help.
+class SharedCommands : public CommandTarget {
+ public:
+  explicit SharedCommands(WindowContext& context) : context_(context) {}
+
+  /// A document that one of these three opens may end the intro screen.
+  void newPalette(NewPaletteKind kind) override;
+  void newSystemPalette(std::int32_t command) override;
+  void openPalette() override;
+  void exit() override;
+  void showReadMe() override;
+  void showAbout() override;
+
+ protected:
+  [[nodiscard]] WindowContext& context() const { return context_; }
+
+ private:
+  void openUntitled(Palette palette, bool initiallyModified);
+
+  WindowContext& context_;
+};
 
 }  // namespace quillhue

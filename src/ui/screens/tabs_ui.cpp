@@ -1,30 +1,28 @@
 #include "ui/screens/tabs_ui.h"
 
-// Needs windows.h before it.
-#include <commctrl.h>
-
 #include <algorithm>
 #include <string>
 
+#include "commands/command_table.h"
 #include "core/commands/statistics.h"
 #include "core/utf8.h"
 #include "formats/palette_file.h"
 #include "ui/dialogs/new_palette_dialog.h"
 #include "ui/logic/frame_layout.h"
 #include "ui/logic/window_texts.h"
-#include "ui/main_window.h"
-#include "ui/screens/shared_commands.h"
 #include "ui/tabs/effects_tab.h"
 #include "ui/tabs/use_tab.h"
 #include "ui/tabs/values_tab.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
+#include "ui/win32/system.h"
+#include "ui/window_context.h"
 
 namespace quillhue {
 
-TabsUI::TabsUI(MainWindow& window)
-    : window_(window),
-      tabControl_(createControl(window.handle(), window.font(),
+TabsUI::TabsUI(WindowContext& context)
+    : SharedCommands(context),
+      tabControl_(createControl(context.window, context.font,
                                 {.windowClass = WC_TABCONTROLW, .style = WS_TABSTOP | WS_CLIPSIBLINGS})) {
   for (std::size_t i = 0; i < kTabs; ++i) {
     std::wstring title = fromUtf8(kTabTitles[i]);
@@ -33,10 +31,10 @@ TabsUI::TabsUI(MainWindow& window)
     item.pszText = title.data();
     SendMessageW(tabControl_.get(), TCM_INSERTITEMW, i, reinterpret_cast<LPARAM>(&item));
   }
-  moveTo(tabControl_.get(), frameArea(window.screenArea(), window.scale()));
-  tabs_[0] = std::make_unique<ValuesTab>(window);
-  tabs_[1] = std::make_unique<EffectsTab>(window);
-  tabs_[2] = std::make_unique<UseTab>(window);
+  moveTo(tabControl_.get(), frameArea(context.frame.screenArea(), context.scale));
+  tabs_[0] = std::make_unique<ValuesTab>(context);
+  tabs_[1] = std::make_unique<EffectsTab>(context);
+  tabs_[2] = std::make_unique<UseTab>(context);
   for (const auto& tab : tabs_) {
     tab->layout(pageArea());
   }
@@ -45,7 +43,7 @@ TabsUI::TabsUI(MainWindow& window)
   SetWindowPos(tabControl_.get(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   show(tabControl_.get(), true);
   active_->show();
-  window_.focus().give(tabControl_.get());
+  context.focus.give(tabControl_.get());
 }
 
 TabsUI::~TabsUI() {
@@ -54,13 +52,13 @@ TabsUI::~TabsUI() {
 }
 
 Rect TabsUI::pageArea() const {
-  RECT area = toSystem(frameArea(window_.screenArea(), window_.scale()));
+  RECT area = toSystem(frameArea(context().frame.screenArea(), context().scale));
   SendMessageW(tabControl_.get(), TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&area));
   return fromSystem(area);
 }
 
 CommandState TabsUI::commandState() const {
-  const PaletteDocument* const document = window_.document();
+  const PaletteDocument* const document = context().document();
   if (document == nullptr || active_ == nullptr) {
     return {};
   }
@@ -72,64 +70,36 @@ CommandState TabsUI::commandState() const {
 }
 
 void TabsUI::menuCommand(std::int32_t command) {
-  if (runSharedCommand(window_, command)) {
+  const Command* const known = findCommand(command);
+  if (known == nullptr || !isHandled(known->scope, commandState().tab)) {
     return;
   }
-  if (const Command* const known = findCommand(command);
-      known == nullptr || !isHandled(known->handler, commandState().tab)) {
-    return;
+  if (known->change != nullptr) {
+    active_->change(*known);
+  } else {
+    known->act(*this, command);
   }
-  active_->menuCommand(command);
-  frameCommand(command);
-  window_.updateMenus();
+  context().frame.updateMenus();
 }
 
-void TabsUI::frameCommand(std::int32_t command) {
-  PaletteDocument& document = *window_.document();
-  Services& services = window_.services();
-  switch (command) {
-    case command_id::kSave:
-      static_cast<void>(save(document, services));
-      break;
-    case command_id::kSaveAs:
-      static_cast<void>(saveAs(document, services));
-      break;
-    case command_id::kUndo:
-      stepThroughHistory(&PaletteDocument::undo);
-      break;
-    case command_id::kRedo:
-      stepThroughHistory(&PaletteDocument::redo);
-      break;
-    case command_id::kCut:
-      if (active_->copy()) {
-        active_->clear();
-      }
-      break;
-    case command_id::kCopy:
-      static_cast<void>(active_->copy());
-      break;
-    case command_id::kPaste:
-      active_->paste();
-      break;
-    case command_id::kClear:
-      active_->clear();
-      break;
-    case command_id::kResize:
-      resizePalette();
-      break;
-    case command_id::kCountColors:
-      reportColorCount(document, services.messages);
-      break;
-    case command_id::kAverageColor:
-      reportAverageColor(document, services.messages);
-      break;
-    default:
-      break;
+void TabsUI::savePalette() { static_cast<void>(save(*context().document(), context().services)); }
+
+void TabsUI::savePaletteAs() { static_cast<void>(saveAs(*context().document(), context().services)); }
+
+void TabsUI::cut() {
+  if (active_->copy()) {
+    active_->clear();
   }
 }
+
+void TabsUI::copy() { static_cast<void>(active_->copy()); }
+
+void TabsUI::countColors() { reportColorCount(*context().document(), context().services.messages); }
+
+void TabsUI::averageColor() { reportAverageColor(*context().document(), context().services.messages); }
 
 void TabsUI::stepThroughHistory(void (PaletteDocument::*step)()) {
-  PaletteDocument& document = *window_.document();
+  PaletteDocument& document = *context().document();
   const std::int32_t size = document.getSize();
   (document.*step)();
   if (document.getSize() == size) {
@@ -140,15 +110,17 @@ void TabsUI::stepThroughHistory(void (PaletteDocument::*step)()) {
 }
 
 void TabsUI::resizePalette() {
-  if (const auto fields = askNewPalette(window_, NewPaletteKind::sizeOnly)) {
-    window_.document()->resize(fields->size);
+  const auto fields = askNewPalette(context().windowServices.dialogOwner, context().settings(),
+                                    context().services.messages, NewPaletteKind::sizeOnly);
+  if (fields) {
+    context().document()->resize(fields->size);
     rebuild(DocumentChange::resized);
   }
 }
 
 void TabsUI::rebuild(DocumentChange change) {
   // A control that is hidden loses the focus.
-  const HWND focused = window_.focus().current();
+  const HWND focused = context().focus.current();
   active_->hide();
   for (const auto& tab : tabs_) {
     tab->documentReplaced(change);
@@ -156,10 +128,10 @@ void TabsUI::rebuild(DocumentChange change) {
   }
   active_->show();
   if (focused != nullptr) {
-    window_.focus().give(focused);
+    context().focus.give(focused);
   }
-  repaintAll(window_.handle());
-  UpdateWindow(window_.handle());
+  repaintAll(context().window);
+  UpdateWindow(context().window);
 }
 
 LRESULT TabsUI::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -186,13 +158,13 @@ void TabsUI::chooseTab() {
   active_ = tabs_[std::min(page, kTabs - 1)].get();
   active_->layout(pageArea());
   active_->show();
-  window_.updateMenus();
-  repaintAll(window_.handle());
-  UpdateWindow(window_.handle());
+  context().frame.updateMenus();
+  repaintAll(context().window);
+  UpdateWindow(context().window);
 }
 
 void TabsUI::resize(Size area) {
-  moveTo(tabControl_.get(), frameArea({0, 0, area.width, area.height}, window_.scale()));
+  moveTo(tabControl_.get(), frameArea({0, 0, area.width, area.height}, context().scale));
   active_->layout(pageArea());
 }
 
@@ -203,7 +175,7 @@ void TabsUI::controlNotification(HWND control, WPARAM wParam) {
 }
 
 void TabsUI::paint(HDC dc, const Rect& area) {
-  for (const Rect& box : frameBackground(area, window_.scale())) {
+  for (const Rect& box : frameBackground(area, context().scale)) {
     fillBoxWithSystemColor(dc, box, COLOR_BTNFACE);
   }
 }

@@ -1,25 +1,23 @@
 #pragma once
 
-#include <windows.h>
-
 #include <array>
 #include <cstddef>
 #include <memory>
 
 #include "core/document.h"
 #include "ui/main_ui.h"
+#include "ui/screens/shared_commands.h"
 #include "ui/tabs/tab.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 
-class MainWindow;
-
 /// The screen of a palette: three tabs, of which one is active and visible, and the commands on the document as a
 /// whole. There is a document as long as this lives.
-class TabsUI final : public MainUI {
+class TabsUI final : public MainUI, private SharedCommands {
  public:
-  explicit TabsUI(MainWindow& window);
+  explicit TabsUI(WindowContext& context);
   TabsUI(const TabsUI&) = delete;
   TabsUI& operator=(const TabsUI&) = delete;
   ~TabsUI() override;
@@ -38,12 +36,23 @@ class TabsUI final : public MainUI {
   /// The page's area in the main window.
   [[nodiscard]] Rect pageArea() const;
   void chooseTab();
-  void frameCommand(std::int32_t command);
+
+  void savePalette() override;
+  void savePaletteAs() override;
+  void undo() override { stepThroughHistory(&PaletteDocument::undo); }
+  void redo() override { stepThroughHistory(&PaletteDocument::redo); }
+  void cut() override;
+  void copy() override;
+  void paste() override { active_->paste(); }
+  void clear() override { active_->clear(); }
+  void resizePalette() override;
+  void countColors() override;
+  void averageColor() override;
+  void editColor() override { active_->editColor(); }
+
   void stepThroughHistory(void (PaletteDocument::*step)());
-  void resizePalette();
   void rebuild(DocumentChange change);
 
-  MainWindow& window_;
   Window tabControl_;
   // In the order of the pages.
   std::array<std::unique_ptr<Tab>, kTabs> tabs_;

@@ -1,19 +1,18 @@
 #include "ui/services/clipboard.h"
 
-#include "ui/main_window.h"
 #include "ui/win32/clipboard.h"
 #include "ui/win32/logical_palette.h"
 
 namespace quillhue {
 
 bool Clipboard::put(std::span<const PaletteEntry> entries) {
-  ClipboardAccess clipboard(owner_.handle());
+  ClipboardAccess clipboard(owner_.window());
   clipboard.empty();
   return entries.empty() ? static_cast<bool>(clipboard) : clipboard.put(createLogicalPalette(entries));
 }
 
 std::expected<std::vector<PaletteEntry>, NoPalette> Clipboard::get() {
-  const ClipboardAccess clipboard(owner_.handle());
+  const ClipboardAccess clipboard(owner_.window());
   if (!clipboard) {
     return std::unexpected(NoPalette::unavailable);
   }
@@ -25,13 +24,13 @@ std::expected<std::vector<PaletteEntry>, NoPalette> Clipboard::get() {
 }
 
 bool Clipboard::putBitmap(std::span<const std::uint8_t> block) {
-  ClipboardAccess clipboard(owner_.handle());
+  ClipboardAccess clipboard(owner_.window());
   clipboard.empty();
   return clipboard.put(CF_DIB, block);
 }
 
 std::optional<std::vector<std::uint8_t>> Clipboard::getBitmap() const {
-  return ClipboardAccess(owner_.handle()).bytes(CF_DIB);
+  return ClipboardAccess(owner_.window()).bytes(CF_DIB);
 }
 
 }  // namespace quillhue

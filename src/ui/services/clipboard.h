@@ -7,16 +7,15 @@
 #include <vector>
 
 #include "core/services.h"
+#include "ui/win32/dialog_owner.h"
 
 namespace quillhue {
-
-class MainWindow;
 
 /// The system's clipboard, on which the program puts palettes (CF_PALETTE) and bitmaps (CF_DIB).
 class Clipboard final : public PaletteClipboard {
  public:
   /// `owner` owns what is put there.
-  explicit Clipboard(const MainWindow& owner) : owner_(owner) {}
+  explicit Clipboard(const DialogOwner& owner) : owner_(owner) {}
 
   [[nodiscard]] bool put(std::span<const PaletteEntry> entries) override;
   [[nodiscard]] std::expected<std::vector<PaletteEntry>, NoPalette> get() override;
@@ -28,7 +27,7 @@ class Clipboard final : public PaletteClipboard {
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> getBitmap() const;
 
  private:
-  const MainWindow& owner_;
+  const DialogOwner& owner_;
 };
 
 }  // namespace quillhue

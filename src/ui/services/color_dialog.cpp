@@ -1,14 +1,10 @@
 #include "ui/services/color_dialog.h"
 
-#include <windows.h>
-// Needs windows.h before it.
-#include <commdlg.h>
-
 #include <algorithm>
 #include <array>
 
-#include "ui/main_window.h"
 #include "ui/win32/drawing.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 
@@ -18,7 +14,7 @@ std::optional<PaletteEntry> ColorDialog::chooseColor(PaletteEntry initial,
   std::ranges::transform(custom, customColors.begin(), [](const PaletteEntry& color) { return toSystem(color); });
   CHOOSECOLORW question{};
   question.lStructSize = sizeof question;
-  question.hwndOwner = owner_.dialogOwner();
+  question.hwndOwner = owner_.top();
   question.rgbResult = toSystem(initial);
   question.lpCustColors = customColors.data();
   question.Flags = CC_RGBINIT | CC_FULLOPEN;

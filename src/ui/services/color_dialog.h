@@ -4,21 +4,20 @@
 #include <span>
 
 #include "core/services.h"
+#include "ui/win32/dialog_owner.h"
 
 namespace quillhue {
-
-class MainWindow;
 
 /// The system's color chooser, open at full size.
 class ColorDialog final : public ColorChooser {
  public:
-  explicit ColorDialog(const MainWindow& owner) : owner_(owner) {}
+  explicit ColorDialog(const DialogOwner& owner) : owner_(owner) {}
 
   [[nodiscard]] std::optional<PaletteEntry> chooseColor(PaletteEntry initial,
                                                         std::span<const PaletteEntry, kCustomColors> custom) override;
 
  private:
-  const MainWindow& owner_;
+  const DialogOwner& owner_;
 };
 
 }  // namespace quillhue

@@ -4,7 +4,6 @@
 
 #include "ui/dialogs/palette_from_image_dialog.h"
 #include "ui/logic/window_texts.h"
-#include "ui/main_window.h"
 #include "ui/services/file_types.h"
 
 namespace quillhue {
@@ -12,12 +11,12 @@ namespace quillhue {
 namespace {
 
 template <typename File>
-std::optional<File> chosen(const MainWindow& owner, std::expected<File, NoFile> answer) {
+std::optional<File> chosen(Messages& messages, std::expected<File, NoFile> answer) {
   if (answer) {
     return std::move(*answer);
   }
   if (answer.error() == NoFile::nameTooLong) {
-    owner.services().messages.error(kNameTooLongText);
+    messages.error(kNameTooLongText);
   }
   return std::nullopt;
 }
@@ -25,29 +24,28 @@ std::optional<File> chosen(const MainWindow& owner, std::expected<File, NoFile> 
 }  // namespace
 
 std::optional<std::wstring> FileDialogs::askOpenPalette() const {
-  return chosen(owner_, askFileToOpen(owner_.dialogOwner(), openPaletteTypes()));
+  return chosen(messages_, askFileToOpen(owner_.top(), openPaletteTypes()));
 }
 
 std::optional<std::wstring> FileDialogs::askOpenImage() const {
-  return chosen(owner_, askFileToOpen(owner_.dialogOwner(), openImageTypes()));
+  return chosen(messages_, askFileToOpen(owner_.top(), openImageTypes()));
 }
 
 std::optional<std::wstring> FileDialogs::askSaveBitmap() const {
   const auto types = saveBitmapTypes();
   auto file =
-      chosen(owner_, askFileToSave(owner_.dialogOwner(), {.types = types, .extension = L"bmp", .asksToReplace = true}));
+      chosen(messages_, askFileToSave(owner_.top(), {.types = types, .extension = L"bmp", .asksToReplace = true}));
   return file ? std::optional(std::move(file->name)) : std::nullopt;
 }
 
 std::optional<SaveAsAnswer> FileDialogs::askSaveAs(PaletteFormat preselected) {
   const auto types = savePaletteTypes();
-  auto file =
-      chosen(owner_, askFileToSave(owner_.dialogOwner(), {.types = types, .type = preselected, .nameLength = 256}));
+  auto file = chosen(messages_, askFileToSave(owner_.top(), {.types = types, .type = preselected, .nameLength = 256}));
   return file ? std::optional(SaveAsAnswer{std::move(file->name), file->type}) : std::nullopt;
 }
 
 std::int32_t FileDialogs::askPaletteFromImage(std::uint64_t distinctColors) {
-  const std::int32_t answer = showPaletteFromImageDialog(owner_, distinctColors);
+  const std::int32_t answer = showPaletteFromImageDialog(owner_, messages_, distinctColors);
   // Making the palette may take long; the dialog has put the cursor back.
   SetCursor(LoadCursorW(nullptr, IDC_WAIT));
   return answer;

@@ -5,16 +5,15 @@
 #include <string>
 
 #include "core/services.h"
+#include "ui/win32/dialog_owner.h"
 
 namespace quillhue {
-
-class MainWindow;
 
 /// The system's dialogs for file names, and the question how to make a palette of an image. Each gives nothing when
 /// the user cancels, or is told that the name is too long.
 class FileDialogs final : public FileQuestions {
  public:
-  explicit FileDialogs(const MainWindow& owner) : owner_(owner) {}
+  FileDialogs(const DialogOwner& owner, Messages& messages) : owner_(owner), messages_(messages) {}
 
   /// A file to open as a palette, or as an image to remap.
   [[nodiscard]] std::optional<std::wstring> askOpenPalette() const;
@@ -26,7 +25,8 @@ class FileDialogs final : public FileQuestions {
   std::int32_t askPaletteFromImage(std::uint64_t distinctColors) override;
 
  private:
-  const MainWindow& owner_;
+  const DialogOwner& owner_;
+  Messages& messages_;
 };
 
 }  // namespace quillhue

@@ -1,17 +1,15 @@
 #include "ui/services/message_boxes.h"
 
-#include <windows.h>
-
 #include "core/utf8.h"
 #include "ui/logic/window_texts.h"
-#include "ui/main_window.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 
 namespace {
 
-int show(const MainWindow& owner, std::string_view text, std::string_view caption, UINT style) {
-  return MessageBoxW(owner.dialogOwner(), fromUtf8(text).c_str(), fromUtf8(caption).c_str(), style);
+int show(const DialogOwner& owner, std::string_view text, std::string_view caption, UINT style) {
+  return MessageBoxW(owner.top(), fromUtf8(text).c_str(), fromUtf8(caption).c_str(), style);
 }
 
 }  // namespace

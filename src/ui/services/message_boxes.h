@@ -3,15 +3,14 @@
 #include <string_view>
 
 #include "core/services.h"
+#include "ui/win32/dialog_owner.h"
 
 namespace quillhue {
-
-class MainWindow;
 
 /// Messages and questions as message boxes over the main window or the dialog that is open on it.
 class MessageBoxes final : public Messages {
  public:
-  explicit MessageBoxes(const MainWindow& owner) : owner_(owner) {}
+  explicit MessageBoxes(const DialogOwner& owner) : owner_(owner) {}
 
   void information(std::string_view text) override;
   void error(std::string_view text) override;
@@ -19,7 +18,7 @@ class MessageBoxes final : public Messages {
   bool askReplaceFile(std::string_view text) override;
 
  private:
-  const MainWindow& owner_;
+  const DialogOwner& owner_;
 };
 
 }  // namespace quillhue

@@ -1,9 +1,8 @@
 #include "ui/services/registry_settings.h"
 
-#include <windows.h>
-
 #include "core/utf8.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <windows.h>
-
 #include "colormodes/color_mode.h"
 #include "ui/logic/bars_layout.h"
 #include "ui/logic/geometry.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <optional>
 
@@ -9,6 +7,7 @@
 #include "ui/logic/bars_layout.h"
 #include "ui/logic/wheel_sum.h"
 #include "ui/win32/subclassed_control.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

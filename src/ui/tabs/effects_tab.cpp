@@ -1,54 +1,58 @@
 #include "ui/tabs/effects_tab.h"
 
-#include <cstddef>
-
+#include "commands/command_table.h"
 #include "core/commands/exchange.h"
 #include "effects/effects.h"
-#include "ui/logic/effects_layout.h"
 #include "ui/logic/menus.h"
-#include "ui/logic/palette_commands.h"
-#include "ui/main_window.h"
 #include "ui/win32/controls.h"
+#include "ui/window_context.h"
 
 namespace quillhue {
 
-EffectsTab::EffectsTab(MainWindow& window)
-    : PaletteTab(window, kEffectsPopup),
+EffectsTab::EffectsTab(WindowContext& context)
+    : PaletteTab(context, kEffectsPopup),
       rowCursor_(static_cast<HCURSOR>(
           LoadImageW(GetModuleHandleW(nullptr), L"ROWCURSOR", IMAGE_CURSOR, 0, 0, LR_DEFAULTSIZE))),
-      channelBoxes_{makeButton("&Red", BS_AUTOCHECKBOX), makeButton("&Green", BS_AUTOCHECKBOX),
-                    makeButton("&Blue", BS_AUTOCHECKBOX)},
-      previewBox_(makeButton("Pre&view", BS_AUTOCHECKBOX)),
-      reset_(makeButton("Re&set", BS_PUSHBUTTON)),
-      // The labels have no size: they are the controls' names for a screen reader.
-      valueLabel_(createControl(window.handle(), nullptr, {.windowClass = L"Static", .text = "Value:"})),
-      value_(window.handle(), window.font(), ES_RIGHT),
-      effectLabel_(createControl(window.handle(), nullptr, {.windowClass = L"Static", .text = "Effect:"})),
-      effects_(createControl(window.handle(), window.font(),
-                             {.windowClass = L"ComboBox", .style = WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST})),
-      apply_(makeButton("&Apply", BS_PUSHBUTTON)),
-      surface_(createControl(window.handle(), nullptr, {.windowClass = L"Static", .style = WS_CLIPSIBLINGS})),
-      selection_(window.slot(), window.settings()),
-      editor_(window.slot(), window.settings(), window.services().clipboard) {
-  for (const Window& box : channelBoxes_) {
-    tick(box.get(), true);
+      channelBoxes_{{addButton("&Red", BS_AUTOCHECKBOX, &EffectsLayout::red),
+                     addButton("&Green", BS_AUTOCHECKBOX, &EffectsLayout::green),
+                     addButton("&Blue", BS_AUTOCHECKBOX, &EffectsLayout::blue)}},
+      previewBox_(addButton("Pre&view", BS_AUTOCHECKBOX, &EffectsLayout::preview)),
+      reset_(addButton("Re&set", BS_PUSHBUTTON, &EffectsLayout::reset)),
+      selection_(context.slot, context.settings()),
+      editor_(context.slot, context.settings(), context.services.clipboard) {
+  const HWND parent = context.window;
+  // The labels have no size: they are the controls' names for a screen reader.
+  controls_.add(createControl(parent, nullptr, {.windowClass = L"Static", .text = "Value:"}));
+  value_ = NumberField(parent, context.font, ES_RIGHT);
+  controls_.add(value_, &EffectsLayout::value);
+  controls_.add(createControl(parent, nullptr, {.windowClass = L"Static", .text = "Effect:"}));
+  effects_ =
+      controls_.add(createControl(parent, context.font,
+                                  {.windowClass = L"ComboBox", .style = WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST}),
+                    &EffectsLayout::effectList);
+  apply_ = addButton("&Apply", BS_PUSHBUTTON, &EffectsLayout::apply);
+  controls_.add(createControl(parent, nullptr, {.windowClass = L"Static", .style = WS_CLIPSIBLINGS}),
+                &EffectsLayout::surface);
+  for (const HWND box : channelBoxes_) {
+    tick(box, true);
   }
-  tick(previewBox_.get(), true);
+  tick(previewBox_, true);
   for (const EffectDescription* const effect : effects()) {
-    addItem(effects_.get(), effect->label);
+    addItem(effects_, effect->label);
   }
-  chooseItem(effects_.get(), window.settings().effect);
+  chooseItem(effects_, context.settings().effect);
 }
 
-Window EffectsTab::makeButton(std::string_view text, DWORD kind) const {
-  return createControl(window().handle(), window().font(),
-                       {.windowClass = L"Button", .text = text, .style = WS_TABSTOP | kind});
+HWND EffectsTab::addButton(std::string_view text, DWORD kind, Rect EffectsLayout::* box) {
+  return controls_.add(createControl(context().window, context().font,
+                                     {.windowClass = L"Button", .text = text, .style = WS_TABSTOP | kind}),
+                       box);
 }
 
 ChannelMask EffectsTab::mask() const {
   ChannelMask ticked = 0;
   for (const Channel channel : kChannels) {
-    if (isTicked(channelBoxes_[static_cast<std::size_t>(channel)].get())) {
+    if (isTicked(channelBoxes_[channel])) {
       ticked |= maskOf(channel);
     }
   }
@@ -56,7 +60,7 @@ ChannelMask EffectsTab::mask() const {
 }
 
 LRESULT EffectsTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_NOTIFY && stepField(std::array{&value_}, *reinterpret_cast<const NMHDR*>(lParam))) {
+  if (message == WM_NOTIFY && controls_.step(*reinterpret_cast<const NMHDR*>(lParam))) {
     return TRUE;
   }
   if (message == WM_CLIPBOARDUPDATE) {
@@ -82,9 +86,9 @@ void EffectsTab::controlNotification(HWND control, WPARAM wParam) {
     } else if (code == EN_KILLFOCUS) {
       value_.settle();
     }
-  } else if (control == effects_.get()) {
+  } else if (control == effects_) {
     if (code == CBN_SELCHANGE) {
-      editor_.choose(chosenItem(effects_.get()));
+      editor_.choose(chosenItem(effects_));
       showValue();
       repaintGrid();
     }
@@ -94,10 +98,10 @@ void EffectsTab::controlNotification(HWND control, WPARAM wParam) {
 }
 
 void EffectsTab::buttonClicked(HWND button) {
-  if (button == reset_.get()) {
+  if (button == reset_) {
     editor_.reset();
     value_.setValue(editor_.effect().getValue());
-  } else if (button == apply_.get()) {
+  } else if (button == apply_) {
     selection_.finish();
     editor_.apply(mask());
     value_.setValue(editor_.effect().getValue());
@@ -114,31 +118,29 @@ void EffectsTab::showValue() {
   value_.setValue(value);
 }
 
-bool EffectsTab::copy() { return copySelection(document(), window().services().clipboard); }
+bool EffectsTab::copy() { return copySelection(document(), context().services.clipboard); }
 
 void EffectsTab::paste() {
-  pasteIntoSelection(document(), mask(), window().services().clipboard);
+  pasteIntoSelection(document(), mask(), context().services.clipboard);
   repaintGrid();
 }
 
 void EffectsTab::clear() {
-  clearSelection(document(), mask(), window().settings().blank);
+  clearSelection(document(), mask(), context().settings().blank);
   repaintGrid();
 }
 
-void EffectsTab::menuCommand(std::int32_t command) {
+void EffectsTab::change(const Command& command) {
   selection_.finish();
-  if (runPaletteCommand(
-          command,
-          {.document = document(), .settings = window().settings(), .mask = mask(), .currentEntry = currentEntry()})) {
-    repaintGrid();
-  }
+  command.change(
+      {.document = document(), .settings = context().settings(), .mask = mask(), .currentEntry = currentEntry()});
+  repaintGrid();
 }
 
 void EffectsTab::pressGrid(Point point, GridSelection::Keys keys) {
   selection_.press(grid(), point, keys);
   repaintGrid();
-  window().updateMenus();
+  context().frame.updateMenus();
 }
 
 void EffectsTab::dragGrid(Point point) {
@@ -155,7 +157,7 @@ void EffectsTab::moveByKey(GridKey key, GridSelection::Keys keys) {
     selection_.moveTo(index);
   }
   repaintGrid();
-  window().updateMenus();
+  context().frame.updateMenus();
 }
 
 void EffectsTab::pressSpace(GridSelection::Keys keys) {
@@ -165,7 +167,7 @@ void EffectsTab::pressSpace(GridSelection::Keys keys) {
 }
 
 HCURSOR EffectsTab::gridCursor() const {
-  return window().settings().selectionMode == SelectionMode::row ? rowCursor_.get() : nullptr;
+  return context().settings().selectionMode == SelectionMode::row ? rowCursor_.get() : nullptr;
 }
 
 void EffectsTab::chooseEntry(std::int32_t index) {
@@ -176,31 +178,14 @@ void EffectsTab::chooseEntry(std::int32_t index) {
 GridPicture EffectsTab::picture() {
   const Palette& preview = editor_.preview(mask());
   const Palette& own = document().getPalette();
-  return {.palette = isTicked(previewBox_.get()) ? preview : own,
-          .selected = own.selected(),
-          .currentEntry = currentEntry()};
+  return {.palette = isTicked(previewBox_) ? preview : own, .selected = own.selected(), .currentEntry = currentEntry()};
 }
 
 void EffectsTab::layOutControls() {
-  const EffectsLayout layout = effectsLayout(grid(), window().scale());
-  moveTo(channelBoxes_[0].get(), layout.red);
-  moveTo(channelBoxes_[1].get(), layout.green);
-  moveTo(channelBoxes_[2].get(), layout.blue);
-  moveTo(previewBox_.get(), layout.preview);
-  moveTo(reset_.get(), layout.reset);
-  value_.move(layout.value);
+  controls_.move(effectsLayout(grid(), context().scale));
   showValue();
-  moveTo(effects_.get(), layout.effectList);
-  moveTo(apply_.get(), layout.apply);
-  moveTo(surface_.get(), layout.surface);
 }
 
-void EffectsTab::showControls(bool visible) {
-  for (const Window* const control : {&channelBoxes_[0], &channelBoxes_[1], &channelBoxes_[2], &previewBox_, &reset_,
-                                      &valueLabel_, &effectLabel_, &effects_, &apply_, &surface_}) {
-    quillhue::show(control->get(), visible);
-  }
-  value_.show(visible);
-}
+void EffectsTab::showControls(bool visible) { controls_.show(visible); }
 
 }  // namespace quillhue

@@ -1,23 +1,24 @@
 #pragma once
 
-#include <windows.h>
-
-#include <array>
 #include <cstdint>
 #include <string_view>
 
+#include "core/enum_array.h"
 #include "effects/effect_editor.h"
+#include "ui/logic/effects_layout.h"
 #include "ui/logic/grid_selection.h"
 #include "ui/number_field.h"
+#include "ui/tabs/page_controls.h"
 #include "ui/tabs/palette_tab.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 
 /// "Apply Effects": selects entries on the grid, and changes those that are selected.
 class EffectsTab final : public PaletteTab {
  public:
-  explicit EffectsTab(MainWindow& window);
+  explicit EffectsTab(WindowContext& context);
 
   LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
   void controlNotification(HWND control, WPARAM wParam) override;
@@ -25,7 +26,7 @@ class EffectsTab final : public PaletteTab {
   bool copy() override;
   void paste() override;
   void clear() override;
-  void menuCommand(std::int32_t command) override;
+  void change(const Command& command) override;
 
   void pressGrid(Point point, GridSelection::Keys keys) override;
   void dragGrid(Point point) override;
@@ -44,22 +45,20 @@ class EffectsTab final : public PaletteTab {
   void layOutControls() override;
   void showControls(bool visible) override;
 
-  [[nodiscard]] Window makeButton(std::string_view text, DWORD kind) const;
+  HWND addButton(std::string_view text, DWORD kind, Rect EffectsLayout::* box);
   /// The channels whose boxes are ticked.
   [[nodiscard]] ChannelMask mask() const;
   void buttonClicked(HWND button);
   void showValue();
 
   Cursor rowCursor_;
-  std::array<Window, 3> channelBoxes_;
-  Window previewBox_;
-  Window reset_;
-  Window valueLabel_;
+  PageControls<EffectsLayout> controls_;
+  EnumArray<Channel, HWND, kChannels.size()> channelBoxes_;
+  HWND previewBox_;
+  HWND reset_;
   NumberField value_;
-  Window effectLabel_;
-  Window effects_;
-  Window apply_;
-  Window surface_;
+  HWND effects_ = nullptr;
+  HWND apply_ = nullptr;
   GridSelection selection_;
   EffectEditor editor_;
 };

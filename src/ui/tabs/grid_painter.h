@@ -1,13 +1,12 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <span>
 
 #include "core/palette.h"
 #include "ui/logic/geometry.h"
 #include "ui/logic/grid_layout.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

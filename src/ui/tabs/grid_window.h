@@ -1,13 +1,12 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 
 #include "ui/logic/geometry.h"
 #include "ui/logic/grid_navigation.h"
 #include "ui/logic/grid_selection.h"
 #include "ui/win32/custom_window.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

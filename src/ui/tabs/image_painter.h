@@ -1,11 +1,10 @@
 #pragma once
 
-#include <windows.h>
-
 #include "formats/work_image.h"
 #include "remap/remapped_image.h"
 #include "ui/logic/geometry.h"
 #include "ui/logic/image_view.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -2,20 +2,20 @@
 
 #include <utility>
 
-#include "ui/main_window.h"
 #include "ui/tabs/image_painter.h"
 #include "ui/tabs/scroll_bar.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
+#include "ui/window_context.h"
 
 namespace quillhue {
 
-ImageView::ImageView(const MainWindow& window, std::function<void(const std::wstring& name)> fileDropped)
-    : window_(window),
+ImageView::ImageView(const WindowContext& context, std::function<void(const std::wstring& name)> fileDropped)
+    : context_(context),
       fileDropped_(std::move(fileDropped)),
-      horizontal_{.bar = createControl(window.handle(), nullptr, {.windowClass = L"ScrollBar", .style = SBS_HORZ})},
-      vertical_{.bar = createControl(window.handle(), nullptr, {.windowClass = L"ScrollBar", .style = SBS_VERT})},
-      view_(window.handle(), *this) {}
+      horizontal_{.bar = createControl(context.window, nullptr, {.windowClass = L"ScrollBar", .style = SBS_HORZ})},
+      vertical_{.bar = createControl(context.window, nullptr, {.windowClass = L"ScrollBar", .style = SBS_VERT})},
+      view_(context.window, *this) {}
 
 void ImageView::showImage(const WorkImage* image) {
   image_ = image;
@@ -42,7 +42,7 @@ void ImageView::addRows(const RemappedImage& result, const RowRange& rows) {
 }
 
 RowRange ImageView::visibleRows() const {
-  return quillhue::visibleRows(vertical_.position, areaHeight_, window_.scale());
+  return quillhue::visibleRows(vertical_.position, areaHeight_, context_.scale);
 }
 
 void ImageView::layout(const UseLayout& layout) {
@@ -85,7 +85,7 @@ void ImageView::paintImage(HDC dc, const Rect& box) {
   }
   const Point offset{horizontal_.position, vertical_.position};
   if (result_ != nullptr) {
-    paintRows(dc, box, offset, *result_, window_.settings().blank, {0, resultRows_});
+    paintRows(dc, box, offset, *result_, context_.settings().blank, {0, resultRows_});
   }
   paintRows(dc, box, offset, *image_, {resultRows_, image_->height()});
 }

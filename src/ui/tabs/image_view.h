@@ -1,7 +1,5 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -14,16 +12,17 @@
 #include "ui/logic/wheel_sum.h"
 #include "ui/tabs/image_window.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 
-class MainWindow;
+struct WindowContext;
 
 /// Shows an image, or the part of it that is scrolled to, and what becomes of it row by row.
 class ImageView final : private ImageClient {
  public:
   /// `fileDropped` gets the name of a file that is dropped on the image.
-  ImageView(const MainWindow& window, std::function<void(const std::wstring& name)> fileDropped);
+  ImageView(const WindowContext& context, std::function<void(const std::wstring& name)> fileDropped);
 
   [[nodiscard]] HWND handle() const { return view_.handle(); }
 
@@ -61,7 +60,7 @@ class ImageView final : private ImageClient {
   void scrollTo(Scrolling& scrolling, std::int32_t position);
   void refreshScrolling();
 
-  const MainWindow& window_;
+  const WindowContext& context_;
   std::function<void(const std::wstring& name)> fileDropped_;
   Scrolling horizontal_;
   Scrolling vertical_;

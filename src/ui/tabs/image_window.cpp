@@ -1,14 +1,12 @@
 #include "ui/tabs/image_window.h"
 
-// Needs windows.h before it.
-#include <shellapi.h>
-
 #include <algorithm>
 #include <array>
 
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <string>
 
 #include "ui/logic/geometry.h"
 #include "ui/logic/image_view.h"
 #include "ui/win32/custom_window.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

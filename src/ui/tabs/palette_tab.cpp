@@ -1,15 +1,15 @@
 #include "ui/tabs/palette_tab.h"
 
-#include "ui/main_window.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
+#include "ui/window_context.h"
 
 namespace quillhue {
 
-PaletteTab::PaletteTab(MainWindow& window, std::int32_t contextMenu)
-    : window_(window), contextMenu_(contextMenu), gridWindow_(window.handle(), *this) {}
+PaletteTab::PaletteTab(WindowContext& context, std::int32_t contextMenu)
+    : context_(context), contextMenu_(contextMenu), gridWindow_(context.window, *this) {}
 
-PaletteDocument& PaletteTab::document() const { return *window_.document(); }
+PaletteDocument& PaletteTab::document() const { return *context_.document(); }
 
 LRESULT PaletteTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_CONTEXTMENU && openContextMenu(pointOf(lParam))) {
@@ -26,7 +26,7 @@ bool PaletteTab::openContextMenu(Point screenPoint) {
     }
     POINT point = toSystem(contextMenuPoint(grid_, currentEntry()));
     ClientToScreen(gridWindow_.handle(), &point);
-    window_.openContextMenu(contextMenu_, fromSystem(point));
+    context_.frame.openContextMenu(contextMenu_, fromSystem(point));
     return true;
   }
   POINT onGrid = toSystem(screenPoint);
@@ -37,15 +37,15 @@ bool PaletteTab::openContextMenu(Point screenPoint) {
   }
   const ContextClick click = contextClick(grid_, point, document().getSize());
   chooseEntry(click.currentEntry);
-  window_.updateMenus();
+  context_.frame.updateMenus();
   if (click.opensMenu) {
-    window_.openContextMenu(contextMenu_, screenPoint);
+    context_.frame.openContextMenu(contextMenu_, screenPoint);
   }
   return click.opensMenu;
 }
 
 void PaletteTab::layout(const Rect& area) {
-  const GridLayout grid(area, document().getSize(), window_.scale());
+  const GridLayout grid(area, document().getSize(), context_.scale);
   if (grid != grid_) {
     grid_ = grid;
     const Rect cells = grid_.paletteArea();

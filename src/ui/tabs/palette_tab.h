@@ -1,7 +1,5 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <vector>
 
@@ -9,17 +7,18 @@
 #include "ui/tabs/grid_painter.h"
 #include "ui/tabs/grid_window.h"
 #include "ui/tabs/tab.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 
-class MainWindow;
 class PaletteDocument;
+struct WindowContext;
 
 /// A page that shows the palette as a grid at its left, and its controls at the right of it.
 class PaletteTab : public Tab, public GridClient {
  public:
   /// `contextMenu` is that of the entries (kValuesPopup, kEffectsPopup).
-  PaletteTab(MainWindow& window, std::int32_t contextMenu);
+  PaletteTab(WindowContext& context, std::int32_t contextMenu);
 
   /// Opens the context menu on an entry that is clicked with the right button or asked for by a key.
   LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -33,7 +32,7 @@ class PaletteTab : public Tab, public GridClient {
   void paintGrid(HDC dc, const Rect& box) final;
 
  protected:
-  [[nodiscard]] MainWindow& window() const { return window_; }
+  [[nodiscard]] WindowContext& context() const { return context_; }
   [[nodiscard]] PaletteDocument& document() const;
   [[nodiscard]] const GridLayout& grid() const { return grid_; }
 
@@ -57,7 +56,7 @@ class PaletteTab : public Tab, public GridClient {
  private:
   bool openContextMenu(Point screenPoint);
 
-  MainWindow& window_;
+  WindowContext& context_;
   std::int32_t contextMenu_;
   GridLayout grid_;
   GridWindow gridWindow_;

@@ -1,11 +1,10 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <optional>
 
 #include "ui/logic/image_view.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 
 #include "ui/logic/geometry.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
+
+struct Command;
 
 /// What has happened to the document that makes every tab begin anew.
 enum class DocumentChange : std::uint8_t {
@@ -39,8 +40,10 @@ class Tab {
   virtual bool copy() = 0;
   virtual void paste() = 0;
   virtual void clear() = 0;
-  /// A command of a menu, before the frame's own.
-  virtual void menuCommand(std::int32_t command) = 0;
+  /// Carries out a command on the palette.
+  virtual void change(const Command& /*command*/) {}
+  /// The system's color chooser for the current entry.
+  virtual void editColor() {}
   /// Whether the tab has an entry for commands that need one.
   [[nodiscard]] virtual bool hasCurrentEntry() const = 0;
 };

@@ -13,10 +13,11 @@
 #include "formats/images/image_loaders.h"
 #include "ui/logic/clipboard_image.h"
 #include "ui/logic/display_rows.h"
-#include "ui/logic/use_layout.h"
-#include "ui/main_window.h"
+#include "ui/services/clipboard.h"
+#include "ui/services/file_dialogs.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/wait_cursor.h"
+#include "ui/window_context.h"
 
 namespace quillhue {
 
@@ -29,10 +30,24 @@ constexpr std::array kModes{RemapMode::maintain, RemapMode::nearest, RemapMode::
 
 }  // namespace
 
+/// A run from its begin to its end.
+class UseTab::Run {
+ public:
+  explicit Run(WindowFrame& frame) : frame_(frame) { frame_.beginRun(); }
+  Run(const Run&) = delete;
+  Run& operator=(const Run&) = delete;
+  ~Run() { frame_.endRun(); }
+
+  [[nodiscard]] bool pumpMessages() { return frame_.pumpMessages(); }
+
+ private:
+  WindowFrame& frame_;
+};
+
 /// Lets the rows that are done appear, and the window live.
 class UseTab::Progress final : public RemapProgress {
  public:
-  explicit Progress(UseTab& tab) : tab_(tab), run_(tab.window_) {}
+  explicit Progress(UseTab& tab) : tab_(tab), run_(tab.context_.frame) {}
 
   [[nodiscard]] bool rowsDone(std::int32_t rows, const RemappedImage& result) override {
     tab_.view_.addRows(result, rows_.progress(rows, tab_.view_.visibleRows()));
@@ -41,31 +56,31 @@ class UseTab::Progress final : public RemapProgress {
 
  private:
   UseTab& tab_;
-  MainWindow::Run run_;
+  Run run_;
   DisplayRows rows_;
 };
 
-UseTab::UseTab(MainWindow& window)
-    : window_(window),
-      view_(window, [this](const std::wstring& name) { load(name); }),
-      load_(makeControl(L"Button", "&Load...", WS_TABSTOP | BS_PUSHBUTTON)),
-      modes_{makeControl(L"Button", "&Maintain mapping", WS_TABSTOP | WS_GROUP | BS_AUTORADIOBUTTON),
-             makeControl(L"Button", "&Nearest match", BS_AUTORADIOBUTTON),
-             makeControl(L"Button", "&Dither", BS_AUTORADIOBUTTON)},
-      protectColor_(makeControl(L"Button", "Protect &color:", WS_TABSTOP | WS_GROUP | BS_AUTOCHECKBOX)),
-      // Without a size: the field's name for a screen reader.
-      colorLabel_(makeControl(L"Static", "Protected color:", 0)),
-      color_(window.handle(), window.font(), ES_RIGHT),
-      protectGrid_(makeControl(L"Button", "Protect gr&id:", WS_TABSTOP | BS_AUTOCHECKBOX)),
-      widthLabel_(makeControl(L"Static", "Width:", WS_CLIPSIBLINGS)),
-      gridWidth_(window.handle(), window.font(), ES_RIGHT),
-      heightLabel_(makeControl(L"Static", "Height:", WS_CLIPSIBLINGS)),
-      gridHeight_(window.handle(), window.font(), ES_RIGHT),
-      process_(makeControl(L"Button", "&Process", WS_TABSTOP | BS_PUSHBUTTON)),
-      saveAs_(makeControl(L"Button", "&Save as...", WS_TABSTOP | BS_PUSHBUTTON)),
-      status_(makeControl(L"Static", {}, SS_NOPREFIX | WS_CLIPSIBLINGS)),
-      surface_(makeControl(L"Static", {}, WS_CLIPSIBLINGS)) {
-  tick(modes_[0].get(), true);
+UseTab::UseTab(WindowContext& context)
+    : context_(context),
+      view_(context, [this](const std::wstring& name) { load(name); }),
+      load_(addButton("&Load...", WS_TABSTOP | BS_PUSHBUTTON, &UseLayout::load)),
+      modes_{{addButton("&Maintain mapping", WS_TABSTOP | WS_GROUP | BS_AUTORADIOBUTTON, &UseLayout::maintain),
+              addButton("&Nearest match", BS_AUTORADIOBUTTON, &UseLayout::nearest),
+              addButton("&Dither", BS_AUTORADIOBUTTON, &UseLayout::dither)}},
+      protectColor_(addButton("Protect &color:", WS_TABSTOP | WS_GROUP | BS_AUTOCHECKBOX, &UseLayout::protectColor)) {
+  // Without a size: the field's name for a screen reader.
+  add(L"Static", "Protected color:", 0);
+  addField(color_, &UseLayout::color);
+  protectGrid_ = addButton("Protect gr&id:", WS_TABSTOP | BS_AUTOCHECKBOX, &UseLayout::protectGrid);
+  widthLabel_ = add(L"Static", "Width:", WS_CLIPSIBLINGS, &UseLayout::widthLabel);
+  addField(gridWidth_, &UseLayout::gridWidth);
+  heightLabel_ = add(L"Static", "Height:", WS_CLIPSIBLINGS, &UseLayout::heightLabel);
+  addField(gridHeight_, &UseLayout::gridHeight);
+  process_ = addButton("&Process", WS_TABSTOP | BS_PUSHBUTTON, &UseLayout::process);
+  saveAs_ = addButton("&Save as...", WS_TABSTOP | BS_PUSHBUTTON, &UseLayout::saveAs);
+  status_ = add(L"Static", {}, SS_NOPREFIX | WS_CLIPSIBLINGS, &UseLayout::status);
+  add(L"Static", {}, WS_CLIPSIBLINGS, &UseLayout::surface);
+  tick(modes_[RemapMode::maintain], true);
   gridWidth_.setRange(kGridSides);
   gridWidth_.setValue(kFirstGrid.width);
   gridHeight_.setRange(kGridSides);
@@ -74,33 +89,28 @@ UseTab::UseTab(MainWindow& window)
   refreshControls();
 }
 
-Window UseTab::makeControl(const wchar_t* windowClass, std::string_view text, DWORD style) const {
-  return createControl(window_.handle(), window_.font(), {.windowClass = windowClass, .text = text, .style = style});
+HWND UseTab::add(const wchar_t* windowClass, std::string_view text, DWORD style, Rect UseLayout::* box) {
+  return controls_.add(
+      createControl(context_.window, context_.font, {.windowClass = windowClass, .text = text, .style = style}), box);
 }
 
-std::vector<HWND> UseTab::controls() const {
-  std::vector<HWND> all;
-  for (const Window* const control :
-       {&load_, &modes_[0], &modes_[1], &modes_[2], &protectColor_, &colorLabel_, &protectGrid_, &widthLabel_,
-        &heightLabel_, &process_, &saveAs_, &status_, &surface_}) {
-    all.push_back(control->get());
-  }
-  return all;
+void UseTab::addField(NumberField& field, Rect UseLayout::* box) {
+  field = NumberField(context_.window, context_.font, ES_RIGHT);
+  controls_.add(field, box);
 }
 
-void UseTab::showControls(bool visible) {
-  view_.show(visible);
-  for (const HWND control : controls()) {
-    quillhue::show(control, visible);
-  }
-  for (NumberField* const field : {&color_, &gridWidth_, &gridHeight_}) {
-    field->show(visible);
-  }
+void UseTab::show() {
+  view_.show(true);
+  controls_.show(true);
+}
+
+void UseTab::hide() {
+  view_.show(false);
+  controls_.show(false);
 }
 
 LRESULT UseTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_NOTIFY &&
-      stepField(std::array{&color_, &gridWidth_, &gridHeight_}, *reinterpret_cast<const NMHDR*>(lParam))) {
+  if (message == WM_NOTIFY && controls_.step(*reinterpret_cast<const NMHDR*>(lParam))) {
     return TRUE;
   }
   return DefWindowProcW(window, message, wParam, lParam);
@@ -108,27 +118,8 @@ LRESULT UseTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lP
 
 void UseTab::layout(const Rect& area) {
   const UseLayout layout =
-      useLayout(area, {GetSystemMetrics(SM_CXVSCROLL), GetSystemMetrics(SM_CYHSCROLL)}, window_.scale());
-  const auto places = std::to_array<std::pair<HWND, Rect>>({{load_.get(), layout.load},
-                                                            {modes_[0].get(), layout.maintain},
-                                                            {modes_[1].get(), layout.nearest},
-                                                            {modes_[2].get(), layout.dither},
-                                                            {protectColor_.get(), layout.protectColor},
-                                                            {protectGrid_.get(), layout.protectGrid},
-                                                            {process_.get(), layout.process},
-                                                            {saveAs_.get(), layout.saveAs},
-                                                            {surface_.get(), layout.surface}});
-  for (const auto& [control, box] : places) {
-    moveTo(control, box);
-  }
-  const Rect& labels = layout.labelArea;
-  moveTo(widthLabel_.get(), {labels.left, labels.top, labels.right, layout.gridWidth.bottom});
-  moveTo(heightLabel_.get(), {labels.left, layout.heightLabel.y, labels.right, layout.gridHeight.bottom});
-  const Point text = layout.statusText;
-  moveTo(status_.get(), {text.x, text.y, layout.statusArea.right, layout.statusArea.bottom});
-  color_.move(layout.color);
-  gridWidth_.move(layout.gridWidth);
-  gridHeight_.move(layout.gridHeight);
+      useLayout(area, {GetSystemMetrics(SM_CXVSCROLL), GetSystemMetrics(SM_CYHSCROLL)}, context_.scale);
+  controls_.move(layout);
   view_.layout(layout);
 }
 
@@ -138,34 +129,34 @@ UseState UseTab::state() const {
           .hasResult = result_.has_value(),
           .isBusy = isBusy_,
           .mode = mode_,
-          .protectColor = isTicked(protectColor_.get()),
-          .protectGrid = isTicked(protectGrid_.get())};
+          .protectColor = isTicked(protectColor_),
+          .protectGrid = isTicked(protectGrid_)};
 }
 
 void UseTab::refreshLoadControls() {
   const LoadControls usable = loadControls(state());
-  enable(load_.get(), usable.load);
-  enable(modes_[0].get(), usable.maintain);
-  enable(modes_[1].get(), usable.nearest);
-  enable(modes_[2].get(), usable.dither);
-  enable(process_.get(), usable.process);
-  enable(saveAs_.get(), usable.saveAs);
+  enable(load_, usable.load);
+  enable(modes_[RemapMode::maintain], usable.maintain);
+  enable(modes_[RemapMode::nearest], usable.nearest);
+  enable(modes_[RemapMode::dither], usable.dither);
+  enable(process_, usable.process);
+  enable(saveAs_, usable.saveAs);
   for (const RemapMode mode : kModes) {
-    tick(modeButton(mode), mode == mode_);
+    tick(modes_[mode], mode == mode_);
   }
-  setWindowText(status_.get(), imageStatusText(image_.has_value()));
+  setWindowText(status_, imageStatusText(image_.has_value()));
 }
 
 void UseTab::refreshProtectControls() {
   const ProtectControls usable = protectControls(state());
-  enable(protectColor_.get(), usable.protectColor);
+  enable(protectColor_, usable.protectColor);
   color_.enable(usable.color);
-  enable(protectGrid_.get(), usable.protectGrid);
+  enable(protectGrid_, usable.protectGrid);
   gridWidth_.enable(usable.gridSides);
   gridHeight_.enable(usable.gridSides);
   // A label that is disabled is grey.
-  for (const Window* const label : {&widthLabel_, &heightLabel_}) {
-    enable(label->get(), !areLabelsGrey(state()));
+  for (const HWND label : {widthLabel_, heightLabel_}) {
+    enable(label, !areLabelsGrey(state()));
   }
 }
 
@@ -194,17 +185,17 @@ void UseTab::controlNotification(HWND control, WPARAM wParam) {
 }
 
 void UseTab::buttonClicked(HWND button) {
-  if (button == load_.get()) {
+  if (button == load_) {
     loadByDialog();
-  } else if (button == process_.get()) {
+  } else if (button == process_) {
     process();
-  } else if (button == saveAs_.get()) {
+  } else if (button == saveAs_) {
     saveRemappedBitmap();
-  } else if (button == protectColor_.get() || button == protectGrid_.get()) {
+  } else if (button == protectColor_ || button == protectGrid_) {
     refreshProtectControls();
   } else {
     for (const RemapMode mode : kModes) {
-      if (button == modeButton(mode) && isTicked(button)) {
+      if (button == modes_[mode] && isTicked(button)) {
         chooseMode(mode);
       }
     }
@@ -217,7 +208,7 @@ void UseTab::chooseMode(RemapMode mode) {
 }
 
 void UseTab::loadByDialog() {
-  if (const auto name = window_.workplace().fileDialogs.askOpenImage()) {
+  if (const auto name = context_.windowServices.fileDialogs.askOpenImage()) {
     load(*name);
   }
 }
@@ -227,7 +218,7 @@ void UseTab::load(const std::wstring& name) {
     return;
   }
   const WaitCursor waiting;
-  if (loadImageFile(name, image_, window_.services().messages)) {
+  if (loadImageFile(name, image_, context_.services.messages)) {
     imageChanged();
   }
 }
@@ -241,17 +232,17 @@ void UseTab::imageChanged() {
 
 void UseTab::documentReplaced(DocumentChange /*change*/) {
   stops_ = true;
-  color_.setRange({0, window_.document()->getSize() - 1});
+  color_.setRange({0, context_.document()->getSize() - 1});
   color_.setValue(color_.value());
 }
 
 RemapOptions UseTab::options() {
   RemapOptions chosen;
   chosen.mode = mode_;
-  if (isTicked(protectColor_.get())) {
+  if (isTicked(protectColor_)) {
     chosen.protectedEntry = color_.value();
   }
-  if (isTicked(protectGrid_.get())) {
+  if (isTicked(protectGrid_)) {
     chosen.protectGrid = ProtectGrid{.width = gridWidth_.value(), .height = gridHeight_.value()};
   }
   return chosen;
@@ -261,7 +252,7 @@ void UseTab::process() {
   if (!image_ || isBusy_) {
     return;
   }
-  FocusKeeper& focus = window_.focus();
+  FocusKeeper& focus = context_.focus;
   const HWND focused = focus.current();
   isBusy_ = true;
   stops_ = false;
@@ -283,11 +274,11 @@ void UseTab::runOn(const WorkImage& image) {
   // Ends last: a message that is shown before belongs to the run, and the window outlives it.
   Progress progress(*this);
   try {
-    remapImage(image, window_.document()->getPalette(), options(), result_ ? *result_ : result_.emplace(), progress);
+    remapImage(image, context_.document()->getPalette(), options(), result_ ? *result_ : result_.emplace(), progress);
   } catch (const std::bad_alloc&) {
     view_.showResult(nullptr, 0);
     result_.reset();
-    window_.services().messages.error(textOf(Failure::notEnoughMemory));
+    context_.services.messages.error(textOf(Failure::notEnoughMemory));
   }
 }
 
@@ -295,18 +286,18 @@ void UseTab::saveRemappedBitmap() {
   if (!result_) {
     return;
   }
-  const auto name = window_.workplace().fileDialogs.askSaveBitmap();
+  const auto name = context_.windowServices.fileDialogs.askSaveBitmap();
   if (!name) {
     return;
   }
   try {
     const auto file = composeBitmap({result_->width(), result_->height(), result_->rows()},
-                                    window_.document()->getPalette(), window_.settings().blank);
+                                    context_.document()->getPalette(), context_.settings().blank);
     if (!writeFile(*name, file)) {
-      window_.services().messages.error(textOf(Failure::couldNotCreate));
+      context_.services.messages.error(textOf(Failure::couldNotCreate));
     }
   } catch (const std::bad_alloc&) {
-    window_.services().messages.error(textOf(Failure::notEnoughMemory));
+    context_.services.messages.error(textOf(Failure::notEnoughMemory));
   }
 }
 
@@ -314,12 +305,12 @@ bool UseTab::copy() {
   if (!image_ || isBusy_) {
     return false;
   }
-  const PaletteEntry blank = window_.settings().blank;
+  const PaletteEntry blank = context_.settings().blank;
   try {
-    return window_.workplace().clipboard.putBitmap(result_ ? clipboardBitmap(*result_, blank)
-                                                           : clipboardBitmap(*image_, blank));
+    return context_.windowServices.clipboard.putBitmap(result_ ? clipboardBitmap(*result_, blank)
+                                                               : clipboardBitmap(*image_, blank));
   } catch (const std::bad_alloc&) {
-    window_.services().messages.error(textOf(Failure::notEnoughMemory));
+    context_.services.messages.error(textOf(Failure::notEnoughMemory));
     return false;
   }
 }
@@ -330,7 +321,7 @@ void UseTab::paste() {
   }
   const WaitCursor waiting;
   try {
-    auto block = window_.workplace().clipboard.getBitmap();
+    auto block = context_.windowServices.clipboard.getBitmap();
     if (!block) {
       return;
     }
@@ -338,10 +329,10 @@ void UseTab::paste() {
       image_ = std::move(*loaded);
       imageChanged();
     } else {
-      window_.services().messages.error(textOf(loaded.error()));
+      context_.services.messages.error(textOf(loaded.error()));
     }
   } catch (const std::bad_alloc&) {
-    window_.services().messages.error(textOf(Failure::notEnoughMemory));
+    context_.services.messages.error(textOf(Failure::notEnoughMemory));
   }
 }
 

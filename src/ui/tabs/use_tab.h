@@ -1,31 +1,31 @@
 #pragma once
 
-#include <windows.h>
-
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "core/enum_array.h"
 #include "formats/work_image.h"
 #include "remap/remap.h"
 #include "remap/remapped_image.h"
 #include "ui/logic/use_controls.h"
+#include "ui/logic/use_layout.h"
 #include "ui/number_field.h"
 #include "ui/tabs/image_view.h"
+#include "ui/tabs/page_controls.h"
 #include "ui/tabs/tab.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 
-class MainWindow;
+struct WindowContext;
 
 /// "Use Palette": loads an image, remaps it onto the palette, shows and saves what becomes of it.
 class UseTab final : public Tab {
  public:
-  explicit UseTab(MainWindow& window);
+  explicit UseTab(WindowContext& context);
 
   LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
   void layout(const Rect& area) override;
@@ -33,27 +33,25 @@ class UseTab final : public Tab {
   /// An image keeps the colors it was made with.
   void paletteChanged() override {}
   void documentReplaced(DocumentChange change) override;
-  void show() override { showControls(true); }
-  void hide() override { showControls(false); }
+  void show() override;
+  void hide() override;
   bool copy() override;
   void paste() override;
   void clear() override;
-  void menuCommand(std::int32_t /*command*/) override {}
   [[nodiscard]] bool hasCurrentEntry() const override { return false; }
 
  private:
   class Progress;
+  class Run;
 
-  [[nodiscard]] Window makeControl(const wchar_t* windowClass, std::string_view text, DWORD style) const;
-  /// Those that are neither of the view nor of a number field.
-  [[nodiscard]] std::vector<HWND> controls() const;
-  void showControls(bool visible);
+  HWND add(const wchar_t* windowClass, std::string_view text, DWORD style, Rect UseLayout::* box = nullptr);
+  HWND addButton(std::string_view text, DWORD style, Rect UseLayout::* box) { return add(L"Button", text, style, box); }
+  void addField(NumberField& field, Rect UseLayout::* box);
   [[nodiscard]] UseState state() const;
   void refreshLoadControls();
   void refreshProtectControls();
   void refreshControls();
 
-  [[nodiscard]] HWND modeButton(RemapMode mode) const { return modes_[static_cast<std::size_t>(mode)].get(); }
   void buttonClicked(HWND button);
   void chooseMode(RemapMode mode);
   void load(const std::wstring& name);
@@ -64,23 +62,21 @@ class UseTab final : public Tab {
   [[nodiscard]] RemapOptions options();
   void saveRemappedBitmap();
 
-  MainWindow& window_;
+  WindowContext& context_;
   ImageView view_;
-  Window load_;
-  // In the order of RemapMode.
-  std::array<Window, 3> modes_;
-  Window protectColor_;
-  Window colorLabel_;
+  PageControls<UseLayout> controls_;
+  HWND load_;
+  EnumArray<RemapMode, HWND, 3> modes_;
+  HWND protectColor_;
   NumberField color_;
-  Window protectGrid_;
-  Window widthLabel_;
+  HWND protectGrid_ = nullptr;
+  HWND widthLabel_ = nullptr;
   NumberField gridWidth_;
-  Window heightLabel_;
+  HWND heightLabel_ = nullptr;
   NumberField gridHeight_;
-  Window process_;
-  Window saveAs_;
-  Window status_;
-  Window surface_;
+  HWND process_ = nullptr;
+  HWND saveAs_ = nullptr;
+  HWND status_ = nullptr;
 
   std::optional<WorkImage> image_;
   std::optional<RemappedImage> result_;

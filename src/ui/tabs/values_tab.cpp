@@ -1,39 +1,39 @@
 #include "ui/tabs/values_tab.h"
 
-#include <array>
+#include <cstddef>
+#include <string_view>
 
 #include "colormodes/color_models.h"
+#include "commands/command_table.h"
 #include "ui/logic/menus.h"
-#include "ui/logic/palette_commands.h"
-#include "ui/logic/values_layout.h"
-#include "ui/main_window.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
+#include "ui/window_context.h"
 
 namespace quillhue {
 
-namespace {
-
-constexpr std::size_t at(Bar bar) { return static_cast<std::size_t>(bar); }
-
-}  // namespace
-
-ValuesTab::ValuesTab(MainWindow& window)
-    : PaletteTab(window, kValuesPopup),
-      editor_(window.slot(), window.settings(), *this),
-      bars_(window.handle(), editor_, window.scale()) {
-  const HWND parent = window.handle();
-  for (Channel& channel : channels_) {
-    channel.label = createControl(parent, nullptr, {.windowClass = L"Static"});
-    channel.field = NumberField(parent, window.font(), ES_CENTER, WS_BORDER);
+ValuesTab::ValuesTab(WindowContext& context)
+    : PaletteTab(context, kValuesPopup),
+      editor_(context.slot, context.settings(), *this),
+      bars_(context.window, editor_, context.scale) {
+  const HWND parent = context.window;
+  constexpr EnumArray<Bar, Rect ValuesLayout::*, kBars.size()> kBoxes{
+      {&ValuesLayout::leftField, &ValuesLayout::middleField, &ValuesLayout::rightField}};
+  for (const Bar bar : kBars) {
+    Channel& channel = channels_[bar];
+    channel.label = controls_.add(createControl(parent, nullptr, {.windowClass = L"Static"}));
+    channel.field = NumberField(parent, context.font, ES_CENTER, WS_BORDER);
+    controls_.add(channel.field, kBoxes[bar]);
   }
-  modelLabel_ = createControl(parent, nullptr, {.windowClass = L"Static", .text = "Color model:"});
-  models_ = createControl(parent, window.font(),
-                          {.windowClass = L"ComboBox", .style = WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST});
+  controls_.add(createControl(parent, nullptr, {.windowClass = L"Static", .text = "Color model:"}));
+  models_ =
+      controls_.add(createControl(parent, context.font,
+                                  {.windowClass = L"ComboBox", .style = WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST}),
+                    &ValuesLayout::modelList);
   for (const ColorModel* const model : colorModels()) {
-    addItem(models_.get(), model->name);
+    addItem(models_, model->name);
   }
-  chooseItem(models_.get(), window.settings().colorMode);
+  chooseItem(models_, context.settings().colorMode);
   nameChannels();
   // Below the controls that lie on it.
   SetWindowPos(bars_.handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -41,11 +41,12 @@ ValuesTab::ValuesTab(MainWindow& window)
 
 // The text before a field and the one that appears under the pointer.
 void ValuesTab::nameChannels() {
-  const ChannelDescriptions& names = colorModelOf(window().settings().colorMode).channels;
+  const ChannelDescriptions& names = colorModelOf(context().settings().colorMode).channels;
   for (const Bar bar : kBars) {
-    Channel& channel = channels_[at(bar)];
-    setWindowText(channel.label.get(), names[at(bar)].name);
-    channel.tooltip = createTooltip(window().handle(), channel.field.field(), names[at(bar)].name);
+    Channel& channel = channels_[bar];
+    const std::string_view name = names[static_cast<std::size_t>(bar)].name;
+    setWindowText(channel.label, name);
+    channel.tooltip = createTooltip(context().window, channel.field.field(), name);
   }
 }
 
@@ -55,8 +56,7 @@ LRESULT ValuesTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM
       bars_.paint(reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->hDC);
       return TRUE;
     case WM_NOTIFY:
-      if (stepField(std::array{&channels_[0].field, &channels_[1].field, &channels_[2].field},
-                    *reinterpret_cast<const NMHDR*>(lParam))) {
+      if (controls_.step(*reinterpret_cast<const NMHDR*>(lParam))) {
         return TRUE;
       }
       break;
@@ -67,7 +67,7 @@ LRESULT ValuesTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM
 }
 
 void ValuesTab::controlNotification(HWND control, WPARAM wParam) {
-  if (control == models_.get()) {
+  if (control == models_) {
     if (HIWORD(wParam) == CBN_SELCHANGE) {
       modelChosen();
     }
@@ -78,7 +78,7 @@ void ValuesTab::controlNotification(HWND control, WPARAM wParam) {
 
 std::optional<Bar> ValuesTab::barOfField(HWND field) const {
   for (const Bar bar : kBars) {
-    if (channels_[at(bar)].field.field() == field) {
+    if (channels_[bar].field.field() == field) {
       return bar;
     }
   }
@@ -87,14 +87,14 @@ std::optional<Bar> ValuesTab::barOfField(HWND field) const {
 
 void ValuesTab::fieldNotification(Bar bar, WORD code) {
   if (code == EN_CHANGE) {
-    editor_.fieldChanged(bar, channels_[at(bar)].field.value());
+    editor_.fieldChanged(bar, channels_[bar].field.value());
   } else if (code == EN_KILLFOCUS) {
     editor_.showValues();
   }
 }
 
 void ValuesTab::modelChosen() {
-  editor_.chooseModel(chosenItem(models_.get()));
+  editor_.chooseModel(chosenItem(models_));
   nameChannels();
 }
 
@@ -103,20 +103,17 @@ void ValuesTab::show() {
   PaletteTab::show();
 }
 
-bool ValuesTab::copy() { return editor_.copy(window().services().clipboard); }
+bool ValuesTab::copy() { return editor_.copy(context().services.clipboard); }
 
-void ValuesTab::paste() { editor_.paste(window().services().clipboard); }
+void ValuesTab::paste() { editor_.paste(context().services.clipboard); }
 
 void ValuesTab::clear() { editor_.blank(); }
 
-void ValuesTab::menuCommand(std::int32_t command) {
-  if (command == command_id::kEditColor) {
-    editor_.editEntry(currentEntry(), window().workplace().colorChooser);
-  } else {
-    runPaletteCommand(command,
-                      {.document = document(), .settings = window().settings(), .currentEntry = currentEntry()});
-  }
+void ValuesTab::change(const Command& command) {
+  command.change({.document = document(), .settings = context().settings(), .currentEntry = currentEntry()});
 }
+
+void ValuesTab::editColor() { editor_.editEntry(currentEntry(), context().windowServices.colorChooser); }
 
 void ValuesTab::pressGrid(Point point, GridSelection::Keys /*keys*/) {
   if (const std::int32_t index = grid().hitTest(point); document().contains(index)) {
@@ -132,33 +129,25 @@ void ValuesTab::chooseEntry(std::int32_t index) {
   const std::int32_t before = currentEntry();
   editor_.setCurrentEntry(index);
   repaintEntry(before);
-  window().updateMenus();
+  context().frame.updateMenus();
 }
 
 GridPicture ValuesTab::picture() { return {.palette = document().getPalette(), .currentEntry = currentEntry()}; }
 
 void ValuesTab::layOutControls() {
-  const ValuesLayout layout = valuesLayout(grid(), window().scale());
-  for (const Bar bar : kBars) {
-    channels_[at(bar)].field.move(layout.fields[at(bar)]);
-  }
+  const ValuesLayout layout = valuesLayout(grid(), context().scale);
+  controls_.move(layout);
   editor_.showValues();
-  moveTo(models_.get(), layout.modelList);
   moveTo(bars_.handle(), layout.surface);
 }
 
 void ValuesTab::showControls(bool visible) {
-  for (Channel& channel : channels_) {
-    quillhue::show(channel.label.get(), visible);
-    channel.field.show(visible);
-  }
-  for (const HWND control : {modelLabel_.get(), models_.get(), bars_.handle()}) {
-    quillhue::show(control, visible);
-  }
+  controls_.show(visible);
+  quillhue::show(bars_.handle(), visible);
 }
 
 void ValuesTab::showChannel(Bar bar, const ValueRange& range, std::int32_t value) {
-  NumberField& field = channels_[at(bar)].field;
+  NumberField& field = channels_[bar].field;
   field.setRange(range);
   field.setValue(value);
 }

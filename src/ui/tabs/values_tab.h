@@ -1,23 +1,24 @@
 #pragma once
 
-#include <windows.h>
-
-#include <array>
 #include <cstdint>
 #include <optional>
 
 #include "colormodes/channel_editor.h"
+#include "core/enum_array.h"
+#include "ui/logic/values_layout.h"
 #include "ui/number_field.h"
 #include "ui/tabs/bars_view.h"
+#include "ui/tabs/page_controls.h"
 #include "ui/tabs/palette_tab.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 
 /// "Edit Values": the current entry as three numbers of a color model, which bars, fields and the wheel change.
 class ValuesTab final : public PaletteTab, private ChannelView {
  public:
-  explicit ValuesTab(MainWindow& window);
+  explicit ValuesTab(WindowContext& context);
 
   LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
   void controlNotification(HWND control, WPARAM wParam) override;
@@ -25,7 +26,8 @@ class ValuesTab final : public PaletteTab, private ChannelView {
   bool copy() override;
   void paste() override;
   void clear() override;
-  void menuCommand(std::int32_t command) override;
+  void change(const Command& command) override;
+  void editColor() override;
 
   void pressGrid(Point point, GridSelection::Keys keys) override;
   void dragGrid(Point /*point*/) override {}
@@ -38,9 +40,9 @@ class ValuesTab final : public PaletteTab, private ChannelView {
  private:
   // One channel's controls. The label has no size: it is the field's name for a screen reader.
   struct Channel {
-    Window label;
-    NumberField field;
-    Window tooltip;
+    HWND label = nullptr;
+    NumberField field{};
+    Window tooltip{};
   };
 
   [[nodiscard]] std::int32_t currentEntry() const override { return editor_.currentEntry(); }
@@ -59,9 +61,9 @@ class ValuesTab final : public PaletteTab, private ChannelView {
   void modelChosen();
   void nameChannels();
 
-  std::array<Channel, kBars.size()> channels_;
-  Window modelLabel_;
-  Window models_;
+  PageControls<ValuesLayout> controls_;
+  EnumArray<Bar, Channel, kBars.size()> channels_;
+  HWND models_ = nullptr;
   ChannelEditor editor_;
   BarsView bars_;
 };

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <optional>
 #include <span>
 #include <vector>
 
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -1,12 +1,9 @@
 #include "ui/win32/command_line.h"
 
-#include <windows.h>
-// Needs windows.h before it.
-#include <shellapi.h>
-
 #include <cstddef>
 
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

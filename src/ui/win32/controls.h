@@ -1,15 +1,12 @@
 #pragma once
 
-#include <windows.h>
-// Needs windows.h before it.
-#include <commctrl.h>
-
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "ui/logic/geometry.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

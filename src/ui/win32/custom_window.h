@@ -1,8 +1,8 @@
 #pragma once
 
-#include <windows.h>
-
 #include <string>
+
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

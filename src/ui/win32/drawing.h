@@ -1,10 +1,9 @@
 #pragma once
 
-#include <windows.h>
-
 #include "core/palette_entry.h"
 #include "ui/logic/geometry.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -1,12 +1,9 @@
 #include "ui/win32/file_dialog.h"
 
-// Need windows.h before them.
-#include <cderr.h>
-#include <commdlg.h>
-
 #include <utility>
 
 #include "core/utf8.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

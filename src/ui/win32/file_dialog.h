@@ -1,11 +1,11 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <expected>
 #include <span>
 #include <string>
+
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -1,10 +1,8 @@
 #pragma once
 
-#include <windows.h>
-// Needs windows.h before it.
-#include <shellapi.h>
-
 #include <utility>
+
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

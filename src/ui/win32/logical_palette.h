@@ -1,12 +1,11 @@
 #pragma once
 
-#include <windows.h>
-
 #include <span>
 #include <vector>
 
 #include "core/palette_entry.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

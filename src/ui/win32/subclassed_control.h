@@ -1,10 +1,7 @@
 #pragma once
 
-#include <windows.h>
-// Needs windows.h before it.
-#include <commctrl.h>
-
 #include "ui/win32/handle.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -35,66 +35,77 @@ void expectApart(const std::vector<Rect>& boxes, const Rect& area, const std::st
   }
 }
 
-TEST(ValuesLayout, PutsTheControlsBelowTheBars) {
-  // The grid takes 320 + 12 of 482, so the middle of the rest is 407 (+ 20).
+using Boxes = std::vector<Rect>;
+
+Boxes boxesOf(const ValuesLayout& layout) {
+  return {layout.surface, layout.leftField, layout.middleField, layout.rightField, layout.modelList};
+}
+Boxes boxesOf(const EffectsLayout& layout) {
+  return {layout.red,   layout.green, layout.blue,       layout.preview,
+          layout.reset, layout.value, layout.effectList, layout.apply};
+}
+Boxes boxesOf(const UseLayout& layout) {
+  return {layout.status,     layout.imageArea,   layout.view,       layout.horizontalBar, layout.verticalBar,
+          layout.load,       layout.maintain,    layout.nearest,    layout.dither,        layout.protectColor,
+          layout.color,      layout.protectGrid, layout.widthLabel, layout.gridWidth,     layout.heightLabel,
+          layout.gridHeight, layout.process,     layout.saveAs};
+}
+
+// Each length is scaled by itself. At 96 dpi the grid takes 320 + 12 of 482, so the middle of the rest is 407 (+ 20);
+// at 120 dpi its right edge is 20 * 16 + 12 + 2 = 334, and the middle (334 + 520) / 2 = 427.
+TEST(TabLayouts, ScaleWithTheScreen) {
   const GridLayout grid(boxAt({20, 30}, {482, 340}), 256, {96});
-  const ValuesLayout layout = valuesLayout(grid, {96});
-  EXPECT_EQ(layout.surface, (Rect{352, 30, 502, 370}));
-  EXPECT_EQ(layout.fields[0], (Rect{355, 306, 403, 328}));
-  EXPECT_EQ(layout.fields[1], (Rect{403, 306, 451, 328}));
-  EXPECT_EQ(layout.fields[2], (Rect{451, 306, 499, 328}));
-  EXPECT_EQ(layout.modelList, (Rect{369, 336, 485, 592}));
-  // At 120 dpi the middle is 427, and 64 is 80, 24 is 30, 22 is 27, 58 is 72, 34 is 42.
-  const ValuesLayout large = valuesLayout(GridLayout(boxAt({}, {520, 344}), 256, {120}), {120});
-  EXPECT_EQ(large.fields[0], (Rect{337, 264, 397, 291}));
-  EXPECT_EQ(large.modelList, (Rect{355, 302, 500, 622}));
-}
-
-TEST(EffectsLayout, PutsTheControlsInTheMiddleOfTheRest) {
-  const GridLayout grid(boxAt({20, 30}, {482, 340}), 256, {96});
-  const EffectsLayout layout = effectsLayout(grid, {96});
-  EXPECT_EQ(layout.surface, (Rect{20, 30, 502, 370}));
-  EXPECT_EQ(layout.red, (Rect{363, 58, 427, 82}));
-  EXPECT_EQ(layout.green, (Rect{363, 82, 427, 106}));
-  EXPECT_EQ(layout.blue, (Rect{363, 106, 427, 130}));
-  EXPECT_EQ(layout.preview, (Rect{363, 130, 427, 282}));
-  EXPECT_EQ(layout.reset, (Rect{375, 282, 435, 304}));
-  EXPECT_EQ(layout.value, (Rect{443, 282, 491, 304}));
-  EXPECT_EQ(layout.effectList, (Rect{375, 310, 491, 566}));
-  EXPECT_EQ(layout.apply, (Rect{431, 340, 491, 362}));
-}
-
-TEST(EffectsLayout, ScalesEachLengthByItself) {
-  // At 120 dpi: right edge 20 * 16 + 12 + 2 = 334, the middle (334 + 520) / 2 = 427; 64 is 80, 28 is 35, 52 is 65, 88
-  // is 110, 22 is 27, 58 is 72, 116 is 145.
-  const GridLayout grid(boxAt({0, 0}, {520, 344}), 256, {120});
-  const EffectsLayout layout = effectsLayout(grid, {120});
-  EXPECT_EQ(layout.red, (Rect{347, 35, 427, 65}));
-  EXPECT_EQ(layout.preview, (Rect{347, 125, 427, 234}));
-  EXPECT_EQ(layout.reset, (Rect{362, 234, 437, 261}));
-  EXPECT_EQ(layout.value, (Rect{447, 234, 507, 261}));
-  EXPECT_EQ(layout.effectList, (Rect{362, 269, 507, 589}));
-  EXPECT_EQ(layout.apply, (Rect{432, 306, 507, 333}));
-}
-
-TEST(UseLayout, PutsTheViewLeftOfTheColumn) {
-  const UseLayout layout = useLayout(boxAt({20, 30}, {500, 300}), kScrollBar, {96});
-  EXPECT_EQ(layout.surface, (Rect{20, 30, 520, 330}));
-  EXPECT_EQ(layout.statusText, (Point{28, 38}));
-  EXPECT_EQ(layout.statusArea, (Rect{20, 30, 373, 54}));
-  EXPECT_EQ(layout.imageArea, (Rect{20, 30, 373, 330}));
-  EXPECT_EQ(layout.view, (Rect{20, 54, 356, 313}));
-  EXPECT_EQ(layout.horizontalBar, (Rect{20, 313, 356, 330}));
-  EXPECT_EQ(layout.verticalBar, (Rect{356, 54, 373, 313}));
-  EXPECT_EQ(layout.widthLabel, (Point{416, 192}));
-  EXPECT_EQ(layout.heightLabel, (Point{416, 216}));
-  EXPECT_EQ(layout.labelArea, (Rect{416, 192, 464, 234}));
+  const GridLayout large(boxAt({0, 0}, {520, 344}), 256, {120});
+  EXPECT_EQ(boxesOf(valuesLayout(grid, {96})), (Boxes{{352, 30, 502, 370},
+                                                      {355, 306, 403, 328},
+                                                      {403, 306, 451, 328},
+                                                      {451, 306, 499, 328},
+                                                      {369, 336, 485, 592}}));
+  EXPECT_EQ(
+      boxesOf(valuesLayout(large, {120})),
+      (Boxes{
+          {334, 0, 520, 344}, {337, 264, 397, 291}, {397, 264, 457, 291}, {457, 264, 517, 291}, {355, 302, 500, 622}}));
+  EXPECT_EQ(boxesOf(effectsLayout(grid, {96})), (Boxes{{363, 58, 427, 82},
+                                                       {363, 82, 427, 106},
+                                                       {363, 106, 427, 130},
+                                                       {363, 130, 427, 282},
+                                                       {375, 282, 435, 304},
+                                                       {443, 282, 491, 304},
+                                                       {375, 310, 491, 566},
+                                                       {431, 340, 491, 362}}));
+  EXPECT_EQ(boxesOf(effectsLayout(large, {120})), (Boxes{{347, 35, 427, 65},
+                                                         {347, 65, 427, 95},
+                                                         {347, 95, 427, 125},
+                                                         {347, 125, 427, 234},
+                                                         {362, 234, 437, 261},
+                                                         {447, 234, 507, 261},
+                                                         {362, 269, 507, 589},
+                                                         {432, 306, 507, 333}}));
+  EXPECT_EQ(effectsLayout(grid, {96}).surface, grid.area());
+  EXPECT_EQ(useLayout(boxAt({20, 30}, {500, 300}), kScrollBar, {96}).surface, (Rect{20, 30, 520, 330}));
+  EXPECT_EQ(boxesOf(useLayout(boxAt({20, 30}, {500, 300}), kScrollBar, {96})), (Boxes{{28, 38, 373, 54},
+                                                                                      {20, 30, 373, 330},
+                                                                                      {20, 54, 356, 313},
+                                                                                      {20, 313, 356, 330},
+                                                                                      {356, 54, 373, 313},
+                                                                                      {381, 34, 441, 56},
+                                                                                      {381, 60, 512, 80},
+                                                                                      {381, 80, 512, 100},
+                                                                                      {381, 100, 512, 120},
+                                                                                      {381, 122, 512, 140},
+                                                                                      {464, 140, 512, 162},
+                                                                                      {381, 168, 512, 186},
+                                                                                      {416, 192, 464, 212},
+                                                                                      {464, 190, 512, 212},
+                                                                                      {416, 216, 464, 236},
+                                                                                      {464, 214, 512, 236},
+                                                                                      {381, 246, 441, 268},
+                                                                                      {452, 246, 512, 268}}));
   // At 144 dpi: 147 is 220, 104 is 156, 162 is 243.
-  const UseLayout large = useLayout(boxAt({0, 0}, {800, 500}), {26, 26}, {144});
-  EXPECT_EQ(large.view, (Rect{0, 36, 554, 474}));
-  EXPECT_EQ(large.imageArea, (Rect{0, 0, 580, 500}));
-  EXPECT_EQ(large.widthLabel, (Point{644, 243}));
-  EXPECT_EQ(large.labelArea, (Rect{644, 243, 716, 306}));
+  const UseLayout largest = useLayout(boxAt({0, 0}, {800, 500}), {26, 26}, {144});
+  EXPECT_EQ(largest.view, (Rect{0, 36, 554, 474}));
+  EXPECT_EQ(largest.imageArea, (Rect{0, 0, 580, 500}));
+  EXPECT_EQ(largest.widthLabel, (Rect{644, 243, 716, 273}));
 }
 
 // The smallest area that a tab has, with thick window frames: 400 by 245 at 96 dpi.
@@ -111,8 +122,8 @@ TEST(TabLayouts, HaveRoomForEveryControl) {
 
         const ValuesLayout values = valuesLayout(grid, scale);
         const BarsLayout bars({values.surface.width(), values.surface.height()}, scale);
-        std::vector<Rect> boxes(values.fields.begin(), values.fields.end());
-        boxes.push_back(closed(values.modelList, scale));
+        std::vector<Rect> boxes{values.leftField, values.middleField, values.rightField,
+                                closed(values.modelList, scale)};
         for (const Bar bar : kBars) {
           const Rect zone = bars.zone(bar);
           boxes.push_back(
@@ -126,9 +137,9 @@ TEST(TabLayouts, HaveRoomForEveryControl) {
                     controls, "effects " + where);
 
         const UseLayout use = useLayout(area, scale(kScrollBar), scale);
-        expectApart({use.statusArea, use.view, use.horizontalBar, use.verticalBar, use.load, use.maintain, use.nearest,
+        expectApart({use.status, use.view, use.horizontalBar, use.verticalBar, use.load, use.maintain, use.nearest,
                      use.dither, use.protectColor, use.color, use.protectGrid, use.gridWidth, use.gridHeight,
-                     use.labelArea, use.process, use.saveAs},
+                     use.widthLabel, use.heightLabel, use.process, use.saveAs},
                     area, "use " + where);
       }
     }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
+
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

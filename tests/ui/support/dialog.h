@@ -1,10 +1,9 @@
 #pragma once
 
-#include <windows.h>
-
 #include <string>
 
 #include "ui/support/program.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -1,15 +1,13 @@
 #include "ui/support/editor.h"
 
-// Needs windows.h before it.
-#include <commctrl.h>
-
 #include <utility>
 
+#include "commands/command_ids.h"
 #include "formats/files.h"
 #include "formats/readers/palette_readers.h"
-#include "ui/logic/command_ids.h"
 #include "ui/support/input.h"
 #include "ui/support/windows.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 
@@ -50,6 +48,7 @@ void Editor::typeInto(HWND field, std::string_view text) const {
   tabTo(*this, field);
   ask(field, EM_SETSEL, 0, -1);
   type(text);
+  await("the typed text", [&] { return narrow(textOf(field)) == text; });
   awaitInput();
 }
 

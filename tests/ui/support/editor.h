@@ -1,7 +1,5 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -9,6 +7,7 @@
 #include "core/palette.h"
 #include "ui/logic/grid_layout.h"
 #include "ui/support/program.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <string_view>
 #include <vector>
 
 #include "ui/support/program.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

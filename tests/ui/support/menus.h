@@ -1,12 +1,11 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <vector>
 
 #include "ui/probe/menu_report.h"
 #include "ui/support/program.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

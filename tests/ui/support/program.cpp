@@ -1,7 +1,7 @@
 #include "ui/support/program.h"
 
-// Need windows.h before them.
-#include <commctrl.h>
+#include "ui/win32/system.h"
+// Needs windows.h before it.
 #include <shlobj.h>
 
 #include <cstring>

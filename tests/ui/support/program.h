@@ -1,7 +1,6 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <windows.h>
 
 #include <chrono>
 #include <cstdint>
@@ -11,6 +10,7 @@
 #include <vector>
 
 #include "ui/logic/geometry.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -1,12 +1,11 @@
 #include "ui/support/registry.h"
 
-#include <windows.h>
-
 #include <array>
 #include <ostream>
 #include <utility>
 
 #include "core/utf8.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

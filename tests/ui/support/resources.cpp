@@ -1,6 +1,6 @@
 #include "ui/support/resources.h"
 
-#include <windows.h>
+#include "ui/win32/system.h"
 // Needs windows.h before it.
 #include <winternl.h>
 

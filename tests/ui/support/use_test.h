@@ -1,12 +1,11 @@
 #pragma once
 
-#include <windows.h>
-
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "ui/support/ui_test.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

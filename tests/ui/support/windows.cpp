@@ -1,9 +1,8 @@
 #include "ui/support/windows.h"
 
-// Needs windows.h before it.
-#include <commctrl.h>
-
 #include <array>
+
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -9,6 +7,7 @@
 #include "core/palette_entry.h"
 #include "ui/logic/geometry.h"
 #include "ui/support/program.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <windows.h>
 
 #include <algorithm>
 #include <thread>
@@ -8,6 +7,7 @@
 #include "ui/services/halftone_palette.h"
 #include "ui/win32/clipboard.h"
 #include "ui/win32/logical_palette.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 namespace {

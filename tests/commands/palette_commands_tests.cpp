@@ -1,12 +1,20 @@
 #include <gtest/gtest.h>
 
+#include "commands/command_table.h"
 #include "support/fakes.h"
 #include "support/palettes.h"
-#include "ui/logic/command_table.h"
-#include "ui/logic/palette_commands.h"
 
 namespace quillhue {
 namespace {
+
+// False for a command that is carried out by the screen.
+bool change(std::int32_t command, const PaletteCommandInput& input) {
+  const Command& known = *findCommand(command);
+  if (known.change != nullptr) {
+    known.change(input);
+  }
+  return known.change != nullptr;
+}
 
 // What each command does is tested with the commands themselves; here, that each id means the right one.
 TEST(PaletteCommands, AreRunByTheirNumbers) {
@@ -41,7 +49,7 @@ TEST(PaletteCommands, AreRunByTheirNumbers) {
     for (const std::int32_t index : {0, 2, 3}) {
       document.select(index);
     }
-    EXPECT_TRUE(runPaletteCommand(command, {document, fakes.settings, 3, 3})) << command;
+    EXPECT_TRUE(change(command, {document, fakes.settings, 3, 3})) << command;
     EXPECT_EQ(show(document.getPalette()), palette) << command;
     std::string flags;
     for (std::int32_t index = 0; index < 4; ++index) {
@@ -61,8 +69,8 @@ TEST(PaletteCommands, SortByTheirNumbers) {
                                   "8,8,9 9,6,9 0,9,0"};
   for (std::int32_t command = 46; command <= 50; ++command) {
     slot.replaceDocument(paletteOf(colors), false, {}, 0, fakes.services);
-    runPaletteCommand(33, {*slot.document(), fakes.settings});
-    runPaletteCommand(command, {*slot.document(), fakes.settings, 3});
+    change(33, {*slot.document(), fakes.settings});
+    change(command, {*slot.document(), fakes.settings, 3});
     EXPECT_EQ(show(slot.document()->getPalette()), expected[command - 46]) << command;
   }
 }
@@ -73,11 +81,11 @@ TEST(PaletteCommands, ChangeSettingsWithoutAStep) {
   slot.replaceDocument(createPalette(2, {7, 8, 9}), false, {}, 0, fakes.services);
   const PaletteCommandInput input{*slot.document(), fakes.settings, kAllChannels, 1};
   for (const std::int32_t command : {32, 31, 30}) {
-    EXPECT_TRUE(runPaletteCommand(command, input));
+    EXPECT_TRUE(change(command, input));
     EXPECT_EQ(static_cast<std::int32_t>(fakes.settings.selectionMode), command - 30);
     EXPECT_EQ(commandOf(fakes.settings.selectionMode), command);
   }
-  EXPECT_TRUE(runPaletteCommand(72, input));
+  EXPECT_TRUE(change(72, input));
   EXPECT_EQ(fakes.settings.blank, (PaletteEntry{7, 8, 9}));
   EXPECT_EQ(slot.document()->modificationCount(), 0);
 }
@@ -88,8 +96,9 @@ TEST(PaletteCommands, AreThoseOfTheEffectsTab) {
   DocumentSlot slot;
   slot.replaceDocument(createPalette(2), false, {}, 0, fakes.services);
   for (const Command& command : commands()) {
-    const bool isHere = command.handler == CommandHandler::effectsTab || command.handler == CommandHandler::paletteTabs;
-    EXPECT_EQ(runPaletteCommand(command.id, {*slot.document(), fakes.settings}), isHere) << command.text;
+    const bool isHere = command.scope == CommandScope::effectsTab || command.scope == CommandScope::paletteTabs;
+    EXPECT_EQ(change(command.id, {*slot.document(), fakes.settings}), isHere) << command.text;
+    EXPECT_NE(command.act == nullptr, command.change == nullptr) << command.text;
   }
 }
 

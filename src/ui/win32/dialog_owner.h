@@ -1,0 +1,32 @@
+#pragma once
+
+#include "ui/logic/geometry.h"
+#include "ui/win32/open_dialog.h"
+#include "ui/win32/system.h"
+
+namespace quillhue {
+
+/// The window over which dialogs and message boxes open, and the look that dialogs share with it. It is empty until the
+/// main window exists, so that whatever opens dialogs can be made before.
+class DialogOwner {
+ public:
+  void set(HWND window, HFONT font, Scale scale) {
+    window_ = window;
+    font_ = font;
+    scale_ = scale;
+  }
+
+  /// The main window; null before it exists.
+  [[nodiscard]] HWND window() const { return window_; }
+  /// The dialog that is open on it already, or the window itself.
+  [[nodiscard]] HWND top() const { return openDialogOf(window_); }
+  [[nodiscard]] HFONT font() const { return font_; }
+  [[nodiscard]] Scale scale() const { return scale_; }
+
+ private:
+  HWND window_ = nullptr;
+  HFONT font_ = nullptr;
+  Scale scale_;
+};
+
+}  // namespace quillhue

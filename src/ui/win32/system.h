@@ -1,0 +1,9 @@
+#pragma once
+
+/// The system's headers.
+#include <windows.h>
+// These need windows.h before them.
+#include <cderr.h>
+#include <commctrl.h>
+#include <commdlg.h>
+#include <shellapi.h>
