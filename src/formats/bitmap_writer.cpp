@@ -16,10 +16,10 @@ namespace {
 using namespace bitmap_layout;
 
 constexpr std::size_t kHeaders = kFileHeader + kInfoHeader;
-// Up to this number of colors a pixel takes 4 bits.
+// A palette of at most this size gets 4 bits a pixel.
 constexpr std::size_t kPackedColors = 16;
 
-// Two pixels a byte, the left one in the high half. `row` has an even length.
+// Packs two pixels a byte, the left one in the high half. `row` has an even length.
 void packRow(std::span<const std::uint8_t> row, std::span<std::uint8_t> packed) {
   for (std::size_t x = 0; x < row.size() / 2; ++x) {
     packed[x] = static_cast<std::uint8_t>(row[2 * x] << 4 | (row[2 * x + 1] & 15));
@@ -60,7 +60,7 @@ std::vector<std::uint8_t> composeBitmap(const IndexedPixels& pixels, const Palet
   for (std::size_t i = 0; i < entries; ++i) {
     sink.bytes(kHeaders + 4 * i, {colors[i].blue, colors[i].green, colors[i].red, 0});
   }
-  // Rows are appended: room that is filled with zeros first is touched twice.
+  // Rows are appended, because space filled with zeros first would be written twice.
   std::vector<std::uint8_t> file = sink.take();
   file.reserve(size);
   for (std::size_t y = height; y-- > 0;) {

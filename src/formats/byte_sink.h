@@ -11,7 +11,7 @@
 
 namespace quillhue {
 
-/// The bytes of a file to be. Writes go to absolute offsets; what is never written is zero.
+/// The bytes of a new file. Writes go to absolute offsets; bytes that are never written are zero.
 class ByteSink {
  public:
   [[nodiscard]] std::size_t size() const { return bytes_.size(); }
@@ -27,7 +27,7 @@ class ByteSink {
   void text(std::size_t offset, std::string_view letters);
   /// Three bytes: red, green, blue.
   void rgb(std::size_t offset, PaletteEntry color) { bytes(offset, {color.red, color.green, color.blue}); }
-  /// Lengthens the file with zeros to `size` bytes where it is shorter.
+  /// Extends the file with zeros to `size` bytes if it is shorter.
   void extend(std::size_t size) { reserve(size, 0); }
 
  private:

@@ -18,7 +18,7 @@ class ByteSource {
   ByteSource& operator=(const ByteSource&) = delete;
   virtual ~ByteSource() = default;
 
-  /// Bytes.
+  /// In bytes.
   [[nodiscard]] std::uint64_t size() const { return size_; }
 
   /// Little-endian (le) or big-endian (be) unsigned values.
@@ -31,23 +31,24 @@ class ByteSource {
   [[nodiscard]] std::uint32_t u32le(std::uint64_t offset);
   [[nodiscard]] std::uint32_t u32be(std::uint64_t offset);
 
-  /// Fills `out` from `offset` on.
+  /// Fills `out` with the bytes from `offset` on.
   void read(std::uint64_t offset, std::span<std::uint8_t> out);
-  /// `count` bytes; the caller bounds the count.
+  /// Returns `count` bytes. The caller limits the count.
   [[nodiscard]] std::vector<std::uint8_t> bytes(std::uint64_t offset, std::size_t count);
 
-  /// True when the medium gave fewer bytes than the size it had announced: what was read is not the file.
+  /// True when the medium gave fewer bytes than the size it had announced, so the bytes read are not the file.
   [[nodiscard]] bool failed() const { return failed_; }
 
  protected:
   explicit ByteSource(std::uint64_t size) : size_(size) {}
 
  private:
-  /// Reads into `out`, which lies within the size; returns the bytes read, fewer only when the medium fails.
+  /// Reads into `out`, which lies within the size. Returns the number of bytes read, which is smaller only when the
+  /// medium fails.
   virtual std::size_t readStored(std::uint64_t offset, std::span<std::uint8_t> out) = 0;
-  // Fills `out` from the medium, with zeros behind the end.
+  // Fills `out` from the medium, with zeros past the end.
   void fetch(std::uint64_t offset, std::span<std::uint8_t> out);
-  // Makes the block hold `offset`.
+  // Makes sure that the block contains `offset`.
   void loadBlock(std::uint64_t offset) {
     if (offset - blockStart_ >= blockLength_) {
       blockStart_ = offset - offset % kBlockSize;
@@ -57,7 +58,7 @@ class ByteSource {
   }
 
   static constexpr std::size_t kBlockSize = 16384;
-  // Reads of this size and more go past the block.
+  // Reads of this size and more bypass the block.
   static constexpr std::size_t kDirectSize = 4096;
 
   std::uint64_t size_;
@@ -78,10 +79,11 @@ class MemorySource final : public ByteSource {
   std::vector<std::uint8_t> content_;
 };
 
-/// True when exactly the bytes of `tag` stand at `offset`.
+/// True when the bytes at `offset` are exactly those of `tag`.
 [[nodiscard]] bool matchTag(ByteSource& source, std::uint64_t offset, std::string_view tag);
 
-/// The offset of the first `tag`, which holds no zero byte, at or behind `from`; the file's size when there is none.
+/// Returns the offset of the first `tag` at or after `from`, or the file's size when there is none. The tag contains no
+/// zero byte.
 [[nodiscard]] std::uint64_t findTag(ByteSource& source, std::uint64_t from, std::string_view tag);
 
 }  // namespace quillhue

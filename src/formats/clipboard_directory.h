@@ -10,17 +10,17 @@ namespace quillhue {
 /// The first two bytes of a Windows Clipboard file.
 inline constexpr std::uint16_t kClipboardFileId = 0xC350;
 
-/// One format in which a Windows Clipboard file holds what was copied.
+/// The copied data in one clipboard format, as a Windows Clipboard file lists it.
 struct ClipboardItem {
-  /// The system's number: kBitmapItem, kPaletteItem and others.
+  /// The system's format number: kBitmapItem, kPaletteItem or another.
   std::uint16_t format = 0;
-  /// Where its data starts in the file.
+  /// Offset of the data in the file.
   std::uint64_t data = 0;
 };
 inline constexpr std::uint16_t kBitmapItem = 8;
 inline constexpr std::uint16_t kPaletteItem = 9;
 
-/// The file's directory, in its order, as far as the file goes.
+/// Returns the file's directory in its stored order. Entries past the end of the file are left out.
 [[nodiscard]] std::vector<ClipboardItem> clipboardItems(ByteSource& source);
 
 }  // namespace quillhue

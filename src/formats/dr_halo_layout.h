@@ -2,13 +2,13 @@
 
 #include <cstdint>
 
-/// A Dr. Halo palette: a header of 40 bytes, then records of three 16-bit values in blocks of 512 bytes that hold whole
-/// records only.
+/// A Dr. Halo palette: a header of 40 bytes, then records of three 16-bit values. The file consists of blocks of 512
+/// bytes; no record crosses the end of a block.
 namespace quillhue::dr_halo {
 
 inline constexpr std::int32_t kEntries = 256;
 
-/// Where the record of entry `index` (0..255) stands in the file.
+/// Returns the offset of the record of entry `index` (0..255) in the file.
 constexpr std::uint32_t recordOffset(std::int32_t index) {
   constexpr std::uint32_t kHeader = 40;
   constexpr std::uint32_t kRecord = 6;

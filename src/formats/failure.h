@@ -5,7 +5,7 @@
 
 namespace quillhue {
 
-/// Everything that can be wrong with a file, or with writing one.
+/// Reasons why a file can't be read or written.
 enum class Failure : std::uint8_t {
   couldNotOpen,
   unrecognisedType,
@@ -56,7 +56,7 @@ enum class Failure : std::uint8_t {
   pictureUnsupported,
 };
 
-/// What the user is told; lines end with a line feed.
+/// Returns the message for the user. Its lines end with a line feed.
 [[nodiscard]] std::string_view textOf(Failure failure);
 
 }  // namespace quillhue

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t kStreamLimit = std::size_t{1} << 31;
 
-/// A regular file. Callers ask for blocks, so nothing is buffered here.
+/// A regular file. Callers read in blocks, so this adds no buffer.
 class FileSource final : public ByteSource {
  public:
   FileSource(std::unique_ptr<InputFile> file, std::uint64_t size) : ByteSource(size), file_(std::move(file)) {}
@@ -96,7 +96,7 @@ std::expected<std::unique_ptr<ByteSource>, Failure> openFile(std::wstring_view n
 
 std::expected<std::unique_ptr<ByteSource>, Failure> readStream(std::istream& stream) {
   return readWhole([&](std::span<std::uint8_t> out) -> std::optional<std::size_t> {
-    // The stream's bytes are chars; this is the one place where they become unsigned.
+    // The stream's bytes are chars. They become unsigned only here.
     stream.read(reinterpret_cast<char*>(out.data()), static_cast<std::streamsize>(out.size()));
     return stream.bad() ? std::nullopt : std::optional(static_cast<std::size_t>(stream.gcount()));
   });
@@ -104,7 +104,8 @@ std::expected<std::unique_ptr<ByteSource>, Failure> readStream(std::istream& str
 
 bool writeFile(std::wstring_view name, std::span<const std::uint8_t> content, FileSystem& files) {
   const std::wstring file(name);
-  // A new file replaces nothing that a power cut could take, and flushing each one of a thousand takes seconds.
+  // A new file replaces nothing that a power cut could destroy, and flushing each of a thousand new files takes
+  // seconds.
   const bool replaces = files.exists(file);
   auto written = writeInto(files.createReplacement(file), content, replaces);
   if (!written && written.error() == SaveError::notReplaceable) {

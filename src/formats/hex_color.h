@@ -8,10 +8,10 @@
 
 namespace quillhue {
 
-/// The color of exactly six hexadecimal digits, two each for red, green and blue; nothing for any other text.
+/// Parses exactly six hexadecimal digits, two each for red, green and blue; empty for any other text.
 [[nodiscard]] std::optional<PaletteEntry> parseHexColor(std::string_view digits);
 
-/// Six lower-case digits.
+/// Returns six lower-case digits.
 [[nodiscard]] std::string hexDigitsOf(PaletteEntry color);
 
 }  // namespace quillhue

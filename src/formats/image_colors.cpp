@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t kColors = std::size_t{1} << 24;
 constexpr ColorWord kFourthByte = 0xFF000000;
 
-// The place of a color in the order: green, blue, red from the highest byte down.
+// Returns the place of a color in the order: green in the highest byte, then blue, then red.
 constexpr std::uint32_t orderOf(ColorWord word) {
   return (word & 0xFF00) << 8 | (word & 0xFF) << 8 | (word >> 16 & 0xFF);
 }
@@ -27,7 +27,7 @@ constexpr ColorWord wordAt(std::uint32_t order) {
 
 constexpr std::uint64_t bitOf(std::uint32_t order) { return std::uint64_t{1} << (order % 64); }
 
-// Calls `visit` with the order of each color that occurs, upward, until it answers false.
+// Calls `visit` with the place of each color that occurs, in ascending order, until it returns false.
 template <typename Visit>
 void forEachBit(const std::vector<std::uint64_t>& bits, Visit visit) {
   for (std::size_t i = 0; i < bits.size(); ++i) {
@@ -115,7 +115,7 @@ Palette ImageColors::exactPalette(std::int32_t size, PaletteEntry blank) const {
 
 Palette ImageColors::reducedPalette(std::int32_t size, PaletteEntry blank) const {
   const std::uint64_t share = pixelCount_ / static_cast<std::uint64_t>(size);
-  // The first color may keep one pixel more than its share, and every color keeps one.
+  // The first color may keep one pixel more than its share. Every color keeps at least one.
   std::uint64_t kept = share + 1;
   std::vector<ColorWord> thinned;
   thinned.reserve(static_cast<std::size_t>(pixelCount_));
@@ -146,7 +146,7 @@ void ImageColors::forEachColor(const VisitColor& visit) const {
   });
 }
 
-// All pixels, the order of the color above the fourth byte, ascending.
+// Returns all pixels in ascending order: the color's place in the high three bytes, the fourth byte in the low one.
 std::vector<std::uint32_t> ImageColors::sortedPixels() const {
   std::vector<std::uint32_t> pixels;
   pixels.reserve(static_cast<std::size_t>(pixelCount_));
@@ -158,13 +158,13 @@ std::vector<std::uint32_t> ImageColors::sortedPixels() const {
   return pixels;
 }
 
-// The number of pixels of each color that occurs, in order.
+// Returns the number of pixels of each color that occurs, in order.
 std::vector<std::uint32_t> ImageColors::pixelsOfEachColor() const {
-  // The number of occurring colors before each word of bits.
+  // How many colors occur before each word of bits.
   std::vector<std::uint32_t> before(occurring_.size());
   std::transform_exclusive_scan(occurring_.begin(), occurring_.end(), before.begin(), std::uint32_t{0}, std::plus(),
                                 [](std::uint64_t bits) { return static_cast<std::uint32_t>(std::popcount(bits)); });
-  // One more than needed, for a color that came into the file after the first reading.
+  // One more than needed, in case the file gained a color after the first pass.
   std::vector<std::uint32_t> counts(static_cast<std::size_t>(distinctCount_) + 1);
   forEachBlock_([&](std::span<const ColorWord> words) {
     for (const ColorWord word : words) {

@@ -11,25 +11,26 @@
 
 namespace quillhue {
 
-/// The different colors of a true-color image, and the palettes that can be made of them. Colors are in the order of
-/// green, then blue, then red.
+/// The distinct colors of a true-color image, and the palettes that can be made from them. Colors are ordered by green,
+/// then blue, then red.
 ///
-/// One bit a color tells which occur, so counting and exact palettes hold no pixels: the image is read once, to
-/// construct this. A reduced palette reads it once more and holds the pixels that it considers, four bytes each. An
-/// image whose fourth bytes differ, which count as part of a color, is sorted in memory. All of it may throw
+/// A table with one bit a color records which colors occur. Counting and exact palettes therefore keep no pixels in
+/// memory; the constructor reads the image once. A reduced palette reads the image again and keeps the pixels that it
+/// uses, four bytes each. The fourth bytes of pixels count as part of the color; if they differ, all pixels are sorted
+/// in memory. Every operation may throw std::bad_alloc.
 /// std::bad_alloc.
 class ImageColors {
  public:
   explicit ImageColors(const TrueColorBitmap& bitmap);
-  /// Transparent pixels do not count. The image outlives this.
+  /// Ignores transparent pixels. The image must outlive this object.
   explicit ImageColors(const WorkImage& image);
 
   [[nodiscard]] std::uint64_t distinctCount() const { return distinctCount_; }
 
-  /// `size` entries: the first colors in order, and the blank color where there are no more.
+  /// Returns `size` entries: the first colors in order, then the blank color.
   [[nodiscard]] Palette exactPalette(std::int32_t size, PaletteEntry blank) const;
-  /// `size` entries (1 or more) by median cut over pixels thinned so that no color keeps much more than its share;
-  /// entries that the cut does not fill are in the blank color.
+  /// Returns `size` entries (1 or more), made by median cut. The pixels are thinned first, so that no color keeps much
+  /// more than its share. Entries that the cut leaves empty get the blank color.
   [[nodiscard]] Palette reducedPalette(std::int32_t size, PaletteEntry blank) const;
 
  private:
@@ -42,13 +43,13 @@ class ImageColors {
   [[nodiscard]] std::vector<std::uint32_t> sortedPixels() const;
   [[nodiscard]] std::vector<std::uint32_t> pixelsOfEachColor() const;
 
-  // Hands over all pixels, some at a time.
+  // Passes all pixels to the visitor, block by block.
   ForEachBlock forEachBlock_;
   std::uint64_t pixelCount_ = 0;
-  // One bit for each of the 2^24 colors, by its place in the order.
+  // One bit for each of the 2^24 colors, at the color's place in the order.
   std::vector<std::uint64_t> occurring_;
   std::uint64_t distinctCount_ = 0;
-  // The fourth byte of all pixels, in its place in the word, where it is the same.
+  // The fourth byte that all pixels share, at its place in the word.
   ColorWord fourthByte_ = 0;
   bool fourthByteDiffers_ = false;
 };

@@ -8,8 +8,8 @@
 
 namespace quillhue {
 
-/// Loads an image file in place of `image`. One that can't be loaded shows one error message, leaves the image as it
-/// was and answers false.
+/// Replaces `image` with an image file. If the file can't be loaded, shows one error message, keeps the image and
+/// returns false.
 [[nodiscard]] bool loadImageFile(const std::wstring& fileName, std::optional<WorkImage>& image, Messages& messages);
 
 }  // namespace quillhue

@@ -7,11 +7,11 @@
 
 namespace quillhue {
 
-/// The largest side and the most pixels of an image.
+/// The greatest width or height, and the greatest number of pixels.
 inline constexpr std::int64_t kMaxImageSide = 262144;
 inline constexpr std::int64_t kMaxImagePixels = 268435456;
 
-/// What is wrong with an image of this size: imageTooSmall, imageTooLarge, or nothing.
+/// Checks the size of an image: returns imageTooSmall, imageTooLarge, or nothing.
 [[nodiscard]] constexpr std::optional<Failure> checkImageSize(std::int64_t width, std::int64_t height) {
   if (width < 1 || height < 1) {
     return Failure::imageTooSmall;

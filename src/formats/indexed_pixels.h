@@ -5,8 +5,7 @@
 
 namespace quillhue {
 
-/// Rows of palette indexes, a byte a pixel, from top to bottom, each of the paddedRowLength with zeros behind the
-/// pixels.
+/// Rows of palette indexes from top to bottom, one byte a pixel. Each row is padded with zeros to its paddedRowLength.
 struct IndexedPixels {
   std::int32_t width = 0;
   std::int32_t height = 0;

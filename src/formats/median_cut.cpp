@@ -10,8 +10,8 @@ namespace {
 
 constexpr std::uint32_t byteOf(ColorWord word, unsigned byte) { return word >> (8 * byte) & 0xFF; }
 
-// The byte of the words to split by: 0 blue, 1 green, 2 red.
-// kept on purpose: this does not measure the channels' ranges, but palettes made with it are expected to stay the same.
+// Returns the byte of the words to split by: 0 blue, 1 green, 2 red.
+// kept on purpose: this does not compare the channels' ranges, but palettes made with it must stay the same.
 unsigned splitChannel(std::span<const ColorWord> words) {
   std::uint32_t a = 255;
   std::uint32_t c = 255;
@@ -42,10 +42,10 @@ class MedianCut {
  public:
   explicit MedianCut(Palette& palette) : palette_(palette) {}
 
-  // The number of entries added for this segment; no deeper than the binary logarithm of the target.
+  // Returns the number of entries added for this segment. The recursion is at most log2(target) deep.
   std::int32_t split(std::span<ColorWord> words, std::int32_t target) {
     std::int32_t added = 0;
-    // A segment of one color ends alike however it is split.
+    // A segment of a single color gives the same result however it is split.
     while (target >= 2 && std::ranges::adjacent_find(words, std::not_equal_to()) != words.end()) {
       sortBySplitChannel(words);
       const std::size_t half = words.size() / 2;
@@ -62,7 +62,7 @@ class MedianCut {
   std::int32_t addMedian(std::span<const ColorWord> words) {
     const std::size_t count = words.size();
     const PaletteEntry median = colorOf(words[count / 2]);
-    // kept on purpose: when the lower of two medians is new, it is the upper one that is added, as a duplicate.
+    // kept on purpose: if only the lower of two medians is new, the upper one is added again, as a duplicate.
     if (contains(median) && (count % 2 == 1 || contains(colorOf(words[(count - 1) / 2])))) {
       return 0;
     }

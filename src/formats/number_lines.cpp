@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t kLineLimit = 256;
 
-// The start of the next line, or past the end of the file.
+// Returns the start of the next line, or an offset past the end of the file.
 std::uint64_t behindLineFeed(ByteSource& source, std::uint64_t offset) { return findTag(source, offset, "\n") + 1; }
 
 std::uint64_t behindComments(ByteSource& source, std::uint64_t offset) {
@@ -18,7 +18,7 @@ std::uint64_t behindComments(ByteSource& source, std::uint64_t offset) {
     while (length < kLineLimit && source.u8(offset + length) != '\n') {
       ++length;
     }
-    // kept on purpose: a comment without a line feed in sight ends one byte behind the part that was looked at.
+    // kept on purpose: a comment without a line feed in the searched part ends one byte after that part.
     offset += length + 1;
   }
   return offset;

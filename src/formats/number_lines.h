@@ -9,7 +9,7 @@
 
 namespace quillhue {
 
-/// Walks over text that holds decimal numbers. Behind the end of the text nothing is a digit.
+/// Reads decimal numbers from a text. Past the end of the text there are no digits.
 class NumberCursor {
  public:
   explicit NumberCursor(std::span<const std::uint8_t> text, std::size_t at = 0) : text_(text), at_(at) {}
@@ -17,17 +17,17 @@ class NumberCursor {
   [[nodiscard]] std::size_t position() const { return at_; }
   [[nodiscard]] bool atDigit() const { return at_ < text_.size() && text_[at_] >= '0' && text_[at_] <= '9'; }
 
-  /// The digits here as a number; 0 when there are none. Grows no further than `limit`.
+  /// Reads the digits at the current place as a number no greater than `limit`; 0 when there are none.
   std::uint32_t number(std::uint32_t limit);
-  /// The digits here as a number modulo 256; 0 when there are none.
+  /// Reads the digits at the current place as a number modulo 256; 0 when there are none.
   std::uint8_t byte();
   void skip(std::size_t count) { at_ += count; }
   /// Skips every byte below `bound`.
   void skipBelow(std::uint8_t bound);
   /// Skips blanks and tabs.
   void skipBlanks();
-  /// Skips what may stand between two numbers of a line: blanks and tabs, at most one other byte that is no digit, and
-  /// blanks and tabs again. Never leaves the line.
+  /// Skips the separator between two numbers of a line: blanks and tabs, at most one other byte that is not a digit,
+  /// and blanks and tabs again. Stops at the end of the line.
   void skipSeparator();
 
  private:
@@ -38,8 +38,8 @@ class NumberCursor {
 enum class HashLines : std::uint8_t { areEntries, areComments };
 
 /// Reads lines of three decimal numbers from `offset` to the end of the file, at most kMaxPaletteSize. Every line is an
-/// entry (but comments, when `hashLines` tells so); a number that is missing is 0, and of a line no more than 256 bytes
-/// are looked at. Without any line the palette is one black entry.
+/// entry, except comments when `hashLines` is areComments. Missing numbers are 0. Only the first 256 bytes of a line
+/// are used. Without any line the palette is one black entry.
 [[nodiscard]] Palette readNumberLines(ByteSource& source, std::uint64_t offset, HashLines hashLines);
 
 }  // namespace quillhue

@@ -13,7 +13,7 @@ namespace quillhue {
 
 namespace {
 
-// What becomes of a file that was read: a document, or nothing when the user does not want one.
+// The document that a file becomes.
 struct Opened {
   Palette palette;
   bool modified;
@@ -79,7 +79,7 @@ bool writePaletteFile(PaletteDocument& document, const std::wstring& fileName, P
     services.messages.error(textOf(Failure::couldNotCreate));
     return false;
   }
-  // kept on purpose: a format without a writer leaves an empty file and an unsaved document.
+  // kept on purpose: a format without a writer gives an empty file, and the document stays unsaved.
   if (findPaletteWriter(format) == nullptr) {
     return false;
   }

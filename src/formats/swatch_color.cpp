@@ -6,7 +6,7 @@ namespace quillhue::swatch {
 
 namespace {
 
-// Also makes 0 of what is no number.
+// Also turns NaN into 0.
 double clampToUnit(double value) {
   if (!(value > 0)) {
     return 0;
@@ -35,7 +35,7 @@ PaletteEntry fromGray(double gray) { return fromRgb(gray, gray, gray); }
 
 PaletteEntry fromHsb(double hue, double saturation, double brightness) {
   const double sector = 6 * clampToUnit(hue);
-  // How far the channel is that is brightest around `place`, 0..6 on the circle.
+  // Returns the channel that is brightest around `place`, 0..6 on the color circle.
   const auto channel = [&](double place) {
     const double distance = std::fmod(sector - place + 9, 6) - 3;
     const double share = clampToUnit(2 - std::abs(distance));
@@ -55,7 +55,7 @@ PaletteEntry fromLab(double lightness, double a, double b) {
   const double x = 0.96422 * cubed(middle + a / 500);
   const double y = cubed(middle);
   const double z = 0.82521 * cubed(middle - b / 200);
-  // XYZ under D50 to linear sRGB: the matrix of IEC 61966-2-1 behind the Bradford matrix from D50 to D65.
+  // Converts XYZ under D50 to linear sRGB: the Bradford matrix from D50 to D65, then the matrix of IEC 61966-2-1.
   return fromRgb(encoded(3.1338561 * x - 1.6168667 * y - 0.4906146 * z),
                  encoded(-0.9787684 * x + 1.9161415 * y + 0.0334540 * z),
                  encoded(0.0719453 * x - 0.2289914 * y + 1.4052427 * z));

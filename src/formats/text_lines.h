@@ -9,14 +9,15 @@
 
 namespace quillhue {
 
-/// The lines of a text file, which end with LF or CR LF. A byte order mark of UTF-8 at its start is skipped.
+/// The lines of a text file. They end with LF or CR LF. A UTF-8 byte order mark at the start of the file is skipped.
 class TextLines {
  public:
   explicit TextLines(ByteSource& source);
 
-  /// The next line without its end, cut to kMaxLength bytes and valid until the next call; nothing after the last line.
+  /// Returns the next line without its line end, cut to kMaxLength bytes and valid until the next call; empty after the
+  /// last line.
   [[nodiscard]] std::optional<std::string_view> next();
-  /// Where the next line begins.
+  /// Offset of the next line.
   [[nodiscard]] std::uint64_t offset() const { return offset_; }
   [[nodiscard]] bool atEnd() const { return offset_ >= source_.size(); }
 
@@ -28,7 +29,7 @@ class TextLines {
   std::string line_;
 };
 
-/// `text` without blanks, tabs and carriage returns at both ends.
+/// Returns `text` without the blanks, tabs and carriage returns at both ends.
 [[nodiscard]] std::string_view trimmed(std::string_view text);
 
 }  // namespace quillhue

@@ -42,7 +42,7 @@ void decode32(std::span<const std::uint8_t> row, std::span<ColorWord> words) {
 
 std::expected<TrueColorBitmap, Failure> TrueColorBitmap::open(ByteSource& source) {
   const auto width = static_cast<std::int32_t>(source.u32le(kFileHeader + kWidth));
-  // Negative in a bitmap whose first row is the upper one; colors have no order.
+  // The height is negative if the top row comes first. The order of rows does not matter for colors.
   const std::int64_t height = std::abs(std::int64_t{static_cast<std::int32_t>(source.u32le(kFileHeader + kHeight))});
   if (const auto failure = checkImageSize(width, height)) {
     return std::unexpected(*failure);
@@ -50,7 +50,7 @@ std::expected<TrueColorBitmap, Failure> TrueColorBitmap::open(ByteSource& source
   TrueColorBitmap bitmap;
   bitmap.source_ = &source;
   bitmap.bytesPerPixel_ = source.u8(kFileHeader + kBitCount) / 8;
-  // kept on purpose: of the offset of the pixels only the low byte counts.
+  // kept on purpose: only the low byte of the pixel offset is used.
   bitmap.offset_ = source.u8(kPixelOffset);
   bitmap.width_ = static_cast<std::uint64_t>(width);
   bitmap.stride_ = (bitmap.width_ * bitmap.bytesPerPixel_ + 3) / 4 * 4;

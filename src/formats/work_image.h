@@ -11,21 +11,21 @@
 
 namespace quillhue {
 
-/// The length of a row of one byte a pixel as Windows has it: the width rounded up to a multiple of 4.
+/// Returns the length of a Windows bitmap row with one byte a pixel: the width rounded up to a multiple of 4.
 [[nodiscard]] constexpr std::size_t paddedRowLength(std::int32_t width) {
   return (static_cast<std::size_t>(width) + 3) / 4 * 4;
 }
 
-/// An image that is to be remapped, within the limits of image_limits.h. Rows stand from top to bottom without padding.
-/// A pixel is an index into the image's own palette, or without one three bytes: blue, green, red.
+/// An image to be remapped, within the limits of image_limits.h. Rows run from top to bottom without padding. A pixel
+/// is an index into the image's own palette or, without a palette, three bytes: blue, green, red.
 class WorkImage {
  public:
-  /// All pixels are zero. Throws std::bad_alloc.
+  /// Sets all pixels to zero. Throws std::bad_alloc.
   WorkImage(std::int32_t width, std::int32_t height, std::optional<Palette> palette);
 
   [[nodiscard]] std::int32_t width() const { return width_; }
   [[nodiscard]] std::int32_t height() const { return height_; }
-  /// Of 16 or 256 entries.
+  /// Has 16 or 256 entries.
   [[nodiscard]] const std::optional<Palette>& palette() const { return palette_; }
   [[nodiscard]] std::size_t bytesPerPixel() const { return palette_ ? 1 : 3; }
 
@@ -39,22 +39,22 @@ class WorkImage {
   /// Whether a pixel may be transparent, which is less than half covered by the image. Such a pixel still has the color
   /// that it has without transparency.
   [[nodiscard]] bool hasTransparency() const { return transparentIndexes_.any() || !transparent_.all().empty(); }
-  /// Indexes whose pixels are transparent; for an image with a palette.
+  /// Indexes of transparent pixels. Only for an image with a palette.
   [[nodiscard]] std::bitset<256>& transparentIndexes() { return transparentIndexes_; }
   [[nodiscard]] const std::bitset<256>& transparentIndexes() const { return transparentIndexes_; }
-  /// One byte a pixel, 1 for a transparent one and 0 for all others; for an image without a palette, with transparency.
+  /// One byte a pixel: 1 if it is transparent, otherwise 0. Only for an image without a palette, after addTransparency.
   [[nodiscard]] std::span<std::uint8_t> transparentRow(std::int32_t y) {
     return transparent_.all().subspan(at(y), columns());
   }
   [[nodiscard]] std::span<const std::uint8_t> transparentRow(std::int32_t y) const {
     return transparent_.all().subspan(at(y), columns());
   }
-  /// Makes room for transparent pixels; none is yet. Throws std::bad_alloc.
+  /// Makes room for transparent pixels; at first none is transparent. Throws std::bad_alloc.
   void addTransparency() { transparent_ = ZeroedMemory<std::uint8_t>(at(height_)); }
 
  private:
   [[nodiscard]] std::size_t columns() const { return static_cast<std::size_t>(width_); }
-  // The place of a row's first pixel.
+  // Returns the index of a row's first pixel.
   [[nodiscard]] std::size_t at(std::int32_t y) const { return static_cast<std::size_t>(y) * columns(); }
   [[nodiscard]] std::size_t rowLength() const { return columns() * bytesPerPixel(); }
   [[nodiscard]] std::size_t rowStart(std::int32_t y) const { return at(y) * bytesPerPixel(); }

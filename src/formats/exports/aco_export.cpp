@@ -4,7 +4,7 @@ namespace quillhue {
 
 namespace {
 
-// Version 1, without names. A color is its model, 0 for RGB, and four words; the reader of this format names the
+// Version 1, without names. A color is its model, 0 for RGB, and four words. The reader of this format describes the
 // layout.
 void compose(const Palette& palette, std::string_view /*name*/, ByteSink& sink) {
   sink.u16be(0, 1);

@@ -8,7 +8,8 @@ namespace quillhue {
 
 namespace {
 
-// One block of type 1 for each color, named by its hexadecimal digits; the reader of this format names the layout.
+// Writes a block of type 1 for a color, named by its hexadecimal digits. The reader of this format describes the
+// layout.
 void composeBlock(PaletteEntry color, ByteSink& sink) {
   constexpr std::uint16_t kColorBlock = 1;
   constexpr std::uint16_t kProcessColor = 2;

@@ -7,7 +7,7 @@ namespace quillhue {
 
 namespace {
 
-// "palette_harbour": with the prefix no name begins with a digit or is a word of the language.
+// Returns a name like "palette_harbour". The prefix keeps it from starting with a digit or being a keyword.
 std::string identifierFor(std::string_view name) {
   std::string identifier = name.empty() ? "palette" : "palette_";
   for (const char letter : name) {

@@ -7,17 +7,17 @@
 
 namespace quillhue {
 
-/// A format that only the tool writes.
+/// A format that only the tool writes, and no editor dialog offers.
 struct ExportFormat {
-  /// For scripts.
+  /// Identifier for scripts.
   std::string_view name;
-  /// For people.
+  /// Title for users.
   std::string_view title;
   std::string_view extension;
-  /// A file name with this extension is enough to choose the format.
+  /// True when the extension of a file name is enough to choose this format.
   bool ownsExtension;
-  /// Composes the file for a palette of any size. `name` is the file's name without folder and extension (UTF-8), empty
-  /// for standard output.
+  /// Composes the file for a palette of any size. `name` is the file's name without folder and extension (UTF-8), or
+  /// empty for standard output.
   void (*compose)(const Palette& palette, std::string_view name, ByteSink& sink);
 };
 

@@ -13,7 +13,7 @@ extern const ExportFormat kAcoExport;
 extern const ExportFormat kJsonExport;
 extern const ExportFormat kCExport;
 
-/// All formats that only the tool writes. They are no file types of the Save As dialog and have no format code.
+/// Returns all formats that only the tool writes. They are not in the Save As dialog and have no format code.
 [[nodiscard]] std::span<const ExportFormat* const> exportFormats();
 
 }  // namespace quillhue

@@ -9,8 +9,8 @@ namespace {
 bool matches(ByteSource& source) { return matchTag(source, 0, "BM"); }
 
 ImageResult load(ByteSource& source) {
-  // kept on purpose: of the offset of the pixels only the low byte counts. It is where the palette stands: 54 in most
-  // files, whose 8-bit pixels stand at 1078.
+  // kept on purpose: only the low byte of the pixel offset is used, as the offset of the palette. It is 54 in most
+  // files: 8-bit pixels start at 1078, and the low byte of 1078 is 54.
   return loadDib(source, {bitmap_layout::kFileHeader, source.u8(bitmap_layout::kPixelOffset)}, Failure::bitmapDepth);
 }
 

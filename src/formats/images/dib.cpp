@@ -17,7 +17,7 @@ namespace {
 
 using Bytes = std::span<const std::uint8_t>;
 
-// Turns a row of the file into a row of the image.
+// Converts a row of the file to a row of the image.
 using DecodeRow = void (*)(Bytes stored, std::span<std::uint8_t> row);
 
 void decode4(Bytes stored, std::span<std::uint8_t> row) {
@@ -41,7 +41,7 @@ void decode32(Bytes stored, std::span<std::uint8_t> row) {
   }
 }
 
-// A field of a pixel as a whole byte, the largest value as 255.
+// Widens a field of a pixel to a byte; the largest field becomes 255.
 std::uint8_t fieldOf(std::uint32_t pixel, std::uint32_t mask) {
   constexpr std::uint32_t kFiveBits = 31;
   if (mask == 0) {
@@ -68,14 +68,14 @@ void decodeMasked(Bytes stored, std::span<std::uint8_t> row, const BitMasks& mas
 
 struct Depth {
   std::uint32_t bits;
-  // Of the palette; 0 without one.
+  // Size of the palette; 0 without one.
   std::int32_t entries;
-  // Null where rows are stored as the image has them.
+  // Null if the file stores rows as the image does.
   DecodeRow decode;
 };
 
 constexpr std::array<Depth, 6> kDepths{
-    // kept on purpose: a bitmap that does not tell its depth has 4 bits.
+    // kept on purpose: depth 0 counts as 4 bits a pixel.
     {{0, 16, decode4}, {4, 16, decode4}, {8, 256, nullptr}, {16, 0, decode16}, {24, 0, nullptr}, {32, 0, decode32}}};
 
 }  // namespace

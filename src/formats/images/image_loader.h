@@ -12,15 +12,15 @@ namespace quillhue {
 
 using ImageResult = std::expected<WorkImage, Failure>;
 
-/// One layout of image files.
+/// A layout of image files.
 struct ImageLoader {
-  /// For scripts.
+  /// Identifier for scripts.
   std::string_view name;
-  /// The file name patterns of the Open dialog.
+  /// File name patterns of the Open dialog.
   std::string_view patterns;
-  /// True when the first four bytes are this layout's. The catalogue asks in order, and the first true counts.
+  /// True when the first four bytes are those of this layout. The first loader in the catalogue that matches is used.
   bool (*matches)(ByteSource& source);
-  /// Loads a file that matches. Pixels that the file has no data for are zero.
+  /// Loads a file that matches. Pixels missing from the file are zero.
   ImageResult (*load)(ByteSource& source);
 };
 

@@ -26,8 +26,8 @@ ImageResult guarded(ByteSource& source, Load load) try {
   return std::unexpected(Failure::notEnoughMemory);
 }
 
-// Programs that take pictures of the screen put masks between the header of 40 bytes and the pixels, or into a longer
-// header at the same place.
+// Screenshot programs put the masks between the header of 40 bytes and the pixels, or into a longer header at the same
+// place.
 DibLayout clipboardLayout(ByteSource& source) {
   using namespace bitmap_layout;
   constexpr std::uint32_t kBitFields = 3;
@@ -36,7 +36,7 @@ DibLayout clipboardLayout(ByteSource& source) {
   if (source.u32le(kCompression) != kBitFields || (depth != 16 && depth != 32)) {
     return {.palette = kInfoHeader};
   }
-  // Stored in the order of red, green, blue.
+  // Stored in the order red, green, blue.
   const BitMasks masks{source.u32le(kInfoHeader + 8), source.u32le(kInfoHeader + 4), source.u32le(kInfoHeader)};
   return {.palette = header <= kInfoHeader ? kInfoHeader + 12 : header, .masks = masks};
 }

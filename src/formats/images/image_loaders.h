@@ -12,16 +12,16 @@ extern const ImageLoader kClipboardLoader;
 extern const ImageLoader kLbmLoader;
 extern const ImageLoader kPcxLoader;
 
-/// All loaders, in the order in which a file is tried.
+/// Returns all loaders in the order in which they are tried.
 [[nodiscard]] std::span<const ImageLoader* const> imageLoaders();
 
-/// Loads an image file by the first loader that matches. A file that no loader knows, that is not what it seems to
-/// be, or that is too large for the memory is refused.
+/// Loads an image file with the first loader that matches. Refuses a file that no loader recognises, that is invalid,
+/// or that does not fit into memory.
 [[nodiscard]] ImageResult loadImage(ByteSource& source);
 
-/// Loads a device-independent bitmap from the clipboard (CF_DIB): its header, its palette 40 bytes behind the header's
-/// start, its pixels. With bit fields (compression 3) the three masks are there instead, and the pixels follow them or
-/// the header, whichever ends later.
+/// Loads a device-independent bitmap from the clipboard (CF_DIB). Its palette starts 40 bytes after the start of the
+/// header; the pixels follow. With bit fields (compression 3) the three masks are in place of the palette, and the
+/// pixels follow the masks or the header, whichever ends later.
 [[nodiscard]] ImageResult loadClipboardImage(std::vector<std::uint8_t> block);
 
 }  // namespace quillhue

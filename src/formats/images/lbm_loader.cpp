@@ -19,20 +19,20 @@ constexpr std::size_t kPlanes = 8;
 struct Header {
   std::int32_t width = 0;
   std::int32_t height = 0;
-  // A plane of transparency stands behind those of the color.
+  // A mask plane follows the color planes.
   bool hasMask = false;
   bool isCompressed = false;
 };
 
 bool matches(ByteSource& source) { return matchTag(source, 0, "FORM"); }
 
-// kept on purpose: files of two sizes only, told by the low half of the form's length.
+// kept on purpose: only files of two sizes are loaded, recognised by the low half of the form's length.
 bool hasKnownSize(ByteSource& source) {
   const std::uint16_t size = source.u16be(6);
   return size == 0xFD30 || size == 0x7638;
 }
 
-// The data of the first chunk with this tag, looked for byte by byte.
+// Returns the offset of the data of the first chunk with this tag, searched byte by byte.
 std::optional<std::uint64_t> findChunk(ByteSource& source, std::string_view tag) {
   const std::uint64_t found = findTag(source, kChunks, tag);
   return found < source.size() ? std::optional(found + kChunkData) : std::nullopt;
@@ -57,7 +57,7 @@ std::expected<Header, Failure> readHeader(ByteSource& source) {
   return header;
 }
 
-// Black where the file has none or not all.
+// Entries that the file lacks are black.
 std::expected<Palette, Failure> readColorMap(ByteSource& source) {
   Palette palette = createPalette(256);
   const auto data = findChunk(source, "CMAP");
@@ -75,8 +75,8 @@ std::expected<Palette, Failure> readColorMap(ByteSource& source) {
   return palette;
 }
 
-// The bytes of the body one after the other, as they are or as ByteRun1 packs them: a count n from 0 to 127 and n + 1
-// bytes, or one from -1 to -127 and a byte that stands 1 - n times.
+// The bytes of the body in order, either stored directly or packed with ByteRun1: a count n from 0 to 127 is followed
+// by n + 1 bytes, a count n from -1 to -127 by one byte that is repeated 1 - n times.
 class Body {
  public:
   Body(ByteSource& source, std::uint64_t offset, bool isCompressed)
@@ -100,7 +100,8 @@ class Body {
   }
 
  private:
-  // What the packet gives of `out`; 0 when it is used up and another one follows.
+  // Copies bytes of the current packet to `out` and returns their number; 0 when the packet was used up and the next
+  // one has been opened.
   std::size_t readPacket(std::span<std::uint8_t> out) {
     if (literals_ > 0) {
       const std::size_t count = std::min(literals_, out.size());
@@ -133,7 +134,8 @@ class Body {
   std::uint8_t value_ = 0;
 };
 
-// One row of each plane after the other, the lowest bit of the index first; within a byte the left pixel is highest.
+// Each row has its planes one after the other, the lowest bit of the index first. In a byte, the left pixel is the
+// highest bit.
 void readPlanes(Body& body, bool hasMask, WorkImage& image) {
   const std::size_t planeRow = (static_cast<std::size_t>(image.width()) + 15) / 16 * 2;
   std::vector<std::uint8_t> planes(planeRow * (hasMask ? kPlanes + 1 : kPlanes));
@@ -149,7 +151,7 @@ void readPlanes(Body& body, bool hasMask, WorkImage& image) {
   }
 }
 
-// A byte a pixel, rows padded to 16 bits.
+// One byte a pixel, rows padded to 16 bits.
 void readBytes(Body& body, WorkImage& image) {
   std::uint8_t padding = 0;
   for (std::int32_t y = 0; y < image.height() && !body.isAtEnd(); ++y) {

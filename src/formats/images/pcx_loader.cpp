@@ -17,7 +17,7 @@ constexpr std::uint64_t kPaletteLength = 768;
 
 bool matches(ByteSource& source) { return source.u8(0) == 0x0A; }
 
-// The last bytes of the file; what a shorter file lacks of them is zero.
+// Reads the palette from the last bytes of the file. Bytes missing from a shorter file are zero.
 Palette readPalette(ByteSource& source) {
   std::vector<std::uint8_t> bytes(kPaletteLength);
   const auto stored = static_cast<std::size_t>(std::min(source.size(), kPaletteLength));
@@ -25,8 +25,8 @@ Palette readPalette(ByteSource& source) {
   return paletteFromTriples(bytes, 256);
 }
 
-// A byte of 192 and more tells in its low six bits how often the next one stands. Gives the number of bytes decoded,
-// fewer than are asked for where the file ends.
+// A byte of 192 or more contains in its low six bits the number of times that the next byte is repeated. Returns the
+// number of bytes decoded, which is smaller than requested if the file ends early.
 std::size_t decodeRuns(ByteSource& source, const std::span<std::uint8_t> pixels) {
   std::span<std::uint8_t> out = pixels;
   for (std::uint64_t offset = kPixels; !out.empty() && offset < source.size(); ++offset) {
@@ -42,7 +42,8 @@ std::size_t decodeRuns(ByteSource& source, const std::span<std::uint8_t> pixels)
   return pixels.size() - out.size();
 }
 
-// Each row holds its reds, its greens and its blues. Only rows within the first `decoded` bytes are looked at.
+// Each row has its reds, then its greens, then its blues. Only rows that start within the first `decoded` bytes are
+// converted.
 void interleaveRows(WorkImage& image, std::size_t decoded) {
   const auto width = static_cast<std::size_t>(image.width());
   std::vector<std::uint8_t> planes(3 * width);

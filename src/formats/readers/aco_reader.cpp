@@ -4,7 +4,7 @@
 #include "formats/swatch_color.h"
 
 // Layout: "Adobe Photoshop File Formats Specification", section "Color swatches": big-endian words. A color is its
-// model and four components; in version 2 a name follows each.
+// model and four components; in version 2 a name follows each color.
 
 namespace quillhue {
 
@@ -27,7 +27,7 @@ std::optional<PaletteEntry> readColor(ByteSource& source, std::uint64_t offset) 
     case kHsb:
       return swatch::fromHsb(share(0), share(1), share(2));
     case kCmyk:
-      // 0 is full ink.
+      // In this format 0 is full ink.
       return swatch::fromCmyk(1 - share(0), 1 - share(1), 1 - share(2), 1 - share(3));
     case kLab:
       return swatch::fromLab(word(0) / 100.0, signedWord(1) / 100.0, signedWord(2) / 100.0);

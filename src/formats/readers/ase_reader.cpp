@@ -6,7 +6,7 @@
 #include "formats/swatch_color.h"
 
 // Layout: "Adobe Swatch Exchange" of selapa.net/swatches/colors/fileformats.php: big-endian blocks of a type, a length
-// and data. A color's data are its name, its model, the components as 32-bit floats, and its kind.
+// and data. A color block contains its name, its model, the components as 32-bit floats, and its kind.
 
 namespace quillhue {
 
@@ -35,7 +35,7 @@ constexpr std::array kModels{
             return swatch::fromCmyk(floatAt(source, at), floatAt(source, at + 4), floatAt(source, at + 8),
                                     floatAt(source, at + 12));
           }},
-    // The lightness is 0..1 here.
+    // In this format the lightness is 0..1.
     Model{"LAB ", 3,
           [](ByteSource& source, std::uint64_t at) {
             return swatch::fromLab(100 * floatAt(source, at), floatAt(source, at + 4), floatAt(source, at + 8));
@@ -44,7 +44,7 @@ constexpr std::array kModels{
 };
 
 std::expected<PaletteEntry, Failure> readColor(ByteSource& source, std::uint64_t data, std::uint64_t end) {
-  // The name is a count of UTF-16 units, the closing zero among them, and those.
+  // The name is a count of UTF-16 units, including the closing zero, and then the units.
   const std::uint64_t tag = data + 2 + 2 * std::uint64_t{source.u16be(data)};
   for (const Model& model : kModels) {
     if (matchTag(source, tag, model.tag)) {

@@ -12,7 +12,7 @@ bool matches(const ReaderInput& input) { return matchTag(input.source, 0, "BM");
 ReadResult read(const ReaderInput& input) {
   const std::uint8_t bits = input.source.u8(kFileHeader + kBitCount);
   if (bits <= 8) {
-    // kept on purpose: header size and colors used are not consulted, the table is full and stands behind 54 bytes.
+    // kept on purpose: ignores header size and colors used. The table is taken to be full and to start at offset 54.
     return FilePalette{blueFirst(readQuads(input.source, kFileHeader + kInfoHeader, 1 << bits)), palette_format::kNone};
   }
   if (bits != 16 && bits != 24 && bits != 32) {

@@ -10,7 +10,7 @@ namespace {
 
 bool matches(const ReaderInput& input) { return input.source.u16le(0) == kClipboardFileId; }
 
-// The data offset of the first item of this format that is `usable`.
+// Returns the data offset of the first item that has this format and is `usable`.
 template <typename Usable>
 std::optional<std::uint64_t> findItem(ByteSource& source, std::uint16_t format, Usable usable) {
   for (const ClipboardItem& item : clipboardItems(source)) {

@@ -8,8 +8,8 @@ namespace {
 bool matches(const ReaderInput& input) { return matchTag(input.source, 0, "GIMP"); }
 
 ReadResult read(const ReaderInput& input) {
-  // kept on purpose: every line behind "GIMP Palette" and its line end that is no comment is an entry, Name and
-  // Columns lines too.
+  // kept on purpose: every line after "GIMP Palette" that is not a comment is an entry, including Name and Columns
+  // lines.
   constexpr std::uint64_t kHeaderLength = 13;
   return FilePalette{readNumberLines(input.source, kHeaderLength, HashLines::areComments),
                      palette_format::kGimp | palette_format::kMayHoldMore};

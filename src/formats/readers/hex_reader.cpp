@@ -2,7 +2,7 @@
 #include "formats/readers/palette_readers.h"
 #include "formats/text_lines.h"
 
-// A line a color, as palette collections on the web offer them for download.
+// One color a line, as web collections of palettes offer for download.
 
 namespace quillhue {
 

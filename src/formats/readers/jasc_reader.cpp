@@ -9,12 +9,12 @@ namespace quillhue {
 
 namespace {
 
-// "JASC-PAL", the version line "0100" and the count line, with two-byte line ends and four digits.
+// The lines "JASC-PAL" and "0100" with two-byte line ends, then the count line with up to four digits.
 constexpr std::size_t kHeadLength = 21;
-// Three numbers of three digits and what stands between them.
+// Three numbers of three digits and the separators between them.
 constexpr std::size_t kLineLength = 14;
 
-// Where the search for the entry count starts. With bare line feeds the version line begins at index 9.
+// Returns where the search for the entry count starts. With single line feeds the version line begins at index 9.
 std::size_t countPosition(const ByteSource& source, const std::vector<std::uint8_t>& head) {
   if (source.size() < 10 || head[9] == '0') {
     return 13;

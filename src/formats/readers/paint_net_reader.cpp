@@ -6,13 +6,13 @@
 #include "formats/readers/palette_readers.h"
 #include "formats/text_lines.h"
 
-// Layout: Paint.NET's documentation, "Working with palettes": a line a color, alpha first.
+// Layout: Paint.NET's documentation, "Working with palettes": one color a line, alpha first.
 
 namespace quillhue {
 
 namespace {
 
-// True when the file begins with "; paint.net" in any case, with or without the blank.
+// True when the file begins with "; paint.net" in any case, with or without the space.
 bool hasTitle(ByteSource& source) {
   std::string start;
   for (std::uint64_t offset = TextLines(source).offset(); start.size() < 11; ++offset) {
@@ -23,7 +23,7 @@ bool hasTitle(ByteSource& source) {
 
 bool matches(const ReaderInput& input) { return nameEndsWith(input.name, ".TXT") && hasTitle(input.source); }
 
-// Six digits, or eight of which the first two are the alpha.
+// Parses six digits, or eight digits whose first two are the alpha.
 std::optional<PaletteEntry> parseColor(std::string_view digits) {
   constexpr std::size_t kAlphaDigits = 2;
   if (digits.size() == 6 + kAlphaDigits && parseHexColor(digits.substr(0, 6))) {

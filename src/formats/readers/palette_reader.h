@@ -17,49 +17,49 @@
 
 namespace quillhue {
 
-/// A file to be read: its bytes, and its name for those formats that only the extension tells.
+/// A file to be read: its bytes, and its name for formats that are recognised by the extension.
 struct ReaderInput {
   ByteSource& source;
   std::wstring_view name;
 };
 
-/// A palette that a file holds, and the format it can be written back in.
+/// The palette of a file, and the format in which it can be written back.
 struct FilePalette {
   Palette palette;
   PaletteFormat format = palette_format::kNone;
-  /// The file has more entries than kMaxPaletteSize; the palette has the first of them.
+  /// The file has more than kMaxPaletteSize entries; the palette has only the first of them.
   bool isCut = false;
 };
 
-/// What a reader finds: a palette, or an image of true colors from which one can be made. An image that is decoded at
-/// once comes only from readers that the tool asks by their own means.
+/// The result of reading: a palette, or a true-color image from which a palette can be made. Only the tool's own
+/// readers return a decoded image (WorkImage).
 using FileContent = std::variant<FilePalette, TrueColorBitmap, WorkImage>;
 using ReadResult = std::expected<FileContent, Failure>;
 
 /// One layout of palette files.
 struct PaletteReader {
-  /// For scripts.
+  /// Identifier for scripts.
   std::string_view name;
-  /// For people.
+  /// Title for users.
   std::string_view title;
-  /// What tells the layout: a signature or an extension, in words.
+  /// Describes how files are recognised: a signature or an extension.
   std::string_view recognisedBy;
-  /// What its files are usually called, as file name patterns of the Open dialog with semicolons between them.
+  /// File name patterns of the Open dialog, separated by semicolons.
   std::string_view patterns;
-  /// True when the file has this layout's signature or name. The catalogue asks in order, and the first true counts.
+  /// True when the file has this layout's signature or name. The first reader in the catalogue that matches is used.
   bool (*matches)(const ReaderInput& input);
-  /// Reads a file that matches. Sizes that the file claims are checked before anything of that size is made.
+  /// Reads a file that matches. Checks every size in the file before it allocates memory of that size.
   ReadResult (*read)(const ReaderInput& input);
 };
 
-/// The entries of a file that lists them one after the other.
+/// Collects the entries of a file that lists colors one after the other.
 class ListedEntries {
  public:
-  /// Keeps the first kMaxPaletteSize colors.
+  /// Adds a color, unless there are kMaxPaletteSize already.
   void add(PaletteEntry color);
-  /// True when one more was added than is kept.
+  /// True when a color was left out.
   [[nodiscard]] bool isCut() const { return isCut_; }
-  /// The palette, or `ifNone` when there are no entries.
+  /// Returns the palette, or `ifNone` when there are no entries.
   [[nodiscard]] ReadResult result(Failure ifNone, PaletteFormat format = palette_format::kNone) const;
 
  private:
@@ -67,19 +67,19 @@ class ListedEntries {
   bool isCut_ = false;
 };
 
-/// True when the name's last characters are `word` (upper-case letters); in the name a to z count as A to Z.
+/// True when the name ends with `word`, which is in upper case. In the name, a to z count as A to Z.
 [[nodiscard]] bool nameEndsWith(std::wstring_view name, std::string_view word);
 
-/// `count` entries (1 or more) from records of red, green, blue, three bytes each.
+/// Returns `count` entries (1 or more) from records of red, green and blue, one byte each.
 [[nodiscard]] Palette paletteFromTriples(std::span<const std::uint8_t> bytes, std::int32_t count);
-/// The same from records of four bytes, of which the last is ignored.
+/// The same from records of four bytes; the last byte is ignored.
 [[nodiscard]] Palette paletteFromQuads(std::span<const std::uint8_t> bytes, std::int32_t count);
 
-/// The same, read from a file at `offset`; for `count` up to kMaxPaletteSize.
+/// The same, read from a file at `offset`. `count` is at most kMaxPaletteSize.
 [[nodiscard]] Palette readTriples(ByteSource& source, std::uint64_t offset, std::int32_t count);
 [[nodiscard]] Palette readQuads(ByteSource& source, std::uint64_t offset, std::int32_t count);
 
-/// The palette with red and blue exchanged, for formats that store blue first.
+/// Returns the palette with red and blue exchanged, for formats that store blue first.
 [[nodiscard]] Palette blueFirst(Palette palette);
 
 }  // namespace quillhue

@@ -33,15 +33,15 @@ extern const PaletteReader kAcoReader;
 extern const PaletteReader kPaintNetReader;
 extern const PaletteReader kHexReader;
 
-/// All readers, in the order in which they are asked whether they know a file: signatures first, then extensions.
-/// kAseReader and those after it come last, so that they only get files that no other reader takes.
+/// Returns all readers in the order in which they are tried: signatures first, then extensions. kAseReader and those
+/// after it come last, so that they only get files that no other reader takes.
 [[nodiscard]] std::span<const PaletteReader* const> paletteReaders();
 
-/// The first reader that matches; null when none does.
+/// Returns the first reader that matches, or null.
 [[nodiscard]] const PaletteReader* findPaletteReader(const ReaderInput& input);
 
-/// Finds the reader and reads with it. Refuses with the reader's failure, with unrecognisedType when no reader matches,
-/// or with couldNotOpen when the bytes could not be had from the medium.
+/// Reads a palette with the first reader that matches. Refuses with that reader's failure, with unrecognisedType when
+/// no reader matches, or with couldNotOpen when the medium fails.
 [[nodiscard]] ReadResult readPalette(const ReaderInput& input);
 
 }  // namespace quillhue

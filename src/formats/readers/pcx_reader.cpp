@@ -4,10 +4,10 @@ namespace quillhue {
 
 namespace {
 
-// Versions: 16 colors in the header, or 256 behind the image.
+// File versions: 16 colors in the header, or 256 colors after the image.
 constexpr std::uint8_t kHeaderPalette = 2;
 constexpr std::uint8_t kTrailingPalette = 5;
-// The mark and 256 triples.
+// The mark and 256 records of three bytes.
 constexpr std::uint64_t kTrailerLength = 769;
 
 bool matches(const ReaderInput& input) {

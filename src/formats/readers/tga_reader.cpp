@@ -7,7 +7,7 @@ namespace {
 bool matches(const ReaderInput& input) { return nameEndsWith(input.name, "TGA") && input.source.u8(0) == 0; }
 
 ReadResult read(const ReaderInput& input) {
-  // Byte 1 tells whether there is a color map; the one of 256 entries stands behind the header of 18 bytes.
+  // Byte 1 says whether there is a color map. A color map of 256 entries follows the header of 18 bytes.
   if (input.source.u8(1) != 1) {
     return std::unexpected(Failure::tgaNot8Bit);
   }

@@ -17,7 +17,7 @@ constexpr std::uint16_t kPaletteColor = 3;
 constexpr std::uint8_t kMostBits = 10;
 constexpr std::uint64_t kFieldSize = 12;
 
-// A file's values in its own byte order.
+// Reads values in the file's own byte order.
 class TiffValues {
  public:
   explicit TiffValues(ByteSource& source) : source_(source), bigEndian_(source.u8(0) == 'M') {}
@@ -29,7 +29,7 @@ class TiffValues {
   [[nodiscard]] std::uint32_t u32(std::uint64_t offset) const {
     return bigEndian_ ? source_.u32be(offset) : source_.u32le(offset);
   }
-  // Where the high byte of the 16-bit value at `offset` stands.
+  // Returns the offset of the high byte of the 16-bit value at `offset`.
   [[nodiscard]] std::uint64_t highByte(std::uint64_t offset) const { return bigEndian_ ? offset : offset + 1; }
 
  private:
@@ -38,14 +38,14 @@ class TiffValues {
 };
 
 struct Directory {
-  // Negative until the image is known to have palette colors.
+  // Negative until the image is known to use a palette.
   std::int32_t colors = -1;
   std::optional<std::uint64_t> colorMap;
 };
 
 std::optional<Directory> readDirectory(const TiffValues& values) {
   const std::uint64_t start = values.u32(4);
-  // Behind the end of the file there is nothing but zeros, which are no field.
+  // Bytes past the end of the file read as zeros, which are no field, so the loop can stop there.
   const std::uint64_t end = std::min(start + 2 + values.u16(start) * kFieldSize, values.size());
   Directory directory;
   for (std::uint64_t field = start + 2; field < end; field += kFieldSize) {
@@ -85,7 +85,7 @@ ReadResult read(const ReaderInput& input) {
   if (!directory || !directory->colorMap || directory->colors < 1 || directory->colors > kMaxPaletteSize) {
     return std::unexpected(Failure::tiffCorrupt);
   }
-  // All red values, then all green, then all blue, 16 bits each, of which the high byte counts.
+  // All red values, then all green, then all blue, 16 bits each. Only the high byte is used.
   const auto count = static_cast<std::size_t>(directory->colors);
   const auto map = input.source.bytes(values.highByte(*directory->colorMap), 6 * count);
   const auto component = [&](std::size_t index) { return map[2 * index]; };

@@ -10,7 +10,7 @@ constexpr std::uint8_t kColorMapProperty = 1;
 bool matches(const ReaderInput& input) { return matchTag(input.source, 0, "gimp"); }
 
 ReadResult read(const ReaderInput& input) {
-  // The low bytes of two big-endian words: the image's base type and the type of its first property.
+  // The low bytes of two big-endian values: the image's base type and the type of its first property.
   if (input.source.u8(25) != kIndexedImage) {
     return std::unexpected(Failure::xcfNotIndexed);
   }

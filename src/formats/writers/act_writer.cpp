@@ -9,7 +9,7 @@ constexpr std::int32_t kTableSize = 256;
 void compose(const Palette& palette, PaletteEntry blank, ByteSink& sink) {
   composeTriples(palette, kTableSize, blank, 0, sink);
   if (palette.getSize() < kTableSize) {
-    // The entry count and an index of no transparent entry, both big-endian.
+    // The entry count and the index of the transparent entry (none), both big-endian.
     sink.bytes(sink.size(), {0, static_cast<std::uint8_t>(palette.getSize()), 0xFF, 0xFF});
   }
 }

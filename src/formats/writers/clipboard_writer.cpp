@@ -14,7 +14,7 @@ void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
   sink.u16le(4, kPaletteItem);
   sink.u32le(6, static_cast<std::uint32_t>(size) * 4 + 8);
   sink.u32le(10, kData);
-  // kept on purpose: the name stands two bytes into its field.
+  // kept on purpose: the name starts two bytes after the start of its field.
   sink.text(16, "Pal&ette");
   sink.u16le(kData, 0x0300);
   sink.u16le(kData + 2, static_cast<std::uint16_t>(size));

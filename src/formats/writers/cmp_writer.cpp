@@ -5,7 +5,7 @@ namespace quillhue {
 namespace {
 
 void compose(const Palette& palette, PaletteEntry blank, ByteSink& sink) {
-  // The table's size is a power of two, 16 at least.
+  // The size of the table is a power of two, at least 16.
   std::uint16_t bits = 4;
   while (1 << bits < palette.getSize()) {
     ++bits;

@@ -7,7 +7,7 @@ namespace {
 void compose(const Palette& palette, PaletteEntry blank, ByteSink& sink) {
   sink.bytes(0, {0, 3, 0, 1});
   composeQuads(palette, palette.getSize() <= 16 ? 16 : 256, blank, 0, 4, sink);
-  // kept on purpose: every file has the length of the large table, so one of 16 entries opens again with 256.
+  // kept on purpose: every file is as long as the large table, so a palette of 16 entries opens again with 256.
   sink.extend(1032);
 }
 

@@ -7,7 +7,7 @@ namespace quillhue {
 namespace {
 
 void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
-  // kept on purpose: the count is a byte, so a palette of 256 entries is written with the count 0.
+  // kept on purpose: the count is a byte, so the count of 256 entries is written as 0.
   const auto count = static_cast<std::uint8_t>(palette.getSize());
   sink.text(0, "JASC-PAL\r\n0100\r\n" + std::to_string(count) + "\r\n");
   composeNumberLines(palette, ' ', "\r\n", sink);

@@ -9,7 +9,7 @@ void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
   sink.u8(0, 0x43);
   sink.u8(1, static_cast<std::uint8_t>(palette.getSize() - 1));
   sink.extend(kHeaderLength);
-  // Black is implied: a black first entry falls on the header's last four zeros, and readers put it back.
+  // Black is implied: a black first entry overlaps the header's last four zeros, and readers add it again.
   const std::size_t firstRecord = palette.entry(0) == PaletteEntry{} ? kHeaderLength - 4 : kHeaderLength;
   composeQuads(palette, palette.getSize(), {}, 0, firstRecord, sink);
 }

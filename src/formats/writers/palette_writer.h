@@ -14,38 +14,38 @@ namespace quillhue {
 
 inline constexpr std::int32_t kAnySize = std::numeric_limits<std::int32_t>::max();
 
-/// One format that palettes are written in.
+/// A format in which palettes are written.
 struct PaletteWriter {
   PaletteFormat format;
-  /// For scripts.
+  /// Identifier for scripts.
   std::string_view name;
-  /// The file type's text and pattern in the Save As dialog.
+  /// Text and pattern of the file type in the Save As dialog.
   std::string_view fileType;
   std::string_view pattern;
-  /// What the format's files are usually called.
+  /// The usual extension.
   std::string_view extension;
-  /// A name without an extension gets it in Save As.
+  /// True when Save As appends the extension to a name without one.
   bool appendsExtension;
-  /// The extension alone stands for this format; of those that share one, it does so for one at most.
+  /// True when the extension alone chooses this format. Only one of the formats that share an extension may have this.
   bool ownsExtension;
-  /// The most entries that the format holds.
+  /// The greatest number of entries.
   std::int32_t maxSize;
-  /// Composes the file; the palette is not larger than maxSize. Unused entries of a fixed size become `blank`.
+  /// Composes the file. The palette has at most maxSize entries. Unused entries of a fixed-size table become `blank`.
   void (*compose)(const Palette& palette, PaletteEntry blank, ByteSink& sink);
 };
 
-/// The entry, or `blank` past the palette's end.
+/// Returns the entry, or `blank` past the palette's end.
 [[nodiscard]] inline PaletteEntry entryOr(const Palette& palette, std::int32_t index, PaletteEntry blank) {
   return index < palette.getSize() ? palette.entry(index) : blank;
 }
 
-/// One line of three decimal numbers an entry, appended to the file.
+/// Appends one line of three decimal numbers for each entry.
 void composeNumberLines(const Palette& palette, char separator, std::string_view lineEnd, ByteSink& sink);
 
-/// `count` records of red, green, blue and `fourth`, in `blank` past the palette's end.
+/// Writes `count` records of red, green, blue and `fourth`, with `blank` past the palette's end.
 void composeQuads(const Palette& palette, std::int32_t count, PaletteEntry blank, std::uint8_t fourth,
                   std::size_t offset, ByteSink& sink);
-/// `count` records of red, green, blue, in `blank` past the palette's end.
+/// Writes `count` records of red, green and blue, with `blank` past the palette's end.
 void composeTriples(const Palette& palette, std::int32_t count, PaletteEntry blank, std::size_t offset, ByteSink& sink);
 
 }  // namespace quillhue

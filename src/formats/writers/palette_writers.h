@@ -22,14 +22,14 @@ extern const PaletteWriter kMsDrawWriter;
 extern const PaletteWriter kRiffWriter;
 extern const PaletteWriter kClipboardWriter;
 
-/// All writers, in the order of the Save As dialog's file types: that of format f stands at f - 1.
+/// Returns all writers in the order of the file types in the Save As dialog; format f is at index f - 1.
 [[nodiscard]] std::span<const PaletteWriter* const> paletteWriters();
 
-/// The writer of the format; null when there is none.
+/// Returns the writer of the format, or null.
 [[nodiscard]] const PaletteWriter* findPaletteWriter(PaletteFormat format);
 
-/// The bytes of a palette file. Refuses with mightHoldMore a format with kMayHoldMore in it, and with one of the
-/// too-large failures a palette that the format can't hold. For a format without a writer the file is empty.
+/// Returns the bytes of a palette file. Refuses with mightHoldMore a format that includes kMayHoldMore, and with one of
+/// the too-large failures a palette that does not fit into the format. A format without a writer gives an empty file.
 [[nodiscard]] std::expected<std::vector<std::uint8_t>, Failure> composePaletteFile(const Palette& palette,
                                                                                    PaletteFormat format,
                                                                                    PaletteEntry blank);

@@ -8,7 +8,7 @@ void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
   const std::int32_t size = palette.getSize();
   const auto entryBytes = static_cast<std::uint32_t>(size) * 4;
   sink.text(0, "RIFF");
-  // kept on purpose: both sizes count 4 bytes more than stand behind them, and readers rely on the second.
+  // kept on purpose: both sizes are 4 greater than the bytes that follow them, and readers rely on the second one.
   sink.u32le(4, entryBytes + 20);
   sink.text(8, "PAL data");
   sink.u32le(16, entryBytes + 8);
