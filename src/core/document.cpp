@@ -93,7 +93,7 @@ void PaletteDocument::undo() {
   history_.undo(palette_);
   announceHistory();
   announceSize();
-  // kept on purpose: with nothing to undo the count still falls, so the document becomes modified.
+  // kept on purpose: the count falls even if there is nothing to undo, so the document becomes modified.
   --modificationCount_;
 }
 
@@ -119,7 +119,7 @@ void PaletteDocument::markSaved(const std::wstring& fileName, PaletteFormat form
   setFileName(fileName);
 }
 
-// The whole name where it has no backslash.
+// Without a backslash, rfind returns npos, and npos + 1 is 0: the title then shows the whole name.
 void PaletteDocument::announceTitle() {
   std::wstring title = L"Quillhue - ";
   title.append(fileName_, fileName_.rfind(L'\\') + 1);

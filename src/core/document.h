@@ -13,23 +13,23 @@
 
 namespace quillhue {
 
-/// The name of a document that has no file.
+/// Name of a document without a file.
 inline constexpr std::wstring_view kUntitled = L"\\Untitled";
 
-/// The open palette: its colors and selection, where it came from, whether it is modified, and its history.
+/// The open palette: its colors and selection, its file, whether it is modified, and its edit history.
 ///
-/// A change that can be undone is made in two steps: a record operation first, which keeps the state that is about to
-/// change, then the setters. A change without a record can't be undone.
+/// An undoable change takes two steps: a record operation saves the state that is about to change, then the setters
+/// change it. A change without a record can't be undone.
 class PaletteDocument {
  public:
-  /// `settings` (the blank color is read from it) and `observer` outlive the document. An empty file name stands for
-  /// none. Announces title, status text and Undo/Redo state.
+  /// `settings` (read for the blank color) and `observer` must outlive the document. An empty file name means that
+  /// there is no file. Announces title, status text and Undo/Redo state.
   PaletteDocument(Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
                   const AppSettings& settings, DocumentObserver& observer);
 
   [[nodiscard]] std::int32_t getSize() const { return palette_.getSize(); }
   [[nodiscard]] bool contains(std::int32_t index) const { return index >= 0 && index < getSize(); }
-  /// `index` is 0 .. getSize() - 1 in these five; it is not checked.
+  /// The next five functions require an `index` of 0 .. getSize() - 1 and do not check it.
   [[nodiscard]] PaletteEntry getColor(std::int32_t index) const { return palette_.entry(index); }
   [[nodiscard]] std::uint8_t getRed(std::int32_t index) const { return palette_.entry(index).red; }
   [[nodiscard]] std::uint8_t getGreen(std::int32_t index) const { return palette_.entry(index).green; }
@@ -39,45 +39,47 @@ class PaletteDocument {
   [[nodiscard]] const Palette& getPalette() const { return palette_; }
 
   [[nodiscard]] bool isModified() const { return modificationCount_ != 0; }
-  /// Recorded changes since the last save less those undone, so undoing back to the saved state gives 0 again.
+  /// Number of recorded changes since the last save, minus those undone. Undoing back to the saved state gives 0 again.
   [[nodiscard]] std::int32_t modificationCount() const { return modificationCount_; }
-  /// How many times the document has been saved. A run of changes that is one undo step ends with each save, so that
-  /// undoing leads back to the saved state.
+  /// Number of saves. A save ends a run of changes that share one undo step, so that undoing can return to the saved
+  /// state.
   [[nodiscard]] std::int32_t saveCount() const { return saveCount_; }
   [[nodiscard]] bool canUndo() const { return history_.canUndo(); }
   [[nodiscard]] bool canRedo() const { return history_.canRedo(); }
   [[nodiscard]] PaletteFormat getFormat() const { return format_; }
   [[nodiscard]] const std::wstring& getFileName() const { return fileName_; }
 
-  /// While locked, setColor to applyChannels change nothing.
+  /// While locked, setColor, setRed, setGreen, setBlue and applyChannels change nothing.
   void lock() { locked_ = true; }
   void unlock() { locked_ = false; }
 
-  /// Setters: an index outside the palette changes nothing.
+  /// The setters ignore an index outside the palette.
   void setColor(std::int32_t index, PaletteEntry color);
   void setRed(std::int32_t index, std::uint8_t value) { setChannel(index, Channel::red, value); }
   void setGreen(std::int32_t index, std::uint8_t value) { setChannel(index, Channel::green, value); }
   void setBlue(std::int32_t index, std::uint8_t value) { setChannel(index, Channel::blue, value); }
-  /// Gives the k-th selected entry the channels in `mask` of entry k of `source`, until either runs out.
+  /// Copies the channels in `mask` of entry k of `source` to the k-th selected entry, until either runs out.
   void applyChannels(ChannelMask mask, const Palette& source);
   void select(std::int32_t index) { setSelected(index, 1); }
   void deselect(std::int32_t index) { setSelected(index, 0); }
 
-  /// Records: one undo step each; the redo stack is discarded and the modification count rises by 1. An index outside
-  /// the palette makes recordColor raise the count and do nothing else.
+  /// Record the state as one undo step. Each call discards the redo stack and raises the modification count by 1. If
+  /// the index is outside the palette, recordColor raises the count and does nothing else.
   void recordColor(std::int32_t index);
   void recordColors();
   void recordSelection();
-  /// Records the palette and installs its resizedCopy; a size below 1 counts as 1.
+  /// Records the palette, then replaces it with its resizedCopy. A size below 1 counts as 1.
   void resize(std::int32_t newSize);
 
-  /// Take a step back or forth, if there is one. The modification count falls or rises by 1 in any case.
+  /// Undo or redo one step, if there is one. In any case, undo lowers the modification count by 1 and redo raises it by
+  /// 1.
   void undo();
   void redo();
 
-  /// Titles the window after the name's part behind its last backslash, unless it is the current name.
+  /// Sets the file name and announces a title with the part after the last backslash. Does nothing if the name is
+  /// unchanged.
   void setFileName(const std::wstring& name);
-  /// Notes that this file now holds the document: it is unmodified, and saveCount rises by 1.
+  /// Records a save in this file: the document becomes unmodified, and saveCount rises by 1.
   void markSaved(const std::wstring& fileName, PaletteFormat format);
 
  private:
@@ -99,15 +101,15 @@ class PaletteDocument {
   DocumentObserver& observer_;
 };
 
-/// Holds the current document; empty until the first palette is created or opened.
+/// Holds the current document. Empty until the first palette is created or opened, and after closeDocument.
 class DocumentSlot {
  public:
   [[nodiscard]] PaletteDocument* document() const { return document_.get(); }
 
-  /// Destroys the document with its history, installs a new one and tells the observer.
+  /// Destroys the document and its history, creates a new one and notifies the observer.
   void replaceDocument(Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
                        Services& services);
-  /// Destroys the document, and tells nobody.
+  /// Destroys the document without notifying the observer.
   void closeDocument() { document_.reset(); }
 
  private:

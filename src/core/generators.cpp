@@ -6,7 +6,7 @@ namespace quillhue {
 
 namespace {
 
-// The Windows colors of one end of a palette.
+// The Windows colors at one end of a palette.
 using StaticColors = std::array<PaletteEntry, kWindowsColors / 2>;
 
 // The 20 static colors of the Windows system palette (GetStockObject(DEFAULT_PALETTE)).

@@ -7,29 +7,30 @@
 
 namespace quillhue {
 
-/// New palettes. A size below 1 counts as 1; no entry is selected.
+/// Functions that create palettes. A size below 1 counts as 1. No entry is selected.
 
 /// The number of static colors of the Windows system palette.
 inline constexpr std::int32_t kWindowsColors = 20;
 
-/// Writes the Windows colors: ten to the front, then ten to the end. Those without a place are left out.
+/// Writes the first ten Windows colors to the front and the other ten to the end. Colors that do not fit are left out.
 void applyWindowsColors(Palette& palette);
 
 [[nodiscard]] Palette createBlankPalette(std::int32_t size, bool includeWindowsColors, PaletteEntry blank);
 
-/// From black to white; one entry is black.
+/// Creates a ramp from black to white. A palette of one entry is black.
 [[nodiscard]] Palette createGreyscalePalette(std::int32_t size);
 
-/// How many values red, green and blue take, kMinRgbLevel .. kMaxRgbLevel each.
+/// Numbers of red, green and blue levels, kMinRgbLevel .. kMaxRgbLevel each.
 using RgbLevels = std::array<std::int32_t, 3>;
 inline constexpr std::int32_t kMinRgbLevel = 1;
 inline constexpr std::int32_t kMaxRgbLevel = 256;
 
-/// The number of colors that the levels make.
+/// Returns the number of colors that the levels give.
 [[nodiscard]] constexpr std::int32_t levelProduct(const RgbLevels& levels) { return levels[0] * levels[1] * levels[2]; }
 
-/// Every combination of evenly spaced levels, red changing fastest, between the two groups of Windows colors if they
-/// are included. Unused entries are blank; combinations without a place are left out. A channel of one level is 0.
+/// Creates every combination of evenly spaced levels, with red changing fastest. Windows colors, if included, take both
+/// ends of the palette. Unused entries get the blank color; combinations that do not fit are left out. A channel with
+/// one level is 0.
 [[nodiscard]] Palette createRgbPalette(std::int32_t size, const RgbLevels& levels, bool includeWindowsColors,
                                        PaletteEntry blank);
 

@@ -63,7 +63,7 @@ void EditHistory::move(Stack& from, Stack& to, Palette& palette) {
   to = std::move(record);
 }
 
-// Unlinking a record is its exchange, so it is given a palette that nobody sees.
+// A record can only be unlinked by swap(), which also changes a palette: this one is scratch.
 void EditHistory::discard(Stack& stack, std::int32_t size) {
   Palette scratch = createPalette(size);
   while (stack != nullptr) {

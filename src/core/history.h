@@ -10,9 +10,9 @@
 
 namespace quillhue {
 
-/// One step of the edit history: a copy of the state that the step touched. Undoing and redoing are the same
-/// operation, an exchange of that copy with the palette's current state. A record owns the record below it on its
-/// stack; stacks are taken apart record by record, so their depth never becomes a depth of recursion.
+/// One step of the edit history: a copy of the state that the step changed. Undo and redo are the same operation: they
+/// exchange that copy with the palette's current state. A record owns the record below it on its stack. Stacks are
+/// destroyed record by record, so a deep stack causes no deep recursion.
 class PaletteDifference {
  public:
   PaletteDifference() = default;
@@ -20,8 +20,8 @@ class PaletteDifference {
   PaletteDifference& operator=(const PaletteDifference&) = delete;
   virtual ~PaletteDifference() = default;
 
-  /// Exchanges the kept state with that of `palette`, puts the record on top of `newNext` and returns what it stood
-  /// on before.
+  /// Exchanges the saved state with that of `palette`, puts the record on top of `newNext` and returns the record that
+  /// was below it.
   [[nodiscard]] std::unique_ptr<PaletteDifference> swap(Palette& palette, std::unique_ptr<PaletteDifference> newNext);
 
  private:
@@ -32,7 +32,7 @@ class PaletteDifference {
   std::unique_ptr<PaletteDifference> next_;
 };
 
-/// The color of one entry. Past the end of the palette nothing is exchanged.
+/// The color of one entry. Exchanges nothing if the entry is past the end of the palette.
 class PaletteDifferenceColor final : public PaletteDifference {
  public:
   PaletteDifferenceColor(const Palette& palette, std::int32_t index) : index_(index), color_(palette.entry(index)) {}
@@ -66,7 +66,7 @@ class PaletteDifferenceSelection final : public PaletteDifference {
   std::vector<std::uint8_t> selected_;
 };
 
-/// A whole palette, exchanged as one.
+/// A whole palette.
 class PaletteDifferenceSize final : public PaletteDifference {
  public:
   explicit PaletteDifferenceSize(Palette palette) : palette_(std::move(palette)) {}
@@ -77,7 +77,7 @@ class PaletteDifferenceSize final : public PaletteDifference {
   Palette palette_;
 };
 
-/// The undo and the redo stack, without limit of depth.
+/// The undo and redo stacks, of unlimited depth.
 class EditHistory {
  public:
   EditHistory() = default;
@@ -91,7 +91,7 @@ class EditHistory {
   /// Makes `record` the newest step and discards the redo stack. `size` is the palette's current size.
   void push(std::unique_ptr<PaletteDifference> record, std::int32_t size);
 
-  /// Exchange the newest step with `palette` and move it to the other stack; nothing when there is none.
+  /// Exchange the newest step with `palette` and move it to the other stack. Do nothing if there is none.
   void undo(Palette& palette) { move(undo_, redo_, palette); }
   void redo(Palette& palette) { move(redo_, undo_, palette); }
 

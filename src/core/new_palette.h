@@ -10,11 +10,11 @@
 
 namespace quillhue {
 
-/// The rules of the dialog that asks what a new palette is to be like, without the dialog.
+/// Rules of the dialog that creates or resizes a palette, independent of the window.
 
-/// What is to be made; tells the dialog's title and fields.
+/// Selects the dialog's title and fields.
 enum class NewPaletteKind : std::uint8_t {
-  /// A greyscale palette, or an existing one that is resized: the size only.
+  /// Size only: for a greyscale palette, or for resizing a palette.
   sizeOnly,
   /// Size and Windows colors.
   blank,
@@ -22,7 +22,7 @@ enum class NewPaletteKind : std::uint8_t {
   rgb,
 };
 
-/// The dialog's fields. Those that the kind has not are ignored.
+/// Values of the dialog's fields. Fields that the kind does not show are ignored.
 struct NewPaletteFields {
   std::int32_t size = 1;
   bool windowsColors = false;
@@ -34,21 +34,22 @@ struct NewPaletteFields {
 
 [[nodiscard]] std::string_view newPaletteTitle(NewPaletteKind kind);
 
-/// What the fields hold when the dialog opens.
+/// Returns the initial values of the fields.
 [[nodiscard]] NewPaletteFields newPaletteFields(const AppSettings& settings);
 
-/// The smallest size that holds the chosen colors, at least 1, and the text that shows it beside the size.
+/// Return the smallest size that holds the chosen colors, at least 1, and the text that shows it beside the size field.
 [[nodiscard]] std::int32_t minimumPaletteSize(NewPaletteKind kind, const NewPaletteFields& fields);
 [[nodiscard]] std::string minimumSizeText(NewPaletteKind kind, const NewPaletteFields& fields);
 
-/// OK: brings the size into 1 .. kMaxPaletteSize and the levels into their range, stores what the kind asks for in
-/// the settings, and gives the fields back; or else the message that says why the size is too small. The settings
-/// are stored in either case. A level of 256 is stored as 0, since the settings have one byte for it.
+/// Accepts the dialog's fields. Clamps the size to 1 .. kMaxPaletteSize and the levels to their range, stores the
+/// fields that the kind shows in the settings, and returns all fields. If the size is too small for the colors, returns
+/// the error message instead; the settings are stored anyway. A level of 256 is stored as 0, because the settings have
+/// one byte for it.
 [[nodiscard]] std::expected<NewPaletteFields, std::string_view> acceptNewPalette(NewPaletteKind kind,
                                                                                  NewPaletteFields fields,
                                                                                  AppSettings& settings);
 
-/// The palette that accepted fields describe, at its kind's rules; `blank` fills what the colors leave.
+/// Creates the palette that accepted fields describe. Entries without another color get `blank`.
 [[nodiscard]] Palette createNewPalette(NewPaletteKind kind, const NewPaletteFields& fields, PaletteEntry blank);
 
 }  // namespace quillhue

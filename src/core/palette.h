@@ -9,27 +9,27 @@
 
 namespace quillhue {
 
-/// The most entries that a user can ask for, and that any reader accepts.
+/// Maximum number of entries that a user can ask for and that a reader accepts.
 inline constexpr std::int32_t kMaxPaletteSize = 1024;
 
-/// An ordered list of colors, at least one, with a selected flag for each. The channels are parallel arrays of equal
-/// length. Copying copies everything, the selection included; a moved-from palette may only be assigned or destroyed.
+/// An ordered list of at least one color, with a selected flag for each. The channels are parallel arrays of equal
+/// length. A copy includes the selection. A moved-from palette may only be assigned or destroyed.
 class Palette {
  public:
   [[nodiscard]] std::int32_t getSize() const { return static_cast<std::int32_t>(selected_.size()); }
 
-  /// `index` is 0 .. getSize() - 1, here and in setEntry.
+  /// `index` must be 0 .. getSize() - 1, here and in setEntry.
   [[nodiscard]] PaletteEntry entry(std::int32_t index) const;
   void setEntry(std::int32_t index, PaletteEntry color);
 
-  /// One byte an entry.
+  /// One byte per entry.
   [[nodiscard]] std::span<std::uint8_t> channel(Channel channel) {
     return channels_[static_cast<std::size_t>(channel)];
   }
   [[nodiscard]] std::span<const std::uint8_t> channel(Channel channel) const {
     return channels_[static_cast<std::size_t>(channel)];
   }
-  /// One byte an entry: 0 = not selected, 1 = selected.
+  /// One byte per entry: 0 = not selected, 1 = selected.
   [[nodiscard]] std::span<std::uint8_t> selected() { return selected_; }
   [[nodiscard]] std::span<const std::uint8_t> selected() const { return selected_; }
 
@@ -43,19 +43,19 @@ class Palette {
   std::vector<std::uint8_t> selected_;
 };
 
-/// A palette of max(1, size) entries, all of one color, none selected.
+/// Creates a palette of max(1, size) unselected entries of one color.
 [[nodiscard]] Palette createPalette(std::int32_t size, PaletteEntry color = {});
 
-/// An unselected palette of these entries; one black entry when there are none.
+/// Creates an unselected palette of these entries, or of one black entry if there are none.
 [[nodiscard]] Palette paletteOf(std::span<const PaletteEntry> entries);
 [[nodiscard]] std::vector<PaletteEntry> entriesOf(const Palette& palette);
 
-/// The selected entries in index order: their indexes, and their colors.
+/// Return the indexes and the colors of the selected entries, in index order.
 [[nodiscard]] std::vector<std::int32_t> selectedIndexes(const Palette& palette);
 [[nodiscard]] std::vector<PaletteEntry> selectedColors(const Palette& palette);
 
-/// A palette of max(1, newSize) entries: those that `palette` has, selected flags included, then unselected ones in
-/// the blank color.
+/// Creates a palette of max(1, newSize) entries. It starts with the entries of `palette` and their selected flags.
+/// Added entries are unselected and have the blank color.
 [[nodiscard]] Palette resizedCopy(const Palette& palette, std::int32_t newSize, PaletteEntry blank);
 
 }  // namespace quillhue

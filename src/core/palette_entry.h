@@ -20,19 +20,19 @@ struct PaletteEntry {
 enum class Channel : std::uint8_t { red, green, blue };
 inline constexpr std::array<Channel, 3> kChannels{Channel::red, Channel::green, Channel::blue};
 
-/// A set of channels, bit 1 = red, 2 = green, 4 = blue.
+/// A set of channels: 1 = red, 2 = green, 4 = blue.
 using ChannelMask = std::uint32_t;
 inline constexpr ChannelMask kAllChannels = 7;
 constexpr ChannelMask maskOf(Channel channel) { return ChannelMask{1} << static_cast<unsigned>(channel); }
 constexpr bool hasChannel(ChannelMask mask, Channel channel) { return (mask & maskOf(channel)) != 0; }
 
-/// A reference to one channel of `color`, a PaletteEntry or const PaletteEntry.
+/// Returns a reference to one channel of `color`, a PaletteEntry or const PaletteEntry.
 constexpr auto& channelOf(auto& color, Channel channel) {
   constexpr std::array kMembers{&PaletteEntry::red, &PaletteEntry::green, &PaletteEntry::blue};
   return color.*kMembers[static_cast<std::size_t>(channel)];
 }
 
-/// The sum of the color's channels in `mask`, 0..765.
+/// Returns the sum of the color's channels in `mask`, 0..765.
 constexpr std::int32_t channelSum(const PaletteEntry& color, ChannelMask mask) {
   std::int32_t sum = 0;
   for (const Channel channel : kChannels) {
@@ -41,15 +41,15 @@ constexpr std::int32_t channelSum(const PaletteEntry& color, ChannelMask mask) {
   return sum;
 }
 
-/// The color's luma (ITU-R BT.601), 0..255.
+/// Returns the color's luma (ITU-R BT.601), 0..255.
 constexpr std::int32_t lumaOf(const PaletteEntry& color) {
   return (299 * color.red + 587 * color.green + 114 * color.blue) / 1000;
 }
 
-/// The nearest value that a channel can have.
+/// Returns the nearest value in 0..255.
 constexpr std::uint8_t clampToByte(std::int32_t value) { return static_cast<std::uint8_t>(std::clamp(value, 0, 255)); }
 
-/// `color` with its channels in `mask` replaced by those of `source`.
+/// Returns `color` with the channels in `mask` replaced by those of `source`.
 constexpr PaletteEntry withChannels(PaletteEntry color, ChannelMask mask, const PaletteEntry& source) {
   for (const Channel channel : kChannels) {
     if (hasChannel(mask, channel)) {

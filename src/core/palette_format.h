@@ -4,8 +4,8 @@
 
 namespace quillhue {
 
-/// The format that a palette's file has and can be saved in: the position of its file type in the Save As dialog.
-/// With kMayHoldMore added, the file may hold more than the palette and is not overwritten by a plain Save.
+/// Format of a palette's file: the position of its file type in the Save As dialog. kMayHoldMore is added if the file
+/// may hold more than the palette. A plain Save does not overwrite such a file.
 using PaletteFormat = std::uint32_t;
 
 namespace palette_format {

@@ -10,20 +10,20 @@ namespace quillhue {
 /// How a mouse gesture on the palette grid selects.
 enum class SelectionMode : std::uint8_t { free, row, range };
 
-/// What the user has chosen once and for all. A color mode or effect that its catalogue does not have counts as the
-/// catalogue's fallback.
+/// Settings of the user. An index of a color mode or effect that its catalogue does not contain selects the catalogue's
+/// fallback.
 struct AppSettings {
-  /// The size that a new palette is proposed to have.
+  /// Proposed size of a new palette.
   std::uint32_t paletteSize = 256;
-  /// Fills the entries that growing a palette adds, and the unused ones of formats of a fixed size.
+  /// Color of entries added by resizing, and of unused entries in formats of fixed size.
   PaletteEntry blank;
-  /// A new palette is proposed to hold the Windows colors.
+  /// Whether the Windows colors are proposed for a new palette.
   bool windowsColors = false;
-  /// The levels of red, green and blue that a new RGB palette is proposed to have.
+  /// Proposed levels of red, green and blue for a new RGB palette.
   std::array<std::uint8_t, 3> rgbLevels{6, 7, 6};
-  /// The color model of the channel editor: RGB.
+  /// Index of the channel editor's color model. 4 is RGB.
   std::uint8_t colorMode = 4;
-  /// The chosen effect: Color.
+  /// Index of the chosen effect. 5 is Color.
   std::uint8_t effect = 5;
   SelectionMode selectionMode = SelectionMode::free;
 };

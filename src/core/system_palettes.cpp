@@ -31,7 +31,8 @@ constexpr std::array<PaletteEntry, 16> kCga{{{0, 0, 0},
                                              {255, 255, 85},
                                              {255, 255, 255}}};
 
-// IBM Enhanced Graphics Adapter: bits rgbRGB, a capital worth two thirds of full intensity and a small letter one.
+// IBM Enhanced Graphics Adapter. The index has the bits rgbRGB: a capital letter adds two thirds of full intensity, a
+// small letter one third.
 Palette createEga(ScreenPalette& /*screen*/) {
   Palette palette = createPalette(64);
   for (std::int32_t i = 0; i < palette.getSize(); ++i) {
@@ -43,8 +44,8 @@ Palette createEga(ScreenPalette& /*screen*/) {
   return palette;
 }
 
-// The VGA BIOS's default palette of mode 13h, in the 6-bit values of its digital-analog converter: the CGA colors,
-// a ramp of greys, then rings of 24 hues. A ring holds five values from its least to its greatest.
+// The VGA BIOS's default palette of mode 13h, in 6-bit values of the digital-analog converter: the CGA colors, a ramp
+// of greys, then nine rings of 24 hues. Each ring uses five values, listed in ascending order.
 constexpr std::array<std::uint8_t, 16> kVgaGreys{0, 5, 8, 11, 14, 17, 20, 24, 28, 32, 36, 40, 45, 50, 56, 63};
 constexpr std::array<std::array<std::uint8_t, 5>, 9> kVgaRings{{{0, 16, 31, 47, 63},
                                                                 {31, 39, 47, 55, 63},
@@ -59,8 +60,9 @@ constexpr std::size_t kRingSize = 24;
 
 constexpr std::uint8_t fromSixBits(std::uint8_t value) { return static_cast<std::uint8_t>(value * 4 + value / 16); }
 
-// Red around a ring, which starts at blue: up in four steps, full for a third of the ring, down again, and none for
-// the last third. Green and blue are as far along as red is one third and two thirds of a ring later.
+// Returns the index into a ring's values for red. The ring starts at blue: red rises in four steps, is full for a third
+// of the ring, falls again, and is lowest for the last third. Green has the value of red two thirds of a ring later,
+// blue that of red one third later.
 constexpr std::size_t ringStep(std::size_t hue) {
   hue %= kRingSize;
   if (hue < 4) {
@@ -74,7 +76,7 @@ constexpr std::size_t ringStep(std::size_t hue) {
 
 Palette createVga(ScreenPalette& /*screen*/) {
   std::array<PaletteEntry, 256> entries{};
-  // 170 and 85 are what 42 and 21 expand to.
+  // The CGA colors' 170 and 85 are the 6-bit values 42 and 21, expanded.
   auto next = std::ranges::copy(kCga, entries.begin()).out;
   for (const std::uint8_t grey : kVgaGreys) {
     const std::uint8_t value = fromSixBits(grey);

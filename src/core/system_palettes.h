@@ -9,25 +9,25 @@
 
 namespace quillhue {
 
-/// A palette that old hardware or the system is known by.
+/// A standard palette of old hardware or of the system.
 struct SystemPalette {
-  /// Its menu command.
+  /// Id of its menu command.
   std::int32_t commandId;
-  /// For scripts.
+  /// Name for scripts.
   std::string_view name;
   std::string_view menuText;
   Palette (*create)(ScreenPalette& screen);
 };
 
-/// All of them, by command id.
+/// Returns all system palettes in the order of their command ids.
 [[nodiscard]] std::span<const SystemPalette> systemPalettes();
 
-/// The palette of a menu command, the one of 16 Windows colors for any other id. No entry is selected.
+/// Creates the palette of a menu command. Any other id gives the 16 Windows colors. No entry is selected.
 [[nodiscard]] Palette createSystemPalette(std::int32_t commandId, ScreenPalette& screen);
 
-/// A halftone palette for where there is no screen: 256 entries, the Windows colors at both ends; from entry 10 the
-/// 216 combinations of 0, 51, 102, 153, 204 and 255, red changing fastest; from entry 226 20 greys between black and
-/// white, 255 * k / 21 for k = 1 .. 20.
+/// The halftone palette used without a screen: 256 entries, with the Windows colors at both ends. Entry 10 starts the
+/// 216 combinations of 0, 51, 102, 153, 204 and 255, with red changing fastest. Entry 226 starts 20 greys between black
+/// and white: 255 * k / 21 for k = 1 .. 20.
 class FixedHalftone final : public ScreenPalette {
  public:
   [[nodiscard]] std::vector<PaletteEntry> halftone() override;

@@ -21,7 +21,8 @@ struct Decoded {
   std::size_t length;
 };
 
-// One well-formed sequence at the start of `bytes` (RFC 3629): no overlong forms, no surrogates, nothing past 10FFFF.
+// Decodes the sequence at the start of `bytes` if it is well formed (RFC 3629): no overlong form, no surrogate, nothing
+// above 10FFFF.
 std::optional<Decoded> decodeSequence(std::string_view bytes) {
   const auto lead = static_cast<std::uint8_t>(bytes[0]);
   if (lead < 0x80) {

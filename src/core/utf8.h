@@ -5,9 +5,9 @@
 
 namespace quillhue {
 
-/// Wide text (UTF-16 or UTF-32, as wide as the system's wchar_t) and UTF-8. A byte that is not part of a UTF-8
-/// sequence (0x80 or above) becomes the lone surrogate 0xDC00 + byte and that becomes the byte again, so any bytes
-/// survive the way to wide text and back. Wide text that is not well formed need not survive the other way.
+/// Convert between UTF-8 and wide text (UTF-16 or UTF-32, depending on the size of wchar_t). A byte that is not part of
+/// a UTF-8 sequence (0x80 or above) becomes the lone surrogate 0xDC00 + byte, which becomes the byte again. Any bytes
+/// therefore survive the conversion to wide text and back. Malformed wide text may not survive the other direction.
 [[nodiscard]] std::wstring fromUtf8(std::string_view bytes);
 [[nodiscard]] std::string toUtf8(std::wstring_view text);
 

@@ -5,13 +5,13 @@
 
 namespace quillhue {
 
-/// What a number may be; both ends belong to it.
+/// The range of a number, both ends included.
 struct ValueRange {
   std::int32_t minimum = 0;
   std::int32_t maximum = 255;
 
   [[nodiscard]] constexpr bool contains(std::int32_t value) const { return value >= minimum && value <= maximum; }
-  /// The nearest value inside.
+  /// Returns the nearest value in the range.
   [[nodiscard]] constexpr std::int32_t clamp(std::int64_t value) const {
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, minimum, maximum));
   }

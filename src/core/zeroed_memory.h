@@ -10,8 +10,8 @@
 
 namespace quillhue {
 
-/// Numbers that are zero until they are written. They come from the system as they are, so a large buffer costs memory
-/// and time only where it is touched. What was moved from may only be assigned or destroyed.
+/// An array of numbers, initially zero. The system supplies zeroed memory on demand, so a large array costs memory and
+/// time only where it is touched. A moved-from array may only be assigned or destroyed.
 template <typename Number>
   requires std::is_arithmetic_v<Number>
 class ZeroedMemory {

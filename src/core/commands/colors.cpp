@@ -7,7 +7,7 @@ namespace quillhue {
 
 namespace {
 
-// `mix` gives the value of step k of n between the channel values a and b.
+// `mix(a, b, k, n)` returns the channel value at step k of n between a and b.
 template <typename Mix>
 void applyGradient(PaletteDocument& document, ChannelMask mask, Mix mix) {
   const std::vector<std::int32_t> indexes = selectedIndexes(document.getPalette());

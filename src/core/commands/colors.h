@@ -6,24 +6,27 @@
 
 namespace quillhue {
 
-/// The commands that give selected entries other colors, each at most one undo step. `mask` holds the channels that
-/// they may change.
+/// Commands that change the colors of the selected entries, each in at most one undo step. `mask` holds the channels
+/// that a command may change.
 
-/// Exchanges the two channels of every selected entry. Recorded also when nothing is selected.
+/// Exchanges two channels of every selected entry. Makes an undo step even if nothing is selected.
 void swapChannels(PaletteDocument& document, Channel one, Channel other);
 
-/// Gives the channels in `mask` of all selected entries those of `color`. Recorded also when nothing is selected.
+/// Copies the channels in `mask` from `color` to every selected entry. Makes an undo step even if nothing is selected.
 void recolorSelection(PaletteDocument& document, ChannelMask mask, PaletteEntry color);
 
-/// The current entry's color for every selected entry. Does nothing without a selection or a current entry.
+/// Copies the channels in `mask` from the current entry to every selected entry. Does nothing without a selection or a
+/// current entry.
 void fill(PaletteDocument& document, ChannelMask mask, std::int32_t current);
 
-/// Lead from the first selected entry's color to the last one's over those between, evenly by value or by the square
-/// of the value. Do nothing with fewer than two selected entries; recorded also when the mask is empty.
+/// Fade from the first selected entry's color to the last one's: gradient interpolates the channel values,
+/// brightGradient their squares. They do nothing with fewer than two selected entries, and make an undo step even if
+/// the mask is empty.
 void gradient(PaletteDocument& document, ChannelMask mask);
 void brightGradient(PaletteDocument& document, ChannelMask mask);
 
-/// Makes the current entry's color, if there is one, the blank color. No undo step: it is a setting.
+/// Makes the current entry's color the blank color. Does nothing without a current entry. The blank color is a setting,
+/// so this makes no undo step.
 void useAsBlankColor(const PaletteDocument& document, std::int32_t current, AppSettings& settings);
 
 }  // namespace quillhue

@@ -9,7 +9,8 @@ namespace {
 
 constexpr PaletteEntry kWhite{255, 255, 255};
 
-// The selected entries' colors in index order; empty when there is nothing to put into order.
+// Returns the selected entries' colors in index order. Returns none if the mask is empty or fewer than two entries are
+// selected.
 std::vector<PaletteEntry> colorsToOrder(const PaletteDocument& document, ChannelMask mask) {
   std::vector<PaletteEntry> colors;
   if ((mask & kAllChannels) != 0 && document.countSelected() >= 2) {
@@ -18,7 +19,7 @@ std::vector<PaletteEntry> colorsToOrder(const PaletteDocument& document, Channel
   return colors;
 }
 
-// Colors in the order in which they are to be, with what they are sorted by.
+// The reordered colors, each with its sort key.
 struct WorkList {
   std::vector<PaletteEntry> colors;
   std::vector<std::int32_t> keys;
@@ -61,8 +62,9 @@ void sortByKey(PaletteDocument& document, ChannelMask keyMask, ChannelMask mask)
   if (colors.empty()) {
     return;
   }
-  // kept on purpose: an entry's own key is compared with the keys of the list, whose entries are white but for the
-  // channels in the mask. So the list's keys are either sorted or all the same, and bisection finds the place.
+  // kept on purpose: the list's colors are white outside the mask and its keys come from them, but the key searched for
+  // comes from the original color. The list's keys are therefore either sorted or all equal, so bisection finds the
+  // position.
   WorkList list;
   for (const PaletteEntry& color : colors) {
     const PaletteEntry moved = withChannels(kWhite, mask, color);

@@ -4,22 +4,21 @@
 
 namespace quillhue {
 
-/// The commands that put the colors of the selected entries into another order, each one undo step. Only the channels
-/// in `mask` move; the others stay where they are. They do nothing with an empty mask or fewer than two selected
-/// entries.
+/// Commands that reorder the colors of the selected entries, each as one undo step. Only the channels in `mask` move.
+/// The commands do nothing if the mask is empty or fewer than two entries are selected.
 
-/// First becomes last.
+/// Reverses the order.
 void reverseSelection(PaletteDocument& document, ChannelMask mask);
 
-/// Rising by the sum of the channels in `mask`; entries with equal sums keep their order.
+/// Sorts by the sum of the channels in `mask`, ascending. Entries with equal sums keep their order.
 void sortByIntensity(PaletteDocument& document, ChannelMask mask);
 
-/// Rising by one channel; entries with equal values keep their order. A channel that is not in `mask` sorts nothing:
-/// entries with 255 in it come last, in order, and the others before them, backwards.
+/// Sorts by one channel, ascending. Entries with equal values keep their order. A channel outside `mask` does not sort:
+/// entries that have 255 in it come last, in their order, and all others come first, in reverse order.
 void sortByChannel(PaletteDocument& document, Channel key, ChannelMask mask);
 
-/// Rising by the squared distance from the mean color, over the channels in `mask`; of entries with equal distances
-/// the later one comes first.
+/// Sorts by the squared distance from the mean color over the channels in `mask`, ascending. Entries with equal
+/// distances are reversed.
 void sortByDeviation(PaletteDocument& document, ChannelMask mask);
 
 }  // namespace quillhue

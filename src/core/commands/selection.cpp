@@ -7,7 +7,7 @@ namespace quillhue {
 
 namespace {
 
-// `wanted` is asked for every entry, in order.
+// Selects the entries whose index satisfies `wanted` and deselects the others, in index order.
 template <typename Predicate>
 void selectWhere(PaletteDocument& document, Predicate wanted) {
   document.recordSelection();
@@ -20,7 +20,7 @@ void selectWhere(PaletteDocument& document, Predicate wanted) {
   }
 }
 
-// `wanted` compares an entry's color with the current one.
+// `wanted` compares an entry's color (first) with the current entry's color (second).
 template <typename Predicate>
 void selectByCurrent(PaletteDocument& document, std::int32_t current, Predicate wanted) {
   if (document.contains(current)) {

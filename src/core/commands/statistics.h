@@ -7,17 +7,17 @@
 
 namespace quillhue {
 
-/// Numbers of different colors.
+/// Numbers of distinct colors.
 struct ColorCount {
   std::size_t palette = 0;
   std::size_t selection = 0;
 };
 
 [[nodiscard]] ColorCount countColors(const PaletteDocument& document);
-/// Tells the count, that of the selection too if anything is selected.
+/// Shows the number for the palette and, if anything is selected, for the selection.
 void reportColorCount(const PaletteDocument& document, Messages& messages);
 
-/// The mean of each channel over all entries, truncated.
+/// Returns the mean of each channel over all entries, truncated.
 [[nodiscard]] PaletteEntry averageColor(const PaletteDocument& document);
 void reportAverageColor(const PaletteDocument& document, Messages& messages);
 
