@@ -49,8 +49,8 @@ void ChannelEditor::refreshValues() {
   showValues();
 }
 
-// Locked, so that setting the numbers again builds the bars and writes nothing, whoever does it: a control that
-// reports its new number as a change, or this function where the number was there before.
+// Setting the numbers again rebuilds the bars. The document is locked meanwhile, so nothing is written, whether a
+// control reports its new number as a change or this function sets the number itself.
 void ChannelEditor::showValues() {
   const bool isRunOver = recordsNext();
   document().lock();
@@ -123,7 +123,7 @@ void ChannelEditor::editEntry(std::int32_t index, ColorChooser& chooser) {
   if (!document().contains(index)) {
     return;
   }
-  // kept on purpose: recorded before the chooser opens, so that cancelling it leaves an undo step too.
+  // kept on purpose: recorded before the chooser opens, so canceling it leaves an undo step too.
   document().recordColor(index);
   const CustomColors custom = customColorsFor(document(), index, settings_.blank);
   if (const auto chosen = chooser.chooseColor(document().getColor(index), custom)) {

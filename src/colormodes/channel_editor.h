@@ -10,21 +10,21 @@
 
 namespace quillhue {
 
-/// What shows a channel editor's numbers. Of the editor it may call fieldChanged only.
+/// Shows a channel editor's numbers. Its functions may change the editor only by fieldChanged.
 class ChannelView {
  public:
   virtual ~ChannelView() = default;
 
-  /// Puts a channel's range and number into its control. A control that reports this like a change by the user calls
+  /// Shows a channel's range and number in its control. A control that reports this as a change by the user calls
   /// fieldChanged, which then changes nothing.
   virtual void showChannel(Bar bar, const ValueRange& range, std::int32_t value) = 0;
-  /// The entry may have another color: repaints its cell. Of the current entry the bars too.
+  /// The entry may have another color: repaints its cell, and the bars if it is the current entry.
   virtual void entryChanged(std::int32_t index) = 0;
 };
 
-/// Edits the current entry of the open palette as three numbers of the chosen color model. All changes between two
-/// calls of refreshValues are one undo step, however many they are, unless the document is saved between them. The slot
-/// holds a document as long as an editor lives.
+/// Edits the current entry of the open palette as three numbers of the chosen color model. A run of changes is one undo
+/// step; refreshValues, endRun or a save of the document ends the run. The slot must hold a document as long as the
+/// editor lives.
 class ChannelEditor {
  public:
   /// Starts with entry 0 and the color model of the settings.
@@ -33,51 +33,51 @@ class ChannelEditor {
   [[nodiscard]] const ColorMode& mode() const { return *mode_; }
   [[nodiscard]] std::int32_t currentEntry() const { return currentEntry_; }
 
-  /// Another current entry, as the user chose it; an index that is no entry makes it none, -1. The entry that is the
-  /// current one already keeps its numbers and its run of changes.
+  /// Makes another entry the current one. An index outside the palette means none, -1. If the entry already is the
+  /// current one, its numbers are kept and the run goes on.
   void setCurrentEntry(std::int32_t index);
-  /// Another color model, of which the settings keep the index.
+  /// Chooses another color model and stores its index in the settings.
   void chooseModel(std::int32_t index);
-  /// Brings numbers, controls and bars up to date with the entry; the next change is a new undo step. Called whenever
-  /// the editor is shown.
+  /// Updates numbers, controls and bars from the entry. The next change starts a new undo step. Call this whenever the
+  /// editor is shown.
   void refreshValues();
-  /// Shows the numbers again, as after the controls have moved or something else was typed: that neither records nor
-  /// writes anything, and the run goes on.
+  /// Shows the numbers again, for example when an edit field loses the focus. Neither records nor writes anything, and
+  /// the run goes on.
   void showValues();
-  /// After undo, redo and resizing: a current entry past the end becomes the last one.
+  /// Call this after undo, redo and resizing. A current entry past the end becomes the last one.
   void paletteChanged();
-  /// Another document was opened: its entry 0 becomes the current one.
+  /// Call this after another document was opened. Its entry 0 becomes the current one.
   void documentReplaced();
 
   /// The user's ways to change a number. A value outside the channel's range counts as the nearest one inside.
   ///
-  /// The common one: the number it already has changes nothing.
+  /// Sets a number. Does nothing if the number is unchanged.
   void changeChannel(Bar bar, std::int32_t value);
-  /// An edit field has another text: its number is set and recorded also where it is the same.
+  /// The text of an edit field has changed. Sets and records the number even if it is unchanged.
   void fieldChanged(Bar bar, std::int32_t value);
-  /// The wheel turned over a bar, by whole notches.
+  /// The wheel was turned over a bar, by whole notches. Adds one per notch.
   void turnWheel(Bar bar, std::int32_t notches);
-  /// A bar is pressed, dragged and released; only dragging sets the number. `y` is the pointer's height above the
-  /// bar's bottom edge in pixels, `height` the bar's usable height; a bar without one can't be dragged.
+  /// Press, drag and release a bar. Only dragging sets the number. `y` is the pointer's height above the bar's bottom
+  /// edge in pixels, `height` the bar's usable height. A bar without usable height can't be dragged.
   void pressBar(Bar bar) { dragTarget_ = bar; }
   void dragBar(std::int32_t y, std::int32_t height);
   void releaseBar() { dragTarget_.reset(); }
   [[nodiscard]] std::optional<Bar> dragTarget() const { return dragTarget_; }
 
-  /// The system's color chooser for any entry, one undo step also when it is cancelled. Beside the basic colors it
-  /// offers the entry's group of sixteen, filled up with the blank color.
+  /// Opens the system's color chooser for any entry. Makes one undo step, even if the user cancels. Beside the basic
+  /// colors, the chooser offers the entry's group of sixteen; missing entries have the blank color.
   void editEntry(std::int32_t index, ColorChooser& chooser);
-  /// Ends the run of changes: the next change is a new undo step, but the numbers stay as they were set.
+  /// Ends the run: the next change starts a new undo step. The numbers are kept.
   void endRun() { recordArmed_ = true; }
-  /// The current entry and the clipboard. A copy ends the run; false when nothing was copied.
+  /// Copy and paste the current entry. copy ends the run, and returns false if nothing was copied.
   bool copy(PaletteClipboard& clipboard);
   void paste(PaletteClipboard& clipboard);
-  /// The blank color for the current entry.
+  /// Gives the current entry the blank color.
   void blank();
 
  private:
   [[nodiscard]] PaletteDocument& document() const { return *slot_.document(); }
-  /// Whether the next change begins a run.
+  /// Whether the next change starts a run.
   [[nodiscard]] bool recordsNext() const { return recordArmed_ || runSaveCount_ != document().saveCount(); }
   void recordOnce();
   void refreshAndRepaint();
@@ -88,7 +88,7 @@ class ChannelEditor {
   std::int32_t currentEntry_ = 0;
   std::unique_ptr<ColorMode> mode_;
   bool recordArmed_ = true;
-  // The document's saves when the run began: a later save ends it.
+  // The document's saveCount when the numbers were last set. A later save ends the run.
   std::int32_t runSaveCount_ = 0;
   std::optional<Bar> dragTarget_;
 };

@@ -4,7 +4,7 @@ namespace quillhue {
 
 namespace {
 
-// What red, green and blue lack.
+// The complements of red, green and blue.
 class CMYmode final : public ColorMode {
  public:
   using ColorMode::ColorMode;

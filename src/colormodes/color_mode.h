@@ -11,7 +11,7 @@
 
 namespace quillhue {
 
-/// The three channels of a color model, as they stand side by side.
+/// The three channels of a color model, in the order of their bars.
 enum class Bar : std::uint8_t { left, middle, right };
 inline constexpr std::array<Bar, 3> kBars{Bar::left, Bar::middle, Bar::right};
 
@@ -25,21 +25,21 @@ struct ChannelDescription {
 };
 using ChannelDescriptions = std::array<ChannelDescription, 3>;
 
-/// One number a channel, left to right.
+/// One number per channel, left to right.
 using ChannelValues = std::array<std::int32_t, 3>;
 
-/// The positions of a gradient bar, from the channel's least value to its greatest.
+/// Number of positions on a gradient bar, from the channel's minimum to its maximum.
 inline constexpr std::int32_t kBarPositions = 256;
 using BarColors = std::array<PaletteEntry, kBarPositions>;
 
-/// Shows one entry of the open palette as three numbers of a color model, and writes changed numbers back. With each
-/// channel goes a gradient bar: what the entry would look like with only that channel moved along its range.
+/// Shows one entry of the open palette as three numbers of a color model, and writes changed numbers back. Each channel
+/// has a gradient bar: the colors that the entry would have if only that channel moved along its range.
 ///
-/// Models other than RGB and CMY are not exact both ways, so they keep the numbers that were set, and an entry is
-/// only rewritten by a setter.
+/// Models other than RGB and CMY do not convert exactly in both directions. They therefore keep the numbers that were
+/// set, and only a setter rewrites the entry.
 class ColorMode {
  public:
-  /// The document that is edited is the one that `slot` holds at each call.
+  /// Each call edits the document that `slot` holds at that time.
   ColorMode(const ChannelDescriptions& channels, const DocumentSlot& slot) : channels_(channels), slot_(slot) {}
   ColorMode(const ColorMode&) = delete;
   ColorMode& operator=(const ColorMode&) = delete;
@@ -50,24 +50,25 @@ class ColorMode {
   [[nodiscard]] std::int32_t getMiddleValue() const { return getValue(Bar::middle); }
   [[nodiscard]] std::int32_t getRightValue() const { return getValue(Bar::right); }
 
-  /// Makes this the edited entry and derives the numbers from its color. The bars stay as they are. Where there is no
-  /// such entry the color counts as black, and the setters write nothing.
+  /// Makes this the edited entry and derives the numbers from its color. The bars do not change. If there is no such
+  /// entry, the color counts as black and the setters write nothing.
   void setEntry(std::int32_t index);
   [[nodiscard]] std::int32_t entryIndex() const { return entryIndex_; }
 
-  /// Sets one number, within the channel's range; rebuilds the other two bars and writes the entry. Makes no record.
+  /// Sets one number, which must be within the channel's range. Rebuilds the other two bars and writes the entry. Makes
+  /// no record for undo.
   void setValue(Bar bar, std::int32_t value);
   void setLeftValue(std::int32_t value) { setValue(Bar::left, value); }
   void setMiddleValue(std::int32_t value) { setValue(Bar::middle, value); }
   void setRightValue(std::int32_t value) { setValue(Bar::right, value); }
 
   [[nodiscard]] const ValueRange& channelRange(Bar bar) const { return channels_[at(bar)].range; }
-  /// The entry's bar of a channel, and the strip beside it: the same as it was when the mode was created.
+  /// Return a channel's bar, and the fixed strip beside it: the bar as it was when the mode was created.
   [[nodiscard]] const BarColors& bar(Bar bar) const { return bars_[at(bar)]; }
   [[nodiscard]] const BarColors& fixedStrip(Bar bar) const { return fixedStrips_[at(bar)]; }
 
-  /// The color that the entry would get if the channel took the value of `position`, 0 .. kBarPositions - 1, and the
-  /// other two kept the numbers last set or derived.
+  /// Returns the color that the entry would have if the channel had the value at `position`, 0 .. kBarPositions - 1,
+  /// and the other two kept the numbers last set or derived.
   [[nodiscard]] PaletteEntry barColor(Bar bar, std::int32_t position) const;
 
  protected:
@@ -79,10 +80,10 @@ class ColorMode {
 
   static constexpr std::size_t at(Bar bar) { return static_cast<std::size_t>(bar); }
 
-  /// The model's arithmetic. All divisions truncate toward zero; their order decides which color a triple gives.
+  /// The model's conversions. All divisions truncate toward zero, and their order affects the result.
   [[nodiscard]] virtual ChannelValues toValues(const PaletteEntry& color) const = 0;
   [[nodiscard]] virtual PaletteEntry toColor(const ChannelValues& values) const = 0;
-  /// Those last set or derived, unless a model is exact and reads them off the entry.
+  /// Returns the numbers last set or derived. Exact models read them from the entry instead.
   [[nodiscard]] virtual ChannelValues currentValues() const { return values_; }
 
   void start(std::int32_t entry);

@@ -9,14 +9,14 @@
 
 namespace quillhue {
 
-/// A color model: what the list of models shows, and how its mode is made.
+/// A row of the catalogue: a color model's name and channels, and the function that creates its mode.
 struct ColorModel {
   std::string_view name;
   ChannelDescriptions channels;
   std::unique_ptr<ColorMode> (*create)(const ColorModel& model, const DocumentSlot& slot);
 };
 
-/// For the rows of the catalogue.
+/// Creates a mode; the rows of the catalogue use this as `create`.
 template <typename Mode>
 std::unique_ptr<ColorMode> makeColorMode(const ColorModel& model, const DocumentSlot& slot) {
   return std::make_unique<Mode>(model.channels, slot);
@@ -32,14 +32,14 @@ extern const ColorModel kYdbdrModel;
 extern const ColorModel kYiqModel;
 extern const ColorModel kYuvModel;
 
-/// All models, in the order of the list; a model's place is its index.
+/// Returns all models in the order of the list. A model's position is its index.
 [[nodiscard]] std::span<const ColorModel* const> colorModels();
 
-/// The model of the index, RGB for an index without one.
+/// Returns the model of an index, or RGB if no model has the index.
 [[nodiscard]] const ColorModel& colorModelOf(std::int32_t index);
 
-/// Destroys what `mode` holds, then puts a mode of the model there that edits this entry of the slot's document, with
-/// its bars and fixed strips built from the entry's color. Any index without a model gives RGB.
+/// Destroys the mode in `mode`, then puts a mode of this model there. It edits this entry of the slot's document. Its
+/// bars and fixed strips are built from the entry's color. If no model has the index, the mode is RGB.
 ColorMode& createColorMode(std::int32_t index, std::int32_t entry, const DocumentSlot& slot,
                            std::unique_ptr<ColorMode>& mode);
 

@@ -5,8 +5,8 @@ namespace quillhue {
 
 namespace {
 
-// Hue, saturation and intensity of Gonzalez and Woods, "Digital Image Processing", with a rational split of the
-// excess between two channels in place of the ratio of cosines. It is exact where a sector begins and ends.
+// Hue, saturation and intensity of Gonzalez and Woods, "Digital Image Processing". A rational function replaces the
+// ratio of cosines that splits the excess between two channels. It is exact at both ends of a sector.
 class HSImode final : public ColorMode {
  public:
   using ColorMode::ColorMode;
@@ -24,7 +24,7 @@ class HSImode final : public ColorMode {
     const std::int32_t least = intensity - product / 255;
     const HueAngle angle(hue);
     const std::int32_t degrees = angle.isFirstHalf() ? angle.fromStart : angle.toEnd;
-    // The stronger channel gets 180 parts of the excess, the weaker one 3 a degree.
+    // The stronger channel gets 180 parts of the excess, the weaker one 3 parts per degree.
     const auto raised = [product, least, degrees](std::int32_t parts) {
       return clampToByte(least + parts * product / (255 * (degrees + 60)));
     };

@@ -5,7 +5,7 @@ namespace quillhue {
 
 namespace {
 
-// The double hexcone of Foley and van Dam, "Computer Graphics", in integers.
+// The double hexcone model of Foley and van Dam, "Computer Graphics", in integers.
 class HSLmode final : public ColorMode {
  public:
   using ColorMode::ColorMode;
@@ -27,7 +27,7 @@ class HSLmode final : public ColorMode {
         lightness > 127 ? (255 - saturation) * lightness / 255 + saturation : (saturation + 255) * lightness / 255;
     const std::int32_t least = 2 * lightness - greatest;
     const HueAngle angle(hue);
-    // kept on purpose: a sixth of the range 0..359, where the way from color to hue uses 60 degrees.
+    // kept on purpose: a sector here is a sixth of 359 degrees, although hueOf uses 60 degrees.
     const auto risen = [spread = greatest - least, least](std::int32_t degrees) {
       return static_cast<std::uint8_t>(least + 6 * spread * degrees / 359);
     };

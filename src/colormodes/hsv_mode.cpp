@@ -5,7 +5,7 @@ namespace quillhue {
 
 namespace {
 
-// The hexcone of A. R. Smith, "Color Gamut Transform Pairs" (1978), in integers.
+// The hexcone model of A. R. Smith, "Color Gamut Transform Pairs" (1978), in integers.
 class HSVmode final : public ColorMode {
  public:
   using ColorMode::ColorMode;

@@ -11,23 +11,24 @@ namespace quillhue {
 [[nodiscard]] std::uint8_t greatestChannel(const PaletteEntry& color);
 [[nodiscard]] std::uint8_t leastChannel(const PaletteEntry& color);
 
-/// The hue of a color; 0 for greys. The quotient is truncated before the sector's base is added.
+/// Returns the hue of a color, 0 for greys. The quotient is truncated before the sector's base is added.
 [[nodiscard]] std::int32_t hueOf(const PaletteEntry& color);
 
-/// Where a hue stands in its third of the circle, which leads from one primary color to the next.
+/// The position of a hue in its third of the circle. Each third leads from one primary color to the next.
 struct HueAngle {
   explicit HueAngle(std::int32_t hue) : fromStart(hue % 120), toEnd(120 - fromStart) {}
 
-  /// In the third's first half the primary at its start is the strongest channel, in the second half that at its end.
+  /// Whether the hue is in the third's first half. The strongest channel there is the primary color at the third's
+  /// start; in the second half it is the one at its end.
   [[nodiscard]] bool isFirstHalf() const { return fromStart < 60; }
 
-  /// Degrees, 0..119 and 120..1.
+  /// Degrees from the third's start, 0..119, and to its end, 120..1.
   std::int32_t fromStart;
   std::int32_t toEnd;
 };
 
-/// The color whose channels are, in the third of the circle in which `hue` (0..359) is: `start` for the primary color
-/// at its start, `end` for that at its end, `rest` for the third one.
+/// Returns the color whose channels are `start`, `end` and `rest`. In the third of the circle that contains `hue`
+/// (0..359), `start` is for the primary color at the third's start, `end` for the one at its end, `rest` for the other.
 [[nodiscard]] PaletteEntry colorInThird(std::int32_t hue, std::uint8_t start, std::uint8_t end, std::uint8_t rest);
 
 }  // namespace quillhue

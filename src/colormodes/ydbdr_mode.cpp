@@ -5,7 +5,7 @@ namespace quillhue {
 
 namespace {
 
-// The luma and chroma of SECAM, whose Dr is V with the other sign.
+// The luma and chroma of SECAM. Dr is V with the opposite sign.
 class YDbDrmode final : public YUVmode {
  public:
   using YUVmode::YUVmode;

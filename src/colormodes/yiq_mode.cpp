@@ -4,8 +4,8 @@ namespace quillhue {
 
 namespace {
 
-// The luma and chroma of NTSC. The coefficients, scaled by a million, are divided by twice the sum of the positive
-// ones, so that the extreme colors have about +-127.
+// The luma and chroma of NTSC. The coefficients are scaled by a million, then divided by twice the sum of the positive
+// ones, so that I and Q reach about +-127.
 class YIQmode final : public ColorMode {
  public:
   using ColorMode::ColorMode;

@@ -4,9 +4,9 @@
 
 namespace quillhue {
 
-/// Luma and the differences of blue and red from it. The coefficients of ITU-R BT.601, scaled by a hundred thousand,
-/// are divided by twice the sum of the positive ones, so that the extreme colors have about +-127; scaled so, U and V
-/// are the same as Cb and Cr.
+/// Luma, and the differences of blue and red from it. The coefficients of ITU-R BT.601 are scaled by a hundred
+/// thousand, then divided by twice the sum of the positive ones, so that U and V reach about +-127. With this scaling,
+/// U and V equal Cb and Cr.
 class YUVmode : public ColorMode {
  public:
   using ColorMode::ColorMode;

@@ -2,8 +2,7 @@
 
 #include <cstdint>
 
-/// The numbers of the commands, as menus, accelerators and scripts that send them know them. 2 to 10 are the system
-/// palettes' own.
+/// Ids of the commands in menus, in accelerators and for scripts that send commands. 2 to 10 are the system palettes.
 namespace quillhue::command_id {
 
 inline constexpr std::int32_t kNewBlank = 1;

@@ -55,7 +55,7 @@ void sortBy(Input input) {
   sortByChannel(input.document, kKey, input.mask);
 }
 
-// All but the system palettes, which have their texts from their own table.
+// All commands except the system palettes, whose texts are in a table of their own.
 constexpr auto kCommands = std::to_array<Command>({
     {.id = id::kNewBlank,
      .text = "&New blank palette...",

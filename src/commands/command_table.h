@@ -13,55 +13,55 @@
 
 namespace quillhue {
 
-/// The catalogue of commands: the one table from which menus, accelerators, dispatch and the tool's steps take them.
+/// The catalogue of commands: menus, accelerators, dispatch and the tool's steps all use this table.
 
-/// The part of the program that a command is for.
+/// The part of the program in which a command works.
 enum class CommandScope : std::uint8_t {
-  /// Both screens.
+  /// Both screens: intro and editor.
   application,
   /// The editor, whichever tab is active.
   editor,
-  /// Only while this tab is active, or one of the two.
+  /// Only while this tab is active; paletteTabs means either of the two.
   valuesTab,
   effectsTab,
   paletteTabs,
 };
 
-/// What a command needs beside its scope to have an effect.
+/// What a command requires, in addition to its scope, to have an effect.
 enum class CommandNeed : std::uint8_t {
   nothing,
   undoStep,
   redoStep,
   currentEntry,
-  /// A current entry on the tab "Edit Values", where cutting, copying, pasting and clearing act on it alone.
+  /// A current entry if the active tab is "Edit Values", where Cut, Copy, Paste and Clear change that entry alone.
   clipboardEntry,
 };
 
-/// A key that does the same as a menu item; a key of 0 means none.
+/// The shortcut of a menu item. A key of 0 means none.
 struct Accelerator {
   bool control = false;
   bool shift = false;
-  /// The system's virtual key: for a letter its capital.
+  /// The system's virtual key code. A letter's code is its capital.
   std::int32_t key = 0;
 
   friend bool operator==(const Accelerator&, const Accelerator&) = default;
 };
 inline constexpr std::int32_t kDeleteKey = 0x2E;
 
-/// As a menu shows it: "Ctrl+Shift+S", "Del".
+/// Returns the text that a menu shows: "Ctrl+Shift+S", "Del".
 [[nodiscard]] std::string acceleratorText(const Accelerator& accelerator);
 
-/// Whether the key edits the text of a field that has the focus, as everywhere in the system, instead of the palette:
-/// Ctrl+Z, X, C, V, A and Del.
+/// Whether the key edits text when an edit field has the focus, instead of changing the palette: Ctrl+Z, X, C, V, A and
+/// Del.
 [[nodiscard]] bool editsText(const Accelerator& accelerator);
 
-/// What a command on the palette works with.
+/// The input of a command on the palette.
 struct PaletteCommandInput {
   PaletteDocument& document;
   AppSettings& settings;
-  /// The channels that it may change.
+  /// Channels that the command may change.
   ChannelMask mask = kAllChannels;
-  /// Any index that is no entry means none.
+  /// An index outside the palette means none.
   std::int32_t currentEntry = -1;
 };
 
@@ -69,49 +69,49 @@ struct Command {
   std::int32_t id = 0;
   CommandScope scope = CommandScope::application;
   CommandNeed need = CommandNeed::nothing;
-  /// With a & before the letter that chooses it in its menu.
+  /// Has & before the letter that selects it in its menu.
   std::string_view text{};
   Accelerator accelerator{};
-  /// The tool's step, and behind a blank its argument: "reverse", "sort intensity". Empty for a command that is none.
+  /// The tool's step, followed by a blank and the argument if it takes one: "reverse", "sort intensity". Empty if the
+  /// tool does not have the command.
   std::string_view step{};
-  /// One of the two carries it out: on the palette, or by the screen.
+  /// One of these two carries out the command: `change` on the palette, or `act` by the screen.
   void (*change)(const PaletteCommandInput& input) = nullptr;
   void (*act)(CommandTarget& target, std::int32_t id) = nullptr;
 };
 
-/// All commands, by id.
+/// Returns all commands in the order of their ids.
 [[nodiscard]] std::span<const Command> commands();
-/// Null for an id that no command has.
+/// Returns null if no command has the id.
 [[nodiscard]] const Command* findCommand(std::int32_t id);
 
-/// The command of a step of the tool and its argument, if it takes one; null when there is none.
+/// Returns the command of a step of the tool and its argument, if it takes one. Returns null if there is none.
 [[nodiscard]] const Command* findStep(std::string_view step, std::string_view argument = {});
-/// The arguments of a step of the tool, in the order of the table.
+/// Returns the possible arguments of a step of the tool, in the order of the table.
 [[nodiscard]] std::vector<std::string> stepArguments(std::string_view step);
 
-/// The command's text, and behind a tab its accelerator if it has one.
+/// Returns the command's text, followed by a tab and the accelerator if it has one.
 [[nodiscard]] std::string menuText(const Command& command);
 
-/// The active tab of the editor; none on the intro screen.
+/// The editor's active tab, or none on the intro screen.
 enum class ActiveTab : std::uint8_t { none, values, effects, use };
 
-/// What decides about commands.
+/// The state that decides which commands are enabled.
 struct CommandState {
   ActiveTab tab = ActiveTab::none;
   bool canUndo = false;
   bool canRedo = false;
-  /// The active tab shows the palette, and its current entry is one of the palette's.
+  /// Whether the active tab shows the palette and its current entry exists.
   bool hasCurrentEntry = false;
 };
 
-/// Whether a command of this scope has an effect while the tab is active. Otherwise it does nothing, wherever it comes
-/// from.
+/// Whether a command of this scope has an effect while the tab is active. Otherwise it is ignored, whatever sent it.
 [[nodiscard]] bool isHandled(CommandScope scope, ActiveTab tab);
 [[nodiscard]] bool isMet(CommandNeed need, const CommandState& state);
-/// Whether a menu offers it. A command that is sent all the same is carried out as far as it can be.
+/// Whether a menu enables the command. A disabled command that is sent anyway is carried out as far as possible.
 [[nodiscard]] bool isEnabled(const Command& command, const CommandState& state);
 
-/// The command whose radio mark shows the selection mode.
+/// Returns the command whose radio mark shows the selection mode.
 [[nodiscard]] constexpr std::int32_t commandOf(SelectionMode mode) {
   return command_id::kFreeSelection + static_cast<std::int32_t>(mode);
 }

@@ -6,8 +6,8 @@
 
 namespace quillhue {
 
-/// Carries out the commands that need more than the open palette: the screen that is shown. The commands of the editor
-/// do nothing by default, since the intro screen has no document.
+/// Carries out the commands that need more than the open palette. The current screen implements it. By default the
+/// editor's commands do nothing, because the intro screen has no document.
 class CommandTarget {
  public:
   CommandTarget() = default;
@@ -16,7 +16,7 @@ class CommandTarget {
   virtual ~CommandTarget() = default;
 
   virtual void newPalette(NewPaletteKind kind) = 0;
-  /// The system palette of a menu command.
+  /// Creates the system palette of a menu command.
   virtual void newSystemPalette(std::int32_t command) = 0;
   virtual void openPalette() = 0;
   virtual void exit() = 0;

@@ -4,7 +4,7 @@ namespace quillhue {
 
 namespace {
 
-// Between the entry's grey, the mean of all its channels, and its color, and beyond.
+// Interpolates between the entry's grey (the mean of all its channels) and its color, or extrapolates beyond them.
 class colorEffect final : public ChannelEffect {
  public:
   using ChannelEffect::ChannelEffect;

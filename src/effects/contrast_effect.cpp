@@ -4,7 +4,7 @@ namespace quillhue {
 
 namespace {
 
-// kept on purpose: not 128, so that 127 is the grey that stays what it is.
+// kept on purpose: 127, not 128, is the value that never changes.
 constexpr std::int32_t kPivot = 127;
 
 class contrastEffect final : public ChannelEffect {

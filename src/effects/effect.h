@@ -8,14 +8,14 @@
 
 namespace quillhue {
 
-/// The open palette, which an effect reads and never changes, and the clipboard's palette for the effect that blends it
-/// in: empty when there is none.
+/// The open palette, and the clipboard's palette for the effect that blends it in. `clipboard` is empty if there is
+/// none. Effects never change their input.
 struct EffectInput {
   const Palette& palette;
   std::span<const PaletteEntry> clipboard{};
 };
 
-/// A computation of new colors for the selected entries, with one number as its parameter.
+/// Computes new colors for the selected entries. One number is the parameter.
 class Effect {
  public:
   Effect(ValueRange range, std::int32_t value) : range_(range), value_(value) {}
@@ -23,15 +23,15 @@ class Effect {
   Effect& operator=(const Effect&) = delete;
   virtual ~Effect() = default;
 
-  /// Computes the channels in `mask` of the selected entries into `output`, which is as large as the input's palette
-  /// and already holds its colors: what the effect does not reach may stay unwritten. The value is in its range.
+  /// Computes the channels in `mask` of the selected entries into `output`. `output` has the size of the input's
+  /// palette and already holds its colors, so unchanged entries need not be written. The value must be in its range.
   virtual void apply(const EffectInput& input, ChannelMask mask, Palette& output) const = 0;
 
   [[nodiscard]] const ValueRange& range() const { return range_; }
   [[nodiscard]] std::int32_t getMinimum() const { return range_.minimum; }
   [[nodiscard]] std::int32_t getMaximum() const { return range_.maximum; }
   [[nodiscard]] std::int32_t getValue() const { return value_; }
-  /// Stores any value; the range is its caller's to keep.
+  /// Stores any value. The caller checks the range.
   void setValue(std::int32_t value) { value_ = value; }
 
  private:
@@ -39,7 +39,7 @@ class Effect {
   std::int32_t value_;
 };
 
-/// An effect that gives each channel a new value whatever the other entries are.
+/// An effect that computes each channel independently of the other entries.
 class ChannelEffect : public Effect {
  public:
   using Effect::Effect;
@@ -47,7 +47,7 @@ class ChannelEffect : public Effect {
   void apply(const EffectInput& input, ChannelMask mask, Palette& output) const override;
 
  private:
-  /// The new value of one channel in `mask`, brought into 0..255 if it is outside; `color` is the whole entry.
+  /// Returns the new value of one channel in `mask`. The caller clamps it to 0..255. `color` is the whole entry.
   [[nodiscard]] virtual std::int32_t transform(std::int32_t value, const PaletteEntry& color,
                                                ChannelMask mask) const = 0;
 };

@@ -11,31 +11,31 @@
 
 namespace quillhue {
 
-/// The chosen effect on the open palette: its parameter, its preview, and applying it. The slot holds a document as
-/// long as an editor lives.
+/// Sets the chosen effect's parameter, previews the effect and applies it to the open palette. The slot must hold a
+/// document as long as the editor lives.
 class EffectEditor {
  public:
-  /// Starts with the effect of the settings.
+  /// Starts with the effect chosen in the settings.
   EffectEditor(const DocumentSlot& slot, AppSettings& settings, PaletteClipboard& clipboard);
 
   [[nodiscard]] const Effect& effect() const { return *effect_; }
 
-  /// Another effect, of which the settings keep the index, with its default value. Rotate takes its range from the
-  /// palette's size at this moment.
+  /// Chooses another effect, with its default value, and stores its index in the settings. The range of Rotate depends
+  /// on the palette's size at the time of the call.
   void choose(std::int32_t index);
   /// A value outside the effect's range counts as the nearest one inside.
   void setValue(std::int32_t value);
-  /// The default value again.
+  /// Restores the default value, and updates the range of Rotate.
   void reset();
 
-  /// Reads the clipboard again for an effect that uses it. False when another program keeps the clipboard open; then
-  /// the palette read before stays in use.
+  /// Reads the clipboard again if the effect uses it. Returns false if another program keeps the clipboard open; the
+  /// palette read before then stays in use.
   bool readClipboard();
 
-  /// What the palette would become; valid until the next call. The document is not changed.
+  /// Returns the palette that the effect gives, valid until the next call. Does not change the document.
   const Palette& preview(ChannelMask mask);
-  /// Changes the document, as one undo step, also when nothing changes; then the default value again. When the effect
-  /// needs the clipboard and can't open it, no color changes and the value stays for another try.
+  /// Applies the effect to the document as one undo step, even if nothing changes, then restores the default value. If
+  /// the effect needs the clipboard and can't open it, no color changes and the value is kept for another try.
   void apply(ChannelMask mask);
 
  private:
@@ -45,7 +45,7 @@ class EffectEditor {
   AppSettings& settings_;
   PaletteClipboard& clipboard_;
   std::unique_ptr<Effect> effect_;
-  // The clipboard's palette when it was last read.
+  // The clipboard's palette as last read.
   std::vector<PaletteEntry> pasted_;
   Palette output_;
 };

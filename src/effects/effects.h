@@ -9,23 +9,23 @@
 
 namespace quillhue {
 
-/// One effect of the catalogue.
+/// A row of the catalogue: one effect.
 struct EffectDescription {
-  /// For scripts.
+  /// Name for scripts.
   std::string_view name;
   std::string_view label;
-  /// The parameter in words.
+  /// Description of the parameter.
   std::string_view meaning;
   ValueRange range;
   std::int32_t defaultValue;
   std::unique_ptr<Effect> (*create)(ValueRange range, std::int32_t value);
-  /// The range is the palette's size both ways, and the one here is not used.
+  /// The range is -n .. n for a palette of n entries; `range` is not used.
   bool followsPaletteSize = false;
-  /// Without a palette on the clipboard it changes nothing.
+  /// The effect changes nothing unless the clipboard holds a palette.
   bool readsClipboard = false;
 };
 
-/// For the rows of the catalogue.
+/// Creates an effect; the rows of the catalogue use this as `create`.
 template <typename Kind>
 std::unique_ptr<Effect> makeEffect(ValueRange range, std::int32_t value) {
   return std::make_unique<Kind>(range, value);
@@ -47,13 +47,13 @@ extern const EffectDescription kRotateEffect;
 extern const EffectDescription kPasteEffect;
 extern const EffectDescription kTwistEffect;
 
-/// All effects, in the order of the list; an effect's place is its index.
+/// Returns all effects in the order of the list. An effect's position is its index.
 [[nodiscard]] std::span<const EffectDescription* const> effects();
 
-/// The effect of an index; any index without one gives Color.
+/// Returns the effect of an index, or Color if no effect has the index.
 [[nodiscard]] const EffectDescription& effectOf(std::int32_t index);
 
-/// Destroys the effect in `slot`, then puts the one of the index there, with its default value.
+/// Destroys the effect in `slot`, then puts the effect of this index there, with its default value.
 Effect& createEffect(std::int32_t index, std::int32_t paletteSize, std::unique_ptr<Effect>& slot);
 
 }  // namespace quillhue

@@ -7,8 +7,8 @@ namespace quillhue {
 
 namespace {
 
-// An inversion of the entries whose mean over the channels in the mask is above a threshold. Below 128 the entries up
-// to the threshold are raised instead.
+// Inverts the entries whose mean over the channels in the mask is above a threshold. A threshold below 128 also raises
+// all other entries.
 class negativeEffect final : public ChannelEffect {
  public:
   using ChannelEffect::ChannelEffect;
@@ -26,7 +26,7 @@ class negativeEffect final : public ChannelEffect {
 
 }  // namespace
 
-// kept on purpose: the default changes nothing, and 0 is the plain negative.
+// kept on purpose: the default changes nothing; 0 is the plain negative.
 constinit const EffectDescription kNegativeEffect{"negative", "Negative", "inversion threshold",
                                                   {0, 255},   255,        makeEffect<negativeEffect>};
 

@@ -4,7 +4,7 @@ namespace quillhue {
 
 namespace {
 
-// Blends the clipboard's palette into the selected entries, in turn, until either runs out.
+// Blends the clipboard's entry k into the k-th selected entry, until either runs out.
 class pasteEffect final : public Effect {
  public:
   using Effect::Effect;

@@ -4,7 +4,7 @@ namespace quillhue {
 
 namespace {
 
-// Moves colors from selected entry to selected entry: toward higher indexes for a positive value.
+// Moves colors along the selected entries, toward higher indexes for a positive value.
 class rotateEffect final : public Effect {
  public:
   using Effect::Effect;

@@ -6,7 +6,8 @@ namespace quillhue {
 
 namespace {
 
-// An S around the middle of the range for exponents below 1, the inverse of one above.
+// Bends values along an S-shaped curve around the middle of the range for exponents below 1, and along an inverse S
+// above 1.
 class twistEffect final : public ChannelEffect {
  public:
   using ChannelEffect::ChannelEffect;
