@@ -10,7 +10,7 @@
 
 namespace quillhue {
 
-/// A file that is open for reading. Closing it is its destruction.
+/// A file open for reading. The destructor closes it.
 class InputFile {
  public:
   InputFile() = default;
@@ -18,21 +18,22 @@ class InputFile {
   InputFile& operator=(const InputFile&) = delete;
   virtual ~InputFile() = default;
 
-  /// Bytes of a regular file; nothing for a pipe or a device.
+  /// Returns the size of a regular file in bytes, or nothing for a pipe or a device.
   [[nodiscard]] virtual std::optional<std::uint64_t> size() const = 0;
-  /// Fills `out` and returns the number of bytes, which is less than `out` holds only at the end; nothing when the
-  /// medium fails. `offset` counts from the start of a regular file. A pipe is read on and ignores it.
+  /// Fills `out` and returns the number of bytes read, which is less than the size of `out` only at the end. Returns
+  /// nothing if the medium fails. `offset` counts from the start of a regular file. Pipes and devices are read
+  /// sequentially and ignore it.
   [[nodiscard]] virtual std::optional<std::size_t> read(std::uint64_t offset, std::span<std::uint8_t> out) = 0;
 };
 
 enum class SaveError : std::uint8_t {
-  /// The file can't be replaced by another one, but it can perhaps be written over.
+  /// The file can't be replaced with a new one, but overwriting it may work.
   notReplaceable,
   failed,
 };
 
-/// A file that is open for writing from its start on. It takes effect with finish(); without that, its destruction
-/// removes whatever was created for it.
+/// A file open for writing from its start. finish() makes it take effect. Without finish(), the destructor removes
+/// everything created for it.
 class OutputFile {
  public:
   OutputFile() = default;
@@ -40,14 +41,14 @@ class OutputFile {
   OutputFile& operator=(const OutputFile&) = delete;
   virtual ~OutputFile() = default;
 
-  /// Appends all of `content`; false when the medium refuses a part of it.
+  /// Appends all of `content`. Returns false if the medium refuses any part of it.
   [[nodiscard]] virtual bool write(std::span<const std::uint8_t> content) = 0;
-  /// Waits until the medium holds what was written; false when it does not.
+  /// Waits until the medium holds the written bytes. Returns false if it fails to.
   [[nodiscard]] virtual bool flush() = 0;
   [[nodiscard]] virtual std::expected<void, SaveError> finish() = 0;
 };
 
-/// The system's files. Names are absolute or relative to the current folder, and as long as the system allows.
+/// The system's files. Names are absolute or relative to the current folder, of any length that the system allows.
 class FileSystem {
  public:
   using Output = std::expected<std::unique_ptr<OutputFile>, SaveError>;
@@ -57,24 +58,24 @@ class FileSystem {
   FileSystem& operator=(const FileSystem&) = delete;
   virtual ~FileSystem() = default;
 
-  /// False only when there is no such file. One that can't be examined exists.
+  /// Returns false only if there is no such file. A file that can't be examined counts as existing.
   [[nodiscard]] virtual bool exists(const std::wstring& name) = 0;
 
-  /// Opens a file; where the system can, others may read it meanwhile and not write it. Returns null for a folder and
-  /// for anything that can't be read.
+  /// Opens a file for reading. If the system supports it, other programs may read but not write the file meanwhile.
+  /// Returns null for a folder and for anything that can't be read.
   [[nodiscard]] virtual std::unique_ptr<InputFile> open(const std::wstring& name) = 0;
 
-  /// Creates a file with a name of its own in the folder of `name`, or of the file that a link of this name leads to.
-  /// finish() puts it in the place of that file in one step, with the old file's rights and attributes. Refuses a file
-  /// that exists and can't be written, and where the system can, one that is open elsewhere.
+  /// Creates a temporary file in the folder of the target: the file `name`, or the file that a link of this name leads
+  /// to. finish() replaces the target in one step and keeps its rights and attributes. Refuses a target that exists and
+  /// can't be written and, if the system supports it, one that is open elsewhere.
   [[nodiscard]] virtual Output createReplacement(const std::wstring& name) = 0;
 
-  /// Opens a file that exists to write over it, and makes room for `size` bytes first, so that a full disk leaves it as
-  /// it was. finish() cuts it to what was written. Pipes and devices just take the bytes.
+  /// Opens an existing file to overwrite it. Reserves room for `size` bytes first, so that a full disk leaves the file
+  /// unchanged. finish() cuts the file to the bytes written. Pipes and devices simply take the bytes.
   [[nodiscard]] virtual Output overwrite(const std::wstring& name, std::uint64_t size) = 0;
 };
 
-/// The files of the system on which the program runs.
+/// Returns the files of the system on which the program runs.
 [[nodiscard]] FileSystem& systemFiles();
 
 }  // namespace quillhue

@@ -4,7 +4,7 @@
 
 namespace quillhue {
 
-/// A file name, without a folder, that nothing else is likely to have and nobody can guess.
+/// Returns a file name without a folder. It can't be guessed and is unlikely to exist.
 [[nodiscard]] std::string temporaryName();
 
 }  // namespace quillhue

@@ -14,7 +14,7 @@ namespace quillhue {
 
 namespace {
 
-// Skips what the user may not set.
+// Skips attributes that the user may not read or set.
 void copyExtendedAttributes(int from, int to) {
   const ssize_t length = flistxattr(from, nullptr, 0);
   std::vector<char> names(static_cast<std::size_t>(std::max<ssize_t>(length, 0)));

@@ -20,7 +20,7 @@ namespace quillhue {
 
 namespace {
 
-// Calls again what a signal interrupted.
+// Repeats a call that a signal interrupted.
 template <typename Call>
 auto uninterrupted(Call call) {
   auto result = call();
@@ -100,7 +100,7 @@ class PosixOutput : public OutputFile {
   }
 
   bool flush() override {
-    // EINVAL and ENOSYS come from what keeps nothing: pipes, devices, some network drives.
+    // Pipes, devices and some network drives can't be flushed and report EINVAL or ENOSYS.
     isFlushed_ = uninterrupted([&] { return fsync(file_.get()); }) == 0 || errno == EINVAL || errno == ENOSYS;
     return isFlushed_;
   }
@@ -120,7 +120,7 @@ SaveError saveErrorOf(int error) {
                                                                             : SaveError::failed;
 }
 
-/// A new file in a folder. The folder is held open, so it may be moved meanwhile and its own name may be long.
+/// A new file in a folder. The folder is kept open, so it may be moved meanwhile and its own name may be long.
 class Replacement final : public PosixOutput {
  public:
   Replacement(Descriptor file, Descriptor folder, std::string temporary, std::string target)
@@ -143,8 +143,8 @@ class Replacement final : public PosixOutput {
       return std::unexpected(saveErrorOf(errno));
     }
     temporary_.clear();
-    // Until the folder is on the disk as well, a power cut may bring back the old file. A folder that can't be listed
-    // can't be flushed.
+    // Until the folder is flushed as well, a power cut may bring back the old file. A folder that can't be listed can't
+    // be flushed.
     if (const Descriptor listed = openAt(folder_.get(), ".", O_RDONLY | O_DIRECTORY); listed && isFlushed()) {
       uninterrupted([&] { return fsync(listed.get()); });
     }
@@ -172,8 +172,8 @@ class Overwriting final : public PosixOutput {
   bool isRegular_;
 };
 
-// The file to which the links of this name lead, whether it exists or not. Nothing for a ring of links, and for the
-// names that processes' open files have: those stand for what is open, not for what has the name.
+// Returns the file to which the links of this name lead, whether it exists or not. Returns nothing for a cycle of
+// links, and for links in /proc, which refer to open files rather than to names.
 std::optional<std::filesystem::path> followLinks(std::filesystem::path path) {
   constexpr int kMaxLinks = 40;
   struct stat processes{};
@@ -228,7 +228,7 @@ class PosixFiles final : public FileSystem {
     const std::string folderName = target->has_parent_path() ? target->parent_path().string() : ".";
     Descriptor folder = openPath(folderName, O_PATH | O_DIRECTORY);
     std::string temporary = temporaryName();
-    // Until it has the old file's rights, nobody else may read what is written.
+    // Nobody else may read the new file until it has the old file's rights.
     constexpr mode_t kPrivate = S_IRUSR | S_IWUSR;
     Descriptor file =
         openAt(folder.get(), temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL, old ? kPrivate : DEFFILEMODE);

@@ -20,7 +20,7 @@ struct HandleCloser {
 };
 using FileHandle = std::unique_ptr<void, HandleCloser>;
 
-// Bytes that one call reads or writes.
+// Maximum number of bytes that one call reads or writes.
 constexpr std::size_t kMaxTransfer = std::size_t{1} << 30;
 
 constexpr DWORD kSharedWithNobody = 0;
@@ -49,7 +49,7 @@ class WindowsInput final : public InputFile {
       const auto wanted = static_cast<DWORD>(std::min(out.size() - filled, kMaxTransfer));
       DWORD got = 0;
       if (ReadFile(file_.get(), out.data() + filled, wanted, &got, size_ ? &place : nullptr) == 0) {
-        // A pipe ends when its writer closes it.
+        // A broken pipe is at its end: the writer has closed it.
         if (GetLastError() != ERROR_HANDLE_EOF && GetLastError() != ERROR_BROKEN_PIPE) {
           return std::nullopt;
         }
@@ -84,7 +84,7 @@ class WindowsOutput : public OutputFile {
     return true;
   }
 
-  // A pipe would wait for its reader.
+  // Flushing a pipe would wait for its reader.
   bool flush() override { return !isStored(file_) || FlushFileBuffers(file_.get()) != 0; }
 
  protected:
@@ -135,7 +135,7 @@ class Replacement final : public WindowsOutput {
     if (GetLastError() != ERROR_UNABLE_TO_MOVE_REPLACEMENT) {
       return false;
     }
-    // The old file is gone already. A new one that can't have its name either is kept.
+    // The old file is already gone. If the new one can't be renamed either, it is kept.
     if (!move()) {
       temporary_.clear();
       return false;
@@ -160,7 +160,7 @@ class Overwriting final : public WindowsOutput {
   }
 };
 
-// Lengthens a file that is shorter; it is to be written from its start on.
+// Lengthens a file shorter than `size`. The file pointer stays at the start.
 bool makeRoom(HANDLE file, std::uint64_t size) {
   LARGE_INTEGER length{};
   LARGE_INTEGER wanted{};
@@ -173,7 +173,7 @@ bool makeRoom(HANDLE file, std::uint64_t size) {
           SetFilePointerEx(file, {}, nullptr, FILE_BEGIN) != 0);
 }
 
-// The full name in the form without a limit of its length. Devices such as NUL keep the form that they have.
+// Returns the full name in the form without a length limit. Names of devices such as NUL keep their form.
 std::wstring fullName(const std::wstring& name) {
   std::wstring full(GetFullPathNameW(name.c_str(), 0, nullptr, nullptr), L'\0');
   full.resize(GetFullPathNameW(name.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
@@ -185,7 +185,8 @@ std::wstring fullName(const std::wstring& name) {
 
 bool isDevice(const std::wstring& fullName) { return fullName.starts_with(LR"(\\.\)"); }
 
-// The file to which the links of this name lead; nothing when it does not exist or its disk does not name it.
+// Returns the file to which the links of this name lead. Returns nothing if it does not exist or its disk does not
+// report a name.
 std::optional<std::wstring> followLinks(const std::wstring& name) {
   const FileHandle file = openHandle(name, 0, kSharedWithAll, OPEN_EXISTING);
   std::wstring target(GetFinalPathNameByHandleW(file.get(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
@@ -222,7 +223,7 @@ class WindowsFiles final : public FileSystem {
     const DWORD attributes = GetFileAttributesW(target.c_str());
     const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
     if (exists) {
-      // Asked of every file: under Wine a link of the host looks like the file itself.
+      // Every file is checked, because under Wine a link of the host looks like a regular file.
       auto linked = followLinks(target);
       if (!linked && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
         return std::unexpected(SaveError::notReplaceable);
@@ -234,7 +235,7 @@ class WindowsFiles final : public FileSystem {
       return std::unexpected(SaveError::failed);
     }
     std::wstring temporary = target.substr(0, target.rfind(L'\\') + 1) + fromUtf8(temporaryName());
-    // ReplaceFileW keeps the old file's attributes, but Wine's takes those of the new one.
+    // ReplaceFileW keeps the old file's attributes, but Wine's version keeps the new file's.
     const DWORD kept = exists ? attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM) : FILE_ATTRIBUTE_NORMAL;
     FileHandle file = openHandle(temporary, GENERIC_WRITE, kSharedWithNobody, CREATE_NEW, kept);
     if (!file) {
