@@ -1,4 +1,4 @@
-# What every target of the project is built with.
+# Settings shared by every target of the project.
 
 set(QUILLHUE_SOURCE_ROOT ${CMAKE_CURRENT_SOURCE_DIR}/src)
 
@@ -15,8 +15,8 @@ if(QUILLHUE_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
-# The header-only libraries of the tool. Debian installs them for all systems alike, so the cross compiler may read
-# them, but nothing else of the folder in which they are.
+# The tool's header-only libraries. Debian installs them for all systems in one folder. The cross compiler may read
+# these two, but nothing else in that folder.
 set(headers ${CMAKE_BINARY_DIR}/headers)
 file(MAKE_DIRECTORY ${headers})
 foreach(library CLI nlohmann)
@@ -28,7 +28,7 @@ endforeach()
 add_library(quillhue_headers INTERFACE)
 target_include_directories(quillhue_headers SYSTEM INTERFACE ${headers})
 
-# A folder of src/ as a static library: of ui/logic the target quillhue_ui_logic.
+# Builds a folder of src/ as a static library. The target of ui/logic is quillhue_ui_logic.
 function(quillhue_library folder)
   cmake_parse_arguments(PARSE_ARGV 1 library "" "" "EXCLUDE;LINK")
   string(REPLACE "/" "_" name ${folder})

@@ -1,4 +1,4 @@
-# Debian's cross compiler for 64-bit Windows; what it builds runs under Wine.
+# Debian's cross compiler for 64-bit Windows. Its programs run under Wine.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
