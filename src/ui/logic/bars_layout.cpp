@@ -7,8 +7,8 @@ namespace quillhue {
 
 namespace {
 
-// The edges of a channel's boxes from the surface's center line, in 1/96 inch. They are scaled one by one, which
-// decides how they are rounded.
+// Horizontal edges of a channel's boxes relative to the surface's center line, in 1/96 inch. Each edge is scaled on its
+// own, which determines the rounding.
 struct Edges {
   std::int32_t bar;
   std::int32_t zoneLeft;
@@ -22,7 +22,7 @@ constexpr std::int32_t kBarWidth = 24;
 constexpr std::int32_t kStripWidth = 8;
 constexpr std::int32_t kAbove = 10;
 constexpr std::int32_t kBelow = 76;
-// How far the zones go beyond the bars, above and below.
+// Distance by which the zones extend above and below the bars.
 constexpr std::int32_t kOverhang = 4;
 
 }  // namespace
@@ -50,7 +50,7 @@ Point BarsLayout::markerPoint(Bar bar, const ValueRange& range, std::int32_t val
   return {center_ + side * scale_(48), top_ + (range.maximum - value) * way / (range.maximum - range.minimum)};
 }
 
-// One pixel more, since the markers' outlines lie on the edges.
+// One pixel larger on each side than the zones, because the markers' outlines are on their edges.
 Rect BarsLayout::changingBox() const {
   const Rect left = zone(Bar::left);
   const Rect right = zone(Bar::right);

@@ -9,32 +9,31 @@
 
 namespace quillhue {
 
-/// Where the three gradient bars stand on their surface, each with the fixed strip at its right. All points and boxes
-/// are relative to the surface's corner.
+/// Layout of the three gradient bars on their surface, each with its fixed strip on the right. All points and boxes are
+/// relative to the surface's top left corner.
 class BarsLayout {
  public:
   BarsLayout(Size surface, Scale scale);
 
-  /// The height that is painted, at least 0.
+  /// The height of the bars, at least 0.
   [[nodiscard]] std::int32_t height() const { return height_; }
   [[nodiscard]] Rect barBox(Bar bar) const;
   [[nodiscard]] Rect stripBox(Bar bar) const;
-  /// The position of the gradient, 0 .. kBarPositions - 1, whose color a row of pixels takes; `row` counts upward from
+  /// Returns the position in the gradient, 0 .. kBarPositions - 1, that a row of pixels shows. `row` counts upward from
   /// 0 at the bottom to height() - 1.
   [[nodiscard]] std::int32_t positionOfRow(std::int32_t row) const;
 
-  /// Where the marker of a channel's value points.
+  /// Returns the point that the marker of a channel's value points at.
   [[nodiscard]] Point markerPoint(Bar bar, const ValueRange& range, std::int32_t value) const;
 
-  /// All that changes with the entry: bars, strips and markers.
+  /// Returns the box to repaint when the entry changes: bars, strips and markers.
   [[nodiscard]] Rect changingBox() const;
 
-  /// Where a press or a turn of the wheel means the bar.
+  /// Returns the area in which mouse presses and wheel turns act on the bar.
   [[nodiscard]] Rect zone(Bar bar) const;
-  /// The bar whose zone the point is in.
+  /// Returns the bar whose zone contains the point.
   [[nodiscard]] std::optional<Bar> barAt(Point point) const;
-  /// What dragging takes: the pointer's height above the bars' bottom edge, and the height that stands for the
-  /// greatest value.
+  /// For dragging: the pointer's height above the bars' bottom edge, and the height that means the maximum value.
   [[nodiscard]] std::int32_t heightAt(std::int32_t y) const { return bottom_ - y; }
   [[nodiscard]] std::int32_t usableHeight() const { return bottom_ - top_ - 1; }
 

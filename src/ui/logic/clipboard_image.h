@@ -9,12 +9,12 @@
 
 namespace quillhue {
 
-/// Images as device-independent bitmaps, as programs exchange them on the clipboard: a header of 40 bytes, the colors,
-/// rows from bottom to top. Throw std::bad_alloc.
+/// Images as device-independent bitmaps for the clipboard (CF_DIB): a header of 40 bytes, the color table, and the rows
+/// from bottom to top. All functions throw std::bad_alloc.
 
-/// `blank` stands for the colors that the image's palette has not.
+/// Fills missing colors of the color table with `blank`.
 [[nodiscard]] std::vector<std::uint8_t> clipboardBitmap(const RemappedImage& image, PaletteEntry blank);
-/// Of 24 bits a pixel where the image has no palette.
+/// Makes a bitmap with 24 bits per pixel if the image has no palette.
 [[nodiscard]] std::vector<std::uint8_t> clipboardBitmap(const WorkImage& image, PaletteEntry blank);
 
 }  // namespace quillhue

@@ -6,12 +6,12 @@
 
 namespace quillhue {
 
-/// Decides which rows of an image that is being remapped are painted, so that the user sees it grow while no row is
-/// painted twice: painting all of it at every look would take time by the square of its height.
+/// Chooses the rows of an image to paint while it is being remapped. The user sees the image grow, and no row is
+/// painted twice: repainting the whole image at each step would take time quadratic in its height.
 class DisplayRows {
  public:
-  /// The first `done` rows are finished: those to paint now. They wait, and none are painted, until any of them can be
-  /// seen.
+  /// Returns the rows to paint now that the first `done` rows are finished: all rows not painted before, or none while
+  /// all of them are outside `visible`.
   [[nodiscard]] RowRange progress(std::int32_t done, const RowRange& visible);
 
  private:

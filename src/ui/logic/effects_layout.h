@@ -5,9 +5,9 @@
 
 namespace quillhue {
 
-/// Where the controls of the tab "Apply Effects" stand beside the grid, in the main window.
+/// Boxes of the controls beside the grid on the tab "Apply Effects", in client coordinates of the main window.
 struct EffectsLayout {
-  /// All of the tab; the other controls lie on it.
+  /// The whole tab, below the other controls.
   Rect surface;
   Rect red;
   Rect green;
@@ -15,7 +15,7 @@ struct EffectsLayout {
   Rect preview;
   Rect reset;
   Rect value;
-  /// With the list that drops down.
+  /// Includes the drop-down list.
   Rect effectList;
   Rect apply;
 };

@@ -8,23 +8,24 @@
 
 namespace quillhue {
 
-/// The rules of the dialog that asks how to make a palette from an image of so many different colors.
+/// Rules of the dialog that asks how to make a palette from an image. `distinctColors` is the number of different
+/// colors in the image.
 
-/// The count in words.
+/// Returns the sentence that gives the number of colors.
 [[nodiscard]] std::string colorsFoundText(std::uint64_t distinctColors);
 
-/// The size that is proposed: every color, but no more than 256.
+/// Returns the proposed size: one entry for each color, but at most 256.
 [[nodiscard]] std::int32_t proposedSize(std::uint64_t distinctColors);
 
-/// Whether a palette can hold them all.
+/// Returns whether a palette can hold all colors.
 [[nodiscard]] bool canUseAllColors(std::uint64_t distinctColors);
 
-/// What FileQuestions::askPaletteFromImage answers for the size in the dialog, 1 .. kMaxPaletteSize, or else the
-/// message that refuses it. Nothing stands for a size that is no number.
+/// The answer of FileQuestions::askPaletteFromImage, or a message if the size typed in the dialog is not
+/// 1 .. kMaxPaletteSize. A size without a value was not a number.
 using FromImageAnswer = std::expected<std::int32_t, std::string_view>;
-/// "Use all colors", while that can be: as many entries as there are colors, more where the size is.
+/// Answer of "Use all colors": the larger of the size and the number of colors. Needs canUseAllColors().
 [[nodiscard]] FromImageAnswer useAllColors(std::optional<std::int32_t> size, std::uint64_t distinctColors);
-/// "Reduce colors".
+/// Answer of "Reduce colors": the size, negated.
 [[nodiscard]] FromImageAnswer reduceColors(std::optional<std::int32_t> size);
 
 }  // namespace quillhue

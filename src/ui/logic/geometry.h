@@ -4,7 +4,7 @@
 
 namespace quillhue {
 
-/// Points, sizes and boxes in pixels.
+/// Points, sizes and rectangles in pixels.
 
 struct Point {
   std::int32_t x = 0;
@@ -20,7 +20,7 @@ struct Size {
   friend bool operator==(const Size&, const Size&) = default;
 };
 
-/// Left and top edge belong to it, right and bottom one do not.
+/// A rectangle that includes its left and top edges and excludes its right and bottom edges.
 struct Rect {
   std::int32_t left = 0;
   std::int32_t top = 0;
@@ -33,7 +33,7 @@ struct Rect {
   [[nodiscard]] constexpr bool contains(Point point) const {
     return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
   }
-  /// Smaller by `by` on all four sides; larger where that is negative.
+  /// Returns the rectangle shrunk by `by` pixels on each side, or grown if `by` is negative.
   [[nodiscard]] constexpr Rect inset(std::int32_t by) const { return {left + by, top + by, right - by, bottom - by}; }
 
   friend bool operator==(const Rect&, const Rect&) = default;
@@ -43,7 +43,7 @@ constexpr Rect boxAt(Point corner, Size size) {
   return {corner.x, corner.y, corner.x + size.width, corner.y + size.height};
 }
 
-/// Turns lengths in 1/96 inch into pixels of a screen, truncated.
+/// Converts lengths from 1/96 inch to pixels of a screen, truncated.
 struct Scale {
   std::int32_t dpi = 96;
 

@@ -7,7 +7,7 @@ namespace quillhue {
 
 namespace {
 
-// What is kept free at the right for the tab's controls, in 1/96 inch.
+// Width reserved for the tab's controls on the right, in 1/96 inch.
 constexpr std::int32_t kControlsWidth = 160;
 constexpr std::int32_t kMargin = 10;
 

@@ -30,7 +30,7 @@ bool GridSelection::drag(const GridLayout& grid, Point point) {
     return selectRange();
   }
   if (gesture_.mode == SelectionMode::row) {
-    // Beside a row the pointer still means it.
+    // A pointer to the left or right of a row counts as on that row.
     point.x = grid.margin();
     gesture_.last.x = grid.margin();
   }
@@ -90,7 +90,7 @@ GridSelection::Flags GridSelection::currentFlags() const {
   return {flags.begin(), flags.end()};
 }
 
-// A range with Shift starts at the anchor, and without one at the entry that was the current one.
+// With Shift, a range starts at the anchor or, without an anchor, at the previous current entry.
 void GridSelection::begin(Means by, SelectionMode mode, std::int32_t index, Keys keys) {
   gesture_ = {
       .by = by,
@@ -115,7 +115,7 @@ bool GridSelection::goesOn(Means by) const {
          gesture_.saves == document().saveCount() && gesture_.base.size() == document().getPalette().selected().size();
 }
 
-// Cells past the end are those of no entry, but their row may have entries.
+// A cell past the end has no entry, but its row may contain entries.
 bool GridSelection::give(const std::vector<std::int32_t>& cells, std::int32_t columns) {
   const std::int32_t length = gesture_.mode == SelectionMode::row ? columns : 1;
   Flags wanted = currentFlags();

@@ -9,16 +9,16 @@
 
 namespace quillhue {
 
-/// Selecting entries of the grid by mouse and keys, in the selection mode of the settings, and the current entry that
-/// goes with it. The slot holds a document as long as this lives.
+/// Selects entries of the grid by mouse and keyboard in the settings' selection mode, and holds the current entry. The
+/// slot must hold a document during this object's lifetime.
 ///
-/// - Free: a press flips an entry, and dragging gives every entry crossed the same state.
-/// - Row: the same with whole rows; a row gets the opposite of the pressed entry's state.
-/// - Range: from the pressed entry to the pointer in index order, in place of what was selected. With Shift it starts
-///   at the last anchor, with Control it adds.
+/// - Free: a press flips an entry. Dragging gives each crossed entry the same state.
+/// - Row: the same for whole rows. A row gets the opposite of the pressed entry's state.
+/// - Range: selects from the pressed entry to the pointer, in index order, and replaces the selection. With Shift the
+///   range starts at the last anchor; with Control it is added to the selection.
 ///
-/// A gesture is one undo step, recorded at its first change and only then. One that something else has overtaken (an
-/// undo, a command, a save) goes on no further.
+/// A gesture is one undo step, recorded at its first change. It ends if the document changes otherwise (an undo, a
+/// command, a save).
 class GridSelection {
  public:
   struct Keys {
@@ -28,47 +28,47 @@ class GridSelection {
 
   GridSelection(const DocumentSlot& slot, const AppSettings& settings) : slot_(slot), settings_(settings) {}
 
-  /// An index past the palette's end when a cell without an entry was clicked, kNoEntry when there is none.
+  /// Past the palette's end if a cell without an entry was clicked; kNoEntry if there is no current entry.
   [[nodiscard]] std::int32_t currentEntry() const { return current_; }
 
-  /// A press, a move of the pointer with the button held, and a release. Points are relative to the grid's area.
-  /// True when the selection has changed. A press beside the entries starts nothing and leaves the current entry.
+  /// Handle a press of the mouse button and a move with the button held. Points are relative to the grid's area. Return
+  /// true if the selection has changed. A press outside the entries starts no gesture and keeps the current entry.
   bool press(const GridLayout& grid, Point point, Keys keys);
   bool drag(const GridLayout& grid, Point point);
-  /// Ends the gesture. Also for the focus or the capture lost, and before any command.
+  /// Ends the gesture. Called on release, on loss of focus or mouse capture, and before any command.
   void finish() { gesture_.by = Means::none; }
-  /// Shift is released: that ends a gesture by keys.
+  /// Ends a keyboard gesture, because Shift was released.
   void releaseShift();
 
-  /// Another current entry, from which the next range starts.
+  /// Sets the current entry, from which the next range starts.
   void moveTo(std::int32_t index);
-  /// Another current entry, with the range up to it selected whatever the mode. While Shift is held, such
-  /// moves are one gesture. True when the selection has changed.
+  /// Sets the current entry and selects the range up to it, in any mode. All such moves while Shift is held are one
+  /// gesture. Returns true if the selection has changed.
   bool extendTo(std::int32_t index, Keys keys);
-  /// Like a press and a release on the current entry, if there is one, on a grid of so many columns.
+  /// Acts like a press and a release on the current entry, if there is one. `columns` is the width of the grid.
   bool pressCurrent(std::int32_t columns, Keys keys);
 
-  /// After undo, redo and resizing: a current entry past the end becomes the last one.
+  /// After undo, redo and resizing: moves a current entry past the end to the last entry.
   void paletteChanged();
-  /// Another document was opened: there is no current entry.
+  /// After another document is opened: clears the current entry.
   void documentReplaced();
 
  private:
   using Flags = std::vector<std::uint8_t>;
 
-  /// What a gesture is made by; none while there is no gesture.
+  /// The input device of the gesture; `none` while there is no gesture.
   enum class Means : std::uint8_t { none, pointer, keys };
 
   struct Gesture {
     Means by = Means::none;
     SelectionMode mode = SelectionMode::free;
-    /// Free and row: what the entries become, and where the pointer was.
+    /// For free and row: the new state of the entries, and the last position of the pointer.
     std::uint8_t state = 0;
     Point last;
-    /// Range: what is selected beside it.
+    /// For range: the selection outside the range.
     Flags base;
     bool recorded = false;
-    /// The document's modification count and saves after the gesture's last change.
+    /// The document's counts of modifications and saves after the gesture's last change.
     std::int32_t modifications = 0;
     std::int32_t saves = 0;
   };

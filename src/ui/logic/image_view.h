@@ -6,25 +6,25 @@
 
 namespace quillhue {
 
-/// Scrolling an image that may be larger than its view, in pixels.
+/// Scrolling of an image that may be larger than its view, in pixels.
 
-/// What a scroll bar is given: positions 0 .. extent - 1, of which it shows a page.
+/// Range of a scroll bar: positions 0 .. extent - 1, of which `page` are visible at a time.
 struct ScrollRange {
   std::int32_t extent = 0;
   std::int32_t page = 0;
 
-  /// How far a page leads, at least 1.
+  /// The distance of one page step, at least 1.
   [[nodiscard]] std::int32_t step() const { return page > 1 ? page : 1; }
-  /// The greatest position, at which the end is in view; 0 where everything is.
+  /// The maximum position, which shows the end of the image; 0 if the whole image is visible.
   [[nodiscard]] std::int32_t last() const;
-  /// The nearest position that there is.
+  /// Returns the nearest valid position.
   [[nodiscard]] std::int32_t clamp(std::int32_t position) const;
 };
 
-/// What the user does with a scroll bar.
+/// Actions of the user on a scroll bar.
 enum class ScrollAction : std::uint8_t { lineBack, lineForward, pageBack, pageForward, track, toStart, toEnd };
 
-/// The new position; `tracked` is where the thumb is dragged to.
+/// Returns the new position. `tracked` is the position to which the thumb is dragged.
 [[nodiscard]] std::int32_t scrolled(ScrollAction action, std::int32_t position, std::int32_t tracked,
                                     const ScrollRange& range);
 
@@ -39,8 +39,8 @@ struct RowRange {
   friend bool operator==(const RowRange&, const RowRange&) = default;
 };
 
-/// The rows from the first visible one that can be seen in an image area of this height (that of the tab), and as many
-/// more as are done between two looks at the progress.
+/// Returns the rows visible in an image area of this height (that of the tab) from `firstRow` on, and the number of
+/// rows processed between two progress reports in addition.
 [[nodiscard]] RowRange visibleRows(std::int32_t firstRow, std::int32_t areaHeight, Scale scale);
 
 }  // namespace quillhue

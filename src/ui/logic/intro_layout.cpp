@@ -32,7 +32,7 @@ Rect introButtonBox(const IntroButton& button, Size screen, Scale scale) {
 
 Rect introButtonFace(Scale scale) { return boxAt({}, scale({kSide, kSide})); }
 
-// Row by row: what is above a row of buttons, then what is beside each of them.
+// Proceeds by rows of buttons: first the box above a row, then the boxes beside its buttons.
 std::vector<Rect> introBackground(Size screen, Scale scale) {
   std::vector<Rect> boxes;
   const auto add = [&](const Rect& box) {

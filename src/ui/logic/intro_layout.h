@@ -9,28 +9,28 @@
 
 namespace quillhue {
 
-/// The buttons of the intro screen, and where they stand.
+/// A button of the intro screen and its position.
 struct IntroButton {
   std::string_view text;
-  /// The name of its icon among the program's resources.
+  /// The name of the icon resource.
   std::string_view icon;
   std::string_view tooltip;
-  /// What it does, as a command of the menus.
+  /// The id of the menu command that it executes.
   std::int32_t command;
-  /// Of its corner from the screen's middle, in 1/96 inch.
+  /// The offset of its top left corner from the screen's center, in 1/96 inch.
   Point offset;
 };
 
-/// From left to right and from top to bottom.
+/// Returns the buttons from left to right and from top to bottom.
 [[nodiscard]] std::span<const IntroButton> introButtons();
-/// The one whose right click offers all system palettes.
+/// Returns the button whose context menu lists all system palettes.
 [[nodiscard]] const IntroButton& systemPalettesButton();
 
 [[nodiscard]] Rect introButtonBox(const IntroButton& button, Size screen, Scale scale);
-/// The part of a button, from its own corner, on which a right click counts.
+/// Returns the part of a button that accepts a right click, relative to the button's corner.
 [[nodiscard]] Rect introButtonFace(Scale scale);
 
-/// What is left of a screen of this size: boxes that do not overlap.
+/// Returns the area of the screen outside the buttons as boxes that do not overlap.
 [[nodiscard]] std::vector<Rect> introBackground(Size screen, Scale scale);
 
 }  // namespace quillhue

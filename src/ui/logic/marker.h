@@ -8,7 +8,7 @@ namespace quillhue {
 
 using Triangle = std::array<Point, 3>;
 
-/// A pair of small triangles that mark a point from its left and from its right, each with its tip first.
+/// Returns two small triangles that mark a point from the left and from the right. The first corner of each is its tip.
 [[nodiscard]] std::array<Triangle, 2> markerAt(Point point, Scale scale);
 
 }  // namespace quillhue

@@ -24,20 +24,20 @@ std::string quoted(std::string_view text) {
   return result + '"';
 }
 
-// What a menu shows before anything is open.
+// Initial state of a menu's items, before a palette is open.
 enum class Start : std::uint8_t {
-  // By the command's rule.
+  // Each item follows the rule of its command.
   byRule,
-  // The menu itself is greyed, so its items are only for what they need beside.
+  // The menu is greyed, so its items are greyed only if they need more than an open editor.
   byNeed,
-  // The menu opens only where its items have an effect.
+  // The menu opens only in places where its items work.
   enabled,
 };
 
 bool isEnabledAtStart(const MenuItem& item, Start start) {
   const CommandState nothing;
   if (start == Start::byNeed) {
-    // The menu is open only in the editor.
+    // A greyed menu can be opened only in the editor.
     return item.command == 0 || isMet(findCommand(item.command)->need, {.tab = ActiveTab::use});
   }
   return start == Start::enabled || isEnabled(item, nothing);

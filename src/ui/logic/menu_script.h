@@ -4,9 +4,9 @@
 
 namespace quillhue {
 
-/// The menu bar, the context menus and the accelerators as the source of the program's resources "MAINMENU",
-/// "MAINPOPUP" and "MAINACCEL". In the menu bar, menus and items that are of no use without a palette start greyed, and
-/// so do items of a greyed menu that need more than that.
+/// Returns the resource script of the menu bar ("MAINMENU"), the context menus ("MAINPOPUP") and the accelerators
+/// ("MAINACCEL"). Menus and items of the menu bar that need a palette start greyed. In a greyed menu, only items that
+/// need more than an open editor start greyed.
 [[nodiscard]] std::string menuScript();
 
 }  // namespace quillhue

@@ -9,30 +9,31 @@
 
 namespace quillhue {
 
-/// The menu bar and the context menus, made of commands.
+/// The menu bar and the context menus, built from the command table.
 
 struct MenuItem {
-  /// 0 for a separator or a menu of its own.
+  /// 0 for a separator or a submenu.
   std::int32_t command = 0;
-  /// As it is shown, accelerator included.
+  /// The displayed text, including the accelerator.
   std::string text;
-  /// What a menu of its own holds.
+  /// The items of a submenu.
   std::vector<MenuItem> items;
 
   [[nodiscard]] bool isSeparator() const { return command == 0 && items.empty(); }
 };
 
-/// Its items are the menus of the bar, the second of them "&Edit".
+/// Returns the menus of the menu bar. The second is "&Edit".
 [[nodiscard]] const std::vector<MenuItem>& mainMenu();
 
-/// The places of the context menus among those of contextMenus().
+/// Indexes of the context menus in contextMenus().
 inline constexpr std::int32_t kNewPopup = 0;
 inline constexpr std::int32_t kValuesPopup = 1;
 inline constexpr std::int32_t kEffectsPopup = 2;
-/// Menus like those of a bar, titled by their names.
+/// Returns the context menus. The text of each is its name.
 [[nodiscard]] const std::vector<MenuItem>& contextMenus();
 
-/// A menu of its own is offered while anything handles one of its commands, and a command as the table tells.
+/// Returns whether an item is enabled. A command follows the rules of the command table; a submenu is enabled if one of
+/// its commands is handled.
 [[nodiscard]] bool isEnabled(const MenuItem& item, const CommandState& state);
 
 }  // namespace quillhue

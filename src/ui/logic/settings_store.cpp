@@ -34,12 +34,12 @@ Bytes bytesOf(std::uint32_t number) {
   return bytes;
 }
 
-// kept on purpose: of a stored side only the low 16 bits count, with their sign.
+// kept on purpose: a stored width or height is a signed 16-bit number; the upper 16 bits are ignored.
 std::int32_t sideOf(Value value, std::int32_t least) {
   return std::max<std::int32_t>(static_cast<std::int16_t>(static_cast<std::uint16_t>(numberOf(value))), least);
 }
 
-// For a value that is an index of `count` things.
+// Loads an index below `count`. Ignores any other value.
 void loadIndex(Value value, std::size_t count, std::uint8_t& index) {
   if (value[0] < count) {
     index = value[0];

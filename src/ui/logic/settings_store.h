@@ -12,21 +12,21 @@
 
 namespace quillhue {
 
-/// The kinds of values: a number of 32 bits, kept as four bytes with the lowest first, and plain bytes.
+/// Types of values: a 32-bit number as four bytes in little-endian order, or plain bytes.
 enum class SettingType : std::uint8_t { number, bytes };
 
-/// Where settings are kept from one session to the next: values by name.
+/// Persistent storage of named values.
 class SettingsStore {
  public:
   virtual ~SettingsStore() = default;
 
-  /// All bytes of the value; nothing when there is none of this name and type, or it can't be read.
+  /// Returns all bytes of the value, or nothing if no value has this name and type or it can't be read.
   [[nodiscard]] virtual std::optional<std::vector<std::uint8_t>> read(std::string_view name, SettingType type) = 0;
-  /// Puts the value in place of any other of this name. One that can't be written is left.
+  /// Writes the value and replaces any other value of this name. Ignores failures.
   virtual void write(std::string_view name, SettingType type, std::span<const std::uint8_t> value) = 0;
 };
 
-/// All that is kept.
+/// All settings that are saved when the program ends.
 struct SavedSettings {
   AppSettings app;
   /// The outer size of the main window in pixels.
@@ -36,20 +36,20 @@ struct SavedSettings {
 struct SettingDescription {
   std::string_view name;
   SettingType type;
-  /// The bytes of a value. One of any other length is not used.
+  /// Length of the value in bytes. Values of any other length are ignored.
   std::size_t length;
-  /// Takes a value into the settings. One that is out of its range leaves them as they are or becomes the nearest.
+  /// Stores a value in the settings. A value out of range is ignored or clamped.
   void (*load)(std::span<const std::uint8_t> value, Scale scale, SavedSettings& settings);
   std::vector<std::uint8_t> (*save)(const SavedSettings& settings);
 };
 
-/// All settings, in the order in which they are written.
+/// Returns all settings in the order in which they are written.
 [[nodiscard]] std::span<const SettingDescription> settingDescriptions();
 
-/// The settings of a first start on a screen of this resolution.
+/// Returns the settings of a first start on a screen of this resolution.
 [[nodiscard]] SavedSettings defaultSettings(Scale scale);
 
-/// What the store has; the default for everything that it has not, and for a value of another type or length.
+/// Reads the settings from the store. Uses the default for values that are missing or have another type or length.
 [[nodiscard]] SavedSettings readSettings(SettingsStore& store, Scale scale);
 void writeSettings(const SavedSettings& settings, SettingsStore& store);
 

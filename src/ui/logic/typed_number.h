@@ -8,14 +8,14 @@
 
 namespace quillhue {
 
-/// What an edit field's text says: digits, with a minus sign before them or not, and blanks around. Nothing for any
-/// other text; a number that is too large counts as the largest or least there is.
+/// Parses an edit field's text: digits with an optional minus sign, between optional blanks. Returns nothing for any
+/// other text. Clamps numbers outside the 32-bit range.
 [[nodiscard]] std::optional<std::int32_t> typedNumber(std::wstring_view text);
 
-/// The number that an arrow of a field leads to from the one that counts.
+/// Returns the number after a step of a field's arrows, clamped to the range.
 [[nodiscard]] std::int32_t steppedValue(std::int32_t value, std::int32_t step, const ValueRange& range);
 
-/// The number in a field while it is typed: the nearest one in the range, and `previous` where there is none.
+/// Returns the typed number, or `previous` if the text is not a number, clamped to the range.
 [[nodiscard]] std::int32_t typedValue(std::wstring_view text, const ValueRange& range, std::int32_t previous);
 
 }  // namespace quillhue

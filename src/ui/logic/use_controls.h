@@ -8,22 +8,22 @@
 
 namespace quillhue {
 
-/// What decides about the controls of the tab "Use Palette".
+/// State of the tab "Use Palette" that determines which controls are enabled.
 struct UseState {
   bool hasImage = false;
-  /// The image has a palette of its own.
+  /// The image has its own palette.
   bool isIndexed = false;
-  /// A result was made, and can be saved.
+  /// There is a result to save.
   bool hasResult = false;
-  /// A run is on.
+  /// An image is being remapped.
   bool isBusy = false;
   RemapMode mode = RemapMode::maintain;
-  /// Their boxes are ticked.
+  /// States of the two check boxes.
   bool protectColor = false;
   bool protectGrid = false;
 };
 
-/// Which controls can be used. While a run is on none can.
+/// Enabled controls. None is enabled while an image is being remapped.
 struct LoadControls {
   bool load = false;
   bool maintain = false;
@@ -40,19 +40,19 @@ struct ProtectControls {
   bool protectColor = false;
   bool color = false;
   bool protectGrid = false;
-  /// Both of the grid's numbers.
+  /// Both number fields of the grid.
   bool gridSides = false;
 
   friend bool operator==(const ProtectControls&, const ProtectControls&) = default;
 };
 [[nodiscard]] ProtectControls protectControls(const UseState& state);
 
-/// Whether the texts beside the grid's numbers are grey.
+/// Returns whether the labels of the grid's number fields are grey.
 [[nodiscard]] constexpr bool areLabelsGrey(const UseState& state) { return !state.protectGrid; }
 
-/// The mode after an image was loaded: an image of direct colors has no mapping to maintain.
+/// Returns the mode after an image is loaded. A true-color image has no mapping, so `maintain` becomes `nearest`.
 [[nodiscard]] RemapMode modeAfterLoad(const UseState& state);
-/// The mode that a click on a radio button leads to; nothing where it changes nothing or can't be.
+/// Returns the mode after a click on a radio button, or nothing if the mode is unchanged or not available.
 [[nodiscard]] std::optional<RemapMode> clickedMode(const UseState& state, RemapMode clicked);
 
 [[nodiscard]] std::string_view imageStatusText(bool hasImage);

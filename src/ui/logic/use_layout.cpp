@@ -6,7 +6,7 @@ namespace quillhue {
 
 namespace {
 
-// The view with its bars, from the area's left edge on.
+// Lays out the view and its scroll bars from the area's left edge.
 void layOutView(UseLayout& layout, Size scrollBar, Scale scale) {
   const Rect& area = layout.surface;
   const std::int32_t top = area.top + scale(24);
@@ -25,7 +25,7 @@ UseLayout useLayout(const Rect& area, Size scrollBar, Scale scale) {
   UseLayout layout;
   layout.surface = area;
   layOutView(layout, scrollBar, scale);
-  // The column, measured from its right.
+  // The column of controls, measured from the right edge.
   const auto corner = [&](std::int32_t fromRight, std::int32_t top) {
     return Point{area.right - scale(fromRight), area.top + scale(top)};
   };

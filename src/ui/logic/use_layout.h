@@ -4,14 +4,14 @@
 
 namespace quillhue {
 
-/// Where the parts of the tab "Use Palette" stand, in the main window.
+/// Boxes of the controls of the tab "Use Palette", in client coordinates of the main window.
 struct UseLayout {
-  /// All of the tab; the other controls lie on it.
+  /// The whole tab, below the other controls.
   Rect surface;
 
-  /// The status text, above the image.
+  /// The status text above the image.
   Rect status;
-  /// All that is left of the controls, and within it where the image is seen.
+  /// The area to the left of the controls. It contains the view and its scroll bars.
   Rect imageArea;
   Rect view;
   Rect horizontalBar;
@@ -26,14 +26,14 @@ struct UseLayout {
   Rect protectGrid;
   Rect gridWidth;
   Rect gridHeight;
-  /// The texts beside the grid's numbers.
+  /// Labels of the grid's number fields.
   Rect widthLabel;
   Rect heightLabel;
   Rect process;
   Rect saveAs;
 };
 
-/// `scrollBar` tells how wide the system makes a vertical scroll bar and how high a horizontal one.
+/// `scrollBar` contains the width of the system's vertical scroll bars and the height of its horizontal ones.
 [[nodiscard]] UseLayout useLayout(const Rect& area, Size scrollBar, Scale scale);
 
 }  // namespace quillhue

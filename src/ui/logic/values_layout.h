@@ -5,14 +5,14 @@
 
 namespace quillhue {
 
-/// Where the controls of the tab "Edit Values" stand beside the grid, in the main window.
+/// Boxes of the controls beside the grid on the tab "Edit Values", in client coordinates of the main window.
 struct ValuesLayout {
-  /// The bars are painted on it; the other controls lie on its lower end.
+  /// Shows the bars. The other controls are on its lower part.
   Rect surface;
   Rect leftField;
   Rect middleField;
   Rect rightField;
-  /// With the list that drops down.
+  /// Includes the drop-down list.
   Rect modelList;
 };
 [[nodiscard]] ValuesLayout valuesLayout(const GridLayout& grid, Scale scale);

@@ -4,11 +4,11 @@
 
 namespace quillhue {
 
-/// Adds up the turns of a wheel. Touchpads and fine wheels report a notch in many small parts.
+/// Accumulates wheel movements. Touchpads and high-resolution wheels report a notch in many small parts.
 class WheelSum {
  public:
-  /// Adds a turn, 120 a notch, and returns the whole steps that it completes, of which a notch has `stepsPerNotch`.
-  /// A turn in the other direction starts anew.
+  /// Adds a movement (120 per notch) and returns the number of whole steps completed, with `stepsPerNotch` steps per
+  /// notch. A change of direction discards the remainder.
   [[nodiscard]] std::int32_t add(std::int32_t delta, std::int32_t stepsPerNotch = 1) {
     constexpr std::int32_t kNotch = 120;
     if ((delta < 0) != (rest_ < 0)) {
@@ -19,7 +19,7 @@ class WheelSum {
     rest_ -= steps * kNotch;
     return steps;
   }
-  /// Forgets what is left of a notch, for a turn over something else.
+  /// Discards the remainder, because the wheel now acts on another control.
   void reset() { rest_ = 0; }
 
  private:
