@@ -17,7 +17,7 @@ Icon loadIcon(std::int32_t size) {
       static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), L"MAINICON", IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
 }
 
-/// Twice as high as the other texts.
+/// Returns the font of the program's name, twice the height of `font`.
 Font nameFont(HFONT font) {
   LOGFONTW description{};
   GetObjectW(font, sizeof description, &description);

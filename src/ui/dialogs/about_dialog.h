@@ -4,7 +4,7 @@ namespace quillhue {
 
 class DialogOwner;
 
-/// Tells what the program is; returns when the user has seen it.
+/// Shows the program's name and version, and returns when the user closes the dialog.
 void showAboutDialog(const DialogOwner& owner);
 
 }  // namespace quillhue

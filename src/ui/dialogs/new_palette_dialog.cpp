@@ -47,7 +47,7 @@ class NewPaletteDialog final : public ModalDialog {
   void closing() override;
 
   void hideWhatIsNotAsked();
-  /// Puts the buttons in the place of the control, which is hidden, and the lower edge where it was below them.
+  /// Moves the buttons up to the hidden control's position, and the dialog's lower edge by the same distance.
   void endAbove(int id);
   [[nodiscard]] Rect boxOf(int id) const;
 

@@ -10,8 +10,8 @@ struct AppSettings;
 class DialogOwner;
 class Messages;
 
-/// The dialog for the size of a new or resized palette, and for a new one's Windows colors and levels. The fields that
-/// the user has accepted; nothing when it is cancelled.
+/// Asks for the size of a new or resized palette, and for the Windows colors and levels of a new one. Returns the
+/// fields that the user accepted, or nothing if the user cancels.
 [[nodiscard]] std::optional<NewPaletteFields> askNewPalette(const DialogOwner& owner, AppSettings& settings,
                                                             Messages& messages, NewPaletteKind kind);
 

@@ -48,7 +48,7 @@ void PaletteFromImageDialog::opened() {
   chooseDefault();
 }
 
-/// Enter makes a palette of the size in the field, or one of all colors where those are fewer.
+/// Chooses the button for Enter: "Use all colors" if all colors fit into the size in the field, else "Reduce colors".
 void PaletteFromImageDialog::chooseDefault() const {
   const bool allFit = canUseAllColors(distinctColors_) && size() >= static_cast<std::int32_t>(distinctColors_);
   SendMessageW(window(), DM_SETDEFID, allFit ? FROM_IMAGE_USE_ALL : FROM_IMAGE_REDUCE, 0);

@@ -7,8 +7,8 @@ namespace quillhue {
 class DialogOwner;
 class Messages;
 
-/// Asks how to make a palette from an image of so many different colors, and answers as
-/// FileQuestions::askPaletteFromImage does.
+/// Asks how to make a palette from an image with `distinctColors` different colors. Returns the answer of
+/// FileQuestions::askPaletteFromImage.
 [[nodiscard]] std::int32_t showPaletteFromImageDialog(const DialogOwner& owner, Messages& messages,
                                                       std::uint64_t distinctColors);
 

@@ -8,7 +8,7 @@
 
 namespace quillhue {
 
-/// The system's color chooser, open at full size.
+/// The system's color dialog, fully expanded.
 class ColorDialog final : public ColorChooser {
  public:
   explicit ColorDialog(const DialogOwner& owner) : owner_(owner) {}

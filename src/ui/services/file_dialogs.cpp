@@ -46,7 +46,7 @@ std::optional<SaveAsAnswer> FileDialogs::askSaveAs(PaletteFormat preselected) {
 
 std::int32_t FileDialogs::askPaletteFromImage(std::uint64_t distinctColors) {
   const std::int32_t answer = showPaletteFromImageDialog(owner_, messages_, distinctColors);
-  // Making the palette may take long; the dialog has put the cursor back.
+  // Making the palette may take long, and the dialog has restored the normal cursor.
   SetCursor(LoadCursorW(nullptr, IDC_WAIT));
   return answer;
 }

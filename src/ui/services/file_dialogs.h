@@ -9,16 +9,16 @@
 
 namespace quillhue {
 
-/// The system's dialogs for file names, and the question how to make a palette of an image. Each gives nothing when
-/// the user cancels, or is told that the name is too long.
+/// Dialogs for file names, and the dialog that asks how to make a palette from an image. Each returns nothing if the
+/// user cancels or the name is too long; the latter also shows a message.
 class FileDialogs final : public FileQuestions {
  public:
   FileDialogs(const DialogOwner& owner, Messages& messages) : owner_(owner), messages_(messages) {}
 
-  /// A file to open as a palette, or as an image to remap.
+  /// Ask for a file to open as a palette or as an image to remap.
   [[nodiscard]] std::optional<std::wstring> askOpenPalette() const;
   [[nodiscard]] std::optional<std::wstring> askOpenImage() const;
-  /// Where to write a bitmap; asks before a file is replaced.
+  /// Asks for the file to write a bitmap to, and for confirmation if the file exists.
   [[nodiscard]] std::optional<std::wstring> askSaveBitmap() const;
 
   std::optional<SaveAsAnswer> askSaveAs(PaletteFormat preselected) override;

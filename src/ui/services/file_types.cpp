@@ -15,7 +15,7 @@ namespace {
 
 FileType allFiles() { return {"All Files", "*"}; }
 
-// The patterns of a whole catalogue, each once, by the alphabet.
+// Returns all patterns of a catalogue without duplicates, in alphabetical order.
 std::string patternsOf(const auto& catalogue) {
   std::set<std::string_view> patterns;
   for (const auto* member : catalogue) {

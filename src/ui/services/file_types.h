@@ -6,11 +6,11 @@
 
 namespace quillhue {
 
-/// The file types that each of the program's dialogs offers, in its order. They come from the catalogues.
+/// The file types offered by each file dialog, in order, taken from the catalogues.
 
 [[nodiscard]] std::vector<FileType> openPaletteTypes();
 [[nodiscard]] std::vector<FileType> openImageTypes();
-/// The type of PaletteFormat f stands at f - 1.
+/// The type of PaletteFormat f has the index f - 1.
 [[nodiscard]] std::vector<FileType> savePaletteTypes();
 [[nodiscard]] std::vector<FileType> saveBitmapTypes();
 

@@ -6,7 +6,7 @@
 
 namespace quillhue {
 
-/// The halftone palette that the system has for the screen.
+/// The system's halftone palette for the screen.
 class HalftonePalette final : public ScreenPalette {
  public:
   [[nodiscard]] std::vector<PaletteEntry> halftone() override;

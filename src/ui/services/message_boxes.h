@@ -7,7 +7,7 @@
 
 namespace quillhue {
 
-/// Messages and questions as message boxes over the main window or the dialog that is open on it.
+/// Shows messages and questions as message boxes over the main window, or over the dialog that is open on it.
 class MessageBoxes final : public Messages {
  public:
   explicit MessageBoxes(const DialogOwner& owner) : owner_(owner) {}

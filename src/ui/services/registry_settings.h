@@ -4,8 +4,8 @@
 
 namespace quillhue {
 
-/// Settings as values of the user's registry, under "SOFTWARE\Quillhue\4". Writing makes the key where it is missing.
-/// Nothing here fails loudly: what can't be read is missing, what can't be written is lost.
+/// Stores settings in the user's registry, under "SOFTWARE\Quillhue\4". Writing creates the key if it is missing.
+/// Failures are silent: a value that can't be read counts as missing, and one that can't be written is lost.
 class RegistrySettings final : public SettingsStore {
  public:
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> read(std::string_view name, SettingType type) override;

@@ -7,7 +7,7 @@ namespace quillhue {
 
 namespace {
 
-// The bytes of a block of the system's memory, which stay where they are while this lives.
+// Locks a block of global memory, so that its bytes do not move.
 class LockedMemory {
  public:
   explicit LockedMemory(HGLOBAL memory)
@@ -20,7 +20,7 @@ class LockedMemory {
     }
   }
 
-  // None of what is no such block.
+  // Empty if the handle is not such a block.
   [[nodiscard]] std::span<std::uint8_t> bytes() const { return {data_, data_ == nullptr ? 0 : size_}; }
 
  private:
@@ -41,7 +41,7 @@ bool copyInto(HGLOBAL memory, std::span<const std::uint8_t> bytes) {
 }  // namespace
 
 ClipboardAccess::ClipboardAccess(HWND owner) {
-  // Remote desktops and clipboard histories open the clipboard after each change, for a part of a second.
+  // Remote desktops and clipboard histories open the clipboard for a fraction of a second after each change.
   constexpr int kTries = 50;
   constexpr DWORD kPauseMilliseconds = 10;
   for (int i = 0; i < kTries && !open_; ++i) {
@@ -65,7 +65,7 @@ void ClipboardAccess::empty() {
 }
 
 bool ClipboardAccess::put(LogicalPalette palette) {
-  // Null would promise to give one later.
+  // A null handle would announce delayed rendering.
   const bool taken = open_ && palette && SetClipboardData(CF_PALETTE, palette.get()) != nullptr;
   if (taken) {
     palette.release();

@@ -10,27 +10,28 @@
 
 namespace quillhue {
 
-/// The system's clipboard, which no other program gets while this lives.
+/// Keeps the system's clipboard open, so that no other program can open it.
 class ClipboardAccess {
  public:
-  /// Waits up to half a second while another program has it open. `owner` owns what is put there; nothing can be put
-  /// without one.
+  /// Waits up to half a second if another program has the clipboard open. `owner` becomes the owner of the data; if it
+  /// is null, no data can be put.
   explicit ClipboardAccess(HWND owner);
   ClipboardAccess(const ClipboardAccess&) = delete;
   ClipboardAccess& operator=(const ClipboardAccess&) = delete;
   ~ClipboardAccess();
 
-  /// False when another program has it. Then it can't be emptied, holds nothing, and takes nothing.
+  /// Returns false if another program has the clipboard open. All other operations then do nothing or fail.
   [[nodiscard]] explicit operator bool() const { return open_; }
 
   void empty();
-  /// Gives a palette or a block of bytes to the clipboard; false when it refuses them.
+  /// Put a palette or a block of bytes on the clipboard. Return false on failure.
   [[nodiscard]] bool put(LogicalPalette palette);
   [[nodiscard]] bool put(UINT format, std::span<const std::uint8_t> bytes);
 
-  /// The clipboard's own palette; null when it holds none.
+  /// Returns the palette on the clipboard, or null if there is none. It still belongs to the clipboard.
   [[nodiscard]] HPALETTE palette() const;
-  /// All of the block: at least what was put there, as the system may have rounded its size up.
+  /// Returns the block of this format, or nothing if there is none. The block may be longer than the data that was put,
+  /// because the system may round its size up.
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> bytes(UINT format) const;
 
  private:

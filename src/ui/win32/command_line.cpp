@@ -11,7 +11,7 @@ namespace {
 
 void freeArguments(wchar_t** arguments) { LocalFree(static_cast<void*>(arguments)); }
 
-// The name itself where the system makes nothing of it.
+// Returns the name unchanged if the system can't resolve it.
 std::wstring fullName(const wchar_t* name) {
   std::wstring full(GetFullPathNameW(name, 0, nullptr, nullptr), L'\0');
   full.resize(GetFullPathNameW(name, static_cast<DWORD>(full.size()), full.data(), nullptr));
@@ -30,7 +30,7 @@ std::optional<std::wstring> fileArgument() {
 }
 
 std::wstring programFolder() {
-  // The longest name that there is.
+  // Maximum length of a path in characters.
   constexpr std::size_t kLongestName = 32768;
   std::wstring name(kLongestName, L'\0');
   name.resize(GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));

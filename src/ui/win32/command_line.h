@@ -5,11 +5,11 @@
 
 namespace quillhue {
 
-/// The file that the first argument after the program's name tells: its full name, which the file dialogs can't change
-/// the meaning of by changing the current folder.
+/// Returns the full name of the file given as the first argument, or nothing without an argument. A full name stays
+/// valid if a file dialog changes the current folder.
 [[nodiscard]] std::optional<std::wstring> fileArgument();
 
-/// The folder of the program's file, without a backslash at the end.
+/// Returns the folder of the program's file, without a backslash at the end.
 [[nodiscard]] std::wstring programFolder();
 
 }  // namespace quillhue

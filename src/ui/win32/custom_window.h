@@ -6,24 +6,23 @@
 
 namespace quillhue {
 
-/// A window whose messages an object of ours answers. The class is registered with its first window.
+/// A window whose messages are answered by a C++ object.
 class CustomWindow {
  public:
   CustomWindow(const CustomWindow&) = delete;
   CustomWindow& operator=(const CustomWindow&) = delete;
 
-  /// Null before create, and after the window is destroyed.
+  /// Null before create() and after the window is destroyed.
   [[nodiscard]] HWND handle() const { return window_; }
 
  protected:
   CustomWindow() = default;
-  /// Destroys the window; the messages of that come to nobody.
+  /// Destroys the window. The messages sent during this are not answered by the object.
   virtual ~CustomWindow();
 
-  /// Prepares a class whose windows are answered by objects of this kind: name, cursor, brush and so on are the
-  /// caller's to add.
+  /// Returns the description of a window class for objects of this type. The caller adds cursor, brush and so on.
   [[nodiscard]] static WNDCLASSEXW windowClass(const wchar_t* name);
-  /// False when the system refuses. A class of the name that exists already is taken as it is.
+  /// Registers the class, unless a class of this name is registered already. Returns false on failure.
   [[nodiscard]] static bool registerClass(const WNDCLASSEXW& description);
 
   struct Creation {
@@ -37,10 +36,10 @@ class CustomWindow {
     int width = 0;
     int height = 0;
   };
-  /// False when the system refuses.
+  /// Returns false on failure.
   [[nodiscard]] bool create(const Creation& creation);
 
-  /// Answers a message; DefWindowProcW is for the rest.
+  /// Answers a message. Implementations pass other messages to DefWindowProcW.
   virtual LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) = 0;
 
  private:

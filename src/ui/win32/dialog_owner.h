@@ -6,8 +6,8 @@
 
 namespace quillhue {
 
-/// The window over which dialogs and message boxes open, and the look that dialogs share with it. It is empty until the
-/// main window exists, so that whatever opens dialogs can be made before.
+/// Owner window of dialogs and message boxes, with its font and scale. It is empty until the main window exists, so
+/// that objects that open dialogs can be made earlier.
 class DialogOwner {
  public:
   void set(HWND window, HFONT font, Scale scale) {
@@ -16,9 +16,9 @@ class DialogOwner {
     scale_ = scale;
   }
 
-  /// The main window; null before it exists.
+  /// The main window, or null before it exists.
   [[nodiscard]] HWND window() const { return window_; }
-  /// The dialog that is open on it already, or the window itself.
+  /// The dialog that is open over the main window, or the main window itself.
   [[nodiscard]] HWND top() const { return openDialogOf(window_); }
   [[nodiscard]] HFONT font() const { return font_; }
   [[nodiscard]] Scale scale() const { return scale_; }

@@ -7,7 +7,7 @@
 
 namespace quillhue {
 
-/// Boxes, colors and device contexts as the system has them.
+/// Conversion of geometry and colors to the system's types, and drawing.
 
 [[nodiscard]] constexpr RECT toSystem(const Rect& box) { return {box.left, box.top, box.right, box.bottom}; }
 [[nodiscard]] constexpr Rect fromSystem(const RECT& box) { return {box.left, box.top, box.right, box.bottom}; }
@@ -23,19 +23,19 @@ namespace quillhue {
           static_cast<std::uint8_t>(color >> 16U)};
 }
 
-/// The point of a mouse message, in client coordinates of its window, or of the screen where the message says so.
+/// Returns the point of a mouse message, in client or screen coordinates depending on the message.
 [[nodiscard]] Point pointOf(LPARAM lParam);
 
-/// The screen's logical pixels per inch.
+/// Returns the screen's logical pixels per inch.
 [[nodiscard]] std::int32_t screenDpi();
 
-/// Fills a box with a color, or with one of the system's (COLOR_WINDOW); makes no object.
+/// Fill a box with a color or with a system color such as COLOR_WINDOW. Create no GDI object.
 void fillBox(HDC dc, const Rect& box, COLORREF color);
 void fillBoxWithSystemColor(HDC dc, const Rect& box, int systemColor);
-/// The outline of a box, `thickness` pixels inside of its edges.
+/// Draws the outline of a box, `thickness` pixels wide, inside its edges.
 void frameBox(HDC dc, const Rect& box, std::int32_t thickness, COLORREF color);
 
-/// Selects an object into a device context and puts back the one before.
+/// Selects an object into a device context, and restores the previous one at the end.
 class Selected {
  public:
   Selected(HDC dc, HGDIOBJ object) : dc_(dc), before_(SelectObject(dc, object)) {}
@@ -48,7 +48,7 @@ class Selected {
   HGDIOBJ before_;
 };
 
-/// Answers WM_PAINT.
+/// Device context for WM_PAINT.
 class PaintDc {
  public:
   explicit PaintDc(HWND window) : window_(window), dc_(BeginPaint(window, &paint_)) {}
@@ -57,7 +57,7 @@ class PaintDc {
   ~PaintDc() { EndPaint(window_, &paint_); }
 
   [[nodiscard]] HDC get() const { return dc_; }
-  /// What needs painting.
+  /// The box that needs repainting.
   [[nodiscard]] Rect box() const { return fromSystem(paint_.rcPaint); }
 
  private:
@@ -66,8 +66,8 @@ class PaintDc {
   HDC dc_;
 };
 
-/// A part of a device context that is painted off the screen, and appears at once when this ends. It has the same
-/// coordinates as the device context.
+/// Paints a part of a device context off the screen, and copies it there at the end. Uses the coordinates of the device
+/// context.
 class BackBuffer {
  public:
   BackBuffer(HDC target, const Rect& box);

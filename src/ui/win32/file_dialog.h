@@ -9,8 +9,7 @@
 
 namespace quillhue {
 
-/// The system's dialogs for one file name. None of them changes the current folder: names that are relative to it stay
-/// what they are.
+/// The system's dialogs for one file name. They keep the current folder, so that relative names stay valid.
 
 struct FileType {
   std::string text;
@@ -18,32 +17,32 @@ struct FileType {
   std::string patterns;
 };
 
-/// The list as the dialogs take it: text, null, patterns, null, and a null behind the last.
+/// Returns the filter string for OPENFILENAME: text, null, patterns, null for each type, then another null.
 [[nodiscard]] std::wstring filterOf(std::span<const FileType> types);
 
-/// Why a dialog gives no file.
+/// Reasons why a dialog returns no file.
 enum class NoFile : std::uint8_t { canceled, nameTooLong };
 
-/// A file that exists.
+/// Asks for an existing file.
 [[nodiscard]] std::expected<std::wstring, NoFile> askFileToOpen(HWND owner, std::span<const FileType> types);
 
 struct SaveDialog {
   std::span<const FileType> types;
-  /// The type that is chosen at first, from 1 on.
+  /// Initially selected type, counted from 1.
   DWORD type = 1;
-  /// The characters that a name has at most, with a null at its end.
+  /// Maximum length of the name, including the terminating null.
   DWORD nameLength = MAX_PATH;
-  /// Appended to a name that has none, if not null.
+  /// Appended to a name without an extension, if not null.
   const wchar_t* extension = nullptr;
-  /// Asks before a name is accepted that a file has.
+  /// Asks before accepting the name of an existing file.
   bool asksToReplace = false;
 };
 struct FileToSave {
   std::wstring name;
-  /// From 1 on.
+  /// Chosen type, counted from 1.
   DWORD type = 1;
 };
-/// A file in a folder that exists.
+/// Asks for a file in an existing folder.
 [[nodiscard]] std::expected<FileToSave, NoFile> askFileToSave(HWND owner, const SaveDialog& dialog);
 
 }  // namespace quillhue

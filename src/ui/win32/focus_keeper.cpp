@@ -22,7 +22,7 @@ void FocusKeeper::give(HWND control) {
 }
 
 void FocusKeeper::enter() const {
-  // A control of a minimised window could have the focus unseen.
+  // Otherwise an invisible control of a minimised window would get the focus.
   if (IsIconic(window_) != 0) {
     return;
   }

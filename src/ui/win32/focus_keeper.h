@@ -4,19 +4,20 @@
 
 namespace quillhue {
 
-/// Remembers which of a window's controls has the keyboard focus, for when the window can't have it: it is minimised,
-/// inactive or has not been active yet.
+/// Remembers which control of a window has the keyboard focus while the window itself can't have it, because it is
+/// minimised, inactive or has not been active yet.
 class FocusKeeper {
  public:
   void attach(HWND window) { window_ = window; }
 
-  /// Notes the control that has the focus, if one of the window's has. Called often, and before the focus may go.
+  /// Remembers the focused control if it belongs to the window. Call this for every message and before the window may
+  /// lose the focus.
   void note();
-  /// The control that has the focus, or gets it when the window is active again; null for none.
+  /// Returns the control that has the focus or gets it when the window becomes active again, or null.
   [[nodiscard]] HWND current();
-  /// Gives the focus to a control, at once or when the window is active again.
+  /// Gives the focus to a control, at once or when the window becomes active again.
   void give(HWND control);
-  /// The window itself has got the focus: hands it on to the control that had it last, or to the first.
+  /// Passes the focus from the window to the control that had it last, or to the first tab stop.
   void enter() const;
 
  private:

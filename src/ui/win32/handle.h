@@ -6,7 +6,8 @@
 
 namespace quillhue {
 
-/// Owns one object of the system. A kind tells the type, which has a null value, and how it is given back.
+/// Owns one object of the system. `Kind` defines the type of the handle, whose default value is null, and how to close
+/// it.
 template <typename Kind>
 class Handle {
  public:
@@ -28,7 +29,7 @@ class Handle {
   [[nodiscard]] Value get() const { return value_; }
   [[nodiscard]] explicit operator bool() const { return value_ != Value{}; }
 
-  /// Gives the object to the caller.
+  /// Transfers ownership to the caller.
   Value release() { return std::exchange(value_, Value{}); }
   void reset(Value value = {}) {
     if (const Value old = std::exchange(value_, value); old != Value{}) {
@@ -40,7 +41,7 @@ class Handle {
   Value value_{};
 };
 
-/// A kind that a function of the system gives back.
+/// A kind of handle that a system function closes.
 template <typename Type, auto kClose>
 struct ClosedBy {
   using Value = Type;
@@ -54,7 +55,7 @@ using Font = Handle<ClosedBy<HFONT, DeleteObject>>;
 using Bitmap = Handle<ClosedBy<HBITMAP, DeleteObject>>;
 using LogicalPalette = Handle<ClosedBy<HPALETTE, DeleteObject>>;
 using MemoryDc = Handle<ClosedBy<HDC, DeleteDC>>;
-/// Of the whole screen.
+/// The device context of the whole screen.
 using ScreenDc = Handle<ClosedBy<HDC, releaseScreenDc>>;
 using Window = Handle<ClosedBy<HWND, DestroyWindow>>;
 using Menu = Handle<ClosedBy<HMENU, DestroyMenu>>;

@@ -9,7 +9,7 @@
 namespace quillhue {
 
 LogicalPalette createLogicalPalette(std::span<const PaletteEntry> entries) {
-  // A LOGPALETTE of so many entries: version and count take the place of one.
+  // A LOGPALETTE: its version and count have the size of one entry, and the entries follow.
   constexpr WORD kVersion = 0x300;
   std::vector<PALETTEENTRY> memory{
       std::bit_cast<PALETTEENTRY>(std::array<WORD, 2>{kVersion, static_cast<WORD>(entries.size())})};

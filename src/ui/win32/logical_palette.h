@@ -9,12 +9,12 @@
 
 namespace quillhue {
 
-/// The system's palettes of colors.
+/// The system's logical palettes.
 
-/// At most 65535 entries. Null when the system refuses, as it does without entries.
+/// Creates a palette of 1 to 65535 entries. Returns null on failure, also if there are no entries.
 [[nodiscard]] LogicalPalette createLogicalPalette(std::span<const PaletteEntry> entries);
 
-/// The first kMaxPaletteSize entries; none of what is no palette.
+/// Returns the first kMaxPaletteSize entries, or none if the handle is not a palette.
 [[nodiscard]] std::vector<PaletteEntry> entriesOf(HPALETTE palette);
 
 }  // namespace quillhue

@@ -68,7 +68,7 @@ void ModalDialog::centerOverOwner() const {
   SetWindowPos(window_, nullptr, (owner.left + owner.right - (dialog.right - dialog.left)) / 2,
                (owner.top + owner.bottom - (dialog.bottom - dialog.top)) / 2, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-  // Back onto the screen where the owner reaches beyond it.
+  // Moves the dialog back onto the screen if the owner extends beyond it.
   SendMessageW(window_, DM_REPOSITION, 0, 0);
 }
 

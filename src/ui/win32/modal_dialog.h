@@ -4,15 +4,15 @@
 
 namespace quillhue {
 
-/// A dialog that disables its owner until it is closed. A template of the resources tells its controls and layout; Esc
-/// and the close button close it.
+/// A dialog that disables its owner until it is closed. A resource template defines its controls and layout. Esc and
+/// the close button close it.
 class ModalDialog {
  public:
   ModalDialog(const ModalDialog&) = delete;
   ModalDialog& operator=(const ModalDialog&) = delete;
 
-  /// Shows the dialog in the middle of its owner and returns when it is closed, at once if the system refuses it. All
-  /// controls use the font, which the template's should equal in size: it is the template's that gives the layout.
+  /// Shows the dialog centered on its owner and returns when it is closed, or at once on failure. All controls use
+  /// `font`. It should have the size of the template's font, which determines the layout.
   void run(HWND owner, const wchar_t* templateName, HFONT font);
 
  protected:
@@ -26,13 +26,13 @@ class ModalDialog {
   void close() const;
 
  private:
-  /// Fills the controls, none of which has the focus yet. The first tab stop gets it then.
+  /// Fills the controls. The first tab stop gets the focus afterwards.
   virtual void opened() = 0;
-  /// WM_COMMAND of a control, but for Cancel.
+  /// Handles WM_COMMAND of a control other than Cancel.
   virtual void command(int id, int notification) = 0;
-  /// WM_NOTIFY of a control. True for an answer other than 0.
+  /// Handles WM_NOTIFY of a control. Returns the result of the message.
   [[nodiscard]] virtual bool notified(const NMHDR& /*notification*/) { return false; }
-  /// Last chance to give back what belongs to the controls.
+  /// Releases what belongs to the controls before they are destroyed.
   virtual void closing() {}
 
   static INT_PTR CALLBACK dialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -3,7 +3,7 @@
 namespace quillhue {
 
 HWND openDialogOf(HWND window) {
-  // The system's own class of dialogs.
+  // The system's class of dialogs.
   constexpr const wchar_t* kDialogClass = L"#32770";
   HWND dialog = nullptr;
   while ((dialog = FindWindowExW(nullptr, dialog, kDialogClass, nullptr)) != nullptr) {

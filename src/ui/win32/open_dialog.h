@@ -4,8 +4,8 @@
 
 namespace quillhue {
 
-/// The dialog that is open on a window and waits for the user, or the window itself. It does not depend on which of the
-/// two was active last: a program that is not in the foreground may open a dialog too.
+/// Returns the dialog that is open over a window and waits for the user, or the window itself. The result does not
+/// depend on which of the two was active last, because a program in the background may also open a dialog.
 [[nodiscard]] HWND openDialogOf(HWND window);
 
 }  // namespace quillhue

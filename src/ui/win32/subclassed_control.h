@@ -5,7 +5,7 @@
 
 namespace quillhue {
 
-/// A control of the system that answers some of its messages otherwise.
+/// A control of the system that handles some messages differently.
 class SubclassedControl {
  public:
   SubclassedControl(const SubclassedControl&) = delete;
@@ -19,7 +19,7 @@ class SubclassedControl {
   }
   virtual ~SubclassedControl() { RemoveWindowSubclass(handle(), procedure, 0); }
 
-  /// Answers a message; DefSubclassProc is for the rest.
+  /// Answers a message. Implementations pass other messages to DefSubclassProc.
   virtual LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) = 0;
 
  private:
