@@ -13,7 +13,7 @@
 
 namespace quillhue {
 
-/// The running editor: everything there is one of, each part made from those before it.
+/// The running editor. Owns its parts; each is made from the parts above it.
 class Application {
  public:
   Application();
@@ -21,8 +21,8 @@ class Application {
   Application& operator=(const Application&) = delete;
   ~Application() = default;
 
-  /// Shows the window, opens the palette that the command line names, and handles messages until the window is closed.
-  /// The exit code.
+  /// Shows the window, opens the palette named on the command line, and handles messages until the window is closed.
+  /// Returns the exit code.
   int run(int showCommand);
 
  private:

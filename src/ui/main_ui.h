@@ -8,7 +8,7 @@
 
 namespace quillhue {
 
-/// A screen of the main window: what fills its client area above the status bar, and answers its messages.
+/// A screen of the main window. It fills the client area above the status bar and answers its messages.
 class MainUI {
  public:
   MainUI() = default;
@@ -16,19 +16,19 @@ class MainUI {
   MainUI& operator=(const MainUI&) = delete;
   virtual ~MainUI() = default;
 
-  /// A command of a menu or an accelerator.
+  /// Carries out a command of a menu or an accelerator.
   virtual void menuCommand(std::int32_t command) = 0;
-  /// Every message that the main window does not answer itself. What the screen leaves goes to DefWindowProcW.
+  /// Answers a message that the main window does not answer itself. Passes unknown messages to DefWindowProcW.
   virtual LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) = 0;
-  /// The area of the screen, which begins at the client area's corner.
+  /// Sets the size of the screen, which starts at the client area's top left corner.
   virtual void resize(Size area) = 0;
-  /// WM_COMMAND or a scroll message from a child window.
+  /// Handles WM_COMMAND or a scroll message from a child window.
   virtual void controlNotification(HWND control, WPARAM wParam) = 0;
   virtual void paint(HDC dc, const Rect& area) = 0;
-  /// The slot holds another document. May end the screen.
+  /// Called after the slot got another document. May destroy the screen.
   virtual void documentReplaced() = 0;
 
-  /// What decides about the menus' items.
+  /// Returns the state that determines which menu items are enabled.
   [[nodiscard]] virtual CommandState commandState() const = 0;
 };
 

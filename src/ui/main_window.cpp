@@ -23,10 +23,10 @@ namespace {
 
 constexpr const wchar_t* kClassName = L"Quillhue4";
 constexpr int kStatusBarId = 1;
-// Posted when a run has ended after the window was closed.
+// Posted at the end of a run if the user has closed the window meanwhile.
 constexpr UINT kRunEndedMessage = WM_APP;
 
-// True when an item of the menu itself has changed.
+// Returns true if a direct item of the menu has changed.
 bool updateItems(HMENU menu, const std::vector<MenuItem>& items, const CommandState& state) {
   bool changed = false;
   for (std::size_t i = 0; i < items.size(); ++i) {
@@ -43,7 +43,7 @@ bool updateItems(HMENU menu, const std::vector<MenuItem>& items, const CommandSt
   return changed;
 }
 
-// The size of a minimised or maximised window when it is restored.
+// Returns the window's size, or its restored size if it is minimised or maximised.
 Size outerSize(HWND window) {
   WINDOWPLACEMENT placement{};
   placement.length = sizeof placement;
@@ -56,14 +56,14 @@ Size outerSize(HWND window) {
   return {box.right - box.left, box.bottom - box.top};
 }
 
-// The keys that mean OK and Cancel in a dialog. The keyboard navigation would send them as commands 1 and 2, which are
-// commands of the menus here.
+// Returns whether the key means OK or Cancel in a dialog. The keyboard navigation would send these keys as commands 1
+// and 2, which are menu commands here.
 bool isDialogAnswer(const MSG& message) {
   constexpr std::array<WPARAM, 4> kKeys{VK_RETURN, VK_EXECUTE, VK_ESCAPE, VK_CANCEL};
   return message.message == WM_KEYDOWN && std::ranges::find(kKeys, message.wParam) != kKeys.end();
 }
 
-// A key that belongs to the text field that has the focus.
+// Returns whether the focused text field handles the key.
 bool editsFocusedText(const MSG& message) {
   const Accelerator key{.control = GetKeyState(VK_CONTROL) < 0,
                         .shift = GetKeyState(VK_SHIFT) < 0,
@@ -71,8 +71,8 @@ bool editsFocusedText(const MSG& message) {
   return message.message == WM_KEYDOWN && editsText(key) && isControl(message.hwnd, WC_EDITW);
 }
 
-// The window that a turn of the wheel is for: the one under the pointer, wherever the focus is. Null for a closed list
-// without the focus, whose choice would change unseen.
+// Returns the target of a wheel message: the window under the pointer, regardless of the focus. Returns null for a
+// combo box without the focus, because its choice would change by accident.
 HWND wheelTarget(HWND window, const MSG& message) {
   const HWND under = WindowFromPoint(toSystem(pointOf(message.lParam)));
   if (under != window && IsChild(window, under) == 0) {
@@ -81,7 +81,7 @@ HWND wheelTarget(HWND window, const MSG& message) {
   return isControl(under, WC_COMBOBOXW) && GetFocus() != under ? nullptr : under;
 }
 
-// Enter presses the button with the focus. The keyboard navigation knows that only of one that Tab has led to.
+// Presses the focused button on Enter. The keyboard navigation does this only if the button was reached by Tab.
 bool pressesButton(const MSG& message) {
   if (message.message != WM_KEYDOWN || message.wParam != VK_RETURN ||
       (SendMessageW(message.hwnd, WM_GETDLGCODE, 0, 0) & DLGC_UNDEFPUSHBUTTON) == 0) {
@@ -147,7 +147,7 @@ void MainWindow::dispatch(MSG& message) {
     return;
   }
   if (isDialogAnswer(message)) {
-    // A drop-down list closes by them. As characters they would only make a text field beep.
+    // These keys close a drop-down list. Translated to characters, they would make a text field beep.
     DispatchMessageW(&message);
     return;
   }
@@ -202,7 +202,8 @@ void MainWindow::statusChanged(std::string_view text) {
 }
 
 void MainWindow::undoRedoChanged(bool /*canUndo*/, bool /*canRedo*/) {
-  // A document that is just being made is announced by documentReplaced: greying everything until then would flicker.
+  // documentReplaced() announces a document that is still being made. Updating the menus earlier would make them
+  // flicker.
   if (document() != nullptr) {
     updateMenus();
   }
@@ -254,7 +255,7 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_ACTIVATE:
     case WM_SYSCOMMAND:
-      // Both may take the focus from the controls.
+      // Both messages may take the focus from the controls.
       focus_.note();
       return DefWindowProcW(handle(), message, wParam, lParam);
     case WM_SETFOCUS:
@@ -263,7 +264,7 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SYSCOLORCHANGE:
     case WM_SETTINGCHANGE:
     case WM_THEMECHANGED:
-      // The system sends them to main windows only.
+      // The system sends these messages to top-level windows only.
       passToChildren(handle(), message, wParam, lParam);
       repaintAll(handle());
       return 0;
@@ -304,7 +305,7 @@ void MainWindow::created() {
 
 void MainWindow::destroyed() {
   RemoveClipboardFormatListener(handle());
-  // Controls that end may report it: by then there is no screen any more that would look for the document.
+  // Destroy the screen before the document, because its controls may send notifications while they are destroyed.
   screen_.reset();
   parts_.slot.closeDocument();
   contextMenus_.reset();
@@ -329,7 +330,7 @@ void MainWindow::sized() {
     screen_->resize({area.width(), area.height()});
   }
   if (GetFocus() == handle()) {
-    // It was minimised.
+    // The window was minimised before.
     focus_.enter();
   }
   repaintAll(handle());
@@ -349,7 +350,7 @@ void MainWindow::paint() {
 }
 
 void MainWindow::menuCommand(std::int32_t command) {
-  // While a dialog is open it has the only say; a command may still be sent by other programs.
+  // An open dialog blocks all commands, but other programs may still send them.
   if (screen_ != nullptr && IsWindowEnabled(handle())) {
     screen_->menuCommand(command);
   }
@@ -375,7 +376,7 @@ void MainWindow::filesDropped(WPARAM wParam) {
   openFile(firstFile(drop));
 }
 
-// While a dialog is open it has to be answered first.
+// An open dialog has to be answered first.
 bool MainWindow::mayClose() { return IsWindowEnabled(handle()) && confirmDiscard(); }
 
 bool MainWindow::maySessionEnd() {
@@ -389,7 +390,7 @@ bool MainWindow::maySessionEnd() {
   return false;
 }
 
-// The process ends without further messages if the session ends.
+// If the session ends, the process ends without further messages.
 void MainWindow::sessionEnds(bool ends) {
   if (ends) {
     saveSettings();
@@ -409,7 +410,7 @@ void MainWindow::closeAsked() {
   }
 }
 
-// Any program may post the message.
+// Checks the state, because any program may post this message.
 void MainWindow::runEnded() const {
   if (closesAfterRun_ && !runIsOn_) {
     DestroyWindow(handle());
@@ -429,7 +430,7 @@ bool MainWindow::pumpMessages() {
   MSG message{};
   while (!closesAfterRun_ && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
     if (message.message == WM_QUIT) {
-      // For the loop outside.
+      // Leaves the message to the main loop.
       PostQuitMessage(static_cast<int>(message.wParam));
       return false;
     }

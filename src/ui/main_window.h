@@ -21,7 +21,7 @@
 
 namespace quillhue {
 
-/// The parts of the program that the main window is made from. All of them are complete and live longer than it.
+/// Parts of the program that the main window uses. All are complete and outlive it.
 struct WindowParts {
   SavedSettings& settings;
   SettingsStore& settingsStore;
@@ -30,7 +30,7 @@ struct WindowParts {
   FileQuestions& fileQuestions;
   PaletteClipboard& clipboard;
   ScreenPalette& screen;
-  /// Gets the window as soon as that exists.
+  /// Set by the main window when it is created.
   DialogOwner& dialogOwner;
   WindowServices services;
 
@@ -39,21 +39,21 @@ struct WindowParts {
   MakeScreen makeEditor;
 };
 
-/// The program's one window: menu bar, status bar, and the screen between them. Made and destroyed by its thread.
+/// The program's main window: menu bar, status bar, and the screen between them. Use it from one thread only.
 class MainWindow final : public CustomWindow, public DocumentObserver, private WindowFrame {
  public:
   explicit MainWindow(WindowParts parts);
   ~MainWindow() override;
 
-  /// Makes the window, with the intro screen, and shows it. When the system refuses, the text that says what;
-  /// otherwise an empty one. Destroying the window writes the settings and ends the message loop.
+  /// Creates the window with the intro screen and shows it. Returns an error message, which is empty on success.
+  /// Destroying the window writes the settings and ends the message loop.
   [[nodiscard]] std::string_view open(int showCommand);
 
-  /// Gives a message of the loop to the accelerators, to the keyboard navigation or to its window.
+  /// Passes a message to the accelerators, the keyboard navigation or its window.
   void dispatch(MSG& message);
   void openFile(const std::wstring& name) override;
 
-  // What the document shows of itself.
+  // DocumentObserver.
   void titleChanged(std::wstring_view title) override;
   void statusChanged(std::string_view text) override;
   void undoRedoChanged(bool canUndo, bool canRedo) override;
@@ -95,7 +95,7 @@ class MainWindow final : public CustomWindow, public DocumentObserver, private W
   Accelerators accelerators_;
   Menu contextMenus_;
   FocusKeeper focus_;
-  // For the screens, from the window's creation on.
+  // Used by the screens. Set when the window is created.
   std::optional<WindowContext> context_;
   std::unique_ptr<MainUI> screen_;
   bool runIsOn_ = false;

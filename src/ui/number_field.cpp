@@ -24,7 +24,8 @@ std::int32_t textWidth(HFONT font, const ValueRange& range) {
   return width;
 }
 
-// The largest font like this one in which the numbers of the range are at most `room` wide; null for the font itself.
+// Returns the largest reduced font in which the numbers of the range are at most `room` wide, or null if the font
+// itself fits.
 Font smallerFont(HFONT font, const ValueRange& range, std::int32_t room) {
   constexpr LONG kLeastHeight = 6;
   LOGFONTW description{};
@@ -69,7 +70,7 @@ void NumberField::setRange(const ValueRange& range) {
 void NumberField::setValue(std::int32_t value) {
   value_ = range_.clamp(value);
   SendMessageW(arrows_.get(), UDM_SETPOS32, 0, value_);
-  // The arrows may leave the text as it is where they stand at the number already.
+  // The arrows may not update the text if they are already at this number.
   if (typed() != value_) {
     setWindowText(field_.get(), std::to_string(value_));
   }
@@ -99,7 +100,7 @@ bool NumberField::takesStep(const NMHDR& notification) {
 void NumberField::fitText() {
   RECT text{};
   SendMessageW(field_.get(), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&text));
-  // The caret stands behind the last digit.
+  // One pixel is for the caret behind the last digit.
   const std::int32_t room = text.right - text.left - 1;
   if (font_ == nullptr || room <= 0) {
     return;
@@ -107,13 +108,13 @@ void NumberField::fitText() {
   Font small = smallerFont(font_, range_, room);
   SendMessageW(field_.get(), WM_SETFONT, reinterpret_cast<WPARAM>(small ? small.get() : font_), TRUE);
   smallFont_ = std::move(small);
-  // Beside the arrows there is no room for margins, which a font may bring along.
+  // Setting a font may add margins, for which there is no room beside the arrows.
   SendMessageW(field_.get(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
 }
 
 void NumberField::move(const Rect& box) {
   moveTo(field_.get(), box);
-  // Taking the field as its buddy again, the arrows take their place in it anew.
+  // Setting the buddy again moves the arrows to the field's new position.
   SendMessageW(arrows_.get(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(field_.get()), 0);
   fitText();
 }

@@ -10,45 +10,45 @@
 
 namespace quillhue {
 
-/// An edit field for a whole number with arrows at its right. The arrows keep to the range; what is typed need not.
+/// An edit field for a whole number with arrows at its right. The arrows stay within the range; typed text may not.
 class NumberField {
  public:
   NumberField() = default;
-  /// `style` (ES_CENTER, ES_RIGHT) goes with that of the field, `arrowStyle` (WS_BORDER) with that of the arrows.
+  /// Creates the controls. `style` (ES_CENTER, ES_RIGHT) is added to the field's style, `arrowStyle` (WS_BORDER) to
+  /// that of the arrows.
   NumberField(HWND parent, HFONT font, DWORD style, DWORD arrowStyle = 0);
-  /// Takes over the two controls of a dialog, the arrows being the field's already.
+  /// Takes ownership of two controls of a dialog. The field must be the buddy of the arrows already.
   NumberField(HWND field, HWND arrows, const ValueRange& range, std::int32_t value);
 
   [[nodiscard]] HWND field() const { return field_.get(); }
   [[nodiscard]] HWND arrows() const { return arrows_.get(); }
 
-  /// A number outside that is shown stays until settle or setValue.
+  /// Sets the range. A displayed number outside the range stays until settle() or setValue().
   void setRange(const ValueRange& range);
-  /// Shows the nearest number in the range, which reports a change to the field's parent if it is another text.
+  /// Shows the number, clamped to the range. If the text changes, the field's parent is notified.
   void setValue(std::int32_t value);
-  /// The number that the field shows, the nearest one in the range; the number before where it shows none.
+  /// Returns the displayed number, clamped to the range, or the previous number if the text is not a number.
   [[nodiscard]] std::int32_t value();
-  /// What the field shows if that is a number at all, in the range or not.
+  /// Returns the displayed number without clamping, or nothing if the text is not a number.
   [[nodiscard]] std::optional<std::int32_t> typed() const;
-  /// Shows value() where something else was typed. For the focus lost.
+  /// Replaces the text by value() if they differ. Call this when the field loses the focus.
   void settle();
-  /// Carries out the step that a notification of the arrows (UDN_DELTAPOS) asks for, from the number that value()
-  /// gives. True when it was one of this field's: then the arrows' own step is to be refused, because it would go on
-  /// from a number that they have kept while another was typed.
+  /// If the notification is a step of this field's arrows (UDN_DELTAPOS), steps from value() and returns true. The
+  /// caller must then refuse the arrows' own step, which would start from an outdated number after typing.
   [[nodiscard]] bool takesStep(const NMHDR& notification);
 
-  /// Moves the field and puts the arrows into its right end. Repaints nothing.
+  /// Moves the field, with the arrows at its right end. Does not repaint.
   void move(const Rect& box);
   void show(bool visible);
   void enable(bool enabled);
 
  private:
-  /// Takes a smaller font where the range has numbers that the field has no room for.
+  /// Uses a smaller font if the numbers of the range do not fit into the field.
   void fitText();
 
   Window field_;
   Window arrows_;
-  // Null in a dialog, whose fields have room.
+  // Null in a dialog, where the fields are wide enough.
   HFONT font_ = nullptr;
   Font smallFont_;
   ValueRange range_;

@@ -1,7 +1,7 @@
 #include "ui/application.h"
 #include "ui/win32/system.h"
 
-// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): the system's declaration has other names.
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): the system's declaration uses other names.
 int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*commandLine*/, int showCommand) {
   return quillhue::Application().run(showCommand);
 }

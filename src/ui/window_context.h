@@ -15,7 +15,7 @@ namespace quillhue {
 class Clipboard;
 class FileDialogs;
 
-/// What a screen may ask of the window around it.
+/// Services of the main window for its screens.
 class WindowFrame {
  public:
   WindowFrame() = default;
@@ -25,38 +25,39 @@ class WindowFrame {
 
   /// The client area above the status bar.
   [[nodiscard]] virtual Rect screenArea() const = 0;
-  /// Brings greyed items and the radio mark up to date with the screen's commandState.
+  /// Updates the greyed items and the radio mark of the menus to the screen's commandState().
   virtual void updateMenus() = 0;
-  /// Opens a context menu (kNewPopup, kValuesPopup, kEffectsPopup) at a point of the screen. Its command arrives as any
-  /// other.
+  /// Opens a context menu (kNewPopup, kValuesPopup, kEffectsPopup) at a point in screen coordinates. The chosen command
+  /// arrives as a menu command.
   virtual void openContextMenu(std::int32_t menu, Point screenPoint) const = 0;
-  /// Puts the editor's screen in place of the intro screen, which is destroyed.
+  /// Replaces the intro screen by the editor's screen.
   virtual void showEditor() = 0;
-  /// Opens a palette file in place of the document, or shows why that can't be done.
+  /// Opens a palette file as the new document, or shows an error message.
   virtual void openFile(const std::wstring& name) = 0;
-  /// True when no document would be lost, or the user has been asked and agrees.
+  /// Asks the user about unsaved changes, if there are any. Returns true if the document may be discarded.
   [[nodiscard]] virtual bool confirmDiscard() = 0;
 
-  /// A run is long work during which the window lives on. Closing the window waits for its end.
+  /// Mark the beginning and end of a run: long work during which the window still answers. Closing the window waits for
+  /// the end of the run.
   virtual void beginRun() = 0;
   virtual void endRun() = 0;
-  /// Handles all waiting messages during a run. False when the user has closed the window: nothing that came later
-  /// counts.
+  /// Handles all waiting messages during a run. Returns false if the user has closed the window. Later messages are
+  /// then left unhandled.
   [[nodiscard]] virtual bool pumpMessages() = 0;
 };
 
-/// The parts of the program that only its window uses.
+/// Parts of the program that only the main window and its screens use.
 struct WindowServices {
   const DialogOwner& dialogOwner;
   FileDialogs& fileDialogs;
-  /// For bitmaps; palettes go through Services.
+  /// For bitmaps only. Palettes use Services.
   Clipboard& clipboard;
   ColorChooser& colorChooser;
-  /// Holds readme.txt; without a backslash at the end.
+  /// The folder that contains readme.txt, without a backslash at the end.
   std::wstring programFolder;
 };
 
-/// What screens and tabs work with. All of it lives longer than they do.
+/// Objects that screens and tabs use. All outlive the screens and tabs.
 struct WindowContext {
   HWND window;
   HFONT font;
@@ -67,7 +68,7 @@ struct WindowContext {
   FocusKeeper& focus;
   WindowFrame& frame;
 
-  /// Null on the intro screen.
+  /// The current document, or null on the intro screen.
   [[nodiscard]] PaletteDocument* document() const { return slot.document(); }
   [[nodiscard]] AppSettings& settings() const { return services.settings; }
 };

@@ -13,7 +13,7 @@ namespace quillhue {
 
 namespace {
 
-// 1/96 inch.
+// In 1/96 inch.
 constexpr std::int32_t kIconSide = 48;
 
 }  // namespace
@@ -90,7 +90,7 @@ void IntroUI::controlNotification(HWND control, WPARAM wParam) {
   }
 }
 
-// The buttons are left out, so that they do not flicker.
+// Paints only outside the buttons, so that they do not flicker.
 void IntroUI::paint(HDC dc, const Rect& area) {
   for (const Rect& box : introBackground({area.width(), area.height()}, context_.scale)) {
     fillBoxWithSystemColor(dc, box, COLOR_BTNFACE);
@@ -98,7 +98,7 @@ void IntroUI::paint(HDC dc, const Rect& area) {
 }
 
 void IntroUI::documentReplaced() {
-  // Ends this screen.
+  // Destroys this screen.
   context_.frame.showEditor();
 }
 

@@ -12,7 +12,7 @@ namespace quillhue {
 
 struct WindowContext;
 
-/// The screen of the beginning: a button for each way to get a palette.
+/// The first screen: a button for each way to get a palette.
 class IntroUI final : public MainUI {
  public:
   explicit IntroUI(WindowContext& context);
@@ -34,7 +34,8 @@ class IntroUI final : public MainUI {
   };
 
   [[nodiscard]] Button makeButton(const IntroButton& description) const;
-  /// True when the menu was opened. A point of -1, -1 stands for the key that asks for a menu.
+  /// Opens the menu of system palettes if the point is on their button. The point -1, -1 means that the menu key was
+  /// pressed. Returns true if the menu was opened.
   bool openSystemPalettes(Point screenPoint);
 
   WindowContext& context_;

@@ -6,12 +6,12 @@ namespace quillhue {
 
 struct WindowContext;
 
-/// The commands that both screens know: new palettes, opening, leaving, help.
+/// Commands of both screens: new palettes, opening, exit and help.
 class SharedCommands : public CommandTarget {
  public:
   explicit SharedCommands(WindowContext& context) : context_(context) {}
 
-  /// A document that one of these three opens may end the intro screen.
+  /// These three may open a document, which destroys the intro screen.
   void newPalette(NewPaletteKind kind) override;
   void newSystemPalette(std::int32_t command) override;
   void openPalette() override;

@@ -39,7 +39,7 @@ TabsUI::TabsUI(WindowContext& context)
     tab->layout(pageArea());
   }
   active_ = tabs_[0].get();
-  // Below the controls that lie on it, and after them for the Tab key, which goes round.
+  // Below the controls on it and therefore last in the tab order, which is cyclic.
   SetWindowPos(tabControl_.get(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   show(tabControl_.get(), true);
   active_->show();
@@ -47,7 +47,7 @@ TabsUI::TabsUI(WindowContext& context)
 }
 
 TabsUI::~TabsUI() {
-  // Messages of controls that end go to no tab.
+  // Controls may send messages while they are destroyed. No tab must get them.
   active_ = nullptr;
 }
 
@@ -119,7 +119,7 @@ void TabsUI::resizePalette() {
 }
 
 void TabsUI::rebuild(DocumentChange change) {
-  // A control that is hidden loses the focus.
+  // Hiding a control takes the focus from it.
   const HWND focused = context().focus.current();
   active_->hide();
   for (const auto& tab : tabs_) {
@@ -143,7 +143,7 @@ LRESULT TabsUI::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lP
     }
   }
   if (message == WM_CTLCOLORBTN) {
-    // What a button leaves free of its box: the pages have the color of a window.
+    // Background of buttons, because the pages have the color of a window.
     return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
   }
   return active_ != nullptr ? active_->otherMessage(window, message, wParam, lParam)
@@ -151,7 +151,7 @@ LRESULT TabsUI::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lP
 }
 
 void TabsUI::chooseTab() {
-  // Ends a drag, while the tab that it began in still hears of it.
+  // Ends a drag while its tab is still active and gets the message.
   ReleaseCapture();
   active_->hide();
   const auto page = static_cast<std::size_t>(SendMessageW(tabControl_.get(), TCM_GETCURSEL, 0, 0));

@@ -13,8 +13,8 @@
 
 namespace quillhue {
 
-/// The screen of a palette: three tabs, of which one is active and visible, and the commands on the document as a
-/// whole. There is a document as long as this lives.
+/// The editor's screen: three tabs, of which one is active and visible, and the commands on the whole document. There
+/// is a document during its whole lifetime.
 class TabsUI final : public MainUI, private SharedCommands {
  public:
   explicit TabsUI(WindowContext& context);
@@ -33,7 +33,7 @@ class TabsUI final : public MainUI, private SharedCommands {
  private:
   static constexpr std::size_t kTabs = 3;
 
-  /// The page's area in the main window.
+  /// Returns the area of the pages in client coordinates of the main window.
   [[nodiscard]] Rect pageArea() const;
   void chooseTab();
 
@@ -54,7 +54,7 @@ class TabsUI final : public MainUI, private SharedCommands {
   void rebuild(DocumentChange change);
 
   Window tabControl_;
-  // In the order of the pages.
+  // In the order of the tab control's pages.
   std::array<std::unique_ptr<Tab>, kTabs> tabs_;
   Tab* active_ = nullptr;
 };

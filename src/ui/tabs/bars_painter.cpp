@@ -12,7 +12,7 @@ namespace quillhue {
 
 namespace {
 
-// A column of the gradient, one pixel wide, is drawn as wide as the box.
+// Stretches a column of the gradient, one pixel wide, to the width of the box.
 void paintGradient(HDC dc, const Rect& box, const BarsLayout& layout, const BarColors& colors) {
   std::vector<std::uint32_t> column(static_cast<std::size_t>(layout.height()));
   for (std::int32_t row = 0; row < layout.height(); ++row) {
@@ -23,7 +23,7 @@ void paintGradient(HDC dc, const Rect& box, const BarsLayout& layout, const BarC
   BITMAPINFO description{};
   description.bmiHeader.biSize = sizeof description.bmiHeader;
   description.bmiHeader.biWidth = 1;
-  // Rows from bottom to top, as they are numbered.
+  // A positive height means rows from bottom to top, like the row numbers.
   description.bmiHeader.biHeight = layout.height();
   description.bmiHeader.biPlanes = 1;
   description.bmiHeader.biBitCount = 32;

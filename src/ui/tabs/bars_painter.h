@@ -7,8 +7,8 @@
 
 namespace quillhue {
 
-/// Paints what lies in `box` of the surface of the three gradient bars: each bar with its fixed strip in a frame, and
-/// the markers of the current values. Points are relative to the surface's corner. Makes no object of the system.
+/// Paints the part of the bars' surface that is in `box`: each bar with its fixed strip in a frame, and the markers of
+/// the current values. Points are relative to the surface's top left corner. Creates no GDI object.
 void paintBars(HDC dc, const Rect& box, const BarsLayout& layout, const ColorMode& mode, Scale scale);
 
 }  // namespace quillhue

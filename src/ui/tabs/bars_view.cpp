@@ -7,7 +7,7 @@
 namespace quillhue {
 
 BarsView::BarsView(HWND parent, ChannelEditor& editor, Scale scale)
-    // Without SS_NOTIFY a static control leaves the mouse to what lies below it.
+    // Without SS_NOTIFY, mouse messages would go to the window below the static control.
     : SubclassedControl(createControl(parent, nullptr,
                                       {.windowClass = L"Static", .style = SS_OWNERDRAW | SS_NOTIFY | WS_CLIPSIBLINGS})),
       editor_(editor),

@@ -14,7 +14,7 @@ namespace quillhue {
 /// The surface with the three gradient bars. The mouse and its wheel change the editor's numbers.
 class BarsView final : public SubclassedControl {
  public:
-  /// `editor` lives longer than the view.
+  /// `editor` must outlive the view.
   BarsView(HWND parent, ChannelEditor& editor, Scale scale);
 
   /// Answers WM_DRAWITEM.
@@ -32,7 +32,7 @@ class BarsView final : public SubclassedControl {
   ChannelEditor& editor_;
   Scale scale_;
   WheelSum wheel_;
-  // The bar that the wheel was turned over last.
+  // The bar under the pointer at the last turn of the wheel.
   std::optional<Bar> wheelBar_;
 };
 

@@ -21,7 +21,7 @@ EffectsTab::EffectsTab(WindowContext& context)
       selection_(context.slot, context.settings()),
       editor_(context.slot, context.settings(), context.services.clipboard) {
   const HWND parent = context.window;
-  // The labels have no size: they are the controls' names for a screen reader.
+  // The labels have size 0. They only name the controls for screen readers.
   controls_.add(createControl(parent, nullptr, {.windowClass = L"Static", .text = "Value:"}));
   value_ = NumberField(parent, context.font, ES_RIGHT);
   controls_.add(value_, &EffectsLayout::value);
@@ -72,7 +72,7 @@ LRESULT EffectsTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARA
 }
 
 void EffectsTab::show() {
-  // It may have changed while another tab was active.
+  // The clipboard may have changed while another tab was active.
   editor_.readClipboard();
   PaletteTab::show();
 }
@@ -106,13 +106,13 @@ void EffectsTab::buttonClicked(HWND button) {
     editor_.apply(mask());
     value_.setValue(editor_.effect().getValue());
   }
-  // The boxes decide what the preview shows.
+  // The check boxes determine what the preview shows.
   repaintGrid();
 }
 
 void EffectsTab::showValue() {
   const Effect& effect = editor_.effect();
-  // Setting the number reports it as a change, so it is taken before.
+  // Read the value first, because updating the field reports a change, which sets the effect's value.
   const std::int32_t value = effect.getValue();
   value_.setRange(effect.range());
   value_.setValue(value);

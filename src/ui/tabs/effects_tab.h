@@ -15,7 +15,7 @@
 
 namespace quillhue {
 
-/// "Apply Effects": selects entries on the grid, and changes those that are selected.
+/// The tab "Apply Effects": selects entries on the grid and changes the selected entries.
 class EffectsTab final : public PaletteTab {
  public:
   explicit EffectsTab(WindowContext& context);
@@ -46,7 +46,7 @@ class EffectsTab final : public PaletteTab {
   void showControls(bool visible) override;
 
   HWND addButton(std::string_view text, DWORD kind, Rect EffectsLayout::* box);
-  /// The channels whose boxes are ticked.
+  /// Returns the channels whose check boxes are ticked.
   [[nodiscard]] ChannelMask mask() const;
   void buttonClicked(HWND button);
   void showValue();

@@ -11,21 +11,21 @@ namespace {
 constexpr COLORREF kDark = RGB(0, 0, 0);
 constexpr COLORREF kLight = RGB(255, 255, 255);
 
-// A layout's boxes have the edges of an outlined rectangle.
+// Boxes of GridLayout are measured as outlined rectangles.
 Rect filledPart(const Rect& outlined) { return {outlined.left, outlined.top, outlined.right - 1, outlined.bottom - 1}; }
 
 bool overlap(const Rect& one, const Rect& other) {
   return one.left < other.right && other.left < one.right && one.top < other.bottom && other.top < one.bottom;
 }
 
-// Around the color, and a light line on its edge.
+// Draws a dark frame around the color and a light line on its edge.
 void paintSelected(HDC dc, const Rect& cell, const Rect& color) {
   frameBox(dc, cell, color.left - cell.left, kDark);
   frameBox(dc, color, 1, kLight);
 }
 
-// Within the color; two pixels of each line where the color is large enough to stay visible. A color that has no room
-// for lines within it gets them around it, up to the edge of its cell.
+// Draws a dark and a light line inside the color, each two pixels wide if the color is large. A color that is too small
+// for lines inside gets them around it, within its cell.
 void paintCurrent(HDC dc, const Rect& cell, const Rect& color) {
   constexpr std::int32_t kSmallColor = 8;
   constexpr std::int32_t kLargeColor = 24;
@@ -63,7 +63,7 @@ void paintGrid(HDC dc, const Rect& box, const GridLayout& grid, const GridPictur
     }
     if (!color.isEmpty()) {
       fillBox(dc, color, toSystem(picture.palette.entry(index)));
-      // An entry in the background's color must not look like no entry.
+      // Makes entries visible that have the background's color.
       frameBox(dc, color.inset(-1), 1, GetSysColor(COLOR_BTNSHADOW));
     }
     const auto place = static_cast<std::size_t>(index);

@@ -10,19 +10,19 @@
 
 namespace quillhue {
 
-/// What the grid shows.
+/// Content of the grid.
 struct GridPicture {
-  /// The colors.
   const Palette& palette;
-  /// One byte an entry, as Palette::selected; empty where nothing is to be shown as selected.
+  /// One byte per entry, like Palette::selected(). May be empty if no entry is shown as selected.
   std::span<const std::uint8_t> selected{};
-  /// Any index that is no entry for none.
+  /// Any other index if there is no current entry.
   std::int32_t currentEntry = kNoEntry;
   bool hasFocus = false;
 };
 
-/// Paints what lies in `box`, with points relative to the grid's corner. Selected entries have an outline around their
-/// color, the current entry has one within it, each a dark and a light line, so that one of them shows on any color.
+/// Paints the part of the grid that is in `box`, with points relative to the grid's top left corner. Selected entries
+/// have an outline around their color, and the current entry has one inside. Each outline is a dark and a light line,
+/// so that it is visible on any color.
 void paintGrid(HDC dc, const Rect& box, const GridLayout& grid, const GridPicture& picture);
 
 }  // namespace quillhue

@@ -32,7 +32,7 @@ constexpr auto kKeys = std::to_array<KeyRow>({{VK_LEFT, GridKey::left},
 GridWindow::GridWindow(HWND parent, GridClient& client) : client_(client) {
   static_cast<void>(registerClass(windowClass(kClassName)));
   static_cast<void>(create({.windowClass = kClassName,
-                            // What a screen reader calls it.
+                            // The name for screen readers.
                             .title = L"Palette",
                             .style = WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS,
                             .parent = parent}));
@@ -69,10 +69,10 @@ LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       if (wParam == VK_SHIFT) {
         client_.releaseShift();
       }
-      // The menu key has its effect when it is released.
+      // The default handling opens the context menu when the menu key is released.
       return DefWindowProcW(handle(), message, wParam, lParam);
     case WM_GETDLGCODE:
-      // Letters without Alt would press the buttons that are named by them.
+      // Otherwise letters without Alt would press the buttons with that access key.
       return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_KILLFOCUS:
       client_.releaseGrid();
@@ -91,7 +91,7 @@ LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
 
 bool GridWindow::keyPressed(WPARAM key, bool isRepeated) {
   if (key == VK_SPACE) {
-    // Held down, it would flip the entry back and forth.
+    // Key repetition would flip the entry back and forth.
     if (!isRepeated) {
       client_.pressSpace(heldKeys());
     }

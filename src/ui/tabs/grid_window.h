@@ -10,13 +10,13 @@
 
 namespace quillhue {
 
-/// What the palette's grid shows and does. Points and boxes are relative to the grid's corner.
+/// Content and behavior of the palette's grid. Points and boxes are relative to the grid's top left corner.
 class GridClient {
  public:
   virtual ~GridClient() = default;
 
   virtual void paintGrid(HDC dc, const Rect& box) = 0;
-  /// The left button is pressed, the pointer moves with the button held, and the gesture ends.
+  /// Handle a press of the left button, a move of the pointer with the button held, and the end of the gesture.
   virtual void pressGrid(Point point, GridSelection::Keys keys) = 0;
   virtual void dragGrid(Point point) = 0;
   virtual void releaseGrid() = 0;
@@ -27,7 +27,7 @@ class GridClient {
   [[nodiscard]] virtual HCURSOR gridCursor() const = 0;
 };
 
-/// The child window of the grid, which takes the focus. The messages that it leaves go to its parent as usual.
+/// The child window of the grid, which can have the focus. Unhandled input messages go to the parent window.
 class GridWindow final : public CustomWindow {
  public:
   GridWindow(HWND parent, GridClient& client);

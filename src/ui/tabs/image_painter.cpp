@@ -15,13 +15,13 @@ namespace quillhue {
 
 namespace {
 
-// A bitmap's description with room for the colors of one byte a pixel.
+// BITMAPINFO with a color table for one byte per pixel.
 struct BitmapDescription {
   BITMAPINFOHEADER header{};
   std::array<RGBQUAD, kMaxUsedEntries> colors{};
 };
 
-// The pixels in view: columns and rows of the image.
+// The visible part of the image, in columns and rows.
 struct Part {
   std::int32_t left = 0;
   std::int32_t width = 0;
@@ -36,7 +36,7 @@ Part partInView(const Rect& box, Point offset, std::int32_t imageWidth, const Ro
   return part;
 }
 
-// `rowOf` gives all bytes of a row of the image.
+// `rowOf` returns all bytes of a row of the image.
 template <typename RowOf>
 void paintPart(HDC dc, Point offset, const Part& part, std::size_t pixelBytes, std::span<const PaletteEntry> colors,
                const RowOf& rowOf) {
@@ -53,7 +53,7 @@ void paintPart(HDC dc, Point offset, const Part& part, std::size_t pixelBytes, s
   BitmapDescription description;
   description.header.biSize = sizeof description.header;
   description.header.biWidth = part.width;
-  // Rows from top to bottom.
+  // A negative height means rows from top to bottom.
   description.header.biHeight = -part.rows.count();
   description.header.biPlanes = 1;
   description.header.biBitCount = static_cast<WORD>(8 * pixelBytes);

@@ -8,10 +8,10 @@
 
 namespace quillhue {
 
-/// Paint those of an image's rows that lie in `box` of a view whose corner shows the image's pixel `offset`. Nothing
-/// of the system's is made: the pixels in view go straight to the device.
+/// Paint the given rows of an image within `box` of a view. The view's top left corner shows the image's pixel
+/// `offset`. Create no GDI object: the visible pixels go directly to the device.
 void paintRows(HDC dc, const Rect& box, Point offset, const WorkImage& image, const RowRange& rows);
-/// Indexes past the image's colors are shown as a bitmap file has them, which fills its table with the blank color.
+/// Shows indexes past the image's colors in the blank color, as in the color table of a bitmap file.
 void paintRows(HDC dc, const Rect& box, Point offset, const RemappedImage& image, PaletteEntry blank,
                const RowRange& rows);
 

@@ -96,7 +96,7 @@ void ImageView::scrollImage(bool isVertical, ScrollAction action) {
 }
 
 void ImageView::wheelImage(bool isVertical, std::int32_t delta) {
-  // Pixels a notch.
+  // Pixels per notch.
   constexpr std::int32_t kStep = 48;
   Scrolling& scrolling = isVertical ? vertical_ : horizontal_;
   scrollTo(scrolling, scrolling.range.clamp(scrolling.position - scrolling.wheel.add(delta, kStep)));
@@ -120,7 +120,7 @@ void ImageView::refreshScrolling() {
       repaint(view_.handle());
     }
     showScrolling(scrolling->bar.get(), scrolling->range, position);
-    // There is nothing to scroll where all of the image is in view.
+    // Nothing can be scrolled if the whole image is visible.
     quillhue::enable(scrolling->bar.get(), isEnabled_ && scrolling->range.last() > 0);
   }
 }

@@ -18,33 +18,33 @@ namespace quillhue {
 
 struct WindowContext;
 
-/// Shows an image, or the part of it that is scrolled to, and what becomes of it row by row.
+/// Shows an image with scroll bars. While the image is remapped, the result replaces it row by row.
 class ImageView final : private ImageClient {
  public:
-  /// `fileDropped` gets the name of a file that is dropped on the image.
+  /// `fileDropped` is called with the name of a file that is dropped on the image.
   ImageView(const WindowContext& context, std::function<void(const std::wstring& name)> fileDropped);
 
   [[nodiscard]] HWND handle() const { return view_.handle(); }
 
-  /// Another image, from its corner on, or none. It and the result are looked at until the next call for them, which
-  /// may come just after their end.
+  /// Shows another image from its top left corner, or none if null. The view keeps pointers to the image and the
+  /// result. After destroying one of them, call this function or showResult() before the view is painted again.
   void showImage(const WorkImage* image);
-  /// The first `rows` rows of the result in place of the image's.
+  /// Shows the first `rows` rows of the result instead of the image's rows.
   void showResult(const RemappedImage* result, std::int32_t rows);
-  /// These rows of the result are new, and all above them were there before.
+  /// Shows new rows of the result. All rows above them must be shown already.
   void addRows(const RemappedImage& result, const RowRange& rows);
-  /// The rows for which it is worth while to be added.
+  /// Returns the visible rows and a few rows below them. Only these need to be added.
   [[nodiscard]] RowRange visibleRows() const;
 
   void layout(const UseLayout& layout);
   void show(bool visible);
-  /// A view that is disabled stays where it is.
+  /// Enables or disables scrolling.
   void enable(bool enabled);
-  /// A notification of a scroll bar; false for one of anything else.
+  /// Handles a notification of a scroll bar. Returns false if it comes from another control.
   bool scrollNotification(HWND control, WPARAM wParam);
 
  private:
-  /// A direction: its bar, and the first pixel in view.
+  /// One direction: its scroll bar and the first visible pixel.
   struct Scrolling {
     Window bar;
     ScrollRange range{};

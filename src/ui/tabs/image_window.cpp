@@ -33,7 +33,7 @@ constexpr auto kKeys = std::to_array<KeyRow>({{VK_LEFT, false, ScrollAction::lin
 ImageWindow::ImageWindow(HWND parent, ImageClient& client) : client_(client) {
   static_cast<void>(registerClass(windowClass(kClassName)));
   static_cast<void>(create({.windowClass = kClassName,
-                            // What a screen reader calls it.
+                            // The name for screen readers.
                             .title = L"Image",
                             .style = WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS,
                             .extendedStyle = WS_EX_ACCEPTFILES,
@@ -52,13 +52,13 @@ LRESULT ImageWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       client_.wheelImage((GET_KEYSTATE_WPARAM(wParam) & MK_SHIFT) == 0, GET_WHEEL_DELTA_WPARAM(wParam));
       return 0;
     case WM_MOUSEHWHEEL:
-      // To the right is forward, where the other wheel goes back.
+      // A positive value means right here, but back for the vertical wheel.
       client_.wheelImage(false, -GET_WHEEL_DELTA_WPARAM(wParam));
       return 0;
     case WM_KEYDOWN:
       return keyPressed(wParam) ? 0 : DefWindowProcW(handle(), message, wParam, lParam);
     case WM_GETDLGCODE:
-      // Letters without Alt would press the buttons that are named by them.
+      // Otherwise letters without Alt would press the buttons with that access key.
       return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
@@ -97,7 +97,7 @@ bool ImageWindow::keyPressed(WPARAM key) {
 
 void ImageWindow::filesDropped(WPARAM wParam) {
   const Drop drop(reinterpret_cast<HDROP>(wParam));
-  // While a dialog is open it has the only say.
+  // An open dialog disables the main window and blocks drops.
   if (IsWindowEnabled(GetParent(handle()))) {
     client_.fileDropped(firstFile(drop));
   }

@@ -10,20 +10,20 @@
 
 namespace quillhue {
 
-/// What a view of an image shows and does.
+/// Content and behavior of an image's view.
 class ImageClient {
  public:
   virtual ~ImageClient() = default;
 
-  /// `box` is relative to the view's corner.
+  /// `box` is relative to the view's top left corner.
   virtual void paintImage(HDC dc, const Rect& box) = 0;
   virtual void scrollImage(bool isVertical, ScrollAction action) = 0;
-  /// The wheel turned, 120 a notch.
+  /// `delta` is 120 per notch of the wheel.
   virtual void wheelImage(bool isVertical, std::int32_t delta) = 0;
   virtual void fileDropped(const std::wstring& name) = 0;
 };
 
-/// The child window in which an image is seen. It takes the focus, for the keys that scroll, and dropped files.
+/// The child window that shows an image. It can have the focus, for the scroll keys, and accepts dropped files.
 class ImageWindow final : public CustomWindow {
  public:
   ImageWindow(HWND parent, ImageClient& client);

@@ -9,18 +9,18 @@
 
 namespace quillhue {
 
-/// The controls of a page, one row for each: the control and its box in the page's layout.
+/// List of a page's controls, each with its box in the page's layout.
 template <typename Layout>
 class PageControls {
  public:
   using Box = Rect Layout::*;
 
-  /// Owns the control. One without a box has no size: a label that only names the control after it.
+  /// Adds and owns a control. A control without a box keeps size 0, for a label that only names the next control.
   HWND add(Window control, Box box = nullptr) {
     rows_.push_back({std::move(control), box});
     return rows_.back().control.get();
   }
-  /// The field stays its caller's, and where it is.
+  /// Adds a field that belongs to the caller. Its address must stay valid.
   void add(NumberField& field, Box box) { fields_.push_back({&field, box}); }
 
   void move(const Layout& layout) {
@@ -41,7 +41,7 @@ class PageControls {
       row.field->show(visible);
     }
   }
-  /// Answers UDN_DELTAPOS for the fields, as NumberField::step needs it. True when one of them has taken the step.
+  /// Passes UDN_DELTAPOS to the fields (see NumberField::takesStep()). Returns true if one of them has taken the step.
   [[nodiscard]] bool step(const NMHDR& notification) {
     for (const FieldRow& row : fields_) {
       if (row.field->takesStep(notification)) {

@@ -14,13 +14,13 @@ namespace quillhue {
 class PaletteDocument;
 struct WindowContext;
 
-/// A page that shows the palette as a grid at its left, and its controls at the right of it.
+/// A page that shows the palette as a grid on the left and its controls on the right.
 class PaletteTab : public Tab, public GridClient {
  public:
-  /// `contextMenu` is that of the entries (kValuesPopup, kEffectsPopup).
+  /// `contextMenu` is the context menu of entries (kValuesPopup, kEffectsPopup).
   PaletteTab(WindowContext& context, std::int32_t contextMenu);
 
-  /// Opens the context menu on an entry that is clicked with the right button or asked for by a key.
+  /// Opens the context menu of an entry on a right click or by keyboard.
   LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
   void layout(const Rect& area) final;
   void paletteChanged() final;
@@ -36,18 +36,18 @@ class PaletteTab : public Tab, public GridClient {
   [[nodiscard]] PaletteDocument& document() const;
   [[nodiscard]] const GridLayout& grid() const { return grid_; }
 
-  /// Any index that is no entry for none.
+  /// Returns an index that is not an entry if there is no current entry.
   [[nodiscard]] virtual std::int32_t currentEntry() const = 0;
-  /// Another current entry, as the user chose it; kNoEntry and indexes past the end included.
+  /// Sets the current entry chosen by the user. `index` may be kNoEntry or past the end.
   virtual void chooseEntry(std::int32_t index) = 0;
   [[nodiscard]] virtual GridPicture picture() = 0;
-  /// Takes the document's new colors, selection or size over into what the tab keeps of it.
+  /// Updates the tab's state after the document's colors, selection or size have changed.
   virtual void followPalette() = 0;
-  /// Begins anew with another document.
+  /// Resets the tab's state for another document.
   virtual void beginDocument() = 0;
-  /// Moves the tab's own controls to where they stand beside the grid.
+  /// Moves the tab's own controls to their places beside the grid.
   virtual void layOutControls() = 0;
-  /// Controls that appear and disappear with the tab.
+  /// Shows or hides the tab's own controls.
   virtual void showControls(bool visible) = 0;
 
   void repaintGrid() const;

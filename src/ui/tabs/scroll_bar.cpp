@@ -13,7 +13,7 @@ std::optional<ScrollAction> scrollActionOf(WORD code) {
     case SB_PAGEDOWN:
       return ScrollAction::pageForward;
     case SB_THUMBTRACK:
-    // "Scroll Here" in the context menu of the bar.
+    // Also sent by "Scroll Here" in the bar's context menu.
     case SB_THUMBPOSITION:
       return ScrollAction::track;
     case SB_TOP:
@@ -30,7 +30,7 @@ std::int32_t trackedPosition(HWND bar, WORD lowWord) {
   info.cbSize = sizeof info;
   info.fMask = SIF_TRACKPOS;
   GetScrollInfo(bar, SB_CTL, &info);
-  // Without a drag there is no such position, only the notification's.
+  // The tracking position is valid only during a drag.
   return LOWORD(info.nTrackPos) == lowWord ? info.nTrackPos : lowWord;
 }
 

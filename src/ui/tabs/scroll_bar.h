@@ -8,11 +8,11 @@
 
 namespace quillhue {
 
-/// Scroll bars that are controls of their own.
+/// Scroll bar controls.
 
-/// What a notification's code (SB_LINEUP and so on) asks for; nothing for its end.
+/// Returns the action of a notification code (SB_LINEUP and so on), or nothing for SB_ENDSCROLL.
 [[nodiscard]] std::optional<ScrollAction> scrollActionOf(WORD code);
-/// Where the thumb is dragged or sent to. `lowWord` is what the notification says of it: the low 16 bits.
+/// Returns the position to which the thumb is moved. `lowWord` contains its low 16 bits, from the notification.
 [[nodiscard]] std::int32_t trackedPosition(HWND bar, WORD lowWord);
 void showScrolling(HWND bar, const ScrollRange& range, std::int32_t position);
 

@@ -9,15 +9,15 @@ namespace quillhue {
 
 struct Command;
 
-/// What has happened to the document that makes every tab begin anew.
+/// Changes of the document after which every tab is rebuilt.
 enum class DocumentChange : std::uint8_t {
   /// Another document was opened.
   replaced,
-  /// The same one has another size.
+  /// The size of the document has changed.
   resized,
 };
 
-/// A page of the editor. Its controls are children of the main window, which lie on the tab control.
+/// A page of the editor. Its controls are children of the main window and are above the tab control.
 class Tab {
  public:
   Tab() = default;
@@ -25,26 +25,26 @@ class Tab {
   Tab& operator=(const Tab&) = delete;
   virtual ~Tab() = default;
 
-  /// Every message that neither the main window nor the editor's frame answers.
+  /// Answers a message that neither the main window nor the editor's screen answers.
   virtual LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) = 0;
-  /// The page's area in the main window.
+  /// Lays the page out. `area` is its area in client coordinates of the main window.
   virtual void layout(const Rect& area) = 0;
-  /// WM_COMMAND or a scroll message from a control.
+  /// Handles WM_COMMAND or a scroll message from a control.
   virtual void controlNotification(HWND control, WPARAM wParam) = 0;
-  /// The document's colors or selection have changed.
+  /// Called after the document's colors or selection have changed.
   virtual void paletteChanged() = 0;
   virtual void documentReplaced(DocumentChange change) = 0;
   virtual void show() = 0;
   virtual void hide() = 0;
-  /// False when nothing was copied.
+  /// Returns false if nothing was copied.
   virtual bool copy() = 0;
   virtual void paste() = 0;
   virtual void clear() = 0;
   /// Carries out a command on the palette.
   virtual void change(const Command& /*command*/) {}
-  /// The system's color chooser for the current entry.
+  /// Opens the system's color dialog for the current entry.
   virtual void editColor() {}
-  /// Whether the tab has an entry for commands that need one.
+  /// Returns whether the tab has a current entry, which some commands need.
   [[nodiscard]] virtual bool hasCurrentEntry() const = 0;
 };
 

@@ -30,7 +30,7 @@ constexpr std::array kModes{RemapMode::maintain, RemapMode::nearest, RemapMode::
 
 }  // namespace
 
-/// A run from its begin to its end.
+/// A run, from construction to destruction.
 class UseTab::Run {
  public:
   explicit Run(WindowFrame& frame) : frame_(frame) { frame_.beginRun(); }
@@ -44,7 +44,7 @@ class UseTab::Run {
   WindowFrame& frame_;
 };
 
-/// Lets the rows that are done appear, and the window live.
+/// Shows finished rows and handles the window's messages.
 class UseTab::Progress final : public RemapProgress {
  public:
   explicit Progress(UseTab& tab) : tab_(tab), run_(tab.context_.frame) {}
@@ -68,7 +68,7 @@ UseTab::UseTab(WindowContext& context)
               addButton("&Nearest match", BS_AUTORADIOBUTTON, &UseLayout::nearest),
               addButton("&Dither", BS_AUTORADIOBUTTON, &UseLayout::dither)}},
       protectColor_(addButton("Protect &color:", WS_TABSTOP | WS_GROUP | BS_AUTOCHECKBOX, &UseLayout::protectColor)) {
-  // Without a size: the field's name for a screen reader.
+  // This label has size 0. It only names the field for screen readers.
   add(L"Static", "Protected color:", 0);
   addField(color_, &UseLayout::color);
   protectGrid_ = addButton("Protect gr&id:", WS_TABSTOP | BS_AUTOCHECKBOX, &UseLayout::protectGrid);
@@ -154,7 +154,7 @@ void UseTab::refreshProtectControls() {
   enable(protectGrid_, usable.protectGrid);
   gridWidth_.enable(usable.gridSides);
   gridHeight_.enable(usable.gridSides);
-  // A label that is disabled is grey.
+  // Disabled labels are grey.
   for (const HWND label : {widthLabel_, heightLabel_}) {
     enable(label, !areLabelsGrey(state()));
   }
@@ -271,7 +271,7 @@ void UseTab::process() {
 }
 
 void UseTab::runOn(const WorkImage& image) {
-  // Ends last: a message that is shown before belongs to the run, and the window outlives it.
+  // The run ends after any error message, so that the window is not destroyed while the message is open.
   Progress progress(*this);
   try {
     remapImage(image, context_.document()->getPalette(), options(), result_ ? *result_ : result_.emplace(), progress);

@@ -22,7 +22,7 @@ namespace quillhue {
 
 struct WindowContext;
 
-/// "Use Palette": loads an image, remaps it onto the palette, shows and saves what becomes of it.
+/// The tab "Use Palette": loads an image, remaps it onto the palette, and shows and saves the result.
 class UseTab final : public Tab {
  public:
   explicit UseTab(WindowContext& context);
@@ -30,7 +30,7 @@ class UseTab final : public Tab {
   LRESULT otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
   void layout(const Rect& area) override;
   void controlNotification(HWND control, WPARAM wParam) override;
-  /// An image keeps the colors it was made with.
+  /// Does nothing: a result keeps the colors with which it was made.
   void paletteChanged() override {}
   void documentReplaced(DocumentChange change) override;
   void show() override;

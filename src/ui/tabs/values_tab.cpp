@@ -35,11 +35,11 @@ ValuesTab::ValuesTab(WindowContext& context)
   }
   chooseItem(models_, context.settings().colorMode);
   nameChannels();
-  // Below the controls that lie on it.
+  // Below the controls on it.
   SetWindowPos(bars_.handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
-// The text before a field and the one that appears under the pointer.
+// Sets the labels and tooltips of the fields.
 void ValuesTab::nameChannels() {
   const ChannelDescriptions& names = colorModelOf(context().settings().colorMode).channels;
   for (const Bar bar : kBars) {

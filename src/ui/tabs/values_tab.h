@@ -15,7 +15,7 @@
 
 namespace quillhue {
 
-/// "Edit Values": the current entry as three numbers of a color model, which bars, fields and the wheel change.
+/// The tab "Edit Values": edits the current entry as three numbers of a color model, by bars, fields and the wheel.
 class ValuesTab final : public PaletteTab, private ChannelView {
  public:
   explicit ValuesTab(WindowContext& context);
@@ -38,7 +38,7 @@ class ValuesTab final : public PaletteTab, private ChannelView {
   [[nodiscard]] HCURSOR gridCursor() const override { return nullptr; }
 
  private:
-  // One channel's controls. The label has no size: it is the field's name for a screen reader.
+  // Controls of one channel. The label has size 0 and only names the field for screen readers.
   struct Channel {
     HWND label = nullptr;
     NumberField field{};
