@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# benchmark.sh [OUT]: measures remapping against plain loops and against the other programs that this system has, and
-# writes OUT (docs/benchmarks.md). Some ten minutes; the machine should have nothing else to do.
+# benchmark.sh [OUT]: compares remapping with plain loops and with the other programs of this system, and writes OUT
+# (docs/benchmarks.md). Takes about ten minutes; the machine should be otherwise idle.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -13,6 +13,6 @@ done
 "$root/scripts/build.sh" bench
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-# The system's own interpreter, which has the system's Pillow. Peers take one thread, as the product does.
+# The system's interpreter, which finds the system's Pillow. The other programs run with one thread, like the product.
 TMPDIR=$work MAGICK_THREAD_LIMIT=1 OMP_NUM_THREADS=1 PYTHONDONTWRITEBYTECODE=1 \
   /usr/bin/python3 "$root/scripts/benchmark/main.py" "$root/build/bench" "$work" "$out"

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# check-layers.sh [ROOT]: rejects includes against the layers of src/README.md, headers of the system outside its own
-# places, and access to input bytes past the byte source.
+# check-layers.sh [ROOT]: rejects includes that break the layers of src/README.md, system headers outside their places,
+# and access to input bytes that bypasses the byte source.
 set -euo pipefail
 cd "${1:-$(dirname "${BASH_SOURCE[0]}")/..}"
 
-# What each folder may include beside itself and the standard library.
+# Folders and headers that each folder may include, beside itself and the standard library.
 declare -A allowed=(
   [src/core]=""
   [src/system]="core"
@@ -54,7 +54,7 @@ while IFS=: read -r file line include; do
     continue
   fi
   [[ $path == */* ]] || continue
-  # The tool's libraries take longer to compile than the tool itself, so one file knows each of them.
+  # The tool's libraries take longer to compile than the tool itself, so only one file includes each of them.
   case $file:$path in
     src/cli/command_line.cpp:CLI/* | src/cli/json.cpp:nlohmann/* | src/cli/json.h:nlohmann/json_fwd.hpp) continue ;;
   esac
@@ -65,7 +65,7 @@ while IFS=: read -r file line include; do
   [ $fine = yes ] || complain "$file:$line: $layer may not include $path"
 done < <(grep -rnE '^[[:space:]]*#[[:space:]]*include' src --include='*.h' --include='*.cpp')
 
-# The window is made last, from complete parts: it knows none of what it is made from, and only the application knows it.
+# The window is made last, from complete parts. It knows none of its parts, and only the application knows it.
 while IFS= read -r hit; do
   complain "$hit: the main window takes its parts from the application"
 done < <(grep -nE 'include "ui/(screens|tabs|services|dialogs)/' src/ui/main_window.* src/ui/window_context.h 2>/dev/null || true
@@ -74,7 +74,7 @@ while IFS= read -r hit; do
   complain "$hit: the system's headers come by ui/win32/system.h"
 done < <(grep -rnE '#include <.*\.h>' src --include='*.h' --include='*.cpp' | grep '^src/ui/' | grep -v '^src/ui/win32/system.h:' || true)
 
-# files.cpp turns the bytes of a stream into ours; nothing else in formats/ gets at bytes but by source and sink.
+# files.cpp converts the bytes of a stream. All other code in formats/ accesses bytes by source and sink.
 while IFS= read -r hit; do
   complain "$hit: bytes are read through ByteSource"
 done < <(grep -rnE 'reinterpret_cast|memcpy|memmove' src/formats --include='*.h' --include='*.cpp' |

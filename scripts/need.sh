@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# need.sh PACKAGE...: installs those of the Debian packages that are missing.
+# need.sh PACKAGE...: installs the Debian packages that are missing.
 set -euo pipefail
 
 missing=()

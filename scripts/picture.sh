@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# picture.sh: takes README's picture docs/terminal.png of the real tool in a real terminal, on a display of its own.
+# picture.sh: takes README's picture docs/terminal.png of the real tool in a real terminal, on a separate display.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
@@ -7,7 +7,7 @@ scripts/need.sh xterm xvfb imagemagick g++ cmake ninja-build libcli11-dev nlohma
 scripts/build.sh native quillhue-cli
 
 work=$(mktemp -d)
-# Xvfb takes a free display number and tells it.
+# Xvfb chooses a free display number and reports it.
 Xvfb -displayfd 3 -screen 0 1000x700x24 -nolisten tcp 3>"$work/display" 2>"$work/xvfb.log" &
 server=$!
 terminal=
@@ -19,7 +19,7 @@ done
 DISPLAY=:$(cat "$work/display")
 export DISPLAY
 
-# xterm matches colors to a palette of its own unless it is told to show them directly.
+# directColor makes xterm show colors exactly instead of matching them to its own palette.
 xterm -xrm 'XTerm*directColor: true' -tn xterm-direct -fa Monospace -fs 11 -geometry 80x13+0+0 -b 8 \
   -bg '#16181d' -fg '#d8dbe2' +sb -e bash -c \
   'export PATH=$PATH:build/native/src; printf "\e[?25l$ quillhue-cli info samples/harbour.gpl\n";

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # take-picture.sh PICTURE PROGRAM [ARGUMENT...]: starts a Windows program on the current display, takes a picture of it
-# as soon as it stays the same for a moment, and ends the program.
-# With xdotool's commands in GESTURES, one a line, they are carried out before that.
+# once the display stays unchanged for a moment, and ends the program. GESTURES may contain xdotool's commands, one per
+# line, to carry out before that.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -12,7 +12,7 @@ work=$(mktemp -d)
 program=$!
 trap 'kill $program 2>/dev/null || true; wait $program 2>/dev/null || true; rm -rf "$work"' EXIT
 
-# Waits until the display shows something, the same for a second.
+# Waits until the display shows something that stays the same for a second.
 settle() {
   local last= now
   for _ in $(seq 60); do
@@ -35,6 +35,6 @@ while IFS= read -r gesture; do
   [ ${#words[@]} -eq 0 ] || xdotool "${words[@]}"
 done <<<"${GESTURES:-}"
 settle
-# Without the empty display around the window.
+# Cuts off the empty display around the window.
 convert "$work/now.png" -trim +repage "$picture"
 echo "$picture: $(identify -format '%wx%h' "$picture")"

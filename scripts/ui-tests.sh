@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# ui-tests.sh NAME DPI PROGRAM [ARGUMENT...]: runs a Windows program under Wine on a display of its own, whose resolution
-# the programs there see as DPI, and with a registry of its own. What is started here under the same NAME takes turns.
+# ui-tests.sh NAME DPI PROGRAM [ARGUMENT...]: runs a Windows program under Wine with its own display, at a resolution of
+# DPI, and its own registry. Runs with the same NAME take turns.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -12,7 +12,8 @@ mkdir -p "$root/build"
 exec 9>"$work.lock"
 flock 9
 
-# The system's files are those of the prefix of the other tests, which takes half a minute to make and much room.
+# The system's files are shared with the Wine prefix of the other tests, because making them takes half a minute and
+# much disk space.
 if [ ! -f "$base/system.reg" ]; then
   QUILLHUE_WINEPREFIX=$base "$root/scripts/wine.sh" wineboot --init >"$work.log" 2>&1
   WINEPREFIX=$base wineserver --wait
@@ -21,7 +22,7 @@ rm -rf "$work"
 mkdir "$work"
 cp -a "$base"/*.reg "$base/.update-timestamp" "$base/dosdevices" "$work"
 ln -s "$base/drive_c" "$work/drive_c"
-# There is no window manager here: Wine is not to wait for one whenever a window closes.
+# Without a window manager, Wine must not wait for one whenever a window closes.
 cat >>"$work/user.reg" <<END
 
 [Control Panel\\\\Desktop]
@@ -32,12 +33,12 @@ cat >>"$work/user.reg" <<END
 END
 
 started=() signals=()
-# start SIGNAL: what was just started ends by that signal.
+# start SIGNAL: registers the process just started and the signal that ends it.
 start() {
   started+=($!)
   signals+=("$1")
 }
-# In turn, the last one first.
+# Ends the processes in reverse order.
 finish() {
   local i
   for ((i = ${#started[@]} - 1; i >= 0; i--)); do
@@ -48,7 +49,7 @@ finish() {
 trap finish EXIT
 trap 'exit 143' TERM INT
 
-# await PID CONDITION...: until the command succeeds; fails when the process ends before.
+# await PID CONDITION...: waits until the command succeeds. Fails if the process ends first.
 await() {
   local pid=$1
   shift
@@ -58,23 +59,23 @@ await() {
   done
 }
 
-# Xvfb takes a free display number and tells it.
+# Xvfb chooses a free display number and reports it.
 Xvfb -displayfd 3 -screen 0 1920x1440x24 -nolisten tcp 3>"$work/display" 2>"$work/display.log" 9>&- &
 start TERM
 await $! test -s "$work/display"
 DISPLAY=:$(<"$work/display")
 export DISPLAY QUILLHUE_WINEPREFIX=$work
 
-# Wine's server, started here so that it can be ended here. Where its socket is depends on who built Wine.
+# Wine's server is started here so that it can be ended here. The place of its socket depends on the build of Wine.
 socket=server-$(stat --format=%D "$work")-$(printf %x "$(stat --format=%i "$work")")/socket
 is_listening() { compgen -G "/tmp/.wine-$(id -u)/$socket" || compgen -G "/tmp/wine-*/$socket"; } >/dev/null
 WINEPREFIX=$work wineserver --foreground >"$work/server.log" 2>&1 9>&- &
-# Interrupted, it ends the system's own programs before itself; they would live on without it, and keep what they write
-# to open.
+# On SIGINT the server ends the system's own programs before itself. Otherwise they would survive and keep their output
+# open.
 start INT
 await $! is_listening
 
-# In the background, because a signal to this script waits for the end of what is in the foreground.
+# In the background, because a signal to this script would wait for the end of a foreground process.
 "$root/scripts/wine.sh" "$@" 9>&- &
 start TERM
 wait $!

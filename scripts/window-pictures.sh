@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# window-pictures.sh: takes README's pictures of the editor, docs/intro.png and one for each tab, of the real program.
+# window-pictures.sh: takes README's pictures of the real editor: docs/intro.png and one for each tab.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
@@ -15,7 +15,8 @@ drive=Z:${root//\//\\}
 export QUILLHUE_WINEPREFIX=$root/build/wine-pictures
 rm -rf "$QUILLHUE_WINEPREFIX"
 
-# take NAME GESTURES ARGUMENT...: gestures are xdotool's commands, one a line, on a display of 96 dpi.
+# take NAME GESTURES ARGUMENT...: takes docs/NAME.png on a display of 96 dpi. GESTURES are xdotool's commands, one per
+# line.
 take() {
   local name=$1
   export GESTURES=$2
@@ -23,7 +24,7 @@ take() {
   scripts/with-display.sh 1024x800 scripts/take-picture.sh "docs/$name.png" "$program" "$@"
 }
 
-# The first start of all makes the folder of the system's files, which is no part of any picture.
+# The very first start makes the folder of the system's files, which no picture should show.
 scripts/with-display.sh 1024x800 scripts/wine.sh wineboot --init 2>"$work/log"
 take intro ''
 take values 'mousemove 786 697

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# with-display.sh WIDTHxHEIGHT COMMAND...: runs a command on a display of its own that nobody sees.
+# with-display.sh WIDTHxHEIGHT COMMAND...: runs a command on a separate, invisible display.
 set -euo pipefail
 
 size=$1
 shift
 work=$(mktemp -d)
-# Xvfb takes a free display number and tells it.
+# Xvfb chooses a free display number and reports it.
 Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp 3>"$work/display" 2>"$work/log" &
 server=$!
 trap 'kill $server 2>/dev/null || true; wait $server 2>/dev/null || true; rm -rf "$work"' EXIT

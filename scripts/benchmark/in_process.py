@@ -1,5 +1,5 @@
 """in_process.py LIBRARY IMAGE.ppm PALETTE.ppm MODE [ANSWER.ppm]: remaps with a library, prints the CPU seconds of the
-remapping alone, and writes what came out. LIBRARY is pillow or libimagequant."""
+remapping alone, and writes the result. LIBRARY is pillow or libimagequant."""
 
 import ctypes
 import sys
@@ -7,7 +7,7 @@ import time
 
 
 def read_pixmap(path):
-    """Width, height and the bytes of a binary pixmap whose header has no comments."""
+    """Returns width, height and pixel bytes of a binary pixmap whose header has no comments."""
     with open(path, "rb") as file:
         data = file.read()
     _, width, height, _ = data.split(None, 4)[:4]
@@ -28,7 +28,7 @@ def pillow(image_file, palette_file, dithers):
     image.load()
     _, _, colors = read_pixmap(palette_file)
     palette = Image.new("P", (1, 1))
-    # A shorter palette is filled up with its last color.
+    # The last color fills the missing entries.
     palette.putpalette(colors + colors[-3:] * (256 - len(colors) // 3))
     start = time.process_time()
     result = image.quantize(palette=palette, dither=Image.Dither.FLOYDSTEINBERG if dithers else Image.Dither.NONE)

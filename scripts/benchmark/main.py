@@ -1,4 +1,4 @@
-"""main.py BUILD WORK OUT: measures everything and writes the report OUT. WORK is an empty folder."""
+"""main.py BUILD WORK OUT: runs all measurements and writes the report OUT. WORK is an empty folder."""
 
 import json
 import subprocess
@@ -10,14 +10,15 @@ import report
 import sides
 
 ROUNDS = 9
-# A side that has used so much CPU time for one work is measured well enough.
+# A side that has used this much CPU time for one work needs no more runs.
 ENOUGH_SECONDS = 5
 PALETTES = ["regular-216", "adaptive-256", "adaptive-16"]
 WORKS = [(mode, palette) for mode in ("nearest", "dither") for palette in PALETTES]
 
 
 def measure_sides(build, folder, product, peers):
-    """Lists of runs by (side, work); the work `rest` is all but the remapping, `tool` is quillhue-cli as a whole."""
+    """Returns lists of runs by (side, work). The work `rest` is everything but the remapping. The side `tool` is the
+    whole of quillhue-cli."""
     runs = defaultdict(list)
 
     def once(name, work, run):
@@ -44,22 +45,22 @@ def run_tool(build, folder, mode):
 
 
 def judge_answers(build, folder, peers):
-    """The share of pixels that are not a nearest entry, by (side, palette). The product's is that of the large image
-    too, for which it looks colors up in another way."""
+    """Returns the share of pixels that are not a nearest entry, by (side, palette). The product is also judged on the
+    large image, for which it uses another lookup."""
     faults = {}
     for palette in PALETTES:
         program = [build / "bench/quillhue_bench_peers", "judge"]
         large, judge = ([*program, folder / f"{size}.bmp", folder / f"{palette}.gpl"] for size in (sides.LARGE, sides.MEDIUM))
         faults["Quillhue", palette] = max(sides.printed_number(large), sides.printed_number(judge))
         if faults["Quillhue", palette] != 0:
-            sys.exit(f"Quillhue's answer for {palette} is not the nearest: nothing here is worth measuring.")
+            sys.exit(f"Quillhue's answer for {palette} is not the nearest, so no measurement would mean anything.")
         for peer in peers:
             faults[peer.name, palette] = sides.printed_number([*judge, peer.answer(folder, palette)])
     return faults
 
 
 def measure_benchmarks(build, filters):
-    """Medians of CPU time in seconds, by the benchmark's name."""
+    """Returns medians of CPU time in seconds, by the benchmark's name."""
     command = [
         build / "bench/quillhue_bench",
         "--benchmark_filter=" + filters,

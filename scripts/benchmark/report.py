@@ -1,4 +1,4 @@
-"""Turns what was measured into docs/benchmarks.md."""
+"""Writes docs/benchmarks.md from the measurements."""
 
 import os
 import platform
@@ -13,7 +13,7 @@ NOT_MEASURED = "–"
 
 
 def shown(number, unit=""):
-    """With two significant digits, three from 100 on."""
+    """Formats a number with two significant digits, or as an integer from 10 on."""
     if number is None:
         return NOT_MEASURED
     digits = 0 if number >= 10 else 1 if number >= 1 else 2
@@ -30,7 +30,7 @@ def ratio(of, to):
 
 
 class Medians:
-    """Of the sides' runs."""
+    """Medians of the runs of each side."""
 
     def __init__(self, runs):
         self.runs = {key: found for key, found in runs.items() if found}
@@ -40,7 +40,7 @@ class Medians:
         return median(run.seconds for run in found) if found else None
 
     def remapping(self, side, work):
-        """Of the remapping alone; never less than nothing."""
+        """Returns the seconds of the remapping alone, at least 0."""
         whole = self.seconds(side, work)
         return None if whole is None else max(whole - (self.seconds(side, "rest") or 0), 0)
 
@@ -49,7 +49,7 @@ class Medians:
         return median(run.memory for run in found) if found else None
 
     def spread(self, side):
-        """The middle half of the runs around their median, at its widest, as a share of the median."""
+        """Returns the largest width of the middle half of a work's runs, as a share of their median."""
         widest = 0
         for (name, _), found in self.runs.items():
             if name == side and len(found) >= 4:
@@ -90,7 +90,7 @@ def order(row):
 
 
 def literal_table(benchmarks):
-    """A row for each work that both sides did, named by what stands between the side and the size."""
+    """Makes a row for each work that both sides did. The part of the name between side and size names the row."""
     ratios = {}
     for name, seconds in benchmarks.items():
         kind, *parts = name.split("/")
@@ -119,7 +119,7 @@ def file_table(benchmarks):
 
 
 def program_table(peers, medians):
-    """Of the whole programs, with the regular colors."""
+    """Compares whole programs, with the regular colors."""
     decoding = medians.seconds("ImageMagick", "rest")
     rows = []
     for name, works in [("quillhue-cli", {mode: ("tool", mode) for mode in MODES})] + [
@@ -134,7 +134,7 @@ def program_table(peers, medians):
 
 def setup_line(benchmarks):
     longest = max(seconds for name, seconds in benchmarks.items() if name.startswith("setup/"))
-    return f"A run on one pixel, which is what it costs to set up, takes at most {shown(1e6 * longest)} µs."
+    return f"Remapping one pixel measures the cost of setting up. It takes at most {shown(1e6 * longest)} µs."
 
 
 def absolute_table(palettes, medians, benchmarks):
@@ -153,50 +153,51 @@ def compose(peers, palettes, runs, faults, benchmarks):
     plain = benchmarks["plain-read/bitmap-24/4096/3072"]
     return f"""# Benchmarks
 
-`scripts/benchmark.sh` writes this page. Where a section says nothing else, its numbers are how many times as long as
-Quillhue the other side takes: more than 1 says that Quillhue is faster. They compare medians of CPU time (user and
-system) of single-threaded runs, all sides taking turns: nine runs each, fewer of what takes long.
+`scripts/benchmark.sh` writes this page. Unless a section says otherwise, a number is the other side's time divided by
+Quillhue's: more than 1 means that Quillhue is faster. The times are medians of CPU time (user and system) of
+single-threaded runs. All sides take turns, with nine runs each, or fewer for slow ones.
 
-The image is a made landscape with gradients, sharp outlines, fine texture and mild noise, the same at every run:
-4096 x 3072 pixels (12.6 megapixels) with some 300,000 colors where no other size stands. The palettes: the regular 216
-colors, and 256 and 16 that Quillhue's median cut makes of the image.
+The image is a generated landscape with gradients, sharp outlines, fine texture and mild noise, the same in every run.
+It has about 300,000 colors and, unless another size is given, 4096 x 3072 pixels (12.6 megapixels). The palettes are
+the regular 216 colors, and 256 and 16 colors that Quillhue's median cut makes from the image.
 
 ## Against other programs
 
 {peer_table(peers, palettes, medians)}
-The remapping alone is compared. Quillhue and the libraries are timed inside the process, around the one call, with the
-image in memory. Programs are timed as a whole without an output, and what the same program takes to do all but the
-remapping, measured in the same rounds, is subtracted: it decodes the image and drops it (ffmpeg also converts it to the
-pixels that its remapping wants, Netpbm copies it row by row). libimagequant has made its palette before the clock
-starts. Error diffusion differs in detail from program to program.
+This table compares the remapping alone. Quillhue and the libraries are timed inside the process, around one call, with
+the image in memory. Programs are timed as a whole, without writing an output. The time that the same program takes for
+everything but the remapping, measured in the same rounds, is then subtracted: it decodes the image and drops it (ffmpeg
+also converts it to the pixel format that its remapping needs, Netpbm copies it row by row). libimagequant makes its
+palette before the clock starts. Error diffusion differs in detail between programs.
 
-The share of pixels, of 1024 x 768, that do not get an entry with the least distance in red, green and blue, found by
-trying all. Another entry that is equally near is no fault.
+The next table lists the share of pixels, of 1024 x 768, that do not get a nearest entry by distance in red, green and
+blue. A comparison with all entries finds the nearest ones; any of several equally near entries is correct.
 
 {fault_table(peers, palettes, faults)}
 ## Against plain loops
 
-Loops over all pixels and all entries define what Quillhue answers; `tests/support/literal_remap.cpp` has them.
+Loops over all pixels and all entries define Quillhue's result. They are in `tests/support/literal_remap.cpp`.
 
 {literal_table(benchmarks)}
 {setup_line(benchmarks)}
 
-The 256 greys are there because no color can be dithered onto them: the errors grow without end.
+The 256 greys are a hard case: colors can't be dithered onto them, so the errors grow without limit.
 
 ## Whole programs
 
-In multiples of what ImageMagick takes to decode the image, which is the least of what a program has to do. `quillhue-cli
-remap` goes from file to file; the others write nothing. All with the 216 colors.
+The times are multiples of the time that ImageMagick takes to decode the image, which every program has to do at least.
+`quillhue-cli remap` reads and writes a file; the others write nothing. All use the 216 colors.
 
 {program_table(peers, medians)}
 ## Files
 
-Loading an image of the same pixels, in multiples of a plain read of the 24-bit bitmap in blocks of 1 MiB.
+The table lists times for loading an image with the same pixels, as multiples of a plain read of the 24-bit bitmap in
+blocks of 1 MiB.
 
 {file_table(benchmarks)}
 ## In milliseconds
 
-On a {machine()}, a plain read of the 24-bit bitmap taking {shown(1e3 * plain)} ms. The middle half of
-Quillhue's own runs lay within {100 * medians.spread("Quillhue"):.0f} % of their median, at most.
+These times are from a {machine()}, on which a plain read of the 24-bit bitmap takes {shown(1e3 * plain)} ms. The middle
+half of Quillhue's runs spans at most {100 * medians.spread("Quillhue"):.0f} % of their median.
 
 {absolute_table(palettes, medians, benchmarks)}"""

@@ -1,4 +1,4 @@
-"""The programs and libraries that remap, each with how it is run and timed."""
+"""The programs and libraries that remap, and how each is run and timed."""
 
 import ctypes.util
 import importlib.util
@@ -13,10 +13,10 @@ MEDIUM = "1024x768"
 
 
 class Run:
-    """CPU seconds (user and system) and peak memory (MiB) of a command. `seconds` are those of the work that is
-    compared, `cost` those of the whole process. What it prints goes into the file `stdout`.
+    """CPU seconds (user and system) and peak memory (MiB) of a command. `seconds` counts the compared work,
+    `cost` the whole process. The output goes into the file `stdout`.
 
-    This process has to stay small and hold no image: the peak of a new process counts what the old one had."""
+    This process must stay small and hold no image, because a new process's peak includes the memory of its parent."""
 
     def __init__(self, command, stdin=os.devnull, stdout=os.devnull):
         with open(stdin, "rb") as source, open(stdout, "wb") as sink:
@@ -30,7 +30,7 @@ class Run:
 
 
 def version(package):
-    """The upstream part of a Debian package's version."""
+    """Returns the upstream part of a Debian package's version."""
     found = subprocess.run(
         ["dpkg-query", "-W", "-f=${Version}", package], capture_output=True, text=True, check=False
     ).stdout
@@ -42,7 +42,7 @@ def printed_number(command):
 
 
 class Library:
-    """Timed from inside: the call that remaps, the image being in memory."""
+    """A library. Only the call that remaps is timed, inside the process, with the image in memory."""
 
     rest = None
 
@@ -64,8 +64,8 @@ class Library:
 
 
 class Program:
-    """Timed as a whole, without an output. `rest` is the command that does all but the remapping; one without `to_file`
-    writes to standard output."""
+    """A program, timed as a whole without writing an output. `rest` does everything but the remapping. A program
+    without `to_file` writes to standard output."""
 
     def __init__(self, name, package, rest, remap, to_nothing, to_file, reads_stdin=False):
         self.name, self.package, self.reads_stdin = name, package, reads_stdin
