@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# make.sh PROGRAMS VERSION OUT: makes quillhue-VERSION-win64.zip and quillhue-VERSION-setup.exe in the folder OUT, of
-# quillhue.exe, quillhue-cli.exe and readme.txt in the folder PROGRAMS. The same files give the same bytes: all of them
-# get the time SOURCE_DATE_EPOCH, by default that of the last commit.
+# make.sh PROGRAMS VERSION OUT: makes quillhue-VERSION-win64.zip and quillhue-VERSION-setup.exe in the folder OUT from
+# quillhue.exe, quillhue-cli.exe and readme.txt in the folder PROGRAMS. Builds are reproducible: all files get the time
+# SOURCE_DATE_EPOCH, by default the time of the last commit.
 set -euo pipefail
 
 packaging=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -13,7 +13,7 @@ export TZ=UTC0
 stage=$(mktemp -d)
 trap 'rm -rf "$stage"' EXIT
 
-# A folder of its own in the zip: unpacking it never spreads files among others.
+# The zip contains a single folder, so that unpacking does not mix its files with others.
 folder=$stage/quillhue-$version
 files=(quillhue.exe quillhue-cli.exe readme.txt)
 mkdir "$folder"

@@ -1,12 +1,14 @@
-; The installer, for one user and without administrator's rights:
+; The installer. It installs for one user, without administrator rights:
 ;
 ;   setup.exe [/S] [/ASSOCIATE=act,cmp,gpl,clp] [/D=FOLDER]
 ;
-; /S asks nothing. /ASSOCIATE lists the extensions that Quillhue is to open, of which there may be none; without it
-; those stay that it has, at first none. /D is the last argument and takes no quotes, whatever is in the folder's name.
-; The exit status is 0 when all is done, 1 when the user cancels, 2 when it can't be done.
+; /S installs without questions. /ASSOCIATE lists the extensions that Quillhue should open; the list may be empty.
+; Without /ASSOCIATE the current associations are kept; initially there are none. /D must be the last argument and takes
+; no quotes, even if the folder's name contains blanks. The exit status is 0 for success, 1 if the user cancels, and 2
+; on failure.
 ;
-; makensis wants VERSION, PROGRAMS (the folder of what is installed) and OUT (the installer to write).
+; makensis needs the definitions VERSION, PROGRAMS (the folder with the files to install) and OUT (the installer to
+; write).
 
 Unicode true
 Target amd64-unicode
@@ -24,7 +26,7 @@ RequestExecutionLevel user
 
 !define CLASSES "Software\Classes"
 !define UNINSTALL "Software\Microsoft\Windows\CurrentVersion\Uninstall\Quillhue"
-; The program's settings are below a key of its version's.
+; The program's settings are in a subkey named after its major version.
 !define SETTINGS "Software\Quillhue"
 !define ICON "../src/ui/resources/quillhue.ico"
 !define NOT_WRITABLE "The files of Quillhue can't be written. If it is running, close it and try again."
@@ -45,7 +47,7 @@ VIAddVersionKey "ProductName" "Quillhue"
 VIAddVersionKey "ProductVersion" "${VERSION}"
 VIAddVersionKey "FileDescription" "Quillhue Setup"
 VIAddVersionKey "FileVersion" "${VERSION}"
-VIAddVersionKey "LegalCopyright" ""  ; which is missed otherwise
+VIAddVersionKey "LegalCopyright" ""  ; avoids a warning
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
@@ -60,7 +62,7 @@ Page custom showFinished leaveFinished
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE English
 
-; After an error, ends with status 2 unless the user has it tried again from LABEL on.
+; After an error, asks the user to retry, which jumps to LABEL. Otherwise quits with status 2.
 !macro orGiveUp LABEL
   ${If} ${Errors}
     MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${NOT_WRITABLE}" /SD IDCANCEL IDRETRY ${LABEL}
@@ -74,8 +76,8 @@ Page custom showFinished leaveFinished
   FileClose $1
 !macroend
 
-; Goes on only when the programs in FOLDER can be written, which none can that is running: so either all of them are
-; replaced or removed, or none. FOLDER is there.
+; Continues only if both programs in FOLDER can be written, so that either all files are replaced or removed, or none.
+; A running program can't be written. FOLDER must exist.
 !macro expectWritable FOLDER
   !define RETRY writable${__COUNTER__}
   ${RETRY}:
@@ -86,7 +88,7 @@ Page custom showFinished leaveFinished
   !undef RETRY
 !macroend
 
-; What stands in FOLDER from an installation, and FOLDER itself unless there is more in it.
+; Deletes the installed files in FOLDER, and FOLDER itself if it is empty then.
 !macro deleteFiles FOLDER
   !insertmacro expectWritable "${FOLDER}"
   !define RETRY deleted${__COUNTER__}
@@ -101,8 +103,8 @@ Page custom showFinished leaveFinished
   RMDir "${FOLDER}"
 !macroend
 
-; An extension whose files Quillhue opens has our class as its default. What it had before is kept in that class, in
-; a value that is always there: empty for none.
+; Associates an extension: its default value becomes our class. The value "Replaced" of that class saves the previous
+; default. It always exists, and is empty if there was no previous default.
 !macro associate EXTENSION TYPE
   ReadRegStr $0 HKCU "${CLASSES}\.${EXTENSION}" ""
   ${If} $0 != "Quillhue.${EXTENSION}"
@@ -115,7 +117,7 @@ Page custom showFinished leaveFinished
   WriteRegStr HKCU "${CLASSES}\.${EXTENSION}\OpenWithProgids" "Quillhue.${EXTENSION}" ""
 !macroend
 
-; Gives an extension back. One that another program has taken since keeps that.
+; Restores the previous association, unless another program has taken over the extension meanwhile.
 !macro release EXTENSION
   ClearErrors
   ReadRegStr $1 HKCU "${CLASSES}\Quillhue.${EXTENSION}" "Replaced"
@@ -137,7 +139,7 @@ Page custom showFinished leaveFinished
 
 Section "Quillhue" program
   SectionIn RO
-  ; An installation in another place moves here, once it is sure that it can.
+  ; An installation in another folder is moved here, after both folders have been checked to be writable.
   ReadRegStr $0 HKCU "${UNINSTALL}" "InstallLocation"
   ${If} $0 == $INSTDIR
   ${OrIfNot} ${FileExists} "$0\quillhue.exe"
@@ -169,7 +171,7 @@ Section "Quillhue" program
   WriteRegStr HKCU "${UNINSTALL}" "InstallLocation" $INSTDIR
   WriteRegStr HKCU "${UNINSTALL}" "UninstallString" '"$INSTDIR\uninstall.exe"'
   WriteRegStr HKCU "${UNINSTALL}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
-  SectionGetSize ${program} $0  ; in KiB, as the entry wants it
+  SectionGetSize ${program} $0  ; in KiB, as EstimatedSize requires
   WriteRegDWORD HKCU "${UNINSTALL}" "EstimatedSize" $0
   WriteRegDWORD HKCU "${UNINSTALL}" "NoModify" 1
   WriteRegDWORD HKCU "${UNINSTALL}" "NoRepair" 1
@@ -217,7 +219,7 @@ SectionEnd
   ${EndIf}
 !macroend
 
-; Takes the extension out of the list $R0 (",act,gpl,") and selects it when it was there.
+; If the list $R0 (",act,gpl,") contains the extension, removes it from the list and selects its section.
 !macro selectAsAsked EXTENSION
   ${WordReplace} $R0 ",${EXTENSION}," "," "+" $0
   ${If} $0 != $R0
@@ -250,7 +252,7 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
-; The last page offers to start the program. The buttons below the pages have the numbers 1, 2 and 3.
+; The last page offers to start the program. The controls 1, 2 and 3 are the buttons below the pages.
 Function showFinished
   !insertmacro MUI_HEADER_TEXT "Quillhue is installed" "The Start menu has it from now on."
   nsDialogs::Create 1018
