@@ -11,7 +11,7 @@ trap 'rm -rf "$work"' EXIT
 
 program=$root/build/windows/src/quillhue.exe
 drive=Z:${root//\//\\}
-# Settings of a first start.
+# A new prefix, so that the program starts with default settings.
 export QUILLHUE_WINEPREFIX=$root/build/wine-pictures
 rm -rf "$QUILLHUE_WINEPREFIX"
 
@@ -45,7 +45,7 @@ mousemove 500 310
 mouseup 1
 mousemove 840 637
 click --repeat 9 --delay 50 1' "$drive\\samples\\harbour.gpl"
-# A sky over the sea.
+# Draws a sky over the sea.
 convert -size 640x300 gradient:'#f6cf8a-#c86a6a' -size 640x280 gradient:'#35577c-#141d2c' -append \
   \( -size 640x580 -seed 5 plasma:grey45-grey55 -blur 0x2 \) -compose overlay -composite BMP3:"$work/sea.bmp"
 sea=Z:${work//\//\\}\\sea.bmp

@@ -1,6 +1,7 @@
 #pragma once
 
-/// The dialogs' controls beside OK and Cancel. Macros, because the resource compiler knows no other constants.
+/// Ids of the dialogs' controls other than OK and Cancel. They are macros because the resource compiler supports no
+/// other constants.
 // NOLINTBEGIN(modernize-macro-to-enum)
 
 // DBNEW

@@ -3,7 +3,7 @@
 
 #include "ui/logic/menu_script.h"
 
-/// write_menus FILE: writes the menus and accelerators as a script for the resource compiler.
+/// write_menus FILE: writes the resource script of the menus and accelerators.
 int main(int argumentCount, char** arguments) {
   if (argumentCount != 2) {
     return EXIT_FAILURE;
