@@ -202,7 +202,7 @@ void MainWindow::statusChanged(std::string_view text) {
 }
 
 void MainWindow::undoRedoChanged(bool /*canUndo*/, bool /*canRedo*/) {
-  // documentReplaced() announces a document that is still being made. Updating the menus earlier would make them
+  // A document that is still being made is announced by documentReplaced(). Until then the menus would be greyed and
   // flicker.
   if (document() != nullptr) {
     updateMenus();
@@ -350,7 +350,7 @@ void MainWindow::paint() {
 }
 
 void MainWindow::menuCommand(std::int32_t command) {
-  // An open dialog blocks all commands, but other programs may still send them.
+  // An open dialog disables the window, but other programs may still send commands.
   if (screen_ != nullptr && IsWindowEnabled(handle())) {
     screen_->menuCommand(command);
   }

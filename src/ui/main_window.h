@@ -53,7 +53,7 @@ class MainWindow final : public CustomWindow, public DocumentObserver, private W
   void dispatch(MSG& message);
   void openFile(const std::wstring& name) override;
 
-  // DocumentObserver.
+  // Notifications from the document.
   void titleChanged(std::wstring_view title) override;
   void statusChanged(std::string_view text) override;
   void undoRedoChanged(bool canUndo, bool canRedo) override;

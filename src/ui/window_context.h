@@ -15,7 +15,7 @@ namespace quillhue {
 class Clipboard;
 class FileDialogs;
 
-/// Services of the main window for its screens.
+/// Operations of the main window that its screens use.
 class WindowFrame {
  public:
   WindowFrame() = default;

@@ -37,7 +37,7 @@ class GridSelection {
   bool drag(const GridLayout& grid, Point point);
   /// Ends the gesture. Called on release, on loss of focus or mouse capture, and before any command.
   void finish() { gesture_.by = Means::none; }
-  /// Ends a keyboard gesture, because Shift was released.
+  /// Ends a keyboard gesture. Called when Shift is released.
   void releaseShift();
 
   /// Sets the current entry, from which the next range starts.
@@ -65,7 +65,7 @@ class GridSelection {
     /// For free and row: the new state of the entries, and the last position of the pointer.
     std::uint8_t state = 0;
     Point last;
-    /// For range: the selection outside the range.
+    /// For range: the selection to which the range is added.
     Flags base;
     bool recorded = false;
     /// The document's counts of modifications and saves after the gesture's last change.

@@ -39,7 +39,7 @@ TabsUI::TabsUI(WindowContext& context)
     tab->layout(pageArea());
   }
   active_ = tabs_[0].get();
-  // Below the controls on it and therefore last in the tab order, which is cyclic.
+  // Places the tab control below the controls on it. This also makes it last in the tab order, which is cyclic.
   SetWindowPos(tabControl_.get(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   show(tabControl_.get(), true);
   active_->show();

@@ -13,7 +13,8 @@ class FocusKeeper {
   /// Remembers the focused control if it belongs to the window. Call this for every message and before the window may
   /// lose the focus.
   void note();
-  /// Returns the control that has the focus or gets it when the window becomes active again, or null.
+  /// Returns the control that has the focus, or the one that gets it when the window becomes active again. Null if
+  /// there is none.
   [[nodiscard]] HWND current();
   /// Gives the focus to a control, at once or when the window becomes active again.
   void give(HWND control);
