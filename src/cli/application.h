@@ -7,7 +7,7 @@
 
 namespace quillhue::cli {
 
-/// Runs the tool on its arguments (UTF-8, without the program's name) and returns its exit status.
+/// Runs the tool with its arguments (UTF-8, without the program's name) and returns the exit status.
 int run(std::vector<std::string> arguments, Console& console);
 
 }  // namespace quillhue::cli

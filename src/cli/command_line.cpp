@@ -52,7 +52,7 @@ void Verb::addOrderedAction(const Action& action, const std::string& group) {
   CLI::Option* const option = action.argument.empty() ? parser_->add_flag_callback(
                                                             action.option, [act = action.act] { act({}); }, action.help)
                                                       : addActionTo(*parser_, action);
-  // A flag takes no value, not even the parser's own "=false".
+  // Refuses "--flag=false", which the parser accepts by default.
   option->disable_flag_override()->trigger_on_parse()->group(group);
 }
 
@@ -71,13 +71,13 @@ Verb CommandLine::addVerb(const std::string& name, const std::string& help) {
 }
 
 bool CommandLine::run(std::vector<std::string> arguments, std::ostream& out, std::ostream& refused) {
-  // Last, so that help lists it behind a verb's own options.
+  // Added last, so that help lists it after the verb's own options.
   parser_->set_version_flag("--version", version_);
   for (CLI::App* verb : parser_->get_subcommands({})) {
     verb->set_version_flag("--version", version_);
   }
   try {
-    // The parser takes its arguments last one first.
+    // The parser takes its arguments in reverse order.
     std::ranges::reverse(arguments);
     parser_->parse(std::move(arguments));
   } catch (const CLI::ParseError& error) {

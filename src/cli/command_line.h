@@ -7,31 +7,32 @@
 #include <string>
 #include <vector>
 
-// Only command_line.cpp includes the library that parses: it takes longer to compile than all of the tool's own code.
+// Only command_line.cpp includes the parser's library, which takes longer to compile than all of the tool's own code.
 namespace CLI {
 class App;
 }
 
 namespace quillhue::cli {
 
-/// Refuses what is wrong with an option, or with what is asked for together.
+/// Reports wrong usage: a wrong option, or options that do not go together.
 [[noreturn]] void refuseUsage(const std::string& option, const std::string& reason);
 
-/// An option that stands for something to do, possibly more than once. What it does may refuse its argument.
+/// An option that triggers an action and may be given more than once. The action may refuse its argument.
 struct Action {
   std::string option;
-  /// What its argument is called; empty for an option without, which gives an empty argument.
+  /// Placeholder for the argument in help. Empty for an option without an argument; `act` then gets an empty text.
   std::string argument;
   std::string help;
   std::function<void(const std::string& argument)> act;
 };
 
-/// One verb of the tool and its options. Values are set when the command line is parsed, so they outlive that.
+/// One verb of the tool and its options. The given variables are written when the command line is parsed, so they must
+/// still exist then.
 class Verb {
  public:
   explicit Verb(CLI::App& parser) : parser_(&parser) {}
 
-  /// What stands without an option; it is needed.
+  /// Adds a required argument without an option name.
   void addArgument(const std::string& name, std::string& value, const std::string& help);
   void addArgument(const std::string& name, std::vector<std::string>& values, const std::string& help);
   void addChoiceArgument(const std::string& name, std::string& value, const std::vector<std::string>& choices,
@@ -43,19 +44,20 @@ class Verb {
                  const std::string& help);
   void addFlag(const std::string& name, bool& value, const std::string& help);
 
-  /// An option whose argument becomes a value of another kind.
+  /// Adds an option whose argument is converted to a value of another type.
   void addAction(const Action& action);
-  /// An action that is done where it is written, before and after others, and is listed under `group`.
+  /// Adds an action that runs at its place in the command line, before or after other actions. Help lists it under
+  /// `group`.
   void addOrderedAction(const Action& action, const std::string& group);
 
-  /// What the verb does once all its options are known.
+  /// Sets the function that runs the verb after all its options are known.
   void onRun(const std::function<void()>& run);
 
  private:
   CLI::App* parser_;
 };
 
-/// The command line of the tool.
+/// The tool's command line.
 class CommandLine {
  public:
   CommandLine(const std::string& name, std::string version, const std::string& help);
@@ -65,8 +67,8 @@ class CommandLine {
 
   [[nodiscard]] Verb addVerb(const std::string& name, const std::string& help);
 
-  /// Runs the verb that is asked for, or writes to `out` the help or version. Answers false, and tells why in
-  /// `refused`, when the arguments are wrong.
+  /// Runs the requested verb, or writes the help or version to `out`. If the arguments are wrong, writes the reason to
+  /// `refused` and returns false.
   [[nodiscard]] bool run(std::vector<std::string> arguments, std::ostream& out, std::ostream& refused);
 
  private:

@@ -31,7 +31,7 @@ constexpr std::int32_t kReducedSize = 256;
 std::expected<Palette, std::string> paletteOfImage(const std::string& file, const FileContent& image,
                                                    const ConvertOptions& options, Console& console) {
   if (options.colors.empty()) {
-    return Refusal("The image has no palette. Make one of its colors with --colors exact or --colors reduce.");
+    return Refusal("The image has no palette. Make one from its colors with --colors exact or --colors reduce.");
   }
   const ImageColors colors = colorsOf(image);
   if (options.colors == "reduce") {
@@ -39,8 +39,8 @@ std::expected<Palette, std::string> paletteOfImage(const std::string& file, cons
   }
   const std::uint64_t count = colors.distinctCount();
   if (!options.size && count > kMaxPaletteSize) {
-    console.err << file << ": Of " << count << " different colors the first " << kMaxPaletteSize
-                << " are taken. Choose --colors reduce for a palette of them all.\n";
+    console.err << file << ": Only the first " << kMaxPaletteSize << " of " << count
+                << " different colors are used. Use --colors reduce to represent all of them.\n";
   }
   const auto all = static_cast<std::int32_t>(std::min<std::uint64_t>(count, kMaxPaletteSize));
   return colors.exactPalette(options.size.value_or(all), options.blank);
@@ -67,7 +67,7 @@ std::expected<InputPalette, std::string> readPaletteOf(const std::string& file, 
   return refusalOf(Failure::notEnoughMemory);
 }
 
-// Reports a refusal and answers false.
+// Reports a refusal and returns false.
 bool convertFile(const std::string& from, const std::string& to, const FormatChoice& choice,
                  const ConvertOptions& options, Console& console) {
   const auto input = readPaletteOf(from, options, console);
@@ -121,11 +121,10 @@ void addConvertVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addOption("--out-dir", options->outDir, "Convert all files into this folder");
   addOutputOptions(verb, options->output);
   verb.addChoice("--colors", options->colors, {"exact", "reduce"},
-                 "How an image without a palette becomes one: its colors, or fewer");
+                 "How to make a palette from an image without one: all of its colors, or fewer");
   addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},
-                  "The number of entries for --colors (default: all colors, reduced 256)");
-  addColorOption(verb, "--blank", options->blank,
-                 "The color of entries that a format has and the palette has not (default 0,0,0)");
+                  "The number of entries for --colors (default: all colors for exact, 256 for reduce)");
+  addColorOption(verb, "--blank", options->blank, "The color of unused entries of OUT (default 0,0,0)");
   verb.onRun([options, &console, &status] { status = convert(*options, console); });
 }
 

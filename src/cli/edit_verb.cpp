@@ -15,7 +15,7 @@ namespace {
 
 struct WrittenStep {
   const StepKind* kind;
-  // The option and its argument.
+  // The option and its argument as written.
   std::string text;
   Step run;
 };
@@ -70,7 +70,7 @@ ExitStatus edit(const EditOptions& options, Console& console) {
   return kDone;
 }
 
-// Steps are kept in the order in which they are written.
+// Adds an option whose steps keep their order on the command line.
 void addStep(Verb& verb, const StepKind& kind, const std::shared_ptr<EditOptions>& options) {
   const auto keep = [options, &kind](const std::string& argument) {
     auto step = kind.parse(argument);

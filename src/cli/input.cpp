@@ -69,7 +69,7 @@ std::vector<std::string> expandFolders(const std::vector<std::string>& files) {
     }
     std::sort(expanded.begin() + first, expanded.end());
     if (error) {
-      // Only a part could be listed: the folder itself is then refused like a file.
+      // The folder could be listed only in part, so it is kept as an input and later refused like a file.
       expanded.push_back(file);
     }
   }
@@ -83,7 +83,7 @@ std::expected<InputPalette, std::string> readFilePalette(const std::string& file
     return refusalOf(input.error());
   }
   if (!std::holds_alternative<FilePalette>(input->content)) {
-    return Refusal("The image has no palette. The verb convert makes one of its colors.");
+    return Refusal("The image has no palette. Make one from its colors with convert --colors.");
   }
   return InputPalette{std::move(std::get<FilePalette>(input->content).palette), input->reader->name};
 } catch (const std::bad_alloc&) {

@@ -25,23 +25,23 @@ struct Input {
 [[nodiscard]] std::expected<Input, Failure> openInput(const std::string& file, const std::string& streamName,
                                                       Console& console);
 
-/// The colors of an image without a palette, which outlives them. Throws std::bad_alloc.
+/// Counts the colors of an image without a palette. The image must outlive the result. Throws std::bad_alloc.
 [[nodiscard]] ImageColors colorsOf(const FileContent& image);
 
-/// A palette, and the format that it was read in; empty where it was made of an image's colors.
+/// A palette and the format that it was read from. The format is empty if the palette was made from an image's colors.
 struct InputPalette {
   Palette palette;
   std::string_view format;
 };
 
-/// The palette of such a file; true colors are refused.
+/// Reads the palette of a palette file or an indexed image. Refuses a true-color image.
 [[nodiscard]] std::expected<InputPalette, std::string> readFilePalette(const std::string& file,
                                                                        const std::string& streamName, Console& console);
 
 /// The name that the file has, or that standard input is taken to have.
 [[nodiscard]] const std::string& inputName(const std::string& file, const std::string& streamName);
 
-/// The files with every folder among them replaced by the regular files in it, by name.
+/// Replaces each folder among the files by its regular files, sorted by name.
 [[nodiscard]] std::vector<std::string> expandFolders(const std::vector<std::string>& files);
 
 }  // namespace quillhue::cli

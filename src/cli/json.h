@@ -14,12 +14,12 @@
 
 namespace quillhue::cli {
 
-/// A value in JSON; the default is null. Only json.cpp includes the library behind it, which takes long to compile.
+/// A JSON value; null by default. Only json.cpp includes the JSON library, which takes long to compile.
 using Json = std::shared_ptr<const nlohmann::ordered_json>;
 
 class JsonObject;
 
-/// Text that is not UTF-8 (a file name) is mended, not refused.
+/// Text that is not valid UTF-8, such as some file names, is repaired rather than refused.
 [[nodiscard]] Json jsonOf(std::string_view text);
 [[nodiscard]] Json jsonOf(const JsonObject& object);
 [[nodiscard]] Json jsonOf(const PaletteEntry& color);
@@ -36,7 +36,7 @@ template <std::integral Number>
   }
 }
 
-/// The array of such values.
+/// Returns an array of these values.
 [[nodiscard]] Json jsonArray(const std::vector<Json>& values);
 
 template <typename Value>
@@ -49,7 +49,7 @@ template <typename Value>
   return jsonArray(converted);
 }
 
-/// An object whose fields stay in the order in which they are added. Copies are the same object.
+/// A JSON object whose fields keep the order in which they were added. Copies share the same fields.
 class JsonObject {
  public:
   JsonObject();
@@ -67,11 +67,11 @@ class JsonObject {
   std::shared_ptr<nlohmann::ordered_json> fields_;
 };
 
-/// What `info` tells of a palette, and what was written tells of itself.
+/// Describes a palette for `info` and for verbs that report what they wrote.
 [[nodiscard]] JsonObject paletteJson(const std::string& file, std::string_view format, PaletteFormat code,
                                      const Palette& palette);
 
-/// Writes one object on a line of its own.
+/// Writes the object on one line.
 void writeJson(Console& console, const JsonObject& object);
 
 }  // namespace quillhue::cli

@@ -25,7 +25,7 @@ struct NewOptions {
   bool json = false;
 };
 
-// A palette that is made as the user wants it.
+// A kind of palette that depends on options.
 struct Generator {
   std::string_view name;
   NewPaletteKind kind;
@@ -110,8 +110,8 @@ void addNewVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addChoiceArgument("KIND", options->kind, kindNames(), "What to make");
   verb.addArgument("OUT", options->file, "The file to write, or - for standard output");
   addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},
-                  "The number of entries of blank, greyscale and rgb (default 256)");
-  verb.addAction({"--levels", "R,G,B", "How many values red, green and blue take in rgb (default 6,7,6)",
+                  "The number of entries for blank, greyscale and rgb (default 256)");
+  verb.addAction({"--levels", "R,G,B", "The number of red, green and blue levels for rgb (default 6,7,6)",
                   [options](const std::string& text) { options->levels = parseLevels(text); }});
   verb.addFlag("--windows-colors", options->windowsColors, "Include the 20 Windows colors in blank or rgb");
   addColorOption(verb, "--blank", options->blank, "The color of unused entries (default 0,0,0)");

@@ -36,7 +36,7 @@ std::expected<void, FileRefusal> writePalette(const PaletteOutput& output, const
 
 void refuseJsonOnStandardOutput(bool json, const std::string& file) {
   if (json && file == "-") {
-    refuseUsage("--json", "goes to standard output, so the palette can't");
+    refuseUsage("--json", "goes to standard output, so the palette can't go there too");
   }
 }
 

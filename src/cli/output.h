@@ -14,25 +14,25 @@ namespace quillhue::cli {
 
 void addForceFlag(Verb& verb, bool& force);
 
-/// A palette on its way into a file.
+/// Where and how a palette is written.
 struct PaletteOutput {
-  /// What a palette that the format can't hold is reported for.
+  /// The input file, which is reported if the format can't hold the palette.
   const std::string& from;
   const std::string& to;
   const OutputFormat& format;
-  /// The color of entries that the format has and the palette has not.
+  /// Color of unused entries in a format of fixed size.
   PaletteEntry blank;
   const OutputOptions& options;
 };
 
-/// Composes the palette and writes it. Refuses the usage when an option goes with another format.
+/// Composes the palette and writes it. Refuses the usage if an option is only for another format.
 [[nodiscard]] std::expected<void, FileRefusal> writePalette(const PaletteOutput& output, const Palette& palette,
                                                             Console& console);
 
-/// Refuses the usage when data and JSON would both go to standard output.
+/// Refuses the usage if both the data and the JSON would go to standard output.
 void refuseJsonOnStandardOutput(bool json, const std::string& file);
 
-/// Writes a whole file, or for "-" to standard output. A file that exists is replaced only with `force`.
+/// Writes a whole file, or to standard output for "-". An existing file is replaced only with `force`.
 [[nodiscard]] std::expected<void, std::string> writeOutput(const std::string& file,
                                                            const std::vector<std::uint8_t>& content, bool force,
                                                            Console& console);

@@ -15,8 +15,8 @@ namespace quillhue::cli {
 
 namespace {
 
-// Files that exist, found again under any name that leads to them. Only those whose own names are alike are compared on
-// the disk, so that thousands of files cost no more than a look each.
+// A set of existing files that also finds a file by another path to it. Only files with the same name are compared on
+// disk, so thousands of files cost only one look each.
 class FileSet {
  public:
   void add(const std::string& file) { files_.emplace(keyOf(file), toPath(fromUtf8(file))); }
@@ -30,7 +30,7 @@ class FileSet {
   }
 
  private:
-  // The file's own name behind all links, in lower case, since some systems take upper and lower case for the same.
+  // Returns the file's own name after following all links. It is in lower case, because some systems ignore case.
   static std::string keyOf(const std::string& file) {
     std::error_code unknown;
     const auto path = std::filesystem::weakly_canonical(toPath(fromUtf8(file)), unknown);
@@ -46,7 +46,7 @@ class FileSet {
 
 ExitStatus writeIntoFolder(const FolderOutput& output, const std::vector<std::string>& files, Console& console,
                            const WriteResult& write) {
-  // An unset variable of a script must not turn the last file into the output.
+  // An empty variable in a script must not turn the last file into the output.
   if (output.folder.empty()) {
     refuseUsage("--out-dir", "names no folder");
   }
@@ -73,10 +73,10 @@ ExitStatus writeIntoFolder(const FolderOutput& output, const std::vector<std::st
     target += output.extension;
     const std::string to = toUtf8(toFileName(target));
     if (written.contains(to)) {
-      reportRefusal(console, from, "Another file of this call is converted to " + to + " already.");
+      reportRefusal(console, from, "Another file has already been converted to " + to + '.');
       status = kRefused;
     } else if (output.force && !own.contains(to) && read.contains(to)) {
-      reportRefusal(console, from, "Its result would replace " + to + ", which this call is to convert.");
+      reportRefusal(console, from, "Its result would replace " + to + ", which is also an input.");
       status = kRefused;
     } else if (write(from, to)) {
       written.add(to);

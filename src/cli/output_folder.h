@@ -9,23 +9,23 @@
 
 namespace quillhue::cli {
 
-/// Where the results of many files go.
+/// Options for writing many results into one folder.
 struct FolderOutput {
   std::string folder;
-  /// Of every result, without a dot.
+  /// Extension of all results, without a dot.
   std::string_view extension;
-  /// The file name that standard input is taken to have.
+  /// The file name to use for standard input.
   std::string streamName;
-  /// Files that exist may be replaced.
+  /// Replace existing files.
   bool force = false;
 };
 
-/// Makes one result; reports a refusal and answers false.
+/// Makes one result. Reports a refusal and returns false.
 using WriteResult = std::function<bool(const std::string& from, const std::string& to)>;
 
-/// Calls `write` for every file, and for the files in every folder, with the name of its result, which has the file's
-/// own name and the extension. Within one call no result replaces another one, nor a file that is still to be read.
-/// Refuses the usage when the folder or standard input has no name.
+/// Calls `write` with each file, including the files of each folder, and the name of its result: the file's own name
+/// with the extension. In one call no result replaces another result or another input. Refuses the usage when the
+/// folder's name is empty or standard input has no name.
 ExitStatus writeIntoFolder(const FolderOutput& output, const std::vector<std::string>& files, Console& console,
                            const WriteResult& write);
 

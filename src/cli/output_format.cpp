@@ -59,10 +59,10 @@ OutputFormat pngFormat() {
 }
 
 [[noreturn]] void refuseNoFormat() {
-  refuseUsage("--format", "is needed where the output's extension does not tell the format");
+  refuseUsage("--format", "is needed because the output's extension does not determine the format");
 }
 
-// In lower case and with its dot; empty for standard output and names that have none.
+// Returns the extension in lower case with its dot; empty for standard output and for names without one.
 std::string extensionOf(const std::string& file) {
   const std::string name = toUtf8(toFileName(toPath(fromUtf8(file)).filename()));
   std::string extension = name.substr(std::min(name.rfind('.'), name.size()));
@@ -86,12 +86,12 @@ std::vector<OutputFormat> outputFormats() {
 
 void addOutputOptions(Verb& verb, OutputOptions& options) {
   verb.addChoice("--format", options.format, namesOf(outputFormats()),
-                 "The format to write (default: what OUT's extension stands for, and the format of IN where both have "
-                 "the same extension)");
+                 "The format to write (default: the format of IN if OUT has the same extension, otherwise the format "
+                 "that belongs to OUT's extension)");
   addNumberOption(verb, "--columns", options.columns, {1, SwatchLayout::kMaxColumns},
-                  "The squares in a row of --format png (default 16)");
+                  "The number of squares in a row with --format png (default 16)");
   addNumberOption(verb, "--cell", options.cell, {1, SwatchLayout::kMaxCell},
-                  "The pixels of a side of each square of --format png (default 16)");
+                  "The width of each square in pixels with --format png (default 16)");
   verb.addFlag("--force", options.force, "Replace files that exist");
 }
 

@@ -16,21 +16,21 @@
 
 namespace quillhue::cli {
 
-/// What a written file depends on beside the palette and the format.
+/// The settings that the contents of a file depend on, besides the palette and the format.
 struct Composition {
-  /// Of entries that the format has and the palette has not.
+  /// Color of unused entries in a format of fixed size.
   PaletteEntry blank;
-  /// The file's name without folder and extension, empty for standard output.
+  /// The file's name without folder and extension; empty for standard output.
   std::string name;
   SwatchLayout swatches;
 };
 
 using Composed = std::expected<std::vector<std::uint8_t>, Failure>;
 
-/// The format that SwatchLayout is for.
+/// The format that uses SwatchLayout.
 inline constexpr std::string_view kPngFormat = "png";
 
-/// A format that the tool writes: one of the editor's, or one of its own.
+/// A format that the tool can write: one of the editor's or one of the tool's own.
 struct OutputFormat {
   std::string_view name;
   PaletteFormat code;
@@ -43,7 +43,7 @@ struct OutputFormat {
 
 [[nodiscard]] std::vector<OutputFormat> outputFormats();
 
-/// The options of a verb that writes palettes.
+/// Options of the verbs that write palettes.
 struct OutputOptions {
   std::string format;
   std::optional<std::int32_t> columns;
@@ -52,15 +52,15 @@ struct OutputOptions {
 };
 void addOutputOptions(Verb& verb, OutputOptions& options);
 
-/// The format of one output file.
+/// Chooses the format of one output file.
 class FormatChoice {
  public:
   /// Chooses by --format, or else by the extension of the file `to`. Where `from`, the name of the file that is read,
   /// has the same extension, that file's own format comes first. Refuses the usage when neither can tell a format.
   FormatChoice(const OutputOptions& options, const std::string& to, const std::string& from = {});
 
-  /// The format for a palette of `size` entries that was read in the format `readAs`. The file's own format counts only
-  /// when it can be written and holds the palette. Refuses the usage when no other format was chosen.
+  /// Returns the format for a palette of `size` entries that was read in the format `readAs`. The input's own format is
+  /// used only if it can be written and can hold the palette. Refuses the usage if no other format was chosen.
   [[nodiscard]] const OutputFormat& formatFor(std::string_view readAs, std::int32_t size) const;
 
  private:

@@ -8,13 +8,13 @@ namespace quillhue::cli {
 
 namespace {
 
-// " 1023 " and " #RRGGBB ".
+// The width of " 1023 " and " #RRGGBB ".
 constexpr int kCellWidth = 15;
 
-// Black or white, whichever is easier to read on the color.
+// Returns black or white, whichever is easier to read on the color.
 std::string textColorOn(PaletteEntry color) { return lumaOf(color) < 128 ? "255;255;255" : "0;0;0"; }
 
-// "#RRGGBB".
+// Returns "#RRGGBB".
 std::string hexOf(PaletteEntry color) {
   std::ostringstream text;
   text << '#' << std::uppercase << std::hex << std::setfill('0') << std::setw(6)

@@ -5,8 +5,8 @@
 
 namespace quillhue::cli {
 
-/// Shows the entries with their indexes: as blocks of color where the console has colors, and otherwise a line each
-/// with the hexadecimal color and the three decimal values.
+/// Prints the entries with their indexes: as colored blocks if the console has colors, otherwise one line each with the
+/// hexadecimal color and the three decimal values.
 void showPalette(const Palette& palette, Console& console);
 
 }  // namespace quillhue::cli

@@ -11,7 +11,7 @@ namespace quillhue::cli {
 
 namespace {
 
-// As much as a stream may hold.
+// The same limit as for a stream.
 constexpr std::uint64_t kMostBytes = std::uint64_t{1} << 31;
 
 std::vector<std::uint8_t> startOf(ByteSource& source) {

@@ -8,15 +8,15 @@
 
 namespace quillhue::cli {
 
-/// The pictures without a palette that the tool reads beside the bitmaps, as images of true colors. They are asked for
-/// files that all other readers refuse.
+/// Returns readers for the images without a palette that only the tool reads. They return true-color images and are
+/// tried for files that all other readers refuse.
 [[nodiscard]] std::span<const PaletteReader> pictureReaders();
 
-/// The reader of such a picture; null when the file is none.
+/// Returns the reader for such an image, or null.
 [[nodiscard]] const PaletteReader* findPictureReader(const ReaderInput& input);
 
-/// Loads a picture, with or without a palette, and blends what is transparent with `blank`. Refuses with
-/// unrecognisedType when the file is none.
+/// Loads such an image, with or without a palette, and blends transparent pixels with `blank`. Refuses with
+/// unrecognisedType any other file.
 [[nodiscard]] ImageResult loadPicture(ByteSource& source, PaletteEntry blank);
 
 }  // namespace quillhue::cli

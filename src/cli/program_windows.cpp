@@ -13,7 +13,7 @@
 
 namespace {
 
-// Lets the console show our UTF-8 text and 24-bit colors, and puts it back as it was.
+// Makes the console show UTF-8 text and 24-bit colors, and restores its modes at the end.
 class ConsoleModes {
  public:
   ConsoleModes() : codePage_(GetConsoleOutputCP()), output_(GetStdHandle(STD_OUTPUT_HANDLE)) {
@@ -33,7 +33,7 @@ class ConsoleModes {
   }
 
   [[nodiscard]] bool showsColors() const { return showsColors_; }
-  // Characters in a line; `otherwise` when the output is no console.
+  // Returns the characters per line, or `otherwise` if the output is not a console.
   [[nodiscard]] int columns(int otherwise) const {
     CONSOLE_SCREEN_BUFFER_INFO info;
     return GetConsoleScreenBufferInfo(output_, &info) != 0 ? info.srWindow.Right - info.srWindow.Left + 1 : otherwise;

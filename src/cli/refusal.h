@@ -9,24 +9,24 @@
 
 namespace quillhue::cli {
 
-/// Something was refused; the text says why.
+/// A refusal with the reason as text.
 using Refusal = std::unexpected<std::string>;
 
 [[nodiscard]] inline Refusal refusalOf(Failure failure) { return Refusal(std::string(textOf(failure))); }
 
-/// A file that was refused, and why.
+/// A refused file and the reason.
 struct FileRefusal {
   std::string file;
   std::string text;
 };
 
-/// Reports it on standard error, and with `json` on standard output too.
+/// Reports the refusal on standard error, and with `json` also on standard output.
 ExitStatus refuseFile(const FileRefusal& refused, bool json, Console& console);
 
-/// The text with what drives a terminal replaced; lines stay.
+/// Replaces control characters in the text; line ends stay.
 [[nodiscard]] std::string printable(std::string text);
 
-/// Tells why a file was refused: one line.
+/// Reports in one line why a file was refused.
 void reportRefusal(Console& console, const std::string& file, std::string_view text);
 
 }  // namespace quillhue::cli

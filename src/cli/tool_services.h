@@ -10,8 +10,8 @@
 
 namespace quillhue::cli {
 
-/// What the logic gets in the tool: messages go to standard error, every question is answered with no, the clipboard
-/// is the tool's own, and the halftone palette the fixed one.
+/// The services that the tool gives to the logic: messages go to standard error, every question is answered with no,
+/// the clipboard is private to the tool, and the halftone palette is a fixed one.
 class ToolServices : private Messages, private DocumentObserver, private FileQuestions, private PaletteClipboard {
  public:
   explicit ToolServices(Console& console) : console_(console) {}

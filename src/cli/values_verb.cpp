@@ -18,7 +18,7 @@ namespace {
 struct ValuesOptions {
   std::string file;
   std::string name;
-  // Those to show; all without a choice.
+  // Color models to show; empty for all.
   std::vector<std::int32_t> models;
   std::optional<EntryList> entries;
   bool json = false;
@@ -83,14 +83,14 @@ void addValuesVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   std::iota(options->models.begin(), options->models.end(), 0);
   verb.addArgument("FILE", options->file, "A palette or image file, or - for standard input");
   verb.addOption("--name", options->name, "The file name that standard input is taken to have");
-  verb.addAction({"--model", "NAME", "One color model (default: all)", [options](const std::string& name) {
+  verb.addAction({"--model", "NAME", "Show only this color model (default: all)", [options](const std::string& name) {
                     const auto model = placeOfAnyCase(namesOf(colorModels()), name);
                     if (!model) {
                       refuseUsage("--model", refusedName(name, namesOf(colorModels())));
                     }
                     options->models = {static_cast<std::int32_t>(*model)};
                   }});
-  verb.addAction({"--entry", "LIST", "Only these entries, as in 0-15,20", [options](const std::string& text) {
+  verb.addAction({"--entry", "LIST", "Show only these entries, as in 0-15,20", [options](const std::string& text) {
                     auto entries = EntryList::parse(text);
                     if (!entries) {
                       refuseUsage("--entry", entries.error());

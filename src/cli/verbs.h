@@ -5,8 +5,8 @@
 
 namespace quillhue::cli {
 
-/// Each adds one verb to the tool. When the verb is called it runs at once, refuses the usage that only its options
-/// together can tell to be wrong, and sets the exit status.
+/// Each function adds one verb to the tool. When called, the verb runs at once, refuses options that do not go
+/// together, and sets the exit status.
 void addFormatsVerb(CommandLine& tool, Console& console, ExitStatus& status);
 void addInfoVerb(CommandLine& tool, Console& console, ExitStatus& status);
 void addConvertVerb(CommandLine& tool, Console& console, ExitStatus& status);

@@ -16,8 +16,8 @@ namespace quillhue {
 void readPaletteFile(const std::wstring& fileName, DocumentSlot& slot, Services& services);
 
 /// Writes the document's palette in this format. A palette or a format that can't be written is refused before any file
-/// is changed. On success the document is unmodified and has this format and name; on failure it stays unchanged and one
-/// message is shown.
+/// is changed. On success the document is unmodified and has this format and name. On failure it stays unchanged, and
+/// one message is shown.
 [[nodiscard]] bool writePaletteFile(PaletteDocument& document, const std::wstring& fileName, PaletteFormat format,
                                     Services& services, FileSystem& files = systemFiles());
 

@@ -43,7 +43,7 @@ ParsedStep parseEffect(const std::string& argument) {
   };
 }
 
-// The commands of a step that differ by its argument.
+// Chooses among the commands of a step by its argument.
 template <const char* kStep>
 ParsedStep parseChoice(const std::string& argument) {
   const Command* const command = findStep(kStep, argument);
@@ -66,12 +66,12 @@ constexpr char kReverse[] = "reverse";
 ParsedStep parseFill(const std::string& argument) { return entryStepOf(argument, *findStep("fill")); }
 
 constexpr std::array<StepKind, 7> kSteps{{
-    {"--effect", "NAME=VALUE", "Apply an effect; the verb effects lists them", parseEffect},
-    {"--gradient", nullptr, "Lead from the first selected color to the last one", parseCommand<kGradient>},
-    {"--bright-gradient", nullptr, "The same, brighter in the middle", parseCommand<kBrightGradient>},
+    {"--effect", "NAME=VALUE", "Apply an effect (listed by the verb effects)", parseEffect},
+    {"--gradient", nullptr, "Make a gradient from the first selected color to the last", parseCommand<kGradient>},
+    {"--bright-gradient", nullptr, "Make a gradient that is brighter in the middle", parseCommand<kBrightGradient>},
     {"--swap", "rg|gb|br", "Exchange two channels", parseChoice<kSwap>},
     {"--reverse", nullptr, "Reverse the order of the selected colors", parseCommand<kReverse>},
-    {"--sort", "KEY", "Sort the selected colors by intensity, red, green, blue or deviation (from their mean)",
+    {"--sort", "KEY", "Sort the selected colors by intensity, red, green, blue or deviation from their mean",
      parseChoice<kSort>},
     {"--fill", "N", "Fill the selected entries with the color of entry N", parseFill},
 }};

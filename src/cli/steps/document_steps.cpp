@@ -62,7 +62,7 @@ ParsedStep parseResize(const std::string& argument) {
 ParsedStep parseUndo(const std::string& /*argument*/) {
   return [](EditSession& session) -> StepResult {
     if (!session.document().canUndo()) {
-      return Refusal("There is no step before it to undo.");
+      return Refusal("There is no step to undo.");
     }
     session.document().undo();
     return {};
@@ -72,7 +72,7 @@ ParsedStep parseUndo(const std::string& /*argument*/) {
 ParsedStep parseRedo(const std::string& /*argument*/) {
   return [](EditSession& session) -> StepResult {
     if (!session.document().canRedo()) {
-      return Refusal("No --undo stands before it, or a later step took its place.");
+      return Refusal("There is no undone step to redo.");
     }
     session.document().redo();
     return {};
@@ -97,17 +97,17 @@ ParsedStep parseAverageColor(const std::string& /*argument*/) {
 
 constexpr std::array<StepKind, 11> kSteps{{
     {"--copy", nullptr, "Copy the selected entries to the tool's own clipboard", parseCopy},
-    {"--cut", nullptr, "Copy them and clear them", parseCut},
-    {"--clear", nullptr, "Give them the blank color", parseClear},
-    {"--paste", nullptr, "Replace them, in turn, by what the clipboard holds", parsePaste},
+    {"--cut", nullptr, "Copy the selected entries, then clear them", parseCut},
+    {"--clear", nullptr, "Set the selected entries to the blank color", parseClear},
+    {"--paste", nullptr, "Replace the selected entries, in order, with the colors on the clipboard", parsePaste},
     {"--clipboard", "FILE", "Put the palette of a file on the clipboard", parseClipboard},
-    {"--resize", "N", "Give the palette another size; new entries are blank", parseResize},
-    {"--undo", nullptr, "Take the last step back", parseUndo},
-    {"--redo", nullptr, "Do the step again that was taken back", parseRedo},
-    {"--blank", "R,G,B", "The blank color of the following steps and of unused entries of OUT (first: 0,0,0)",
+    {"--resize", "N", "Change the number of entries; new entries get the blank color", parseResize},
+    {"--undo", nullptr, "Undo the last step", parseUndo},
+    {"--redo", nullptr, "Redo the step that was undone last", parseRedo},
+    {"--blank", "R,G,B", "The blank color for the following steps and for unused entries of OUT (initially 0,0,0)",
      parseBlank},
-    {"--count-colors", nullptr, "Tell, on standard error, how many colors are different", parseCountColors},
-    {"--average-color", nullptr, "Tell the mean of all entries there too", parseAverageColor},
+    {"--count-colors", nullptr, "Write the number of different colors to standard error", parseCountColors},
+    {"--average-color", nullptr, "Write the mean of all entries to standard error", parseAverageColor},
 }};
 
 }  // namespace

@@ -12,7 +12,7 @@ namespace quillhue::cli {
 
 namespace {
 
-// The editor has no controls here.
+// Does nothing, because the tool has no controls.
 class NoView final : public ChannelView {
   void showChannel(Bar /*bar*/, const ValueRange& /*range*/, std::int32_t /*value*/) override {}
   void entryChanged(std::int32_t /*index*/) override {}
@@ -29,15 +29,15 @@ ParsedStep parseSet(const std::string& argument) {
   });
 }
 
-// The names that a channel has: its place, and what the model calls it.
+// Returns the names of the channels: their places, then the model's own names.
 std::vector<std::string> channelNames(const ColorModel& model) {
   std::vector<std::string> names{"left", "middle", "right"};
   std::ranges::copy(namesOf(model.channels), std::back_inserter(names));
   return names;
 }
 
-// A further change of the same entry in the same model goes on with the numbers that the last one set, as in the
-// window: they may be more than the color tells, such as the hue of a grey.
+// Repeated changes of the same entry in the same model keep the numbers set before, as in the window. They may hold
+// more than the color does, such as the hue of a grey.
 void changeChannel(EditSession& session, std::int32_t entry, std::int32_t model, Bar bar, std::int32_t value) {
   static NoView view;
   const bool isSame = session.channels != nullptr && session.channels->currentEntry() == entry &&
@@ -83,9 +83,9 @@ ParsedStep parseUseAsBlank(const std::string& argument) { return entryStepOf(arg
 constexpr std::array<StepKind, 3> kSteps{{
     {"--set", "N=R,G,B", "Give entry N this color", parseSet},
     {"--channel", "N:MODEL:CHANNEL=VALUE",
-     "Change one channel (left, middle, right, or its name) of entry N in a color model; the verb models lists them",
+     "Change a channel (left, middle, right, or its name) of entry N in a color model (listed by the verb models)",
      parseChannel},
-    {"--use-as-blank", "N", "Make the color of entry N the blank color of the following steps", parseUseAsBlank},
+    {"--use-as-blank", "N", "Use the color of entry N as the blank color for the following steps", parseUseAsBlank},
 }};
 
 }  // namespace

@@ -47,9 +47,10 @@ ParsedStep parseChannels(const std::string& argument) {
 
 constexpr std::array<StepKind, 2> kSteps{{
     {"--select", "WHICH",
-     "Select entries as in 0-15,20, or all, none, invert, redundant, matches:N, brighter:N, darker:N (first: all)",
+     "Select entries: a list like 0-15,20, or all, none, invert, redundant, matches:N, brighter:N or darker:N "
+     "(initially all)",
      parseSelect},
-    {"--channels", "RGB", "The channels that the following steps may change: any of r, g, b, or none (first: rgb)",
+    {"--channels", "RGB", "The channels that the following steps may change: any of r, g, b, or none (initially rgb)",
      parseChannels},
 }};
 

@@ -16,9 +16,9 @@
 
 namespace quillhue::cli {
 
-/// What the steps of one call work on.
+/// The state that the steps of one call share.
 struct EditSession {
-  /// All entries are selected.
+  /// Selects all entries.
   EditSession(Palette palette, Console& toolConsole);
 
   [[nodiscard]] PaletteDocument& document() const { return *slot.document(); }
@@ -29,28 +29,28 @@ struct EditSession {
   Console& console;
   ToolServices tool;
   DocumentSlot slot;
-  /// The channels that commands may change.
+  /// Channels that commands may change.
   ChannelMask mask = kAllChannels;
-  /// The editor of the steps before this one that change channels; null when another kind of step came between.
+  /// The editor used by the preceding steps if they change channels, otherwise null.
   std::unique_ptr<ChannelEditor> channels;
 };
 
-/// One thing that is done to the palette; refuses with a line that says what is allowed.
+/// An operation on the palette. Refuses with one line that says what is allowed.
 using StepResult = std::expected<void, std::string>;
 using Step = std::function<StepResult(EditSession&)>;
 using ParsedStep = std::expected<Step, std::string>;
 
-/// An option of the verb edit that stands for a step.
+/// An option of the verb edit that adds a step.
 struct StepKind {
   const char* option;
-  /// What its argument is called; null for an option without.
+  /// Placeholder for the argument in help; null for an option without an argument.
   const char* argument;
   const char* help;
-  /// Turns the argument into a step, or refuses it with what is allowed.
+  /// Converts the argument to a step, or refuses it with a message that says what is allowed.
   ParsedStep (*parse)(const std::string& argument);
 };
 
-/// The steps by subject: which entries, which colors, exchange with the clipboard and the history, and single entries.
+/// Returns the steps by subject: selection, colors, clipboard and history, and single entries.
 [[nodiscard]] std::span<const StepKind> selectionSteps();
 [[nodiscard]] std::span<const StepKind> colorSteps();
 [[nodiscard]] std::span<const StepKind> documentSteps();
@@ -59,7 +59,7 @@ struct StepKind {
 inline constexpr const char* kNothingToPaste =
     "The clipboard holds no palette. Put one there with --copy, --cut or --clipboard FILE.";
 
-/// A step of a command that refuses nothing.
+/// Makes a step from a command that can't be refused.
 template <typename Command>
 Step stepOf(Command command) {
   return [command](EditSession& session) -> StepResult {
@@ -68,7 +68,7 @@ Step stepOf(Command command) {
   };
 }
 
-/// A step that carries out a command of the catalogue.
+/// Makes a step from a command of the catalogue.
 [[nodiscard]] inline Step stepOf(const Command& command) {
   return [&command](EditSession& session) -> StepResult {
     command.change(session.commandInput());
@@ -76,7 +76,7 @@ Step stepOf(Command command) {
   };
 }
 
-/// A step of a command that takes an entry, written as `number`.
+/// Makes a step from a command that takes an entry. `number` is the entry's index as text.
 template <typename Command>
 ParsedStep entryStepOf(const std::string& number, Command command) {
   const auto entry = parseNumber(number);
