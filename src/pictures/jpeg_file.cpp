@@ -9,7 +9,7 @@ namespace quillhue {
 
 namespace {
 
-// Markers, ITU-T T.81 table B.1.
+// Marker codes of ITU-T T.81, table B.1.
 constexpr std::uint8_t kMark = 0xFF;
 constexpr std::uint8_t kFirstFrame = 0xC0;
 constexpr std::uint8_t kProgressiveFrame = 0xC2;
@@ -23,8 +23,8 @@ constexpr std::uint8_t kEnd = 0xD9;
 constexpr std::uint8_t kScan = 0xDA;
 constexpr std::uint8_t kTemporary = 0x01;
 
-// Each scan is a pass over the image, so a small file could keep a decoder busy for hours. Encoders use some ten, and
-// there are no more than 64 coefficients to tell apart.
+// Each scan is a pass over the image, so a small file with many scans could keep a decoder busy for hours. Encoders
+// write about ten scans, and there are only 64 coefficients to divide among them.
 constexpr int kMostScans = 100;
 
 bool isFrame(std::uint8_t marker) {
@@ -34,8 +34,8 @@ bool isFrame(std::uint8_t marker) {
 
 bool standsAlone(std::uint8_t marker) { return marker == kTemporary || (marker >= kFirstRestart && marker <= kStart); }
 
-// The markers and their segments one after the other. Anything between a segment and the next marker, as the data of a
-// scan, is skipped.
+// Iterates over the markers and their segments. Skips any bytes between a segment and the next marker, such as the data
+// of a scan.
 class Segments {
  public:
   explicit Segments(PictureBytes file) : rest_(file) {}
@@ -45,7 +45,7 @@ class Segments {
     PictureBytes data;
   };
 
-  // Nothing when the file ends.
+  // Returns nothing at the end of the file.
   std::optional<Segment> next() {
     for (;;) {
       const auto mark = std::ranges::find(rest_, kMark);
@@ -55,7 +55,7 @@ class Segments {
       }
       const std::uint8_t marker = *code;
       rest_ = PictureBytes(code, rest_.end()).subspan(1);
-      // A zero makes the mark before it a byte of data.
+      // A mark followed by zero is a byte of data.
       if (marker != 0 && !standsAlone(marker)) {
         return marker == kEnd ? Segment{marker, {}} : withData(marker);
       }

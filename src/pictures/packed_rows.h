@@ -9,16 +9,16 @@
 
 namespace quillhue {
 
-/// The rows of a PngImage as the file stores them before compression: the left pixel in a byte's highest bits.
+/// The rows of a PngImage as the file stores them before compression: the left pixel is in a byte's highest bits.
 class PackedRows {
  public:
   explicit PackedRows(const PngImage& image);
 
   /// 1, 2, 4 or 8.
   [[nodiscard]] unsigned bitsPerPixel() const { return bits_; }
-  /// Bytes.
+  /// In bytes.
   [[nodiscard]] std::size_t rowLength() const { return packed_.size(); }
-  /// Row `y`, valid until the next call.
+  /// Returns row `y`, valid until the next call.
   [[nodiscard]] std::span<std::uint8_t> row(std::int32_t y);
 
  private:

@@ -12,18 +12,18 @@
 
 namespace quillhue {
 
-/// An image for a PNG file with a palette.
+/// An image to be written as a PNG file with a palette.
 struct PngImage {
   IndexedPixels pixels;
-  /// 1 to 256 entries. A pixel whose index has no entry gets index 0.
+  /// 1 to 256 entries. Pixels whose index has no entry get index 0.
   std::span<const PaletteEntry> colors;
-  /// Entries that are fully transparent; all others are opaque.
+  /// Indexes of fully transparent entries; all others are opaque.
   std::bitset<256> transparent;
 };
 
-/// Returns the bytes of a PNG file (W3C Recommendation "Portable Network Graphics", color type 3). A pixel has the
-/// fewest bits of 1, 2, 4 and 8 that the number of entries needs. The palette holds all entries in their order, used or
-/// not. Fails with couldNotCreate when the system's encoder does. Throws std::bad_alloc.
+/// Returns the bytes of a PNG file (W3C Recommendation "Portable Network Graphics", color type 3). Pixels have 1, 2, 4
+/// or 8 bits, the fewest that the number of entries allows. The palette contains all entries in their order, used or
+/// not. Refuses with couldNotCreate when the system's encoder fails. Throws std::bad_alloc.
 [[nodiscard]] std::expected<std::vector<std::uint8_t>, Failure> composePng(const PngImage& image);
 
 }  // namespace quillhue

@@ -11,14 +11,14 @@ namespace quillhue {
 namespace {
 
 constexpr std::array<std::uint8_t, 8> kSignature{0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A};
-// Length, tag and checksum around a chunk's data.
+// Length, tag and checksum of a chunk.
 constexpr std::size_t kChunkFrame = 12;
 constexpr std::size_t kHeaderLength = 13;
 
 std::uint32_t u16be(PictureBytes bytes) { return static_cast<std::uint32_t>(bytes[0] << 8 | bytes[1]); }
 std::uint32_t u32be(PictureBytes bytes) { return u16be(bytes) << 16 | u16be(bytes.subspan(2)); }
 
-// Of each byte, the lowest bit first.
+// CRC remainders of all byte values, lowest bit first.
 constexpr auto kRemainders = [] {
   std::array<std::uint32_t, 256> remainders{};
   for (std::uint32_t byte = 0; byte < remainders.size(); ++byte) {
@@ -34,11 +34,11 @@ constexpr auto kRemainders = [] {
 struct Chunk {
   std::string_view tag;
   PictureBytes data;
-  // With its frame.
+  // The chunk including its length, tag and checksum.
   PictureBytes whole;
 };
 
-// The chunk at the start of `rest`, which loses it; nothing when it is cut short.
+// Removes the first chunk from `rest` and returns it; nothing if the chunk is truncated.
 std::optional<Chunk> takeChunk(PictureBytes& rest) {
   if (rest.size() < kChunkFrame) {
     return {};
@@ -57,7 +57,7 @@ bool isIntact(const Chunk& chunk) {
   return pngChecksum(chunk.whole.subspan(4, chunk.data.size() + 4)) == u32be(chunk.whole.last(4));
 }
 
-// The samples of each color type, and the depths that it allows.
+// The sample kind of each color type and its permitted depths.
 struct ColorType {
   std::uint8_t number;
   SampleKind kind;
@@ -98,7 +98,7 @@ std::expected<PngFile, Failure> readHeader(PictureBytes data) {
 
 void append(std::vector<std::uint8_t>& out, PictureBytes bytes) { out.insert(out.end(), bytes.begin(), bytes.end()); }
 
-// Entries that the file lacks are black and opaque.
+// Missing entries are black and opaque.
 bool readPalette(PictureBytes data, PngFile& png) {
   const std::size_t entries = data.size() / 3;
   if (data.size() % 3 != 0 || entries < 1 || entries > 256) {
@@ -112,7 +112,7 @@ bool readPalette(PictureBytes data, PngFile& png) {
   return true;
 }
 
-// Ignored where it is too short, or the image has no use for it.
+// Ignores the chunk if it is too short or does not apply to the image.
 void readTransparency(PictureBytes data, PngFile& png) {
   if (png.colors) {
     std::ranges::copy(data.first(std::min<std::size_t>(data.size(), 256)), png.colors->coverage.begin());

@@ -9,27 +9,27 @@
 
 namespace quillhue {
 
-/// What a PNG file says of its image, and the part of it that a decoder needs.
+/// The image data of a PNG file and the chunks that a decoder needs.
 struct PngFile {
   std::int32_t width = 0;
   std::int32_t height = 0;
   SampleFormat format;
   bool isInterlaced = false;
-  /// Of an image of indexes.
+  /// For an image of indexes.
   std::optional<PictureColors> colors;
   std::optional<TransparentColor> transparentColor;
-  /// A PNG file with the same samples and no ancillary chunks, so that gamma, profiles and animations are the same on
-  /// all systems: they have no effect.
+  /// A PNG file with the same samples but without ancillary chunks. Gamma, profiles and animations are therefore
+  /// ignored on every system.
   std::vector<std::uint8_t> samples;
 };
 
-/// Reads all chunks but those that hold the samples. Refuses as PictureKind::decode says.
+/// Reads all chunks except the contents of those with samples. Refuses as PictureKind::decode does.
 [[nodiscard]] std::expected<PngFile, Failure> readPngFile(PictureBytes file);
 
-/// The checksum of a chunk's tag and data, annex D of the recommendation: ISO 3309's CRC-32.
+/// Returns the checksum of a chunk's tag and data: CRC-32 of ISO 3309, annex D of the recommendation.
 [[nodiscard]] std::uint32_t pngChecksum(PictureBytes bytes);
 
-/// Decodes the samples by the system's means. Refuses with pictureDamaged.
+/// Decodes the samples with the system's decoder. Refuses with pictureDamaged.
 [[nodiscard]] PictureResult decodePngSamples(const PngFile& png, PaletteEntry blank);
 
 }  // namespace quillhue

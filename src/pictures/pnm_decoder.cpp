@@ -10,20 +10,20 @@ namespace quillhue {
 
 namespace {
 
-// More than any number of a header.
+// Greater than any valid number in a header.
 constexpr std::uint32_t kNumberLimit = 1000000000;
 
 bool isSpace(std::uint8_t byte) { return byte == ' ' || (byte >= '\t' && byte <= '\r'); }
 bool isDigit(std::uint8_t byte) { return byte >= '0' && byte <= '9'; }
 
-// The text of a file's header, and of the samples of a plain file.
+// Reads the text of a header and of the samples of a plain file.
 class Text {
  public:
   explicit Text(PictureBytes bytes) : rest_(bytes) {}
 
   [[nodiscard]] PictureBytes rest() const { return rest_; }
 
-  // The byte between header and samples.
+  // Skips the single byte between header and samples.
   bool skipOneSpace() {
     if (rest_.empty() || !isSpace(rest_.front())) {
       return false;
@@ -44,7 +44,7 @@ class Text {
 
   void skipLine() { rest_ = PictureBytes(std::ranges::find(rest_, '\n'), rest_.end()); }
 
-  // Up to the next space; empty at the end.
+  // Returns the text up to the next space; empty at the end.
   std::string word() {
     skipSpace();
     const auto end = std::ranges::find_if(rest_, isSpace);
@@ -76,7 +76,7 @@ struct Header {
   std::uint32_t height = 0;
   std::uint32_t maximum = 1;
   std::uint32_t depth = 1;
-  // Of a PAM file.
+  // For a PAM file.
   std::string tupleType;
 };
 
@@ -120,14 +120,14 @@ constexpr std::array kTupleTypes{
     TupleType{"BLACKANDWHITE", 1},       TupleType{"GRAYSCALE", 1},       TupleType{"RGB", 3},
     TupleType{"BLACKANDWHITE_ALPHA", 2}, TupleType{"GRAYSCALE_ALPHA", 2}, TupleType{"RGB_ALPHA", 4}};
 
-// A file without a type is of the one that has as many samples.
+// If a file names no tuple type, any type with this number of samples is used.
 bool isKnown(const Header& header) {
   return std::ranges::any_of(kTupleTypes, [&](const TupleType& type) {
     return type.depth == header.depth && (header.tupleType.empty() || header.tupleType == type.name);
   });
 }
 
-// Writes the samples of a plain file as a row of a raw one. A plain PBM needs no space between its digits.
+// Reads the samples of a plain file into a row in the raw format. A plain PBM needs no spaces between digits.
 bool readPlainRow(Text& text, const SampleFormat& format, bool isBitmap, std::span<std::uint8_t> row) {
   const std::size_t length = format.bits / 8;
   for (std::size_t i = 0; i < row.size(); i += length) {
@@ -146,10 +146,10 @@ bool matches(PictureBytes start) {
   return start.size() >= 3 && start[0] == 'P' && start[1] >= '1' && start[1] <= '7' && isSpace(start[2]);
 }
 
-// What the digit after the P says, and the header behind it.
+// The format that the digit after the P stands for, and the header that follows.
 struct Variant {
   bool isPlain;
-  // 1 is black.
+  // In a bitmap 1 is black.
   bool isBitmap;
   Header header;
   SampleFormat format;
@@ -186,7 +186,7 @@ PictureResult decode(PictureBytes file, PaletteEntry blank) {
   const auto& [isPlain, isBitmap, header, format] = *variant;
   PictureBytes samples = text.rest();
   std::vector<std::uint8_t> row(format.rowLength(header.width));
-  // Before room is made for the image; each sample of a plain file takes a byte at least.
+  // Checked before memory for the image is allocated. Each sample of a plain file takes at least one byte.
   const std::size_t leastRow = isPlain ? header.width * format.samplesPerPixel() : row.size();
   if (samples.size() / leastRow < header.height) {
     return std::unexpected(Failure::pictureDamaged);

@@ -49,7 +49,7 @@ SampleRows::SampleRows(std::int32_t width, std::int32_t height, SampleFormat for
       image_(width, height, paletteOf(colors, blank)),
       scaled_(std::size_t{format.maximum} + 1),
       samples_(static_cast<std::size_t>(width) * format.samplesPerPixel()) {
-  // To the nearest byte.
+  // Rounds to the nearest byte.
   for (std::uint32_t sample = 0; sample < scaled_.size(); ++sample) {
     scaled_[sample] = static_cast<std::uint8_t>((sample * 255 + format.maximum / 2U) / format.maximum);
   }

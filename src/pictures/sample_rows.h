@@ -9,65 +9,65 @@
 
 namespace quillhue {
 
-/// The samples of a pixel, before an alpha sample.
+/// The color samples of a pixel; an alpha sample follows them.
 enum class SampleKind : std::uint8_t {
-  /// One: an index into a palette.
+  /// One sample: an index into a palette.
   index,
-  /// One: black at 0.
+  /// One sample: 0 is black.
   gray,
-  /// Three: red, green, blue.
+  /// Three samples: red, green, blue.
   color,
-  /// Three: blue, green, red.
+  /// Three samples: blue, green, red.
   reversedColor,
-  /// Four: cyan, magenta, yellow and black ink, none at 0.
+  /// Four samples: cyan, magenta, yellow and black ink; 0 is no ink.
   ink,
 };
 
-/// How decoded rows are stored.
+/// The storage format of decoded rows.
 struct SampleFormat {
   SampleKind kind = SampleKind::gray;
   bool hasAlpha = false;
-  /// Of a sample: 1, 2, 4 (the left pixel in the highest bits), 8 or 16.
+  /// Bits a sample: 1, 2, 4 (the left pixel in the highest bits), 8 or 16.
   unsigned bits = 8;
-  /// The greatest sample.
+  /// The greatest possible sample.
   std::uint16_t maximum = 255;
-  /// The order of the bytes of a sample of 16 bits.
+  /// Byte order of samples of 16 bits.
   bool isLittleEndian = false;
 
   [[nodiscard]] std::size_t samplesPerPixel() const;
-  /// Bytes of a row of `width` pixels.
+  /// Returns the bytes of a row of `width` pixels.
   [[nodiscard]] std::size_t rowLength(std::size_t width) const { return (width * samplesPerPixel() * bits + 7) / 8; }
 };
 
-/// The palette of a format of indexes: 256 entries, and how much of a pixel each covers, 255 for all of it.
+/// The palette of an image of indexes: 256 entries, and the coverage (alpha) of each, 255 for opaque.
 struct PictureColors {
   Palette palette;
   std::array<std::uint8_t, 256> coverage;
 };
 
-/// A color whose pixels are fully transparent, in samples up to `maximum`.
+/// A color whose pixels are fully transparent. Its samples are at most `maximum`.
 struct TransparentColor {
   std::array<std::uint16_t, 3> samples{};
   std::uint16_t maximum = 255;
 };
 
-/// The columns to which the pixels of a row go: those of one pass of an interlaced image, otherwise all.
+/// The columns that the pixels of a row go to: those of one pass of an interlaced image, or all.
 struct Columns {
   std::size_t first = 0;
   std::size_t step = 1;
 };
 
-/// Makes an image of rows of samples.
+/// Converts rows of samples to an image.
 class SampleRows {
  public:
-  /// A size within the limits; `colors` for a format of indexes. Transparent pixels are blended with `blank`. Throws
-  /// std::bad_alloc.
+  /// The size must be within the limits; `colors` is for images of indexes. Transparent pixels are blended with
+  /// `blank`. Throws std::bad_alloc.
   SampleRows(std::int32_t width, std::int32_t height, SampleFormat format, PaletteEntry blank,
              const std::optional<PictureColors>& colors = {});
 
   void setTransparentColor(const TransparentColor& color);
 
-  /// Puts pixels into a row of the image: as many as there are columns left. `bytes` holds them all.
+  /// Stores pixels in row `y` of the image, one for each of its `columns`. `bytes` contains all of them.
   void store(std::int32_t y, PictureBytes bytes, Columns columns = {});
 
   [[nodiscard]] WorkImage take() { return std::move(image_); }
@@ -83,9 +83,9 @@ class SampleRows {
   PaletteEntry blank_;
   WorkImage image_;
   std::optional<TransparentColor> transparent_;
-  // Each sample as a byte.
+  // The byte for each sample value.
   std::vector<std::uint8_t> scaled_;
-  // Of the row that is being stored.
+  // Samples of the row that is being stored.
   std::vector<std::uint16_t> samples_;
 };
 

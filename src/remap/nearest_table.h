@@ -11,15 +11,15 @@
 
 namespace quillhue {
 
-/// The nearest of at most 256 colors for each of the 2^24 colors of an image, found when one is first asked for,
-/// together with its neighbors. For images that are large enough to make up for the memory: 16 MiB, as far as touched,
-/// and at most 1.3 MiB beside it.
+/// Finds the nearest of at most 256 colors for image colors and remembers the results in a table of all 2^24 colors. A
+/// color is looked up together with its neighbors when it is first requested. The table pays off for large images only:
+/// it uses 16 MiB, as far as touched, and at most 1.3 MiB for lists.
 class NearestTable {
  public:
-  /// Of at least one color. Throws std::bad_alloc.
+  /// Takes at least one color. Throws std::bad_alloc.
   explicit NearestTable(std::span<const PaletteEntry> colors);
 
-  /// Gives each pixel, three bytes blue, green and red, the index of the first of its nearest colors.
+  /// Gives each pixel (three bytes: blue, green, red) the index of the first of its nearest colors.
   void remapRow(std::span<const std::uint8_t> pixels, std::span<std::uint8_t> indexes);
 
  private:
@@ -29,10 +29,10 @@ class NearestTable {
 
   std::vector<PaletteEntry> colors_;
   ColorCandidates candidates_;
-  // Each color's index + 1, where 256 counts as 0, as does what is not found yet.
+  // The index + 1 of the nearest color for each image color. 256 is stored as 0, which also means not found yet.
   ZeroedMemory<std::uint8_t> found_;
   ZeroedMemory<std::uint8_t> isFilled_;
-  // Where the list of each cell begins, 0 for none, and the lists: their length - 1 and then the indexes.
+  // The offset of each cell's list (0 for none), and the lists: their length - 1, then the indexes.
   std::vector<std::uint32_t> lists_;
   std::vector<std::uint8_t> listed_;
 };

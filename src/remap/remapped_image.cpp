@@ -6,7 +6,7 @@ namespace quillhue {
 
 void RemappedImage::prepare(std::int32_t width, std::int32_t height, std::span<const PaletteEntry> colors) {
   if (width != width_ || height != height_) {
-    // The old rows go first, so that both need not fit into the memory.
+    // Frees the old rows first, so that both need not fit into memory.
     rows_ = {};
     width_ = 0;
     height_ = 0;

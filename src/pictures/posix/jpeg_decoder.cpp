@@ -1,9 +1,9 @@
 #include <csetjmp>
 #include <cstddef>
 #include <cstdio>
-// Needs size_t and FILE before it.
+// Requires size_t and FILE to be declared.
 #include <jpeglib.h>
-// Needs jpeglib.h before it.
+// Requires jpeglib.h.
 #include <jerror.h>
 
 #include <algorithm>
@@ -58,14 +58,14 @@ class Reader {
         return {.kind = SampleKind::color};
     }
   }
-  // The programs that mark their files so store how much light passes instead of ink.
+  // Programs that write this marker store the light that passes through instead of the ink.
   [[nodiscard]] bool hasInvertedInk() const { return jpeg_.out_color_space == JCS_CMYK && jpeg_.saw_Adobe_marker; }
   [[nodiscard]] Failure failure() const {
     return errors_.msg_code == JERR_OUT_OF_MEMORY ? Failure::notEnoughMemory : Failure::pictureDamaged;
   }
 
  private:
-  // Makes the call and returns false when libjpeg reports an error, which it does by a jump that runs no destructors.
+  // Makes the call and returns false if libjpeg reports an error. libjpeg then jumps out without running destructors.
   template <typename Call>
   [[nodiscard]] bool guarded(Call call) {
     // NOLINTNEXTLINE(modernize-avoid-setjmp-longjmp): libjpeg must not return from its error handler

@@ -6,8 +6,8 @@
 
 namespace quillhue {
 
-/// Calls libpng and returns false when it reports an error, which it does by a jump that runs no destructors: `call`
-/// and whatever libpng calls back may hold no object that needs one at a call into libpng.
+/// Calls libpng and returns false if it reports an error. libpng then jumps out without running destructors, so neither
+/// `call` nor any function that libpng calls back may hold an object with a destructor during a call to libpng.
 template <typename Call>
 [[nodiscard]] bool callLibpng(png_structp png, Call call) {
   // NOLINTNEXTLINE(modernize-avoid-setjmp-longjmp): libpng offers nothing else
@@ -18,7 +18,7 @@ template <typename Call>
   return true;
 }
 
-/// Handlers for png_create_*_struct that print nothing.
+/// Error handlers for png_create_*_struct. They print nothing.
 [[noreturn]] inline void onPngError(png_structp png, png_const_charp /*text*/) { png_longjmp(png, 1); }
 inline void onPngWarning(png_structp /*png*/, png_const_charp /*text*/) {}
 

@@ -50,7 +50,8 @@ class Reader {
   png_infop info_;
 };
 
-// Without libpng's own handling of interlaced images a row is one of the pass, and needs no room for the whole image.
+// libpng's own handling of interlaced images is not used. A row is then a row of one pass, and no buffer for the whole
+// image is needed.
 bool readPass(Reader& reader, const PngFile& png, int pass, SampleRows& rows, std::span<std::uint8_t> row) {
   const auto width = static_cast<png_uint_32>(png.width);
   const auto height = static_cast<png_uint_32>(png.height);

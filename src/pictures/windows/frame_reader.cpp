@@ -14,7 +14,7 @@ struct KnownFormat {
   SampleFormat format;
 };
 
-// Samples of 16 bits are in the processor's order of bytes.
+// Samples of 16 bits are in the processor's byte order.
 constexpr std::array<KnownFormat, 18> kFormats{{
     {GUID_WICPixelFormat1bppIndexed, {SampleKind::index, false, 1, 1}},
     {GUID_WICPixelFormat2bppIndexed, {SampleKind::index, false, 2, 3}},
@@ -40,7 +40,7 @@ ComPointer<IWICBitmapSource> openFrame(IWICImagingFactory& factory, PictureBytes
   const auto stream = made<IWICStream>([&](IWICStream** out) { return factory.CreateStream(out); });
   const auto decoder =
       made<IWICBitmapDecoder>([&](IWICBitmapDecoder** out) { return factory.CreateDecoder(container, nullptr, out); });
-  // The stream only reads, although its interface takes memory to write to.
+  // The stream only reads, although its interface takes writable memory.
   if (!stream || !decoder ||
       FAILED(stream->InitializeFromMemory(const_cast<BYTE*>(file.data()), static_cast<DWORD>(file.size()))) ||
       FAILED(decoder->Initialize(stream.get(), WICDecodeMetadataCacheOnDemand))) {

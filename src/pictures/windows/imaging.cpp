@@ -2,7 +2,7 @@
 
 namespace quillhue {
 
-// A thread that already uses another kind of apartment keeps it.
+// If this thread already uses another kind of apartment, it keeps that one.
 Imaging::Imaging()
     : apartment_(CoInitializeEx(nullptr, COINIT_MULTITHREADED)),
       factory_(made<IWICImagingFactory>([](IWICImagingFactory** out) {

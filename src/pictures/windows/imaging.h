@@ -7,14 +7,14 @@
 
 namespace quillhue {
 
-/// Owns a reference to an object of the system.
+/// Releases a reference to a COM object.
 struct ReleaseObject {
   void operator()(IUnknown* object) const { object->Release(); }
 };
 template <typename Interface>
 using ComPointer = std::unique_ptr<Interface, ReleaseObject>;
 
-/// The result of a function that returns its object through a pointer, or null when it fails:
+/// Calls a function that returns its object through a pointer. Returns the object, or null when the function fails:
 /// made<Interface>([&](Interface** out) { return create(out); }).
 template <typename Interface, typename Make>
 [[nodiscard]] ComPointer<Interface> made(Make make) {
@@ -23,7 +23,7 @@ template <typename Interface, typename Make>
   return ComPointer<Interface>(SUCCEEDED(result) ? object : nullptr);
 }
 
-/// The Windows Imaging Component, usable on this thread while this exists.
+/// The Windows Imaging Component, which this thread can use during the lifetime of this object.
 class Imaging {
  public:
   Imaging();
@@ -31,7 +31,7 @@ class Imaging {
   Imaging& operator=(const Imaging&) = delete;
   ~Imaging();
 
-  /// Null when the system has none.
+  /// Returns null if the system has no Imaging Component.
   [[nodiscard]] IWICImagingFactory* factory() const { return factory_.get(); }
 
  private:
