@@ -33,7 +33,7 @@ class BarsLayout {
   [[nodiscard]] Rect zone(Bar bar) const;
   /// Returns the bar whose zone contains the point.
   [[nodiscard]] std::optional<Bar> barAt(Point point) const;
-  /// For dragging: the pointer's height above the bars' bottom edge, and the height that means the maximum value.
+  /// For dragging: the pointer's height above the bars' bottom edge, and the height of the maximum value.
   [[nodiscard]] std::int32_t heightAt(std::int32_t y) const { return bottom_ - y; }
   [[nodiscard]] std::int32_t usableHeight() const { return bottom_ - top_ - 1; }
 

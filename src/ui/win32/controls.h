@@ -28,8 +28,8 @@ void setWindowText(HWND window, std::string_view text);
 
 /// Returns the size of the client area.
 [[nodiscard]] Size clientSize(HWND window);
-/// Moves a child window without painting. Otherwise each window would copy its pixels when it is moved, although a
-/// neighbor may already cover them. Call repaintAll() after moving windows.
+/// Moves a child window without painting it or copying its pixels, which a neighbor may already cover. Call
+/// repaintAll() after moving windows.
 void moveTo(HWND window, const Rect& box);
 /// Repaints a window with all its children.
 void repaintAll(HWND window);
@@ -45,7 +45,7 @@ void passToChildren(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 [[nodiscard]] bool isTicked(HWND button);
 void tick(HWND button, bool ticked);
 
-/// Combo boxes: add an item, set and return the index of the chosen item.
+/// Combo boxes: add an item, choose an item by index, and return the index of the chosen item.
 void addItem(HWND combo, std::string_view text);
 void chooseItem(HWND combo, std::int32_t index);
 [[nodiscard]] std::int32_t chosenItem(HWND combo);
