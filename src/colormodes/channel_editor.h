@@ -64,8 +64,8 @@ class ChannelEditor {
   void releaseBar() { dragTarget_.reset(); }
   [[nodiscard]] std::optional<Bar> dragTarget() const { return dragTarget_; }
 
-  /// Opens the system's color chooser for any entry. Makes one undo step, even if the user cancels. Beside the basic
-  /// colors, the chooser offers the entry's group of sixteen; missing entries have the blank color.
+  /// Opens the system's color chooser for any entry. Makes one undo step, even if the user cancels. In addition to the
+  /// basic colors, the chooser offers the entry's group of sixteen; missing entries have the blank color.
   void editEntry(std::int32_t index, ColorChooser& chooser);
   /// Ends the run: the next change starts a new undo step. The numbers are kept.
   void endRun() { recordArmed_ = true; }

@@ -27,8 +27,8 @@ struct HueAngle {
   std::int32_t toEnd;
 };
 
-/// Returns the color whose channels are `start`, `end` and `rest`. In the third of the circle that contains `hue`
-/// (0..359), `start` is for the primary color at the third's start, `end` for the one at its end, `rest` for the other.
+/// Returns a color in the third of the circle that contains `hue` (0..359). The primary color at the third's start has
+/// the value `start`, the one at its end `end`, and the third one `rest`.
 [[nodiscard]] PaletteEntry colorInThird(std::int32_t hue, std::uint8_t start, std::uint8_t end, std::uint8_t rest);
 
 }  // namespace quillhue

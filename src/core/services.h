@@ -94,7 +94,7 @@ class ColorChooser {
 
   virtual ~ColorChooser() = default;
 
-  /// Starts at `initial` and offers `custom` beside the basic colors. Returns nothing if the user cancels.
+  /// Starts at `initial` and offers `custom` in addition to the basic colors. Returns nothing if the user cancels.
   [[nodiscard]] virtual std::optional<PaletteEntry> chooseColor(
       PaletteEntry initial, std::span<const PaletteEntry, kCustomColors> custom) = 0;
 };

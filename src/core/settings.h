@@ -10,8 +10,7 @@ namespace quillhue {
 /// How a mouse gesture on the palette grid selects.
 enum class SelectionMode : std::uint8_t { free, row, range };
 
-/// Settings of the user. An index of a color mode or effect that its catalogue does not contain selects the catalogue's
-/// fallback.
+/// The user's settings. If a catalogue has no color model or effect with the stored index, it uses its fallback.
 struct AppSettings {
   /// Proposed size of a new palette.
   std::uint32_t paletteSize = 256;

@@ -43,7 +43,7 @@ class OutputFile {
 
   /// Appends all of `content`. Returns false if the medium refuses any part of it.
   [[nodiscard]] virtual bool write(std::span<const std::uint8_t> content) = 0;
-  /// Waits until the medium holds the written bytes. Returns false if it fails to.
+  /// Waits until the medium holds the written bytes. Returns false on failure.
   [[nodiscard]] virtual bool flush() = 0;
   [[nodiscard]] virtual std::expected<void, SaveError> finish() = 0;
 };

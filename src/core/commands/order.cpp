@@ -62,7 +62,7 @@ void sortByKey(PaletteDocument& document, ChannelMask keyMask, ChannelMask mask)
   if (colors.empty()) {
     return;
   }
-  // kept on purpose: the list's colors are white outside the mask and its keys come from them, but the key searched for
+  // kept on purpose: the list's colors are white outside the mask, and its keys come from them. The key searched for
   // comes from the original color. The list's keys are therefore either sorted or all equal, so bisection finds the
   // position.
   WorkList list;
