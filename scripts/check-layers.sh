@@ -41,7 +41,7 @@ while IFS=: read -r file line include; do
     complain "$file: the folder is no layer of src/README.md"
     continue
   fi
-  # What the system offers ends in .h; the standard library's headers have neither ending nor folder.
+  # System headers end in .h. Headers of the standard library have neither an ending nor a folder.
   if [[ $include == *'<'* && $path == *.h ]]; then
     case $file:$path in
       src/remap/*:emmintrin.h) continue ;;  # the instructions of SSE2

@@ -27,7 +27,7 @@ enum class CommandScope : std::uint8_t {
   paletteTabs,
 };
 
-/// What a command requires, in addition to its scope, to have an effect.
+/// The requirement of a command, in addition to its scope, for having an effect.
 enum class CommandNeed : std::uint8_t {
   nothing,
   undoStep,
