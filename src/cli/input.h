@@ -25,7 +25,7 @@ struct Input {
 [[nodiscard]] std::expected<Input, Failure> openInput(const std::string& file, const std::string& streamName,
                                                       Console& console);
 
-/// Counts the colors of an image without a palette. The image must outlive the result. Throws std::bad_alloc.
+/// Collects the colors of an image without a palette. The image must outlive the result. Throws std::bad_alloc.
 [[nodiscard]] ImageColors colorsOf(const FileContent& image);
 
 /// A palette and the format that it was read from. The format is empty if the palette was made from an image's colors.

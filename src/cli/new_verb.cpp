@@ -107,7 +107,7 @@ RgbLevels parseLevels(const std::string& text) {
 void addNewVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   Verb verb = tool.addVerb("new", "Make a new palette");
   const auto options = std::make_shared<NewOptions>();
-  verb.addChoiceArgument("KIND", options->kind, kindNames(), "What to make");
+  verb.addChoiceArgument("KIND", options->kind, kindNames(), "The kind of palette to make");
   verb.addArgument("OUT", options->file, "The file to write, or - for standard output");
   addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},
                   "The number of entries for blank, greyscale and rgb (default 256)");

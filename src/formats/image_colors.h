@@ -16,9 +16,8 @@ namespace quillhue {
 ///
 /// A table with one bit a color records which colors occur. Counting and exact palettes therefore keep no pixels in
 /// memory; the constructor reads the image once. A reduced palette reads the image again and keeps the pixels that it
-/// uses, four bytes each. The fourth bytes of pixels count as part of the color; if they differ, all pixels are sorted
-/// in memory. Every operation may throw std::bad_alloc.
-/// std::bad_alloc.
+/// uses, four bytes each. The fourth byte of a pixel counts as part of its color; if not all fourth bytes are the same,
+/// all pixels are sorted in memory. Every operation may throw std::bad_alloc.
 class ImageColors {
  public:
   explicit ImageColors(const TrueColorBitmap& bitmap);

@@ -11,9 +11,9 @@
 
 namespace quillhue {
 
-/// Finds the nearest of at most 256 colors for image colors and remembers the results in a table of all 2^24 colors. A
-/// color is looked up together with its neighbors when it is first requested. The table pays off for large images only:
-/// it uses 16 MiB, as far as touched, and at most 1.3 MiB for lists.
+/// Finds the nearest of at most 256 colors for each color of an image. The results are kept in a table of all 2^24
+/// colors; a color is looked up together with its neighbors when it is first requested. The table pays off for large
+/// images only: it uses 16 MiB, as far as touched, and at most 1.3 MiB for lists.
 class NearestTable {
  public:
   /// Takes at least one color. Throws std::bad_alloc.
