@@ -2,8 +2,6 @@
 
 #include "commands/command_ids.h"
 #include "effects/effects.h"
-#include "ui/support/input.h"
-#include "ui/support/menus.h"
 #include "ui/support/ui_test.h"
 
 namespace quillhue {
@@ -78,22 +76,7 @@ TEST_F(Effects, ShowTheirLongestNumbers) {
   };
   const std::int32_t digit = left(4) - left(3);
   EXPECT_GE(left(0), 0);
-  EXPECT_LE(left(4) + digit, clientSizeOf(field).width);
-}
-
-// Held down, Space is one click on the current entry.
-TEST_F(Effects, SelectOnceByAHeldSpace) {
-  const Editor& editor = open(brightPalette(4), kEffectsPage);
-  tabTo(editor, editor.gridWindow());
-  pressKey(VK_HOME);
-  {
-    const HeldKeys held({VK_SPACE});
-    pressKey(VK_SPACE);
-  }
-  editor.awaitInput();
-  editor.run(command_id::kUndo);
-  EXPECT_FALSE(isOffered(editor, command_id::kUndo));
-  EXPECT_TRUE(isOffered(editor, command_id::kRedo));
+  EXPECT_LE(left(4) + digit, clientSize(field).width);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace {
 
 class Sizing : public UiTest {
  protected:
-  const Scale scale_ = screenScale();
+  const Scale scale_ = Scale{screenDpi()};
   const Size least_ = minimumWindowSize(scale_);
 
   static Rect dragged(const Program& program, const Rect& window, SizingEdge edge) {
@@ -21,7 +21,7 @@ class Sizing : public UiTest {
     RECT box{window.left, window.top, window.right, window.bottom};
     EXPECT_EQ(program.ask(program.window(), WM_SIZING, static_cast<WPARAM>(edge), reinterpret_cast<LPARAM>(&box)),
               TRUE);
-    return boxFrom(box);
+    return fromSystem(box);
   }
   // What the window shows once it stays the same: the display has it some time after it is painted.
   static std::vector<std::uint32_t> settledPixels(const Program& program) {
@@ -88,7 +88,7 @@ TEST_F(Sizing, LayoutOfTheIntroScreenFollowsTheWindow) {
   const Size first = outerSizeOf(window);
   for (const Size size : {first, least_, Size{least_.width + 201, least_.height + 83}, least_}) {
     program.resize(size);
-    const Size client = clientSizeOf(window);
+    const Size client = clientSize(window);
     const Rect bar = statusBarBox(program);
     EXPECT_EQ(bar, (Rect{0, client.height - bar.height(), client.width, client.height}));
     EXPECT_GT(bar.height(), 0);
@@ -125,7 +125,7 @@ TEST_F(Sizing, LayoutOfTheEditorFollowsTheWindow) {
   for (const Size size : {first, least_, Size{least_.width + 333, least_.height + 101}}) {
     editor.resize(size);
     EXPECT_EQ(boxInParent(tabControl(editor)),
-              (Rect{gap, gap, clientSizeOf(editor.window()).width - gap, statusBarBox(editor).top - gap}));
+              (Rect{gap, gap, clientSize(editor.window()).width - gap, statusBarBox(editor).top - gap}));
   }
 }
 
@@ -144,7 +144,7 @@ TEST_F(Sizing, LayoutLeavesNothingBehind) {
       editor.resize(size);
       const auto shown = settledPixels(editor);
       RedrawWindow(editor.window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
-      EXPECT_EQ(difference(shown, settledPixels(editor), clientSizeOf(editor.window()).width), Rect{})
+      EXPECT_EQ(difference(shown, settledPixels(editor), clientSize(editor.window()).width), Rect{})
           << page << ' ' << size.width << ' ' << size.height;
     }
   }

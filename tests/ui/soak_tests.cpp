@@ -94,7 +94,7 @@ class Soak : public UiTest {
   }
 
   Point somewhere() {
-    const Size size = clientSizeOf(editor().window());
+    const Size size = clientSize(editor().window());
     return onScreen(editor().window(), {any(size.width), any(size.height)});
   }
 

@@ -4,6 +4,7 @@
 #include "ui/support/input.h"
 #include "ui/support/menus.h"
 #include "ui/support/use_test.h"
+#include "ui/win32/clipboard.h"
 
 namespace quillhue {
 namespace {
@@ -149,9 +150,10 @@ TEST_F(Use, WhatCantBeCopiedIsNotCut) {
   load(indexed_);
   for (const int page : {kUsePage, kValuesPage, kEffectsPage}) {
     editor().choosePage(page);
-    openClipboard();
-    editor().run(command_id::kCut);
-    CloseClipboard();
+    {
+      const ClipboardAccess taken(nullptr);
+      editor().run(command_id::kCut);
+    }
     EXPECT_FALSE(isOffered(editor(), command_id::kUndo)) << page;
   }
   editor().choosePage(kUsePage);

@@ -28,7 +28,7 @@ class Values : public UiTest {
   [[nodiscard]] Point onBar(Bar bar, std::int32_t parts, std::int32_t ofParts) const {
     for (HWND surface : findControls(editor().window(), L"Static")) {
       if ((GetWindowLongPtrW(surface, GWL_STYLE) & SS_TYPEMASK) == SS_OWNERDRAW) {
-        const Rect box = BarsLayout(clientSizeOf(surface), screenScale()).barBox(bar);
+        const Rect box = BarsLayout(clientSize(surface), Scale{screenDpi()}).barBox(bar);
         return onScreen(surface, {middleOf(box).x, box.bottom - 1 - (box.height() - 1) * parts / ofParts});
       }
     }

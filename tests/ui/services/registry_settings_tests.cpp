@@ -64,21 +64,5 @@ TEST_F(RegistrySettingsTest, ReadsOnlyTheWantedTypeAtItsWholeLength) {
   }
 }
 
-// Values whose length is not theirs are taken for missing, whether or not the system lets them through.
-TEST_F(RegistrySettingsTest, BadLengthsGiveDefaults) {
-  const RegistryKey key = createKey(kKey);
-  for (const wchar_t* const name : {L"Window width", L"Window height", L"Palette size"}) {
-    RegSetValueExW(key.get(), name, 0, REG_DWORD, Bytes{1, 4}.data(), 2);
-  }
-  for (const wchar_t* const name : {L"Blank", L"Windows colors", L"RGB levels", L"Color mode", L"Effect"}) {
-    RegSetValueExW(key.get(), name, 0, REG_BINARY, Bytes{1, 1}.data(), 2);
-  }
-  RegSetValueExW(key.get(), L"Selection mode", 0, REG_BINARY, nullptr, 0);
-  const SavedSettings found = readSettings(settings, {96});
-  for (const SettingDescription& setting : settingDescriptions()) {
-    EXPECT_EQ(setting.save(found), setting.save(defaultSettings({96}))) << setting.name;
-  }
-}
-
 }  // namespace
 }  // namespace quillhue

@@ -29,7 +29,7 @@ void Editor::choosePage(int page) const {
   HWND tabs = tabControl(*this);
   RECT tab{};
   askAbout(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(page), tab);
-  clickAt(*this, onScreen(tabs, middleOf(boxFrom(tab))));
+  clickAt(*this, onScreen(tabs, middleOf(fromSystem(tab))));
   await("page " + std::to_string(page), [&] { return chosenPage() == page; });
 }
 
@@ -37,10 +37,10 @@ Rect Editor::page() const {
   const Rect frame = boxInParent(tabControl(*this));
   RECT area{frame.left, frame.top, frame.right, frame.bottom};
   askAbout(tabControl(*this), TCM_ADJUSTRECT, FALSE, area);
-  return boxFrom(area);
+  return fromSystem(area);
 }
 
-GridLayout Editor::grid() const { return {page(), std::stoi(statusText(*this)), screenScale()}; }
+GridLayout Editor::grid() const { return {page(), std::stoi(statusText(*this)), Scale{screenDpi()}}; }
 
 Point Editor::entryPoint(std::int32_t index) const { return onScreen(gridWindow(), middleOf(grid().cellBox(index))); }
 

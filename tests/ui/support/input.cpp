@@ -24,9 +24,11 @@ void sendKey(int key, DWORD flags) {
 }  // namespace
 
 void activate(const Program& program) {
-  HWND wanted = GetLastActivePopup(program.window());
   program.await("the foreground", [&] {
-    if (GetForegroundWindow() == wanted) {
+    // A dialog that is about to end may be the last active one still, and takes keys that are for nobody.
+    HWND popup = GetLastActivePopup(program.window());
+    HWND wanted = IsWindowVisible(popup) != 0 ? popup : program.window();
+    if (GetForegroundWindow() == wanted && IsWindowEnabled(wanted) != 0) {
       return true;
     }
     SetForegroundWindow(wanted);

@@ -229,11 +229,4 @@ bool isWine() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_
 
 std::string narrow(const std::wstring& text) { return toUtf8(text); }
 
-Scale screenScale() {
-  HDC screen = GetDC(nullptr);
-  const Scale scale{GetDeviceCaps(screen, LOGPIXELSX)};
-  ReleaseDC(nullptr, screen);
-  return scale;
-}
-
 }  // namespace quillhue

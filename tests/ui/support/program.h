@@ -147,7 +147,4 @@ void runTool(const std::vector<std::wstring>& arguments);
 
 [[nodiscard]] std::string narrow(const std::wstring& text);
 
-/// The screen's resolution.
-[[nodiscard]] Scale screenScale();
-
 }  // namespace quillhue

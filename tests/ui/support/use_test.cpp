@@ -1,11 +1,11 @@
 #include "ui/support/use_test.h"
 
-#include <cstring>
 #include <random>
 
 #include "formats/bitmap_writer.h"
 #include "formats/work_image.h"
 #include "support/bitmaps.h"
+#include "ui/win32/clipboard.h"
 
 namespace quillhue {
 
@@ -80,29 +80,15 @@ std::string UseTest::controls() const {
   return states;
 }
 
-void UseTest::openClipboard() const {
-  editor().await("the clipboard", [] { return OpenClipboard(nullptr) != 0; });
-}
-
 std::string UseTest::clipboardBitmap() const {
-  openClipboard();
-  std::string bytes;
-  if (HANDLE memory = GetClipboardData(CF_DIB)) {
-    bytes.assign(static_cast<const char*>(GlobalLock(memory)), GlobalSize(memory));
-    GlobalUnlock(memory);
-  }
-  CloseClipboard();
-  return bytes;
+  const auto bytes = ClipboardAccess(nullptr).bytes(CF_DIB).value_or(Bytes{});
+  return {bytes.begin(), bytes.end()};
 }
 
 void UseTest::putOnClipboard(std::string_view bitmap) const {
-  HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bitmap.size());
-  std::memcpy(GlobalLock(memory), bitmap.data(), bitmap.size());
-  GlobalUnlock(memory);
-  openClipboard();
-  EmptyClipboard();
-  EXPECT_TRUE(SetClipboardData(CF_DIB, memory));
-  CloseClipboard();
+  ClipboardAccess clipboard(nullptr);
+  clipboard.empty();
+  EXPECT_TRUE(clipboard.put(CF_DIB, Bytes(bitmap.begin(), bitmap.end())));
 }
 
 }  // namespace quillhue

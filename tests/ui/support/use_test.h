@@ -54,9 +54,6 @@ class UseTest : public UiTest {
   const Palette imageColors_ = brightPalette(256);
   const std::wstring indexed_ = indexedFile("indexed.bmp", kSize);
   const std::wstring direct_ = directFile();
-
-  /// Keeps the clipboard from the program until it is closed.
-  void openClipboard() const;
 };
 
 }  // namespace quillhue

@@ -10,8 +10,6 @@ namespace {
 
 constexpr UINT kTextPatience = 2000;
 
-PaletteEntry colorFrom(COLORREF color) { return {GetRValue(color), GetGValue(color), GetBValue(color)}; }
-
 }  // namespace
 
 BOOL CALLBACK addWindow(HWND window, LPARAM windows) {
@@ -65,14 +63,6 @@ std::wstring dialogText(HWND dialog) {
   return all;
 }
 
-Rect boxFrom(const RECT& box) { return {box.left, box.top, box.right, box.bottom}; }
-
-Size clientSizeOf(HWND window) {
-  RECT box{};
-  GetClientRect(window, &box);
-  return {box.right, box.bottom};
-}
-
 Size outerSizeOf(HWND window) {
   const Rect box = boxOnScreen(window);
   return {box.width(), box.height()};
@@ -81,14 +71,14 @@ Size outerSizeOf(HWND window) {
 Rect boxOnScreen(HWND window) {
   RECT box{};
   GetWindowRect(window, &box);
-  return boxFrom(box);
+  return fromSystem(box);
 }
 
 Rect boxInParent(HWND control) {
   RECT box{};
   GetWindowRect(control, &box);
   MapWindowPoints(nullptr, GetAncestor(control, GA_PARENT), reinterpret_cast<POINT*>(&box), 2);
-  return boxFrom(box);
+  return fromSystem(box);
 }
 
 Point onScreen(HWND window, Point point) {
@@ -101,32 +91,28 @@ Point middleOf(const Rect& box) { return {(box.left + box.right) / 2, (box.top +
 
 PaletteEntry pixelOf(HWND window, Point point) {
   const Point place = onScreen(window, point);
-  HDC screen = GetDC(nullptr);
-  const COLORREF color = GetPixel(screen, place.x, place.y);
-  ReleaseDC(nullptr, screen);
-  return colorFrom(color);
+  const ScreenDc screen(GetDC(nullptr));
+  return fromSystem(GetPixel(screen.get(), place.x, place.y));
 }
 
 std::vector<std::uint32_t> pixelsOf(HWND window) {
-  const Size size = clientSizeOf(window);
+  const Size size = clientSize(window);
   const Point corner = onScreen(window, {});
   std::vector<std::uint32_t> pixels(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height));
-  HDC screen = GetDC(nullptr);
-  HDC memory = CreateCompatibleDC(screen);
-  HBITMAP bitmap = CreateCompatibleBitmap(screen, size.width, size.height);
-  HGDIOBJ before = SelectObject(memory, bitmap);
-  BitBlt(memory, 0, 0, size.width, size.height, screen, corner.x, corner.y, SRCCOPY);
-  SelectObject(memory, before);
+  const ScreenDc screen(GetDC(nullptr));
+  const MemoryDc memory(CreateCompatibleDC(screen.get()));
+  const Bitmap bitmap(CreateCompatibleBitmap(screen.get(), size.width, size.height));
+  {
+    const Selected selected(memory.get(), bitmap.get());
+    BitBlt(memory.get(), 0, 0, size.width, size.height, screen.get(), corner.x, corner.y, SRCCOPY);
+  }
   BITMAPINFO rows{};
   rows.bmiHeader = {sizeof(BITMAPINFOHEADER), size.width, -size.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-  GetDIBits(memory, bitmap, 0, static_cast<UINT>(size.height), pixels.data(), &rows, DIB_RGB_COLORS);
-  DeleteObject(bitmap);
-  DeleteDC(memory);
-  ReleaseDC(nullptr, screen);
+  GetDIBits(memory.get(), bitmap.get(), 0, static_cast<UINT>(size.height), pixels.data(), &rows, DIB_RGB_COLORS);
   return pixels;
 }
 
-PaletteEntry systemColor(int color) { return colorFrom(GetSysColor(color)); }
+PaletteEntry systemColor(int color) { return fromSystem(GetSysColor(color)); }
 
 HWND focusOf(const Program& program) {
   GUITHREADINFO info{};

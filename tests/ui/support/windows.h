@@ -7,6 +7,8 @@
 #include "core/palette_entry.h"
 #include "ui/logic/geometry.h"
 #include "ui/support/program.h"
+#include "ui/win32/controls.h"
+#include "ui/win32/drawing.h"
 #include "ui/win32/system.h"
 
 namespace quillhue {
@@ -33,8 +35,6 @@ BOOL CALLBACK addWindow(HWND window, LPARAM windows);
 /// The texts of all visible static controls, a line each.
 [[nodiscard]] std::wstring dialogText(HWND dialog);
 
-[[nodiscard]] Rect boxFrom(const RECT& box);
-[[nodiscard]] Size clientSizeOf(HWND window);
 [[nodiscard]] Size outerSizeOf(HWND window);
 /// On the screen.
 [[nodiscard]] Rect boxOnScreen(HWND window);
