@@ -1,24 +1,27 @@
 #include <algorithm>
 #include <array>
+#include <bitset>
 #include <expected>
+#include <functional>
 #include <memory>
 #include <new>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "cli/arguments.h"
+#include "cli/image_format.h"
 #include "cli/input.h"
 #include "cli/output.h"
 #include "cli/output_folder.h"
 #include "cli/picture_input.h"
 #include "cli/verbs.h"
 #include "core/utf8.h"
-#include "formats/bitmap_writer.h"
 #include "formats/files.h"
 #include "formats/images/image_loaders.h"
-#include "remap/remap.h"
+#include "remap/transparent_remap.h"
 
 namespace quillhue::cli {
 
@@ -29,7 +32,9 @@ struct RemapVerbOptions {
   std::string palette;
   std::optional<std::string> outDir;
   std::string name;
+  std::string format;
   RemapOptions remap;
+  std::optional<std::int32_t> transparent;
   PaletteEntry blank;
   bool force = false;
 };
@@ -61,15 +66,48 @@ std::expected<WorkImage, std::string> readImage(const std::string& file, Palette
   return std::move(*image);
 }
 
-// The palette of all images, and what remaps them.
+using RemapImage = std::function<void(const WorkImage& image, RemappedImage& result)>;
+
+// What all images of a call become.
 struct Target {
   const Palette& palette;
-  Remapper& remapper;
+  const ImageFormat& format;
+  RemapImage remap;
 };
 
-// The image is gone when the result is written: they need not fit into the memory with the bitmap.
-std::expected<RemappedImage, std::string> remapFile(const std::string& file, Remapper& remapper,
-                                                    const RemapVerbOptions& options, Console& console) {
+RemapImage remapperFor(const Palette& palette, const RemapVerbOptions& options) {
+  const auto remapBy = [&options](auto remapper) {
+    return [&options, remapper](const WorkImage& image, RemappedImage& result) {
+      NoProgress progress;
+      remapper->remap(image, options.remap, result, progress);
+    };
+  };
+  if (options.transparent) {
+    return remapBy(std::make_shared<TransparentRemapper>(palette, *options.transparent));
+  }
+  return remapBy(std::make_shared<Remapper>(palette));
+}
+
+// Maintained indexes are as transparent as they were.
+std::bitset<256> transparentEntries(const WorkImage& image, const RemapVerbOptions& options) {
+  if (options.remap.mode == RemapMode::maintain) {
+    return image.transparentIndexes();
+  }
+  std::bitset<256> entries;
+  if (options.transparent) {
+    entries.set(static_cast<std::size_t>(*options.transparent));
+  }
+  return entries;
+}
+
+struct Remapped {
+  RemappedImage image;
+  std::bitset<256> transparent;
+};
+
+// The image is gone when the result is written: they need not fit into the memory with the file.
+std::expected<Remapped, std::string> remapFile(const std::string& file, const Target& target,
+                                               const RemapVerbOptions& options, Console& console) {
   const auto image = readImage(file, options.blank, console);
   if (!image) {
     return Refusal(image.error());
@@ -77,20 +115,23 @@ std::expected<RemappedImage, std::string> remapFile(const std::string& file, Rem
   if (options.remap.mode == RemapMode::maintain && !image->palette()) {
     return Refusal("The image has no indexes to maintain. Use --mode nearest or --mode dither.");
   }
-  RemappedImage result;
-  NoProgress progress;
-  remapper.remap(*image, options.remap, result, progress);
-  return result;
+  Remapped remapped{{}, transparentEntries(*image, options)};
+  target.remap(*image, remapped.image);
+  return remapped;
 }
 
-std::expected<std::vector<std::uint8_t>, std::string> remappedBitmap(const std::string& file, const Target& target,
-                                                                     const RemapVerbOptions& options,
-                                                                     Console& console) try {
-  const auto result = remapFile(file, target.remapper, options, console);
-  if (!result) {
-    return Refusal(result.error());
+std::expected<std::vector<std::uint8_t>, std::string> composeResult(const std::string& file, const Target& target,
+                                                                    const RemapVerbOptions& options,
+                                                                    Console& console) try {
+  const auto remapped = remapFile(file, target, options, console);
+  if (!remapped) {
+    return Refusal(remapped.error());
   }
-  return composeBitmap({result->width(), result->height(), result->rows()}, target.palette, options.blank);
+  auto content = target.format.compose({remapped->image, target.palette, remapped->transparent, options.blank});
+  if (!content) {
+    return refusalOf(content.error());
+  }
+  return std::move(*content);
 } catch (const std::bad_alloc&) {
   return refusalOf(Failure::notEnoughMemory);
 }
@@ -98,12 +139,12 @@ std::expected<std::vector<std::uint8_t>, std::string> remappedBitmap(const std::
 // Reports a refusal and answers false.
 bool remapTo(const std::string& from, const std::string& to, const Target& target, const RemapVerbOptions& options,
              Console& console) {
-  const auto bitmap = remappedBitmap(from, target, options, console);
-  if (!bitmap) {
-    reportRefusal(console, from, bitmap.error());
+  const auto content = composeResult(from, target, options, console);
+  if (!content) {
+    reportRefusal(console, from, content.error());
     return false;
   }
-  const auto written = writeOutput(to, *bitmap, options.force, console);
+  const auto written = writeOutput(to, *content, options.force, console);
   if (!written) {
     reportRefusal(console, to, written.error());
   }
@@ -118,6 +159,13 @@ void checkUsage(const RemapVerbOptions& options) {
   if (options.remap.protectGrid && !dithers) {
     refuseUsage("--protect-grid", "goes with --mode dither");
   }
+  if (options.transparent && options.remap.mode == RemapMode::maintain) {
+    refuseUsage("--transparent",
+                "goes with --mode nearest or dither; maintained indexes stay as transparent as they are");
+  }
+  if (options.transparent && options.transparent == options.remap.protectedEntry) {
+    refuseUsage("--transparent", "names the entry of --protect-color, whose color is for opaque pixels");
+  }
   if (options.outDir && options.palette.empty()) {
     refuseUsage("--palette", "is needed with --out-dir");
   }
@@ -126,29 +174,37 @@ void checkUsage(const RemapVerbOptions& options) {
   }
 }
 
+std::expected<void, std::string> checkEntries(const Palette& palette, const RemapVerbOptions& options) {
+  const std::int32_t size = std::min(palette.getSize(), kMaxUsedEntries);
+  for (const auto& [option, entry] :
+       {std::pair{"--protect-color: ", options.remap.protectedEntry}, {"--transparent: ", options.transparent}}) {
+    const auto usable = entry ? checkEntry(*entry, size) : std::expected<void, std::string>();
+    if (!usable) {
+      return Refusal(option + usable.error());
+    }
+  }
+  if (options.transparent && size == 1) {
+    return Refusal("--transparent: The palette has no other entry for opaque pixels.");
+  }
+  return {};
+}
+
 ExitStatus remap(const RemapVerbOptions& options, Console& console) {
   checkUsage(options);
   const std::string& paletteFile = options.outDir ? options.palette : options.files[1];
+  const ImageFormat& format = chooseImageFormat(options.format, options.outDir ? "" : options.files[2]);
   const auto read = readFilePalette(paletteFile, {}, console);
-  if (!read) {
-    reportRefusal(console, paletteFile, read.error());
+  const auto usable = read ? checkEntries(read->palette, options) : Refusal(read.error());
+  if (!usable) {
+    reportRefusal(console, paletteFile, usable.error());
     return kRefused;
   }
-  const Palette& palette = read->palette;
-  if (const auto& entry = options.remap.protectedEntry) {
-    const auto usable = checkEntry(*entry, std::min(palette.getSize(), kMaxUsedEntries));
-    if (!usable) {
-      reportRefusal(console, paletteFile, "--protect-color: " + usable.error());
-      return kRefused;
-    }
-  }
-  Remapper remapper(palette);
-  const Target target{palette, remapper};
+  const Target target{read->palette, format, remapperFor(read->palette, options)};
   if (!options.outDir) {
     return remapTo(options.files[0], options.files[2], target, options, console) ? kDone : kRefused;
   }
   return writeIntoFolder(
-      {*options.outDir, "bmp", options.name, options.force}, options.files, console,
+      {*options.outDir, format.name, options.name, options.force}, options.files, console,
       [&](const std::string& from, const std::string& to) { return remapTo(from, to, target, options, console); });
 }
 
@@ -174,14 +230,13 @@ ProtectGrid parseGrid(const std::string& text) {
 }  // namespace
 
 void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
-  Verb verb = tool.addVerb("remap", "Turn images into bitmaps that use the colors of a palette");
+  Verb verb = tool.addVerb("remap", "Turn images into indexed ones that use the colors of a palette");
   const auto options = std::make_shared<RemapVerbOptions>();
   verb.addArgument("FILE", options->files,
-                   "IMAGE (bitmap, PNG, JPEG, PNM, PCX, LBM, clipboard file), PALETTE and OUT.bmp; with --out-dir any "
-                   "number of images "
-                   "and folders of them. - is standard input or output");
+                   "IMAGE (bitmap, PNG, JPEG, PNM, PCX, LBM, clipboard file), PALETTE and OUT (.bmp, .dib, .png); with "
+                   "--out-dir any number of images and folders of them. - is standard input or output");
   verb.addOption("--palette", options->palette, "The palette or image file whose colors are used, with --out-dir");
-  verb.addOption("--out-dir", options->outDir, "Write all bitmaps into this folder");
+  verb.addOption("--out-dir", options->outDir, "Write all results into this folder");
   verb.addOption("--name", options->name, "The file name that standard input is taken to have, with --out-dir");
   verb.addAction({"--mode", "NAME",
                   "maintain the indexes of an indexed image, take the nearest colors, or dither (default: nearest)",
@@ -190,7 +245,13 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
                   "An entry whose exact color is kept when dithering");
   verb.addAction({"--protect-grid", "WxH", "Cells that dithering treats each for itself, as in 16x16",
                   [options](const std::string& text) { options->remap.protectGrid = parseGrid(text); }});
-  addColorOption(verb, "--blank", options->blank, "The color of unused entries of the bitmap (default 0,0,0)");
+  addNumberOption(verb, "--transparent", options->transparent, {0, kMaxUsedEntries - 1},
+                  "The entry of pixels that are less than half opaque, and of no others (default: such pixels are "
+                  "blended with --blank)");
+  verb.addChoice("--format", options->format, namesOf(imageFormats()),
+                 "The format to write (default: what OUT's extension stands for, else bmp)");
+  addColorOption(verb, "--blank", options->blank,
+                 "The color of unused entries of a bitmap, and behind transparent pixels (default 0,0,0)");
   addForceFlag(verb, options->force);
   verb.onRun([options, &console, &status] { status = remap(*options, console); });
 }

@@ -39,10 +39,6 @@ void forEachBit(const std::vector<std::uint64_t>& bits, Visit visit) {
   }
 }
 
-bool isTransparent(const WorkImage& image, std::int32_t y, std::size_t x) {
-  return image.palette() ? image.transparentIndexes()[image.row(y)[x]] : image.transparentRow(y)[x] != 0;
-}
-
 ColorWord wordOf(const WorkImage& image, std::int32_t y, std::size_t x) {
   const auto row = image.row(y);
   if (const auto& palette = image.palette()) {
@@ -56,7 +52,7 @@ ColorWord wordOf(const WorkImage& image, std::int32_t y, std::size_t x) {
 void readWords(const WorkImage& image, std::int32_t y, std::vector<ColorWord>& words) {
   words.clear();
   for (std::size_t x = 0; x < static_cast<std::size_t>(image.width()); ++x) {
-    if (!image.hasTransparency() || !isTransparent(image, y, x)) {
+    if (!image.isTransparent(y, x)) {
       words.push_back(wordOf(image, y, x));
     }
   }

@@ -13,6 +13,9 @@ namespace quillhue {
 
 namespace {
 
+// What no pixel is.
+constexpr std::uint32_t kNoPixel = 0xFFFFFFFF;
+
 class DirectPixels {
  public:
   explicit DirectPixels(const WorkImage& image) : image_(image) {}
@@ -42,10 +45,45 @@ class DirectPixels {
   const WorkImage& image_;
 };
 
+// The same with `mark` for transparent pixels.
+class MaskedPixels {
+ public:
+  MaskedPixels(const WorkImage& image, std::uint32_t mark) : image_(image), pixels_(image), mark_(mark) {}
+
+  class Row {
+   public:
+    Row(DirectPixels::Row pixels, const std::uint8_t* transparent, std::uint32_t mark)
+        : pixels_(pixels), transparent_(transparent), mark_(mark) {}
+
+    [[nodiscard]] std::uint32_t at(std::ptrdiff_t x) const { return transparent_[x] != 0 ? mark_ : pixels_.at(x); }
+    [[nodiscard]] std::uint32_t atInner(std::ptrdiff_t x) const {
+      return transparent_[x] != 0 ? mark_ : pixels_.atInner(x);
+    }
+
+   private:
+    DirectPixels::Row pixels_;
+    const std::uint8_t* transparent_;
+    std::uint32_t mark_;
+  };
+
+  [[nodiscard]] Row row(std::int32_t y) const { return {pixels_.row(y), image_.transparentRow(y).data(), mark_}; }
+
+ private:
+  const WorkImage& image_;
+  DirectPixels pixels_;
+  std::uint32_t mark_;
+};
+
 class IndexedPixels {
  public:
   IndexedPixels(const WorkImage& image, const Palette& palette) : image_(image) {
     std::ranges::transform(entriesOf(palette), colors_.begin(), pixelOf);
+  }
+  // With `mark` for transparent indexes.
+  IndexedPixels(const WorkImage& image, const Palette& palette, std::uint32_t mark) : IndexedPixels(image, palette) {
+    for (std::size_t index = 0; index < colors_.size(); ++index) {
+      colors_[index] = image.transparentIndexes()[index] ? mark : colors_[index];
+    }
   }
 
   class Row {
@@ -201,8 +239,7 @@ class Diffusion final : public ErrorDiffusion {
   RemappedImage& result_;
   std::ptrdiff_t width_;
   std::int32_t row_ = 0;
-  // No pixel is like this unless a color is protected.
-  std::uint32_t protectedPixel_ = 0xFFFFFFFF;
+  std::uint32_t protectedPixel_ = kNoPixel;
   std::uint8_t protectedIndex_ = 0;
   // For each entry 16 times its color.
   std::array<ColorLanes, 256> sixteenfold_{};
@@ -247,6 +284,17 @@ std::unique_ptr<ErrorDiffusion> diffuse(Pixels pixels, NearestEntry& nearest, co
   return diffuse<ManyColors>(std::move(pixels), nearest, limits, result);
 }
 
+// Protected pixels take and leave no errors, so transparent ones are made like them.
+std::unique_ptr<ErrorDiffusion> diffuseAround(const WorkImage& image, NearestEntry& nearest,
+                                              const ErrorDiffusion::Limits& limits, RemappedImage& result) {
+  const auto& entry = limits.protectedEntry;
+  const std::uint32_t mark = entry ? pixelOf(nearest.colors()[*entry]) : kNoPixel;
+  if (const auto& palette = image.palette()) {
+    return diffuse(IndexedPixels(image, *palette, mark), nearest, limits, result);
+  }
+  return diffuse(MaskedPixels(image, mark), nearest, limits, result);
+}
+
 }  // namespace
 
 std::unique_ptr<ErrorDiffusion> diffuseErrors(const WorkImage& image, NearestEntry& nearest,
@@ -254,6 +302,9 @@ std::unique_ptr<ErrorDiffusion> diffuseErrors(const WorkImage& image, NearestEnt
                                               RemappedImage& result) {
   if (nearest.colors().size() == 1) {
     return std::make_unique<OneColor>(result);
+  }
+  if (limits && limits->skipsTransparent && image.hasTransparency()) {
+    return diffuseAround(image, nearest, *limits, result);
   }
   if (const auto& palette = image.palette()) {
     return diffuse(IndexedPixels(image, *palette), nearest, limits, result);

@@ -19,6 +19,8 @@ class ErrorDiffusion {
     std::optional<std::uint8_t> protectedEntry;
     std::int32_t gridWidth;
     std::int32_t gridHeight;
+    /// Transparent pixels get any index, and neither take nor leave errors.
+    bool skipsTransparent = false;
   };
 
   /// How many rows are remapped fastest together: one row waits for itself at each pixel, and the others fill the time.

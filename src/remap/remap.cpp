@@ -67,7 +67,7 @@ void nearestRow(NearestEntry& nearest, std::span<const std::uint8_t> pixels, std
 
 std::optional<ErrorDiffusion::Limits> limitsOf(const RemapOptions& options, const WorkImage& image,
                                                std::size_t colors) {
-  ErrorDiffusion::Limits limits{{}, image.width(), image.height()};
+  ErrorDiffusion::Limits limits{{}, image.width(), image.height(), options.skipsTransparent};
   if (options.protectGrid) {
     limits.gridWidth = std::clamp(options.protectGrid->width, 1, ProtectGrid::kMaxSide);
     limits.gridHeight = std::clamp(options.protectGrid->height, 1, ProtectGrid::kMaxSide);
@@ -76,7 +76,7 @@ std::optional<ErrorDiffusion::Limits> limitsOf(const RemapOptions& options, cons
   if (entry >= 0 && entry < static_cast<std::int32_t>(colors)) {
     limits.protectedEntry = static_cast<std::uint8_t>(entry);
   }
-  if (!options.protectGrid && !limits.protectedEntry) {
+  if (!options.protectGrid && !limits.protectedEntry && !options.skipsTransparent) {
     return {};
   }
   return limits;

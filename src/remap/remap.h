@@ -37,6 +37,8 @@ struct RemapOptions {
   std::optional<std::int32_t> protectedEntry;
   /// Sides outside 1 .. ProtectGrid::kMaxSide count as the nearest ones inside.
   std::optional<ProtectGrid> protectGrid;
+  /// In error diffusion transparent pixels get any index, and neither take nor leave errors.
+  bool skipsTransparent = false;
 };
 
 /// Hears how far a run is, after rows 0, 16, 32 and so on of an image of direct colors or one that is dithered.

@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
 #include <sstream>
 
 #include "cli/application.h"
 #include "core/utf8.h"
+#include "pictures/picture_decoder.h"
 #include "support/bitmaps.h"
 #include "support/scratch_folder.h"
+#include "support/shown_image.h"
 #include "support/table.h"
 
 namespace quillhue::cli {
@@ -68,6 +71,15 @@ TEST(Tool, ShowsBlocksOfColorInATerminal) {
   EXPECT_NE(call({"info", "samples/32.gif"}, true).out.find("48;2;159;208;252;38;2;0;0;0m"), std::string::npos);
   // Four cells of 15 characters fit into 80.
   EXPECT_EQ(std::ranges::count(call({"info", "samples/32.gif"}, true).out, '\n'), 1 + 8);
+}
+
+TEST(Tool, RemapsIntoPngAsTheTableSays) {
+  for (const auto& row : readTable("remapped.txt")) {
+    std::istringstream words("remap " + row.at(0) + " --format png");
+    std::vector<std::string> arguments{std::istream_iterator<std::string>(words), {}};
+    arguments.insert(arguments.begin() + 3, "-");
+    EXPECT_EQ(shown(kPngPicture.decode(bytesOf(call(arguments).out), {10, 20, 30})), row.at(1)) << row[0];
+  }
 }
 
 TEST(Tool, TakesAtMost1024ColorsOfAnImage) {

@@ -67,6 +67,7 @@ class Ditherer {
       : image_(image),
         colors_(std::move(colors)),
         protectedEntry_(options.protectedEntry.value_or(-1)),
+        skipsTransparent_(options.skipsTransparent),
         below_(static_cast<std::size_t>(image.width())) {
     if (const auto& grid = options.protectGrid) {
       grid_ = {std::clamp(grid->width, 1, ProtectGrid::kMaxSide), std::clamp(grid->height, 1, ProtectGrid::kMaxSide)};
@@ -84,6 +85,11 @@ class Ditherer {
     Color carried{};
     for (std::int32_t x = 0; x < image_.width(); ++x) {
       const auto column = static_cast<std::size_t>(x);
+      if (skipsTransparent_ && image_.isTransparent(y, column)) {
+        indexes[column] = 0;
+        carried = {};
+        continue;
+      }
       const Color pixel = pixelAt(image_, x, y);
       if (protectedEntry_ >= 0 && pixel == colors_[static_cast<std::size_t>(protectedEntry_)]) {
         indexes[column] = static_cast<std::uint8_t>(protectedEntry_);
@@ -124,6 +130,7 @@ class Ditherer {
   const WorkImage& image_;
   std::vector<Color> colors_;
   std::int32_t protectedEntry_;
+  bool skipsTransparent_;
   ProtectGrid grid_;
   std::vector<Color> below_;
 };
