@@ -6,6 +6,10 @@ add_library(quillhue_house INTERFACE)
 target_include_directories(quillhue_house INTERFACE ${QUILLHUE_SOURCE_ROOT})
 target_compile_definitions(quillhue_house INTERFACE QUILLHUE_VERSION="${PROJECT_VERSION}")
 target_compile_options(quillhue_house INTERFACE -Wall -Wextra -Wconversion -Wshadow -Wold-style-cast -Werror)
+if(WIN32)
+  target_compile_definitions(quillhue_house INTERFACE
+    UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN STRICT _WIN32_WINNT=0x0A00)
+endif()
 if(QUILLHUE_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_compile_options(${sanitizers})
@@ -28,11 +32,32 @@ endforeach()
 add_library(quillhue_headers INTERFACE)
 target_include_directories(quillhue_headers SYSTEM INTERFACE ${headers})
 
+# Sets `result` to the files below the current folder that match the patterns. Brackets in the folder's own name are no
+# pattern.
+function(quillhue_glob kind result)
+  string(REPLACE "[" "[[]" folder "${CMAKE_CURRENT_SOURCE_DIR}")
+  list(TRANSFORM ARGN PREPEND "${folder}/")
+  file(${kind} files CONFIGURE_DEPENDS ${ARGN})
+  set(${result} ${files} PARENT_SCOPE)
+endfunction()
+
+# Precompiled headers only save time: each file includes what it uses, and the checks compile without them. Targets with
+# the same options share those of the first.
+set(QUILLHUE_STANDARD_HEADERS <algorithm> <array> <cstdint> <expected> <functional> <memory> <optional> <span> <string>
+  <string_view> <utility> <variant> <vector>)
+function(quillhue_precompile target owner)
+  if(target STREQUAL owner)
+    target_precompile_headers(${target} PRIVATE ${QUILLHUE_STANDARD_HEADERS} ${ARGN})
+  else()
+    target_precompile_headers(${target} REUSE_FROM ${owner})
+  endif()
+endfunction()
+
 # Builds a folder of src/ as a static library. The target of ui/logic is quillhue_ui_logic.
 function(quillhue_library folder)
   cmake_parse_arguments(PARSE_ARGV 1 library "" "" "EXCLUDE;LINK")
   string(REPLACE "/" "_" name ${folder})
-  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
+  quillhue_glob(GLOB_RECURSE sources ${folder}/*.cpp)
   foreach(pattern IN LISTS library_EXCLUDE)
     list(FILTER sources EXCLUDE REGEX ${pattern})
   endforeach()

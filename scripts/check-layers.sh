@@ -26,17 +26,13 @@ complain() {
   status=1
 }
 
-layer_of() {
-  case $1 in
-    src/ui/logic/*) echo src/ui/logic ;;
-    src/ui/win32/*) echo src/ui/win32 ;;
-    *) cut -d/ -f1-2 <<<"$1" ;;
-  esac
-}
-
 while IFS=: read -r file line include; do
-  layer=$(layer_of "$file")
-  path=$(sed -E 's/^[^<"]*[<"]([^>"]+)[>"].*$/\1/' <<<"$include")
+  case $file in
+    src/ui/logic/*) layer=src/ui/logic ;;
+    src/ui/win32/*) layer=src/ui/win32 ;;
+    *) layer=${file#src/} layer=src/${layer%%/*} ;;
+  esac
+  path=${include#*[<\"]} path=${path%%[>\"]*}
   if [ -z "${allowed[$layer]+known}" ]; then
     complain "$file: the folder is no layer of src/README.md"
     continue

@@ -3,6 +3,7 @@
 #include <expected>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "core/services.h"
 #include "core/utf8.h"

@@ -1,6 +1,8 @@
+#include <chrono>
 #include <concepts>
 #include <cstdlib>
 #include <iostream>
+#include <optional>
 #include <random>
 
 #include "commands/command_ids.h"
@@ -18,16 +20,20 @@
 namespace quillhue {
 namespace {
 
-constexpr int kActions = 2000;
 // The field for red in the system's color chooser.
 constexpr int kColorRed = 706;
 
-/// Does what comes to mind: always the same for the same seed, which QUILLHUE_SOAK_SEED may give.
+// The environment's number, if it has one of that name.
+unsigned setting(const char* name, unsigned otherwise) {
+  const char* const given = std::getenv(name);
+  return given != nullptr ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : otherwise;
+}
+
+/// Does what comes to mind, for QUILLHUE_SOAK_SECONDS: always the same for the same QUILLHUE_SOAK_SEED.
 class Soak : public UiTest {
  protected:
   Soak() {
-    const char* const given = std::getenv("QUILLHUE_SOAK_SEED");
-    const unsigned seed = given != nullptr ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : 20'260'704U;
+    const unsigned seed = setting("QUILLHUE_SOAK_SEED", 20'260'704U);
     std::cout << "QUILLHUE_SOAK_SEED=" << seed << '\n';
     random_.seed(seed);
   }
@@ -156,17 +162,22 @@ class Soak : public UiTest {
 
 TEST_F(Soak, EndsWithADocumentThatCanBeSaved) {
   const Editor& editor = open(brightPalette(16));
-  ResourceCount before;
-  for (int i = 0; i < kActions; ++i) {
-    SCOPED_TRACE("action " + std::to_string(i));
-    if (i == kActions / 5) {
+  const std::chrono::seconds length(setting("QUILLHUE_SOAK_SECONDS", 60));
+  const auto start = std::chrono::steady_clock::now();
+  const auto isPast = [&](std::chrono::seconds time) { return std::chrono::steady_clock::now() - start >= time; };
+  std::optional<ResourceCount> before;
+  int actions = 0;
+  while (!isPast(length)) {
+    SCOPED_TRACE("action " + std::to_string(actions++));
+    if (!before && isPast(length / 5)) {
       before = countResources(editor);
     }
     act();
     editor.awaitInput();
     answerAll();
   }
-  expectNoLeak(editor, before, 40);
+  std::cout << actions << " actions\n";
+  expectNoLeak(editor, before.value(), 40);
   const std::string saved = saveTo("saved");
   editor.drop({folder_.name("saved")});
   editor.awaitTitle(L"Quillhue - saved");
