@@ -248,6 +248,16 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
       closeAsked();
       return 0;
+    case kRunEndedMessage:
+      runEnded();
+      return 0;
+    default:
+      return answerSystem(message, wParam, lParam);
+  }
+}
+
+LRESULT MainWindow::answerSystem(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
     case WM_QUERYENDSESSION:
       return maySessionEnd() ? TRUE : FALSE;
     case WM_ENDSESSION:
@@ -267,9 +277,6 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       // The system sends these messages to top-level windows only.
       passToChildren(handle(), message, wParam, lParam);
       repaintAll(handle());
-      return 0;
-    case kRunEndedMessage:
-      runEnded();
       return 0;
     default:
       return screen_ != nullptr ? screen_->otherMessage(handle(), message, wParam, lParam)
@@ -291,14 +298,14 @@ void MainWindow::created() {
   SendMessageW(statusBar_, SB_SETTEXTW, kVersionPart, reinterpret_cast<LPARAM>(fromUtf8(kVersionText).c_str()));
   contextMenus_.reset(LoadMenuW(GetModuleHandleW(nullptr), L"MAINPOPUP"));
   parts_.dialogOwner.set(handle(), font_.get(), scale);
-  context_.emplace(WindowContext{.window = handle(),
-                                 .font = font_.get(),
-                                 .scale = scale,
-                                 .slot = parts_.slot,
-                                 .services = services_,
-                                 .windowServices = parts_.services,
-                                 .focus = focus_,
-                                 .frame = *this});
+  context_ = std::make_unique<WindowContext>(WindowContext{.window = handle(),
+                                                           .font = font_.get(),
+                                                           .scale = scale,
+                                                           .slot = parts_.slot,
+                                                           .services = services_,
+                                                           .windowServices = parts_.services,
+                                                           .focus = focus_,
+                                                           .frame = *this});
   screen_ = parts_.makeIntro(*context_);
   updateMenus();
 }

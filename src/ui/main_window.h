@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -61,6 +60,8 @@ class MainWindow final : public CustomWindow, public DocumentObserver, private W
 
  private:
   LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override;
+  /// Answers messages about the session, the focus and the look of the system; the screen gets all others.
+  LRESULT answerSystem(UINT message, WPARAM wParam, LPARAM lParam);
 
   [[nodiscard]] Rect screenArea() const override;
   void updateMenus() override;
@@ -96,7 +97,7 @@ class MainWindow final : public CustomWindow, public DocumentObserver, private W
   Menu contextMenus_;
   FocusKeeper focus_;
   // Used by the screens. Set when the window is created.
-  std::optional<WindowContext> context_;
+  std::unique_ptr<WindowContext> context_;
   std::unique_ptr<MainUI> screen_;
   bool runIsOn_ = false;
   bool closesAfterRun_ = false;

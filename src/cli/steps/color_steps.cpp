@@ -44,36 +44,29 @@ ParsedStep parseEffect(const std::string& argument) {
 }
 
 // Chooses among the commands of a step by its argument.
-template <const char* kStep>
-ParsedStep parseChoice(const std::string& argument) {
-  const Command* const command = findStep(kStep, argument);
+ParsedStep parseChoice(std::string_view step, const std::string& argument) {
+  const Command* const command = findStep(step, argument);
   if (argument.empty() || command == nullptr) {
-    return Refusal(refusedName(argument, stepArguments(kStep)));
+    return Refusal(refusedName(argument, stepArguments(step)));
   }
   return stepOf(*command);
 }
-constexpr char kSwap[] = "swap";
-constexpr char kSort[] = "sort";
 
-template <const char* kStep>
-ParsedStep parseCommand(const std::string& /*argument*/) {
-  return stepOf(*findStep(kStep));
-}
-constexpr char kGradient[] = "gradient";
-constexpr char kBrightGradient[] = "bright-gradient";
-constexpr char kReverse[] = "reverse";
-
-ParsedStep parseFill(const std::string& argument) { return entryStepOf(argument, *findStep("fill")); }
+using Argument = const std::string&;
 
 constexpr std::array<StepKind, 7> kSteps{{
     {"--effect", "NAME=VALUE", "Apply an effect (listed by the verb effects)", parseEffect},
-    {"--gradient", nullptr, "Make a gradient from the first selected color to the last", parseCommand<kGradient>},
-    {"--bright-gradient", nullptr, "Make a gradient that is brighter in the middle", parseCommand<kBrightGradient>},
-    {"--swap", "rg|gb|br", "Exchange two channels", parseChoice<kSwap>},
-    {"--reverse", nullptr, "Reverse the order of the selected colors", parseCommand<kReverse>},
+    {"--gradient", nullptr, "Make a gradient from the first selected color to the last",
+     [](Argument) -> ParsedStep { return stepOf(*findStep("gradient")); }},
+    {"--bright-gradient", nullptr, "Make a gradient that is brighter in the middle",
+     [](Argument) -> ParsedStep { return stepOf(*findStep("bright-gradient")); }},
+    {"--swap", "rg|gb|br", "Exchange two channels", [](Argument argument) { return parseChoice("swap", argument); }},
+    {"--reverse", nullptr, "Reverse the order of the selected colors",
+     [](Argument) -> ParsedStep { return stepOf(*findStep("reverse")); }},
     {"--sort", "KEY", "Sort the selected colors by intensity, red, green, blue or deviation from their mean",
-     parseChoice<kSort>},
-    {"--fill", "N", "Fill the selected entries with the color of entry N", parseFill},
+     [](Argument argument) { return parseChoice("sort", argument); }},
+    {"--fill", "N", "Fill the selected entries with the color of entry N",
+     [](Argument argument) { return entryStepOf(argument, *findStep("fill")); }},
 }};
 
 }  // namespace

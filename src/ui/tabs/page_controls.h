@@ -23,7 +23,7 @@ class PageControls {
   /// Adds a field that belongs to the caller. Its address must stay valid.
   void add(NumberField& field, Box box) { fields_.push_back({&field, box}); }
 
-  void move(const Layout& layout) {
+  void move(const Layout& layout) const {
     for (const Row& row : rows_) {
       if (row.box != nullptr) {
         moveTo(row.control.get(), layout.*row.box);
@@ -33,7 +33,7 @@ class PageControls {
       row.field->move(layout.*row.box);
     }
   }
-  void show(bool visible) {
+  void show(bool visible) const {
     for (const Row& row : rows_) {
       quillhue::show(row.control.get(), visible);
     }
@@ -42,7 +42,7 @@ class PageControls {
     }
   }
   /// Passes UDN_DELTAPOS to the fields (see NumberField::takesStep()). Returns true if one of them has taken the step.
-  [[nodiscard]] bool step(const NMHDR& notification) {
+  [[nodiscard]] bool step(const NMHDR& notification) const {
     for (const FieldRow& row : fields_) {
       if (row.field->takesStep(notification)) {
         return true;

@@ -25,9 +25,9 @@ void sendKey(int key, DWORD flags) {
 
 void activate(const Program& program) {
   program.await("the foreground", [&] {
-    // A dialog that is about to end may be the last active one still, and takes keys that are for nobody.
-    HWND popup = GetLastActivePopup(program.window());
-    HWND wanted = IsWindowVisible(popup) != 0 ? popup : program.window();
+    // A hidden dialog that is about to end would still take keys.
+    HWND dialog = program.topWindow(kDialogClass);
+    HWND wanted = dialog != nullptr ? dialog : program.window();
     if (GetForegroundWindow() == wanted && IsWindowEnabled(wanted) != 0) {
       return true;
     }
