@@ -19,12 +19,13 @@ expect() {
 }
 
 examples=$(awk '/^## / { on = $0 == "## In scripts" } on && /^    / { print substr($0, 5) }' "$readme")
-expect 'examples' "$(grep -c '^quillhue-cli\|^for' <<<"$examples")" 6
+expect 'examples' "$(grep -c '^quillhue-cli\|^for' <<<"$examples")" 8
 eval "$examples"
 
 expect 'red team' "$(entry harbour.gpl 18)" '134 50 44'
 expect 'blue team' "$(entry blue-team.gpl 18)" '44 50 134'
 expect 'not in the ramp' "$(entry blue-team.gpl 24)" '44 28 52'
+expect 'blue soldier' "$(entry blue-soldier.png 18)" '44 50 134'
 expect 'half faded' "$(entry fade-50.act 31)" '92 88 84'
 expect 'all faded' "$(entry fade-0.act 15)" '0 0 0'
 expect 'water, first frame' "$(entry water-1.gpl 0)" '196 232 228'
