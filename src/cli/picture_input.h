@@ -2,8 +2,6 @@
 
 #include <span>
 
-#include "core/palette_entry.h"
-#include "formats/images/image_loader.h"
 #include "formats/readers/palette_reader.h"
 
 namespace quillhue::cli {
@@ -14,9 +12,5 @@ namespace quillhue::cli {
 
 /// Returns the reader for such an image, or null.
 [[nodiscard]] const PaletteReader* findPictureReader(const ReaderInput& input);
-
-/// Loads such an image, with or without a palette, and blends transparent pixels with `blank`. Refuses with
-/// unrecognisedType any other file.
-[[nodiscard]] ImageResult loadPicture(ByteSource& source, PaletteEntry blank);
 
 }  // namespace quillhue::cli

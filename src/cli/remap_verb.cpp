@@ -16,11 +16,11 @@
 #include "cli/input.h"
 #include "cli/output.h"
 #include "cli/output_folder.h"
-#include "cli/picture_input.h"
 #include "cli/verbs.h"
 #include "core/utf8.h"
 #include "formats/files.h"
 #include "formats/images/image_loaders.h"
+#include "pictures/picture_file.h"
 #include "remap/transparent_remap.h"
 
 namespace quillhue::cli {

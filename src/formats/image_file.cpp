@@ -7,9 +7,13 @@
 
 namespace quillhue {
 
-bool loadImageFile(const std::wstring& fileName, std::optional<WorkImage>& image, Messages& messages) {
+bool loadImageFile(const std::wstring& fileName, std::optional<WorkImage>& image, Messages& messages,
+                   const LoadOtherImage& loadOther) {
   const auto source = openFile(fileName);
   ImageResult loaded = source ? loadImage(**source) : std::unexpected(source.error());
+  if (!loaded && loaded.error() == Failure::unrecognisedType && loadOther) {
+    loaded = loadOther(**source);
+  }
   if (!loaded) {
     messages.error(textOf(loaded.error()));
     return false;

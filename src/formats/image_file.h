@@ -1,15 +1,20 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
 #include "core/services.h"
-#include "formats/work_image.h"
+#include "formats/images/image_loader.h"
 
 namespace quillhue {
 
-/// Replaces `image` with an image file. If the file can't be loaded, shows one error message, keeps the image and
-/// returns false.
-[[nodiscard]] bool loadImageFile(const std::wstring& fileName, std::optional<WorkImage>& image, Messages& messages);
+/// Loads images of formats that loadImage does not recognise. Refuses all others with unrecognisedType.
+using LoadOtherImage = std::function<ImageResult(ByteSource& source)>;
+
+/// Replaces `image` with an image file, which `loadOther` is asked for if its format is not recognised. If the file
+/// can't be loaded, shows one error message, keeps the image and returns false.
+[[nodiscard]] bool loadImageFile(const std::wstring& fileName, std::optional<WorkImage>& image, Messages& messages,
+                                 const LoadOtherImage& loadOther = {});
 
 }  // namespace quillhue

@@ -1,6 +1,8 @@
 #include <functional>
 
 #include "commands/command_ids.h"
+#include "formats/work_image.h"
+#include "pictures/png_encoder.h"
 #include "ui/support/input.h"
 #include "ui/support/menus.h"
 #include "ui/support/use_test.h"
@@ -50,6 +52,43 @@ TEST_F(Use, ImagesComeFromDialogDropAndClipboard) {
   // The document is the same, and so are its name and its steps.
   EXPECT_EQ(show(editor().saved()), show(brightPalette(16)));
   EXPECT_FALSE(isOffered(editor(), command_id::kUndo));
+}
+
+// By the system's decoders and encoder, in place of a refusal.
+TEST_F(Use, OtherImagesComeInAndPngGoesOut) {
+  open(brightPalette(20));
+  Bytes rows(paddedRowLength(9) * 4, 7);
+  rows[1] = 3;
+  const std::vector<PaletteEntry> colors = entriesOf(imageColors_);
+  const Bytes png = composePng({{9, 4, rows}, colors, std::bitset<256>().set(3)}).value();
+  const auto awaitImage = [&](PaletteEntry first) {
+    editor().await("the image", [&] { return showsImage(); });
+    awaitShown({0, 0}, first);
+  };
+  editor().click(L"&Load...");
+  chooseFile(editor(), L"Open", folder_.file("image.png", png));
+  awaitImage(imageColors_.entry(7));
+  // What is transparent has the blank color.
+  awaitShown({1, 0}, {0, 0, 0});
+  load(direct_);
+  process();
+  EXPECT_EQ(result(L".png"), toolsResult(direct_, L"nearest", {}, L".png"));
+  // A pixel of (200, 100, 50).
+  load(folder_.file("image.gif",
+                    bytesOf({"GIF89a\1\0\1\0\x80\0\0\xC8\x64\x32\0\0\0,\0\0\0\0\1\0\1\0\0\2\2D\1\0;", 35})));
+  awaitImage({200, 100, 50});
+  {
+    ClipboardAccess clipboard(nullptr);
+    clipboard.empty();
+    EXPECT_TRUE(clipboard.put(RegisterClipboardFormatW(L"PNG"), png));
+  }
+  editor().run(command_id::kPaste);
+  awaitImage(imageColors_.entry(7));
+  editor().drop({folder_.file("none.jpg", bytesOf("\xFF\xD8\xFF\xE0"))}, view());
+  EXPECT_EQ(answerMessage(editor(), L"Error", IDOK), L"This image file is damaged or incomplete.");
+  editor().drop({folder_.file("none.txt", bytesOf("no image"))}, view());
+  EXPECT_EQ(answerMessage(editor(), L"Error", IDOK), L"Quillhue could not recognise this file type.");
+  awaitImage(imageColors_.entry(7));
 }
 
 TEST_F(Use, ControlsFollowTheImageAndTheMode) {

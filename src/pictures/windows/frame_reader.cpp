@@ -36,17 +36,29 @@ constexpr std::array<KnownFormat, 18> kFormats{{
     {GUID_WICPixelFormat32bppCMYK, {SampleKind::ink, false, 8, 255}},
 }};
 
-ComPointer<IWICBitmapSource> openFrame(IWICImagingFactory& factory, PictureBytes file, const GUID& container) {
+ComPointer<IWICBitmapDecoder> openDecoder(IWICImagingFactory& factory, IStream& stream, const GUID* container) {
+  if (container == nullptr) {
+    return made<IWICBitmapDecoder>([&](IWICBitmapDecoder** out) {
+      return factory.CreateDecoderFromStream(&stream, nullptr, WICDecodeMetadataCacheOnDemand, out);
+    });
+  }
+  auto decoder =
+      made<IWICBitmapDecoder>([&](IWICBitmapDecoder** out) { return factory.CreateDecoder(*container, nullptr, out); });
+  if (decoder && FAILED(decoder->Initialize(&stream, WICDecodeMetadataCacheOnDemand))) {
+    decoder.reset();
+  }
+  return decoder;
+}
+
+ComPointer<IWICBitmapSource> openFrame(IWICImagingFactory& factory, PictureBytes file, const GUID* container) {
   const auto stream = made<IWICStream>([&](IWICStream** out) { return factory.CreateStream(out); });
-  const auto decoder =
-      made<IWICBitmapDecoder>([&](IWICBitmapDecoder** out) { return factory.CreateDecoder(container, nullptr, out); });
   // The stream only reads, although its interface takes writable memory.
-  if (!stream || !decoder ||
-      FAILED(stream->InitializeFromMemory(const_cast<BYTE*>(file.data()), static_cast<DWORD>(file.size()))) ||
-      FAILED(decoder->Initialize(stream.get(), WICDecodeMetadataCacheOnDemand))) {
+  if (!stream ||
+      FAILED(stream->InitializeFromMemory(const_cast<BYTE*>(file.data()), static_cast<DWORD>(file.size())))) {
     return {};
   }
-  return made<IWICBitmapSource>([&](IWICBitmapSource** out) {
+  const auto decoder = openDecoder(factory, *stream, container);
+  return !decoder ? nullptr : made<IWICBitmapSource>([&](IWICBitmapSource** out) {
     IWICBitmapFrameDecode* frame = nullptr;
     const HRESULT result = decoder->GetFrame(0, &frame);
     *out = frame;
@@ -75,7 +87,7 @@ std::optional<SampleFormat> formatOf(IWICBitmapSource& source) {
 
 }  // namespace
 
-Frame::Frame(PictureBytes file, const GUID& container) {
+Frame::Frame(PictureBytes file, const GUID* container) {
   if (imaging_.factory() == nullptr) {
     return;
   }
@@ -87,23 +99,46 @@ Frame::Frame(PictureBytes file, const GUID& container) {
 
 std::optional<SampleFormat> Frame::format() const { return source_ ? formatOf(*source_) : std::nullopt; }
 
-bool Frame::read(std::int32_t width, std::int32_t height, SampleRows& rows, const SampleFormat& format) {
-  UINT columns = 0;
-  UINT lines = 0;
-  if (FAILED(source_->GetSize(&columns, &lines)) || columns != static_cast<UINT>(width) ||
-      lines != static_cast<UINT>(height)) {
-    return false;
+Frame::Size Frame::size() const {
+  UINT width = 0;
+  UINT height = 0;
+  return SUCCEEDED(source_->GetSize(&width, &height)) ? Size{width, height} : Size{};
+}
+
+std::optional<PictureColors> Frame::colors() const {
+  const auto palette = made<IWICPalette>([&](IWICPalette** out) { return imaging_.factory()->CreatePalette(out); });
+  std::array<WICColor, 256> entries{};
+  UINT count = 0;
+  if (!palette || FAILED(source_->CopyPalette(palette.get())) ||
+      FAILED(palette->GetColors(static_cast<UINT>(entries.size()), entries.data(), &count))) {
+    return {};
   }
+  PictureColors colors{.palette = createPalette(static_cast<std::int32_t>(entries.size())), .coverage = {}};
+  colors.coverage.fill(255);
+  for (std::size_t i = 0; i < count; ++i) {
+    const WICColor entry = entries.at(i);
+    colors.palette.setEntry(static_cast<std::int32_t>(i),
+                            {static_cast<std::uint8_t>(entry >> 16), static_cast<std::uint8_t>(entry >> 8),
+                             static_cast<std::uint8_t>(entry)});
+    colors.coverage.at(i) = static_cast<std::uint8_t>(entry >> 24);
+  }
+  return colors;
+}
+
+bool Frame::read(SampleRows& rows, const SampleFormat& format) {
+  const auto [width, height] = size();
   const std::size_t stride = format.rowLength(static_cast<std::size_t>(width));
-  const auto rowsAtOnce = static_cast<std::int32_t>(std::clamp<std::size_t>(kBytesAtOnce / stride, 1, lines));
+  const auto rowsAtOnce =
+      std::clamp<std::int64_t>(static_cast<std::int64_t>(kBytesAtOnce / std::max<std::size_t>(stride, 1)), 1, height);
   std::vector<std::uint8_t> strip(static_cast<std::size_t>(rowsAtOnce) * stride);
-  for (std::int32_t top = 0; top < height; top += rowsAtOnce) {
-    const WICRect area{0, top, width, std::min(rowsAtOnce, height - top)};
+  for (std::int64_t top = 0; top < height; top += rowsAtOnce) {
+    const WICRect area{0, static_cast<INT>(top), static_cast<INT>(width),
+                       static_cast<INT>(std::min(rowsAtOnce, height - top))};
     if (FAILED(source_->CopyPixels(&area, static_cast<UINT>(stride), static_cast<UINT>(strip.size()), strip.data()))) {
       return false;
     }
-    for (std::int32_t i = 0; i < area.Height; ++i) {
-      rows.store(top + i, std::span(strip).subspan(static_cast<std::size_t>(i) * stride, stride));
+    for (INT i = 0; i < area.Height; ++i) {
+      rows.store(area.Y + i, std::span(strip).subspan(static_cast<std::size_t>(i) * stride, stride));
     }
   }
   return true;

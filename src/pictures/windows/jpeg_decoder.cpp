@@ -6,11 +6,11 @@ namespace quillhue {
 PictureResult decodeJpegSamples(PictureBytes file, const JpegHeader& header) {
   Frame frame(file, GUID_ContainerFormatJpeg);
   const auto format = frame.format();
-  if (!format || format->kind == SampleKind::index) {
+  if (!format || format->kind == SampleKind::index || frame.size() != Frame::Size{header.width, header.height}) {
     return std::unexpected(Failure::pictureDamaged);
   }
   SampleRows rows(header.width, header.height, *format, {});
-  if (!frame.read(header.width, header.height, rows, *format)) {
+  if (!frame.read(rows, *format)) {
     return std::unexpected(Failure::pictureDamaged);
   }
   return rows.take();

@@ -1,5 +1,7 @@
 #include "ui/services/clipboard.h"
 
+#include <utility>
+
 #include "ui/win32/clipboard.h"
 #include "ui/win32/logical_palette.h"
 
@@ -29,8 +31,15 @@ bool Clipboard::putBitmap(std::span<const std::uint8_t> block) {
   return clipboard.put(CF_DIB, block);
 }
 
-std::optional<std::vector<std::uint8_t>> Clipboard::getBitmap() const {
-  return ClipboardAccess(owner_.window()).bytes(CF_DIB);
+std::optional<Clipboard::Image> Clipboard::getImage() const {
+  const ClipboardAccess clipboard(owner_.window());
+  if (auto bitmap = clipboard.bytes(CF_DIB)) {
+    return Image{.isPng = false, .bytes = std::move(*bitmap)};
+  }
+  if (auto png = clipboard.bytes(RegisterClipboardFormatW(L"PNG"))) {
+    return Image{.isPng = true, .bytes = std::move(*png)};
+  }
+  return std::nullopt;
 }
 
 }  // namespace quillhue

@@ -11,7 +11,7 @@
 
 namespace quillhue {
 
-/// Puts palettes (CF_PALETTE) and bitmaps (CF_DIB) on the system's clipboard, and reads them.
+/// Puts palettes (CF_PALETTE) and bitmaps (CF_DIB) on the system's clipboard, and reads them and PNG files.
 class Clipboard final : public PaletteClipboard {
  public:
   /// `owner` becomes the owner of the data on the clipboard.
@@ -23,8 +23,14 @@ class Clipboard final : public PaletteClipboard {
   /// Replaces the clipboard's content by a device-independent bitmap: header, colors, pixels. Returns false if the
   /// clipboard can't be opened or refuses the bitmap.
   [[nodiscard]] bool putBitmap(std::span<const std::uint8_t> block);
-  /// Returns the bitmap, or nothing if there is none or the clipboard can't be opened. Throws std::bad_alloc.
-  [[nodiscard]] std::optional<std::vector<std::uint8_t>> getBitmap() const;
+  /// A device-independent bitmap, or a PNG file, after which there may be other bytes.
+  struct Image {
+    bool isPng = false;
+    std::vector<std::uint8_t> bytes;
+  };
+  /// Returns the bitmap, or else the PNG file (format "PNG"), or nothing if there is neither or the clipboard can't be
+  /// opened. Throws std::bad_alloc.
+  [[nodiscard]] std::optional<Image> getImage() const;
 
  private:
   const DialogOwner& owner_;

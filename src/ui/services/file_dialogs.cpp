@@ -31,11 +31,15 @@ std::optional<std::wstring> FileDialogs::askOpenImage() const {
   return chosen(messages_, askFileToOpen(owner_.top(), openImageTypes()));
 }
 
-std::optional<std::wstring> FileDialogs::askSaveBitmap() const {
-  const auto types = saveBitmapTypes();
+std::optional<FileDialogs::ResultFile> FileDialogs::askSaveResult() const {
+  const auto types = saveResultTypes();
   auto file =
       chosen(messages_, askFileToSave(owner_.top(), {.types = types, .extension = L"bmp", .asksToReplace = true}));
-  return file ? std::optional(std::move(file->name)) : std::nullopt;
+  if (!file) {
+    return std::nullopt;
+  }
+  const auto format = resultFormat(file->name, file->type == kPngType ? ResultFormat::png : ResultFormat::bitmap);
+  return ResultFile{std::move(file->name), format};
 }
 
 std::optional<SaveAsAnswer> FileDialogs::askSaveAs(PaletteFormat preselected) {

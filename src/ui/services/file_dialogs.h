@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/services.h"
+#include "ui/logic/result_file.h"
 #include "ui/win32/dialog_owner.h"
 
 namespace quillhue {
@@ -18,8 +19,12 @@ class FileDialogs final : public FileQuestions {
   /// Ask for a file to open as a palette or as an image to remap.
   [[nodiscard]] std::optional<std::wstring> askOpenPalette() const;
   [[nodiscard]] std::optional<std::wstring> askOpenImage() const;
-  /// Asks for the file to write a bitmap to, and for confirmation if the file exists.
-  [[nodiscard]] std::optional<std::wstring> askSaveBitmap() const;
+  struct ResultFile {
+    std::wstring name;
+    ResultFormat format;
+  };
+  /// Asks for the file to write a remapped image to, and for confirmation if the file exists.
+  [[nodiscard]] std::optional<ResultFile> askSaveResult() const;
 
   std::optional<SaveAsAnswer> askSaveAs(PaletteFormat preselected) override;
   std::int32_t askPaletteFromImage(std::uint64_t distinctColors) override;

@@ -8,6 +8,8 @@
 #include "formats/images/image_loaders.h"
 #include "formats/readers/palette_readers.h"
 #include "formats/writers/palette_writers.h"
+#include "pictures/picture_decoder.h"
+#include "ui/services/other_images.h"
 
 namespace quillhue {
 
@@ -15,17 +17,24 @@ namespace {
 
 FileType allFiles() { return {"All Files", "*"}; }
 
-// Returns all patterns of a catalogue without duplicates, in alphabetical order.
-std::string patternsOf(const auto& catalogue) {
-  std::set<std::string_view> patterns;
-  for (const auto* member : catalogue) {
-    std::string_view rest = member->patterns;
-    while (!rest.empty()) {
-      const std::string_view pattern = rest.substr(0, rest.find(';'));
-      patterns.insert(pattern);
-      rest.remove_prefix(std::min(rest.size(), pattern.size() + 1));
-    }
+using Patterns = std::set<std::string_view>;
+
+// Adds patterns that are separated by semicolons.
+void add(Patterns& patterns, std::string_view list) {
+  while (!list.empty()) {
+    const std::string_view pattern = list.substr(0, list.find(';'));
+    patterns.insert(pattern);
+    list.remove_prefix(std::min(list.size(), pattern.size() + 1));
   }
+}
+
+// Returns all patterns of a catalogue and of a list without duplicates, in alphabetical order.
+std::string patternsOf(const auto& catalogue, std::string_view list = {}) {
+  Patterns patterns;
+  for (const auto* member : catalogue) {
+    add(patterns, member->patterns);
+  }
+  add(patterns, list);
   std::string joined;
   for (const std::string_view pattern : patterns) {
     joined.append(joined.empty() ? "" : ";").append(pattern);
@@ -39,7 +48,11 @@ std::vector<FileType> openPaletteTypes() {
   return {{"All Supported File Types", patternsOf(paletteReaders())}, allFiles()};
 }
 
-std::vector<FileType> openImageTypes() { return {{"Supported File Types", patternsOf(imageLoaders())}, allFiles()}; }
+std::vector<FileType> openImageTypes() {
+  return {{"Supported File Types", patternsOf(imageLoaders())},
+          {"Other images", patternsOf(pictureKinds(), kSystemImagePatterns)},
+          allFiles()};
+}
 
 std::vector<FileType> savePaletteTypes() {
   std::vector<FileType> types;
@@ -49,6 +62,8 @@ std::vector<FileType> savePaletteTypes() {
   return types;
 }
 
-std::vector<FileType> saveBitmapTypes() { return {{"Windows Bitmap (*.bmp)", "*.bmp"}, allFiles()}; }
+std::vector<FileType> saveResultTypes() {
+  return {{"Windows Bitmap (*.bmp)", "*.bmp"}, {"PNG (*.png)", "*.png"}, allFiles()};
+}
 
 }  // namespace quillhue

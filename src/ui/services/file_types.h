@@ -12,6 +12,8 @@ namespace quillhue {
 [[nodiscard]] std::vector<FileType> openImageTypes();
 /// The type of PaletteFormat f has the index f - 1.
 [[nodiscard]] std::vector<FileType> savePaletteTypes();
-[[nodiscard]] std::vector<FileType> saveBitmapTypes();
+/// The type of PNG has the index kPngType - 1.
+[[nodiscard]] std::vector<FileType> saveResultTypes();
+inline constexpr DWORD kPngType = 2;
 
 }  // namespace quillhue

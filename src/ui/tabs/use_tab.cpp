@@ -6,15 +6,16 @@
 #include <new>
 #include <utility>
 
-#include "formats/bitmap_writer.h"
 #include "formats/failure.h"
 #include "formats/files.h"
 #include "formats/image_file.h"
 #include "formats/images/image_loaders.h"
 #include "ui/logic/clipboard_image.h"
 #include "ui/logic/display_rows.h"
+#include "ui/logic/result_file.h"
 #include "ui/services/clipboard.h"
 #include "ui/services/file_dialogs.h"
+#include "ui/services/other_images.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/wait_cursor.h"
 #include "ui/window_context.h"
@@ -190,7 +191,7 @@ void UseTab::buttonClicked(HWND button) {
   } else if (button == process_) {
     process();
   } else if (button == saveAs_) {
-    saveRemappedBitmap();
+    saveResult();
   } else if (button == protectColor_ || button == protectGrid_) {
     refreshProtectControls();
   } else {
@@ -218,7 +219,8 @@ void UseTab::load(const std::wstring& name) {
     return;
   }
   const WaitCursor waiting;
-  if (loadImageFile(name, image_, context_.services.messages)) {
+  const auto loadOther = [this](ByteSource& source) { return loadOtherImage(source, context_.settings().blank); };
+  if (loadImageFile(name, image_, context_.services.messages, loadOther)) {
     imageChanged();
   }
 }
@@ -282,18 +284,18 @@ void UseTab::runOn(const WorkImage& image) {
   }
 }
 
-void UseTab::saveRemappedBitmap() {
+void UseTab::saveResult() {
   if (!result_) {
     return;
   }
-  const auto name = context_.windowServices.fileDialogs.askSaveBitmap();
-  if (!name) {
+  const auto file = context_.windowServices.fileDialogs.askSaveResult();
+  if (!file) {
     return;
   }
   try {
-    const auto file = composeBitmap({result_->width(), result_->height(), result_->rows()},
-                                    context_.document()->getPalette(), context_.settings().blank);
-    if (!writeFile(*name, file)) {
+    const auto content =
+        composeResult(*result_, context_.document()->getPalette(), context_.settings().blank, file->format);
+    if (!content || !writeFile(file->name, *content)) {
       context_.services.messages.error(textOf(Failure::couldNotCreate));
     }
   } catch (const std::bad_alloc&) {
@@ -321,19 +323,28 @@ void UseTab::paste() {
   }
   const WaitCursor waiting;
   try {
-    auto block = context_.windowServices.clipboard.getBitmap();
-    if (!block) {
+    auto loaded = imageOnClipboard();
+    if (!loaded) {
       return;
     }
-    if (auto loaded = loadClipboardImage(std::move(*block))) {
-      image_ = std::move(*loaded);
+    if (*loaded) {
+      image_ = std::move(**loaded);
       imageChanged();
     } else {
-      context_.services.messages.error(textOf(loaded.error()));
+      context_.services.messages.error(textOf(loaded->error()));
     }
   } catch (const std::bad_alloc&) {
     context_.services.messages.error(textOf(Failure::notEnoughMemory));
   }
+}
+
+std::optional<ImageResult> UseTab::imageOnClipboard() const {
+  auto found = context_.windowServices.clipboard.getImage();
+  if (!found) {
+    return std::nullopt;
+  }
+  return found->isPng ? kPngPicture.decode(found->bytes, context_.settings().blank)
+                      : loadClipboardImage(std::move(found->bytes));
 }
 
 void UseTab::clear() {

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "core/enum_array.h"
+#include "formats/images/image_loader.h"
 #include "formats/work_image.h"
 #include "remap/remap.h"
 #include "remap/remapped_image.h"
@@ -60,7 +61,9 @@ class UseTab final : public Tab {
   void process();
   void runOn(const WorkImage& image);
   [[nodiscard]] RemapOptions options();
-  void saveRemappedBitmap();
+  void saveResult();
+  /// Returns nothing if the clipboard has no image or can't be opened.
+  [[nodiscard]] std::optional<ImageResult> imageOnClipboard() const;
 
   WindowContext& context_;
   ImageView view_;

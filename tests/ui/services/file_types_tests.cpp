@@ -23,13 +23,17 @@ TEST(FileTypes, AreListedForEachDialog) {
   EXPECT_EQ(shown(openPaletteTypes()),
             "All Supported File Types|*.aco;*.act;*.anm;*.ase;*.bmp;*.clp;*.cmp;*.col;*.csv;*.dib;*.gif;*.gpl;*.hex;"
             "*.iff;*.lbm;*.map;*.pal;*.pcx;*.png;*.tga;*.tif;*.tiff;*.txt;*.xcf|All Files|*|");
-  EXPECT_EQ(shown(openImageTypes()), "Supported File Types|*.bmp;*.clp;*.dib;*.lbm;*.pcx|All Files|*|");
+  EXPECT_EQ(
+      shown(openImageTypes()),
+      "Supported File Types|*.bmp;*.clp;*.dib;*.lbm;*.pcx|"
+      "Other images|*.gif;*.heic;*.ico;*.jpeg;*.jpg;*.jxr;*.pam;*.pbm;*.pgm;*.png;*.pnm;*.ppm;*.tif;*.tiff;*.webp|"
+      "All Files|*|");
   EXPECT_EQ(shown(savePaletteTypes()),
             "Adobe Color Table (*.act)|*.act|CMP Palette (*.cmp)|*.cmp|Color Table (*.pal)|*.pal|"
             "Comma-separated values (*.csv)|*.csv|Dr. Halo Palette (*.pal)|*.pal|Gimp Palette|*|"
             "JASC Palette (*.pal)|*.pal|MAP Palette (*.map)|*.map|MS Draw Palette (*.pal)|*.pal|"
             "RIFF Palette (*.pal)|*.pal|Windows Clipboard File (*.clp)|*.clp|");
-  EXPECT_EQ(shown(saveBitmapTypes()), "Windows Bitmap (*.bmp)|*.bmp|All Files|*|");
+  EXPECT_EQ(shown(saveResultTypes()), "Windows Bitmap (*.bmp)|*.bmp|PNG (*.png)|*.png|All Files|*|");
 }
 
 }  // namespace

@@ -50,22 +50,24 @@ void UseTest::process() const {
   editor().await("the result", [&] { return isUsable(L"&Save as..."); });
 }
 
-std::string UseTest::result() const {
-  DeleteFileW(folder_.name("result.bmp").c_str());
+std::string UseTest::result(const std::wstring& extension) const {
+  const std::wstring file = folder_.name(L"result" + extension);
+  DeleteFileW(file.c_str());
   editor().click(L"&Save as...");
-  chooseFile(editor(), L"Save As", folder_.name("result"));
-  editor().await("the file", [&] { return fileExists(folder_.name("result.bmp")); });
+  // The dialog gives a name without an extension that of its type, at first a bitmap's.
+  chooseFile(editor(), L"Save As", folder_.name("result"), extension == L".png" ? 1 : -1);
+  editor().await("the file", [&] { return fileExists(file); });
   editor().awaitInput();
-  return folder_.contentOf("result.bmp");
+  return folder_.contentOf(L"result" + extension);
 }
 
 std::string UseTest::toolsResult(const std::wstring& image, const std::wstring& mode,
-                                 const std::vector<std::wstring>& options) const {
+                                 const std::vector<std::wstring>& options, const std::wstring& extension) const {
   std::vector<std::wstring> arguments{
-      L"remap", L"--force", L"--mode", mode, image, editor().file(), folder_.name("tool.bmp")};
+      L"remap", L"--force", L"--mode", mode, image, editor().file(), folder_.name(L"tool" + extension)};
   arguments.insert(arguments.end(), options.begin(), options.end());
   runTool(arguments);
-  return folder_.contentOf("tool.bmp");
+  return folder_.contentOf(L"tool" + extension);
 }
 
 std::string UseTest::controls() const {

@@ -41,11 +41,12 @@ class UseTest : public UiTest {
   void load(const std::wstring& file) const;
   /// Presses "Process", and waits until the run is over.
   void process() const;
-  /// What "Save as" writes.
-  [[nodiscard]] std::string result() const;
+  /// What "Save as" writes, into a file of this type.
+  [[nodiscard]] std::string result(const std::wstring& extension = L".bmp") const;
   /// What the tool makes of the image with the palette that was opened.
   [[nodiscard]] std::string toolsResult(const std::wstring& image, const std::wstring& mode,
-                                        const std::vector<std::wstring>& options = {}) const;
+                                        const std::vector<std::wstring>& options = {},
+                                        const std::wstring& extension = L".bmp") const;
 
   /// The bytes of the bitmap on the clipboard; empty without one.
   [[nodiscard]] std::string clipboardBitmap() const;
