@@ -4,7 +4,7 @@ set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 cd "$root"
-echo "The first run takes about 6 minutes on two cores; later ones build only what has changed."
+echo "The first run takes about 6 minutes on two cores. Later runs build only what has changed."
 scripts/need.sh g++ cmake ninja-build googletest libcli11-dev nlohmann-json3-dev libpng-dev libjpeg-dev \
   g++-mingw-w64-x86-64-posix wine wine64 fonts-dejavu-core fonts-wine xvfb nsis zip unzip attr
 mkdir -p build
@@ -18,6 +18,7 @@ done
 # A Windows program that waits for input until this script ends. Without it Wine's server ends whenever no program is
 # left, and fails what starts at that moment.
 coproc { timeout 1800 scripts/wine.sh cmd /q >/dev/null 2>&1; }
-# One run over the tests of both builds. Those of the window mostly wait, so one more than there are processors.
+# Runs the tests of both builds. The tests of the window mostly wait, so one more than the number of processors runs at a
+# time.
 echo 'subdirs(asan windows)' >build/CTestTestfile.cmake
 ctest --test-dir build --output-on-failure --parallel $(($(nproc) + 1)) "$@"

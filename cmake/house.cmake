@@ -32,8 +32,8 @@ endforeach()
 add_library(quillhue_headers INTERFACE)
 target_include_directories(quillhue_headers SYSTEM INTERFACE ${headers})
 
-# Sets `result` to the files below the current folder that match the patterns. Brackets in the folder's own name are no
-# pattern.
+# Sets `result` to the files below the current folder that match the patterns. `kind` is GLOB or GLOB_RECURSE. Brackets in
+# the name of the current folder are taken literally.
 function(quillhue_glob kind result)
   string(REPLACE "[" "[[]" folder "${CMAKE_CURRENT_SOURCE_DIR}")
   list(TRANSFORM ARGN PREPEND "${folder}/")
@@ -41,8 +41,8 @@ function(quillhue_glob kind result)
   set(${result} ${files} PARENT_SCOPE)
 endfunction()
 
-# Precompiled headers only save time: each file includes what it uses, and the checks compile without them. Targets with
-# the same options share those of the first.
+# Compiles common headers once for all targets with the same options; `owner` is the first of them. This only saves time:
+# each file includes what it uses, and scripts/check.sh compiles without precompiled headers.
 set(QUILLHUE_STANDARD_HEADERS <algorithm> <array> <cstdint> <expected> <functional> <memory> <optional> <span> <string>
   <string_view> <utility> <variant> <vector>)
 function(quillhue_precompile target owner)

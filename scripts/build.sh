@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# build.sh PRESET [TARGET...]: configures and builds. It shows how many of the steps are done, and the compiler's output
-# only if something fails.
+# build.sh PRESET [TARGET...]: configures and builds. It shows the number of finished steps, and the compiler's output only
+# if something fails.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -11,7 +11,8 @@ echo "Building $preset${*:+: $*}"
 log=$root/build/$preset.log
 mkdir -p "$root/build"
 
-# Copies ninja's output to the log and shows its steps: in a terminal on one line, elsewhere on one every 15 seconds.
+# Copies ninja's output to the log and shows the number of finished steps: in a terminal on a line that it overwrites,
+# elsewhere on a new line every 15 seconds.
 show_steps() {
   local line steps='' shown=$SECONDS
   while IFS= read -r line; do

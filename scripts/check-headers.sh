@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# check-headers.sh: compiles each header alone, so that every file may include it first. A header that the source of the
-# same name includes first is left to clang-tidy, which compiles that.
+# check-headers.sh: compiles each header alone, to find missing includes. It skips headers that the source of the same name
+# includes first, because clang-tidy compiles those sources.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

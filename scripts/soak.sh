@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# soak.sh SECONDS [SEED]: throws random actions at the editor's window for so long. A failure prints the seed, with which
-# a second run does the same again.
+# soak.sh SECONDS [SEED]: sends random actions to the editor's window for SECONDS. A failure prints the seed; a run with
+# the same seed repeats the actions.
 set -euo pipefail
 usage="Usage: soak.sh SECONDS [SEED]"
 export QUILLHUE_SOAK_SECONDS=${1:?$usage} QUILLHUE_SOAK_SEED=${2:-$RANDOM}

@@ -22,13 +22,13 @@ namespace {
 // The field for red in the system's color chooser.
 constexpr int kColorRed = 706;
 
-// The environment's number, if it has one of that name.
+// The number in an environment variable.
 unsigned setting(const char* name, unsigned otherwise) {
   const char* const given = std::getenv(name);
   return given != nullptr ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : otherwise;
 }
 
-/// Does what comes to mind, for QUILLHUE_SOAK_SECONDS: always the same for the same QUILLHUE_SOAK_SEED.
+/// Random actions for QUILLHUE_SOAK_SECONDS. The same QUILLHUE_SOAK_SEED gives the same actions.
 class Soak : public UiTest {
  protected:
   Soak() {
