@@ -1,33 +1,35 @@
 #include <gtest/gtest.h>
 
 #include "commands/command_table.h"
+#include "support/fakes.h"
+#include "support/palettes.h"
+#include "support/table.h"
 
 namespace quillhue {
 namespace {
 
-// The numbers of the commands, and where these are offered: on the intro screen and in the tabs Values, Effects and
-// Use, with everything there that a command can need (+), or when there is no undo step (u), redo step (r) or current
-// entry (c) then not (any of these in place of +).
-const struct {
-  std::int32_t first;
-  std::int32_t last;
-  const char* offered;
-} kExpected[] = {
-    {1, 13, "++++"},  {14, 15, "-+++"}, {16, 16, "++++"}, {20, 20, "-uuu"}, {21, 21, "-rrr"},
-    {22, 25, "-c++"}, {26, 28, "-+++"}, {30, 35, "--+-"}, {36, 38, "--c-"}, {39, 50, "--+-"},
-    {60, 61, "++++"}, {70, 70, "-c--"}, {71, 71, "--c-"}, {72, 72, "-cc-"},
-};
-
 bool offeredWithout(char needed, char offered) { return offered != '-' && offered != needed; }
 
+// edit.txt tests what the steps do.
 TEST(CommandTable, OffersWhatHasAnEffect) {
   std::size_t count = 0;
-  for (const auto& [first, last, offered] : kExpected) {
-    for (std::int32_t id = first; id <= last; ++id) {
+  std::int32_t before = 0;
+  for (const auto& row : readTable("commands.txt")) {
+    const auto dash = row.at(0).find('-');
+    const std::int32_t last = std::stoi(row[0].substr(dash == std::string::npos ? 0 : dash + 1));
+    const std::string& offered = row.at(1);
+    for (std::int32_t id = std::stoi(row[0]); before < id - 1;) {
+      EXPECT_EQ(findCommand(++before), nullptr) << before;
+    }
+    while (before < last) {
+      const std::int32_t id = ++before;
       const Command& command = commands()[count++];
       ASSERT_EQ(command.id, id);
       EXPECT_EQ(findCommand(id), &command);
-      for (int tab = 0; tab < 4; ++tab) {
+      EXPECT_EQ(command.step, row.size() > 2 ? row[2] : "") << id;
+      EXPECT_EQ(command.act == nullptr, command.change != nullptr) << id;
+      EXPECT_EQ(command.change != nullptr, !command.step.empty() || (id >= 30 && id <= 32)) << id;
+      for (std::size_t tab = 0; tab < 4; ++tab) {
         const auto active = static_cast<ActiveTab>(tab);
         EXPECT_EQ(isEnabled(command, {active, true, true, true}), offered[tab] != '-') << id << ' ' << tab;
         EXPECT_EQ(isEnabled(command, {active, false, true, true}), offeredWithout('u', offered[tab])) << id << tab;
@@ -38,15 +40,25 @@ TEST(CommandTable, OffersWhatHasAnEffect) {
     }
   }
   EXPECT_EQ(commands().size(), count);
-  for (const std::int32_t none : {-1, 0, 17, 29, 51, 62, 73}) {
-    EXPECT_EQ(findCommand(none), nullptr) << none;
-  }
+  EXPECT_EQ(findCommand(-1), nullptr);
   std::string textKeys;
   for (const Command& command : commands()) {
     textKeys += editsText(command.accelerator) ? acceleratorText(command.accelerator) + ' ' : "";
   }
   EXPECT_EQ(textKeys, "Ctrl+Z Ctrl+X Ctrl+C Ctrl+V Del Ctrl+A ");
   EXPECT_FALSE(editsText({.shift = true, .key = kDeleteKey}));
+}
+
+TEST(CommandTable, ChoosesSelectionModesWithoutAStep) {
+  RecordingServices fakes;
+  DocumentSlot slot;
+  slot.replaceDocument(createPalette(2), false, {}, 0, fakes.services);
+  for (const std::int32_t command : {32, 31, 30}) {
+    findCommand(command)->change({*slot.document(), fakes.settings});
+    EXPECT_EQ(static_cast<std::int32_t>(fakes.settings.selectionMode), command - 30);
+    EXPECT_EQ(commandOf(fakes.settings.selectionMode), command);
+  }
+  EXPECT_EQ(slot.document()->modificationCount(), 0);
 }
 
 }  // namespace

@@ -1,10 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <map>
+#include <sstream>
+
 #include "core/new_palette.h"
 #include "core/system_palettes.h"
 #include "support/checksum.h"
 #include "support/fakes.h"
 #include "support/palettes.h"
+#include "support/table.h"
 
 namespace quillhue {
 namespace {
@@ -45,20 +49,15 @@ TEST(Generators, SpreadGreysAndLevelsEvenly) {
 TEST(SystemPalettes, AreThoseOfTheirCommands) {
   RecordingServices fakes;
   fakes.screenColors.resize(1500, {1, 2, 3});
-  const std::pair<std::int32_t, std::uint32_t> sizesAndChecksums[] = {
-      {4, 0x239307A4},   {4, 0x1B9B05A6},   {4, 0x20EB06FA},  {16, 0xA8EA1794},   {64, 0xB2C15FA1},
-      {256, 0xD1E62C69}, {256, 0x410B42CC}, {16, 0x968815C3}, {1024, 0x18701801},
-  };
   std::int32_t id = 2;
-  for (const auto& [size, checksum] : sizesAndChecksums) {
-    const Palette palette = createSystemPalette(id, fakes);
-    EXPECT_EQ(palette.getSize(), size) << id;
-    EXPECT_EQ(checksumOf(palette), checksum) << id;
+  for (const SystemPalette& row : systemPalettes()) {
+    EXPECT_EQ(row.commandId, id);
+    const Palette palette = createSystemPalette(id++, fakes);
+    EXPECT_EQ(std::to_string(palette.getSize()) + ' ' + std::to_string(checksumOf(palette)),
+              pinnedChecksum(std::string(row.name)));
     EXPECT_TRUE(selectedIndexes(palette).empty());
-    EXPECT_EQ(systemPalettes()[static_cast<std::size_t>(id) - 2].commandId, id);
-    ++id;
   }
-  for (const std::int32_t none : {1, 11, -1}) {
+  for (const std::int32_t none : {1, id, -1}) {
     EXPECT_EQ(createSystemPalette(none, fakes), createSystemPalette(9, fakes));
   }
   fakes.screenColors.clear();
@@ -75,42 +74,26 @@ TEST(FixedHalftone, HasWindowsColorsCubeAndGreys) {
 }
 
 TEST(NewPalette, ChecksStoresAndRefuses) {
-  constexpr auto kSizeOnly = NewPaletteKind::sizeOnly;
-  constexpr auto kBlank = NewPaletteKind::blank;
-  constexpr auto kRgb = NewPaletteKind::rgb;
-  const std::string tooFewForColors = "The chosen palette size is not large enough to contain the specified colors.";
-  const std::string tooFewForWindows = "The chosen palette size is not large enough to contain the Windows colors.";
-  // What is typed, the text beside the size, the size or message that comes of it, and what the settings hold then.
-  const struct {
-    NewPaletteKind kind;
+  const std::map<std::string, NewPaletteKind> kinds{
+      {"size", NewPaletteKind::sizeOnly}, {"blank", NewPaletteKind::blank}, {"rgb", NewPaletteKind::rgb}};
+  for (const auto& row : readTable("new_palettes.txt")) {
+    const NewPaletteKind kind = kinds.at(row.at(0));
     NewPaletteFields fields;
-    std::string minimum;
-    std::string result;
-    std::string stored;
-  } cases[] = {
-      {kSizeOnly, {0, true, {9, 9, 9}}, "(min. 1)", "1", "1 no 6,7,6"},
-      {kSizeOnly, {5000, true, {9, 9, 9}}, "(min. 1)", "1024", "1024 no 6,7,6"},
-      {kBlank, {20, true, {9, 9, 9}}, "(min. 20)", "20", "20 yes 6,7,6"},
-      {kBlank, {19, true, {9, 9, 9}}, "(min. 20)", tooFewForWindows, "19 yes 6,7,6"},
-      {kBlank, {1, false, {9, 9, 9}}, "(min. 1)", "1", "1 no 6,7,6"},
-      {kRgb, {27, false, {3, 3, 3}}, "(min. 27)", "27", "27 no 3,3,3"},
-      {kRgb, {46, true, {3, 3, 3}}, "(min. 47)", tooFewForColors, "46 yes 3,3,3"},
-      {kRgb, {256, false, {256, -4, 0}}, "(min. 256)", "256", "256 no 0,1,1"},
-      {kRgb, {255, false, {300, 1, 1}}, "(min. 256)", tooFewForColors, "255 no 0,1,1"},
-      {kRgb, {1024, false, {256, 256, 256}}, "(min. 16777216)", tooFewForColors, "1024 no 0,0,0"},
-  };
-  for (const auto& [kind, fields, minimum, result, stored] : cases) {
+    auto& [red, green, blue] = fields.levels;
+    std::istringstream(row.at(1)) >> fields.size >> fields.windowsColors >> red >> green >> blue;
     AppSettings settings;
-    EXPECT_EQ(minimumSizeText(kind, fields), minimum);
+    EXPECT_EQ(minimumSizeText(kind, fields), row.at(2)) << row[1];
     const auto accepted = acceptNewPalette(kind, fields, settings);
-    EXPECT_EQ(accepted ? std::to_string(accepted->size) : std::string(accepted.error()), result);
-    const auto& [red, green, blue] = settings.rgbLevels;
-    EXPECT_EQ(std::to_string(settings.paletteSize) + (settings.windowsColors ? " yes " : " no ") +
-                  show(createPalette(1, {red, green, blue})),
-              stored);
+    EXPECT_EQ(accepted ? std::to_string(accepted->size) : std::string(accepted.error()), row.at(3)) << row[1];
+    std::ostringstream stored;
+    stored << settings.paletteSize << ' ' << settings.windowsColors;
+    for (const std::uint8_t level : settings.rgbLevels) {
+      stored << ' ' << int{level};
+    }
+    EXPECT_EQ(stored.str(), row.at(4)) << row[1];
   }
-  EXPECT_EQ(newPaletteTitle(kSizeOnly), "Palette size");
-  EXPECT_EQ(newPaletteTitle(kRgb), "New palette properties");
+  EXPECT_EQ(newPaletteTitle(NewPaletteKind::sizeOnly), "Palette size");
+  EXPECT_EQ(newPaletteTitle(NewPaletteKind::rgb), "New palette properties");
 }
 
 TEST(NewPalette, StartsWithTheSettings) {

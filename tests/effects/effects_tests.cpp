@@ -6,6 +6,7 @@
 #include "support/checksum.h"
 #include "support/fakes.h"
 #include "support/palettes.h"
+#include "support/table.h"
 
 namespace quillhue {
 namespace {
@@ -29,11 +30,9 @@ class EffectsTest : public testing::Test {
   }
 };
 
-// All values of both curves, as they are with powers rounded correctly; another program computed the sums with 60
-// digits. So the systems' libraries agree.
 TEST_F(EffectsTest, CurvesAreExact) {
   const Palette greys = open(createGreyscalePalette(256)).getPalette();
-  for (const auto& [index, expected] : {std::pair{kGamma, 213053814U}, {kTwist, 2968004911U}}) {
+  for (const auto& [index, name] : {std::pair{kGamma, "gamma"}, {kTwist, "twist"}}) {
     Checksum sum;
     std::unique_ptr<Effect> effect;
     createEffect(index, 256, effect);
@@ -43,12 +42,12 @@ TEST_F(EffectsTest, CurvesAreExact) {
       effect->apply({.palette = greys}, kAllChannels, output);
       std::ranges::for_each(output.channel(Channel::green), [&](std::uint8_t grey) { sum.add(grey); });
     }
-    EXPECT_EQ(sum.value(), expected);
+    EXPECT_EQ(std::to_string(sum.value()), pinnedChecksum(name));
   }
 }
 
 TEST_F(EffectsTest, AnyOtherIndexIsColor) {
-  for (const std::int32_t index : {15, 255, -1}) {
+  for (const std::int32_t index : {static_cast<std::int32_t>(effects().size()), 255, -1}) {
     std::unique_ptr<Effect> effect;
     createEffect(index, 8, effect);
     EXPECT_EQ(std::tuple(effect->getMinimum(), effect->getMaximum(), effect->getValue()), std::tuple(-100, 200, 100));

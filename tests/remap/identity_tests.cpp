@@ -4,164 +4,20 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
-#include <numeric>
-#include <random>
 
 #include "remap/nearest_entry.h"
 #include "remap/nearest_table.h"
-#include "remap/remap.h"
 #include "support/literal_remap.h"
+#include "support/remap_cases.h"
 #include "support/stopping_progress.h"
 
 namespace quillhue {
 namespace {
 
-// Numbers from 0 to `limit`.
-class Random {
- public:
-  explicit Random(std::uint32_t seed) : engine_(seed) {}
-  std::uint8_t upTo(std::uint32_t limit) { return static_cast<std::uint8_t>((engine_() >> 8) % (limit + 1)); }
-  PaletteEntry colorUpTo(std::uint32_t limit) { return {upTo(limit), upTo(limit), upTo(limit)}; }
-
- private:
-  std::minstd_rand engine_;
-};
-
-using MakeColor = std::function<PaletteEntry(Random& random)>;
-
-MakeColor always(PaletteEntry color) {
-  return [color](Random& /*random*/) { return color; };
-}
-
-// On and beside the borders of cells of 16.
-std::uint8_t atBorder(Random& random) {
-  return static_cast<std::uint8_t>(std::clamp(16 * random.upTo(16) + random.upTo(2) - 1, 0, 255));
-}
-
-const std::vector<MakeColor> kColorKinds{
-    [](Random& random) { return random.colorUpTo(255); },
-    // With many duplicates.
-    [](Random& random) { return PaletteEntry{random.colorUpTo(1).red, 128, random.colorUpTo(2).blue}; },
-    [](Random& random) { return PaletteEntry{atBorder(random), atBorder(random), atBorder(random)}; },
-    // One-sided: dark, bright, a corner of its own, and one color.
-    [](Random& random) { return random.colorUpTo(20); },
-    [](Random& random) {
-      const PaletteEntry dark = random.colorUpTo(20);
-      return PaletteEntry{static_cast<std::uint8_t>(255 - dark.red), static_cast<std::uint8_t>(255 - dark.green),
-                          static_cast<std::uint8_t>(255 - dark.blue)};
-    },
-    [](Random& random) { return PaletteEntry{random.upTo(9), 255, random.upTo(200)}; },
-    always({1, 2, 3}),
-    // Greys, and nearly so.
-    [](Random& random) {
-      const std::uint8_t level = random.upTo(255);
-      return PaletteEntry{level, level, level};
-    },
-    [](Random& random) {
-      const std::uint8_t level = random.upTo(254);
-      return PaletteEntry{level, level, static_cast<std::uint8_t>(level + random.upTo(1))};
-    },
-};
-
-Palette paletteOf(std::int32_t size, const MakeColor& make, Random& random) {
-  Palette palette = createPalette(size);
-  for (std::int32_t i = 0; i < size; ++i) {
-    palette.setEntry(i, make(random));
-  }
-  return palette;
-}
-
-// A color a pixel, in runs of `run` pixels.
-WorkImage imageOf(std::int32_t width, std::int32_t height, std::size_t run, const MakeColor& make, Random& random) {
-  WorkImage image(width, height, {});
-  const auto pixels = image.pixels();
-  PaletteEntry color;
-  for (std::size_t i = 0; i < pixels.size(); i += 3) {
-    if (i / 3 % run == 0) {
-      color = make(random);
-    }
-    std::ranges::copy(std::array{color.blue, color.green, color.red}, pixels.subspan(i).begin());
-  }
-  return image;
-}
-
-// Compares the bytes and the reports of both, when the run is stopped after so many reports.
-void expectLiteral(Remapper& remapper, const WorkImage& image, const Palette& palette, const RemapOptions& options,
-                   int reports = 1000) {
-  RemappedImage result;
-  RemappedImage expected;
-  StoppingProgress progress(reports);
-  StoppingProgress expectedProgress(reports);
-  EXPECT_EQ(remapper.remap(image, options, result, progress),
-            literalRemap(image, palette, options, expected, expectedProgress));
-  EXPECT_TRUE(std::ranges::equal(result.rows(), expected.rows()));
-  EXPECT_EQ(progress.reports(), expectedProgress.reports());
-}
-
-void expectLiteral(const WorkImage& image, const Palette& palette, const RemapOptions& options, int reports = 1000) {
-  Remapper remapper(palette);
-  expectLiteral(remapper, image, palette, options, reports);
-}
-
-const std::vector<RemapOptions> kOptions{
-    {RemapMode::nearest, {}, {}},
-    {RemapMode::dither, {}, {}},
-    {RemapMode::dither, {}, ProtectGrid{1, 1}},
-    {RemapMode::dither, {}, ProtectGrid{3, 5}},
-    {RemapMode::dither, {}, ProtectGrid{1000, 7}},
-    {RemapMode::dither, 0, {}},
-    {RemapMode::dither, 2, ProtectGrid{5, 3}},
-};
-
-TEST(RemapIdentity, HoldsForPalettesOfAllSizesAndKinds) {
-  std::uint32_t seed = 0;
-  for (const std::int32_t size : {1, 2, 3, 16, 17, 24, 25, 216, 255, 256, 300, 1024}) {
-    for (std::size_t paletteKind = 0; paletteKind < kColorKinds.size(); ++paletteKind) {
-      Random random(++seed);
-      const Palette palette = paletteOf(size, kColorKinds[paletteKind], random);
-      const MakeColor anEntry = [&](Random& source) { return palette.entry(source.upTo(255) % palette.getSize()); };
-      // Of the palette's own kind, of another one, and colors of the palette itself.
-      const std::array makers{kColorKinds[paletteKind], kColorKinds[seed % kColorKinds.size()], anEntry};
-      for (std::size_t kind = 0; kind < makers.size(); ++kind) {
-        const std::size_t run = kind == 0 ? 1 : 60;
-        const WorkImage image = imageOf(29, 23, run, makers[kind], random);
-        const RemapOptions& options = kOptions[(seed + kind) % kOptions.size()];
-        SCOPED_TRACE(testing::Message() << size << " entries of kind " << paletteKind << ", image " << kind);
-        expectLiteral(image, palette, options);
-        expectLiteral(image, palette, {RemapMode::nearest, {}, {}});
-        expectLiteral(image, palette, {RemapMode::dither, {}, {}});
-      }
-    }
-  }
-}
-
-TEST(RemapIdentity, HoldsForSmallSizesAndAllOptions) {
-  Random random(7);
-  for (std::int32_t width = 1; width <= 20; ++width) {
-    for (const std::int32_t height : {1, 2, 4, 5, 6, 17, 18, 21}) {
-      const Palette palette = paletteOf(width + 14, kColorKinds[0], random);
-      const WorkImage image = imageOf(width, height, 3, kColorKinds[0], random);
-      for (const RemapOptions& options : kOptions) {
-        SCOPED_TRACE(testing::Message() << width << " x " << height);
-        expectLiteral(image, palette, options);
-      }
-    }
-  }
-}
-
-TEST(RemapIdentity, HoldsForIndexedImages) {
-  Random random(8);
-  for (const std::int32_t colors : {16, 256}) {
-    WorkImage image(21, 35, paletteOf(colors, kColorKinds[0], random));
-    std::ranges::generate(image.pixels(), [&] { return static_cast<std::uint8_t>(random.upTo(255) % colors); });
-    for (const std::int32_t size : {2, 200}) {
-      const Palette palette = paletteOf(size, kColorKinds[0], random);
-      for (const RemapOptions& options : kOptions) {
-        expectLiteral(image, palette, options);
-      }
-      expectLiteral(image, palette, {RemapMode::maintain, {}, {}});
-    }
+TEST(RemapIdentity, HoldsForRandomCases) {
+  for (std::uint32_t seed = 1; seed <= 1500; ++seed) {
+    CaseBytes bytes(20000, seed);
+    ASSERT_EQ(differenceOf(bytes), "") << seed;
   }
 }
 
@@ -169,8 +25,8 @@ TEST(RemapIdentity, HoldsForIndexedImages) {
 TEST(RemapIdentity, HoldsWhereErrorsLeaveAnyRange) {
   const MakeColor white = always({255, 255, 255});
   const MakeColor black = always({});
-  const MakeColor& mixed = kColorKinds[0];
-  Random random(9);
+  const MakeColor& mixed = colorKinds()[0];
+  CaseBytes random(100000, 9);
   for (const auto& [size, kind, color] : {std::tuple{3, 3, white},
                                           {40, 3, white},
                                           {1, 3, white},
@@ -181,85 +37,32 @@ TEST(RemapIdentity, HoldsWhereErrorsLeaveAnyRange) {
                                           {200, 8, mixed},
                                           {60, 5, mixed},
                                           {24, 4, mixed}}) {
-    const Palette palette = paletteOf(size, kColorKinds[static_cast<std::size_t>(kind)], random);
+    const Palette palette = paletteOf(size, colorKinds()[static_cast<std::size_t>(kind)], random);
     const WorkImage image = imageOf(101, 140, 500, color, random);
-    SCOPED_TRACE(testing::Message() << size << " entries of kind " << kind);
-    expectLiteral(image, palette, {RemapMode::dither, {}, {}});
-    expectLiteral(image, palette, {RemapMode::dither, {}, ProtectGrid{64, 1000}});
-  }
-}
-
-// Sides of a grid that are out of range count as the nearest ones.
-TEST(RemapIdentity, HoldsForGridsOfAnySides) {
-  Random random(18);
-  const Palette palette = paletteOf(2, kColorKinds[0], random);
-  for (const auto& [width, height] : {std::pair{1010, 1}, {1, 1010}, {20, 20}}) {
-    const WorkImage image = imageOf(width, height, 1, kColorKinds[0], random);
-    for (const std::int32_t side : {-5, 0, 1000, 5000}) {
-      expectLiteral(image, palette, {RemapMode::dither, {}, ProtectGrid{side, 5}});
-      expectLiteral(image, palette, {RemapMode::dither, {}, ProtectGrid{5, side}});
-    }
-  }
-}
-
-TEST(RemapIdentity, HoldsForProtectedColors) {
-  Random random(10);
-  Palette palette = paletteOf(50, kColorKinds[0], random);
-  palette.setEntry(7, {9, 9, 9});
-  palette.setEntry(30, {9, 9, 9});
-  const MakeColor often = [](Random& source) {
-    return source.upTo(2) == 0 ? PaletteEntry{9, 9, 9} : source.colorUpTo(255);
-  };
-  for (const MakeColor& make : {always({9, 9, 9}), often, kColorKinds[4]}) {
-    const WorkImage image = imageOf(31, 33, 2, make, random);
-    for (const std::int32_t entry : {7, 30, 49, 50, 256, -1}) {
-      expectLiteral(image, palette, {RemapMode::dither, entry, {}});
-      expectLiteral(image, palette, {RemapMode::dither, entry, ProtectGrid{4, 4}});
-    }
-  }
-}
-
-TEST(RemapIdentity, HoldsWhereverARunIsStopped) {
-  Random random(11);
-  const Palette palette = paletteOf(30, kColorKinds[0], random);
-  const WorkImage image = imageOf(13, 70, 1, kColorKinds[0], random);
-  for (const RemapOptions& options : kOptions) {
-    for (int reports = 1; reports <= 6; ++reports) {
-      expectLiteral(image, palette, options, reports);
-    }
-  }
-}
-
-// What was learned from one image serves the next.
-TEST(RemapIdentity, HoldsForManyImagesOfOneRemapper) {
-  Random random(12);
-  const Palette palette = paletteOf(100, kColorKinds[0], random);
-  Remapper remapper(palette);
-  for (const std::int32_t side : {40, 20, 41}) {
-    const WorkImage image = imageOf(side, side, 2, kColorKinds[0], random);
-    for (const RemapOptions& options : kOptions) {
-      expectLiteral(remapper, image, palette, options);
+    Remapper remapper(palette);
+    for (const auto& grid : {std::optional<ProtectGrid>(), {{64, 1000}}}) {
+      EXPECT_EQ(differenceOf(remapper, image, palette, {RemapMode::dither, {}, grid}), "") << size << ' ' << kind;
     }
   }
 }
 
 // Large images take another way to the nearest colors.
 TEST(RemapIdentity, HoldsForLargeImages) {
-  Random random(13);
-  const Palette palette = paletteOf(3, kColorKinds[0], random);
+  CaseBytes random(4'000'000, 13);
+  const Palette palette = paletteOf(3, colorKinds()[0], random);
   Remapper remapper(palette);
-  expectLiteral(remapper, imageOf(1031, 1024, 1, kColorKinds[0], random), palette, {});
-  expectLiteral(remapper, imageOf(3, 3, 1, kColorKinds[0], random), palette, {});
+  EXPECT_EQ(differenceOf(remapper, imageOf(1031, 1024, 1, colorKinds()[0], random), palette, {}), "");
+  EXPECT_EQ(differenceOf(remapper, imageOf(3, 3, 1, colorKinds()[0], random), palette, {}), "");
 }
 
 TEST(NearestTable, EqualsTheLiteralRules) {
-  Random random(14);
+  CaseBytes random(100000, 14);
   for (const std::int32_t size : {1, 5, 255, 256}) {
-    for (const MakeColor& make : kColorKinds) {
+    for (const MakeColor& make : colorKinds()) {
       const Palette palette = paletteOf(size, make, random);
       const std::vector<PaletteEntry> entries = entriesOf(palette);
       NearestTable table(entries);
-      const WorkImage image = imageOf(900, 1, 1, kColorKinds[random.upTo(2)], random);
+      const WorkImage image = imageOf(900, 1, 1, colorKinds()[random.upTo(2)], random);
       RemappedImage expected;
       StoppingProgress progress;
       (void)literalRemap(image, palette, {}, expected, progress);
@@ -313,9 +116,9 @@ TEST(NearestEntry, HasAllNumbersInTheBoxesOfTheirCells) {
 }
 
 TEST(NearestEntry, EqualsTheLiteralRulesAtAllBorders) {
-  Random random(16);
+  CaseBytes random(200000, 16);
   for (const std::int32_t size : {2, 24, 25, 256}) {
-    for (const MakeColor& make : kColorKinds) {
+    for (const MakeColor& make : colorKinds()) {
       const std::vector<PaletteEntry> entries = entriesOf(paletteOf(size, make, random));
       NearestEntry nearest(entries, std::size_t{1} << 20);
       for (const std::int32_t border : {-26000, -1024, -128, 0, 256, 384, 1024, 26001, 32768, 46341}) {
@@ -333,8 +136,8 @@ TEST(NearestEntry, EqualsTheLiteralRulesAtAllBorders) {
 // Far targets of greys are brought back, but not where distances wrap for some of the greys only: about the square root
 // of 2^31 below 0.
 TEST(NearestEntry, EqualsTheLiteralRulesForFarGreys) {
-  Random random(17);
-  const std::vector<PaletteEntry> greys = entriesOf(paletteOf(100, kColorKinds[7], random));
+  CaseBytes random(50000, 17);
+  const std::vector<PaletteEntry> greys = entriesOf(paletteOf(100, colorKinds()[kGreys], random));
   NearestEntry nearest(greys, std::size_t{1} << 20);
   const auto around = [&](std::int32_t middle, std::int32_t reach) {
     return middle + reach * (random.upTo(254) - 127) / 127;
@@ -349,8 +152,8 @@ TEST(NearestEntry, EqualsTheLiteralRulesForFarGreys) {
 
 // Without memory for lists all colors are compared, with the same results.
 TEST(NearestEntry, WorksWithoutMemoryForLists) {
-  Random random(15);
-  const Palette palette = paletteOf(256, kColorKinds[3], random);
+  CaseBytes random(100000, 15);
+  const Palette palette = paletteOf(256, colorKinds()[3], random);
   const std::vector<PaletteEntry> entries = entriesOf(palette);
   NearestEntry without(entries, 0);
   NearestEntry with(entries, std::size_t{1} << 20);

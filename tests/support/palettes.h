@@ -34,6 +34,21 @@ inline std::string show(const Palette& palette) {
   return text.str();
 }
 
+/// The palette that `show` shows like this.
+inline Palette shownPalette(const std::string& text) {
+  std::vector<PaletteEntry> entries;
+  std::istringstream numbers(text);
+  int red = 0;
+  int green = 0;
+  int blue = 0;
+  char comma = 0;
+  while (numbers >> red >> comma >> green >> comma >> blue) {
+    entries.push_back(
+        {static_cast<std::uint8_t>(red), static_cast<std::uint8_t>(green), static_cast<std::uint8_t>(blue)});
+  }
+  return paletteOf(entries);
+}
+
 /// `size` different colors (up to 2^16), none of them black.
 inline Palette variedPalette(std::int32_t size) {
   Palette palette = createPalette(size);

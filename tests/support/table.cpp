@@ -49,4 +49,13 @@ std::vector<std::vector<std::string>> readTable(const std::string& file) {
   return rows;
 }
 
+std::string pinnedChecksum(const std::string& result) {
+  for (const auto& row : readTable("checksums.txt")) {
+    if (row.at(0) == result) {
+      return row.at(1);
+    }
+  }
+  return "none";
+}
+
 }  // namespace quillhue

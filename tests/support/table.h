@@ -9,4 +9,7 @@ namespace quillhue {
 /// \n, \r, \t, \s (a blank), \0 and \xHH for bytes, and lines that begin with # are remarks.
 [[nodiscard]] std::vector<std::vector<std::string>> readTable(const std::string& file);
 
+/// The checksum of a result in checksums.txt; "none" if it is not there.
+[[nodiscard]] std::string pinnedChecksum(const std::string& result);
+
 }  // namespace quillhue

@@ -2,6 +2,11 @@
 
 #include <map>
 
+#include "colormodes/color_models.h"
+#include "effects/effects.h"
+#include "support/palettes.h"
+#include "support/patches.h"
+#include "support/table.h"
 #include "ui/logic/settings_store.h"
 
 namespace quillhue {
@@ -37,48 +42,27 @@ TEST(SettingsStore, KeepsAllButTheValueThatIsNotWritten) {
   }
 }
 
-// The bytes of a value as they are stored, and as they are written again: numbers have four, the lowest first.
+// The bytes of a value after it was read from these bytes and written again.
+std::string rewritten(std::string_view name, const std::vector<std::uint8_t>& stored) {
+  FailingStore store;
+  writeSettings(defaultSettings({96}), store);
+  store.values[name] = stored;
+  writeSettings(readSettings(store, {96}), store);
+  return hexOf(store.values[name]);
+}
+
 TEST(SettingsStore, BringsEachValueIntoItsRange) {
-  using Bytes = std::vector<std::uint8_t>;
-  const struct {
-    const char* name;
+  for (const auto& row : readTable("settings.txt")) {
     Bytes stored;
-    Bytes written;
-  } cases[] = {
-      // 436 is 0x1B4, 872 is 0x368: the least and the usual width; 376 and 752 the heights. Only 16 bits count.
-      {"Window width", {100, 0, 0, 0}, {0xB4, 1, 0, 0}},
-      {"Window width", {0xB5, 1, 0, 0}, {0xB5, 1, 0, 0}},
-      {"Window width", {0xFF, 0xFF, 0, 0}, {0xB4, 1, 0, 0}},
-      {"Window width", {0xBC, 2, 1, 0}, {0xBC, 2, 0, 0}},
-      {"Window width", {1, 4}, {0x68, 3, 0, 0}},
-      {"Window height", {0, 0, 0, 0}, {0x78, 1, 0, 0}},
-      {"Window height", {0x58, 2, 0x7F, 0}, {0x58, 2, 0, 0}},
-      {"Window height", {1, 4, 0}, {0xF0, 2, 0, 0}},
-      {"Palette size", {1, 0, 0, 0}, {1, 0, 0, 0}},
-      {"Palette size", {0, 4, 0, 0}, {0, 4, 0, 0}},
-      {"Palette size", {0x88, 0x13, 0, 0}, {0, 4, 0, 0}},
-      {"Palette size", {0xFF, 0xFF, 0xFF, 0xFF}, {0, 4, 0, 0}},
-      {"Blank", {1, 2, 255}, {1, 2, 255}},
-      {"Blank", {1, 2}, {0, 0, 0}},
-      {"Blank", {1, 2, 3, 4}, {0, 0, 0}},
-      {"Windows colors", {2}, {1}},
-      {"Windows colors", {1, 1}, {0}},
-      {"RGB levels", {2, 0, 255}, {2, 0, 255}},
-      {"RGB levels", {2}, {6, 7, 6}},
-      {"Color mode", {8}, {8}},
-      {"Color mode", {9}, {4}},
-      {"Effect", {14}, {14}},
-      {"Effect", {15}, {5}},
-      {"Selection mode", {2}, {2}},
-      {"Selection mode", {3}, {0}},
-      {"Selection mode", {}, {0}},
-  };
-  for (const auto& [name, stored, written] : cases) {
-    FailingStore store;
-    writeSettings(defaultSettings({96}), store);
-    store.values[name] = stored;
-    writeSettings(readSettings(store, {96}), store);
-    EXPECT_EQ(store.values[name], written) << name << ' ' << testing::PrintToString(stored);
+    patch(stored, "0:" + row.at(1));
+    EXPECT_EQ(rewritten(row.at(0), stored), row.at(2)) << row[0] << ' ' << row[1];
+  }
+  // The catalogues end where the default begins.
+  for (const auto& [name, count, otherwise] :
+       {std::tuple{"Color mode", colorModels().size(), 4}, {"Effect", effects().size(), 5}}) {
+    const auto last = static_cast<std::uint8_t>(count - 1);
+    EXPECT_EQ(rewritten(name, {last}), hexOf(Bytes{last}));
+    EXPECT_EQ(rewritten(name, {static_cast<std::uint8_t>(count)}), hexOf(Bytes{static_cast<std::uint8_t>(otherwise)}));
   }
 }
 
