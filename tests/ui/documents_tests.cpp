@@ -26,73 +26,57 @@ TEST_F(Documents, AreNotDiscardedWithoutTheQuestion) {
     std::function<void(const Program&)> go;
     // The dialog that comes once it is allowed, if any.
     std::wstring asks{};
-    bool ends = false;
+    int answer = IDNO;
   } kPlaces[] = {
       {"New blank", byCommand(command_id::kNewBlank), L"New palette properties"},
-      {"New greyscale", byCommand(command_id::kNewGreyscale), L"Palette size"},
+      {"New greyscale", byCommand(command_id::kNewGreyscale), L"Palette size", IDYES},
       {"New RGB", byCommand(command_id::kNewRgb), L"New palette properties"},
       {"New system palette", byCommand(command_id::kFirstSystemPalette)},
       {"Open", byCommand(command_id::kOpen), L"Open"},
       {"a dropped file", [&](const Program& program) { program.drop({other}); }},
-      {"Exit", byCommand(command_id::kExit), L"", true},
-      {"the window's close", [](const Program& program) { program.post(program.window(), WM_CLOSE); }, L"", true},
+      {"Exit", byCommand(command_id::kExit)},
+      {"the window's close", [](const Program& program) { program.post(program.window(), WM_CLOSE); }, L"", IDYES},
   };
-  for (const int answer : {IDNO, IDYES}) {
-    for (const auto& [place, go, asks, ends] : kPlaces) {
-      SCOPED_TRACE(place + ", answer " + std::to_string(answer));
-      Palette expected = brightPalette(4);
-      const Editor& editor = open(expected);
-      editor.run(command_id::kClear);
-      // Canceled, it is as before, and asks again.
+  for (const auto& [place, go, asks, answer] : kPlaces) {
+    SCOPED_TRACE(place);
+    Palette expected = brightPalette(4);
+    const Editor& editor = open(expected);
+    editor.run(command_id::kClear);
+    // Canceled, it is as before, and asks again.
+    for (const int button : {IDCANCEL, answer}) {
+      EXPECT_EQ(textOf(editor.window()) + statusText(editor), L"Quillhue - own.pal4 entries");
       go(editor);
-      EXPECT_EQ(answerMessage(editor, L"Warning", IDCANCEL), L"Do you want to save the current palette?");
-      EXPECT_EQ(textOf(editor.window()), L"Quillhue - own.pal");
-      EXPECT_EQ(statusText(editor), L"4 entries");
-      go(editor);
-      EXPECT_EQ(answerMessage(editor, L"Warning", answer), L"Do you want to save the current palette?");
-      if (ends) {
-        EXPECT_EQ(editor.awaitEnd(), 0U);
-      } else if (!asks.empty()) {
-        Dialog(editor, asks).answer(IDCANCEL);
-      } else {
-        editor.await("another document", [&] { return textOf(editor.window()) != L"Quillhue - own.pal"; });
-      }
-      if (answer == IDYES) {
-        expected.setEntry(0, {});
-      }
-      EXPECT_EQ(show(paletteIn(editor.file())), show(expected));
+      EXPECT_EQ(answerMessage(editor, L"Warning", button), L"Do you want to save the current palette?");
     }
+    if (!asks.empty()) {
+      Dialog(editor, asks).answer(IDCANCEL);
+    } else {
+      editor.await("another document or the end",
+                   [&] { return !editor.isRunning() || textOf(editor.window()) != L"Quillhue - own.pal"; });
+    }
+    if (answer == IDYES) {
+      expected.setEntry(0, {});
+    }
+    EXPECT_EQ(show(paletteIn(editor.file())), show(expected));
   }
 }
 
-TEST_F(Documents, AreAskedForAgainAfterEachSave) {
+// A save ends the run of changes of one number.
+TEST_F(Documents, AreAskedForAgainAfterASave) {
   const Editor& editor = open(brightPalette(4));
   HWND field = findControls(editor.window(), L"Edit")[0];
-  const auto saveAndStay = [&] {
-    editor.start(command_id::kOpen);
-    answerMessage(editor, L"Warning", IDYES);
-    Dialog(editor, L"Open").answer(IDCANCEL);
-  };
   editor.typeInto(field, "77");
-  // A save that is canceled leaves the run of changes as it is.
   editor.start(command_id::kSaveAs);
   Dialog(editor, L"Save As").answer(IDCANCEL);
   editor.typeInto(field, "78");
-  saveAndStay();
-  editor.run(command_id::kUndo);
-  EXPECT_FALSE(isOffered(editor, command_id::kUndo));
-  editor.run(command_id::kRedo);
-  // The same entry once more.
+  EXPECT_EQ(editor.saved().entry(0).red, 78);
   editor.typeInto(field, "79");
-  saveAndStay();
-  EXPECT_EQ(paletteIn(editor.file()).entry(0).red, 79);
-  editor.typeInto(field, "80");
   // No message of another program closes the window without the question.
   editor.ask(editor.window(), WM_APP);
   editor.post(editor.window(), WM_CLOSE);
   answerMessage(editor, L"Warning", IDYES);
   EXPECT_EQ(editor.awaitEnd(), 0U);
-  EXPECT_EQ(paletteIn(editor.file()).entry(0).red, 80);
+  EXPECT_EQ(paletteIn(editor.file()).entry(0).red, 79);
 }
 
 TEST_F(Documents, AreDiscardedAtOnceWhenUnmodified) {
@@ -159,39 +143,22 @@ TEST_F(Documents, OfADialogAreModified) {
 
 TEST_F(Documents, AreSavedUnderANameWithItsExtension) {
   const Editor& editor = open(brightPalette(4));
-  const auto saveAs = [&](const char* name, PaletteFormat type) {
+  const auto saveAs = [&](const std::string& name, PaletteFormat type) {
     editor.start(command_id::kSaveAs);
     chooseFile(editor, L"Save As", folder_.name(name), static_cast<int>(type) - 1);
   };
   saveAs("plain", palette_format::kJasc);
   editor.awaitTitle(L"Quillhue - plain.pal");
-  saveAs("needs none", palette_format::kGimp);
-  editor.awaitTitle(L"Quillhue - needs none");
-  EXPECT_TRUE(fileExists(folder_.name("needs none")));
-  // A file that is there is asked for once, and the name with its extension counts.
-  const std::string before = folder_.contentOf("plain.pal");
-  editor.run(command_id::kClear);
-  for (const int answer : {IDNO, IDYES}) {
-    EXPECT_EQ(folder_.contentOf("plain.pal"), before);
-    EXPECT_EQ(textOf(editor.window()), L"Quillhue - needs none");
-    saveAs("plain", palette_format::kJasc);
-    EXPECT_EQ(answerMessage(editor, L"Save As", answer), L"This file already exists.\nDo you want to replace it?");
-  }
-  editor.awaitTitle(L"Quillhue - plain.pal");
-  EXPECT_NE(folder_.contentOf("plain.pal"), before);
+  // The dialog's own question does not come, because the name with its extension counts.
+  saveAs("own", palette_format::kJasc);
+  EXPECT_EQ(answerMessage(editor, L"Save As", IDNO), L"This file already exists.\nDo you want to replace it?");
+  EXPECT_EQ(textOf(editor.window()), L"Quillhue - plain.pal");
+  saveAs("own", palette_format::kJasc);
+  answerMessage(editor, L"Save As", IDYES);
+  editor.awaitTitle(L"Quillhue - own.pal");
   // Longer by one than the dialog has room for; Wine's own has none for more than 259 characters.
-  saveAs(std::string(256 - folder_.name("").size(), 'n').c_str(), palette_format::kCsv);
+  saveAs(std::string(256 - folder_.name("").size(), 'n'), palette_format::kCsv);
   EXPECT_EQ(answerMessage(editor, L"Error", IDOK), L"The name of the file is too long.");
-  // What the format can't hold is told, and nothing is written.
-  editor.drop({paletteFile("large.pal", brightPalette(300))});
-  editor.awaitTitle(L"Quillhue - large.pal");
-  saveAs("large", palette_format::kAdobeColorTable);
-  EXPECT_EQ(answerMessage(editor, L"Error", IDOK),
-            L"The palette is too large for the selected format.\n"
-            L"Use the Gimp, RIFF, or Windows Clipboard format instead.");
-  EXPECT_EQ(textOf(editor.window()), L"Quillhue - large.pal");
-  EXPECT_FALSE(fileExists(folder_.name("large.act")));
-  editor.close();
 }
 
 TEST_F(Documents, ComeFromFiles) {
@@ -220,19 +187,12 @@ TEST_F(Documents, ComeFromTheColorsOfAnImage) {
   {
     program.drop({image});
     const Dialog dialog(program, L"Create from image");
-    EXPECT_NE(
-        dialog.text().find(L"This image does not have a palette, but its\ncolors can be used to create a new one.\n"
-                           L"3 different colors found in the image."),
-        std::wstring::npos)
+    EXPECT_TRUE(dialog.text().contains(L"its\ncolors can be used to create a new one.\n3 different colors found"))
         << narrow(dialog.text());
     EXPECT_EQ(dialog.typed(FROM_IMAGE_SIZE), L"3");
     dialog.type(FROM_IMAGE_SIZE, L"0");
     dialog.press(FROM_IMAGE_REDUCE);
-    const Dialog refusal(program, L"Error");
-    EXPECT_EQ(refusal.text(), L"The palette size must be a number from 1 to 1024.");
-    // The refusal has to be answered first.
-    EXPECT_FALSE(IsWindowEnabled(dialog.window()));
-    refusal.answer(IDOK);
+    EXPECT_EQ(answerMessage(program, L"Error", IDOK), L"The palette size must be a number from 1 to 1024.");
     dialog.answer(IDCANCEL);
     EXPECT_EQ(textOf(program.window()), L"Quillhue - Welcome");
   }
@@ -246,7 +206,6 @@ TEST_F(Documents, ComeFromTheColorsOfAnImage) {
     dialog.type(FROM_IMAGE_SIZE, size);
     dialog.answer(button);
     program.awaitEqual(std::wstring(entries), [&] { return statusText(program); });
-    EXPECT_EQ(textOf(program.window()), L"Quillhue - Untitled");
   }
 }
 

@@ -14,7 +14,7 @@ TEST_F(Effects, AreShownBeforeTheyAreApplied) {
   const auto negative =
       std::ranges::find(all, std::string_view("negative"), [](const auto* effect) { return effect->name; });
   ASSERT_NE(negative, all.end());
-  store({{"Effect", storedBytes({static_cast<std::uint8_t>(negative - all.begin())})}});
+  store({{"Effect", {static_cast<std::uint8_t>(negative - all.begin())}}});
   const Palette palette = brightPalette(1);
   const PaletteEntry color = palette.entry(0);
   const PaletteEntry preview{static_cast<std::uint8_t>(255 - color.red), static_cast<std::uint8_t>(255 - color.green),
@@ -53,7 +53,7 @@ TEST_F(Effects, AreShownBeforeTheyAreApplied) {
 
 TEST_F(Effects, PasteShowsWhatTheClipboardHoldsNow) {
   constexpr std::uint8_t kPaste = 13;
-  store({{"Effect", storedBytes({kPaste})}});
+  store({{"Effect", {kPaste}}});
   const Editor& editor = open(brightPalette(2), kEffectsPage);
   editor.run(command_id::kSelectAll);
   editor.ask(editor.control(L"Edit"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"100"));
@@ -67,7 +67,7 @@ TEST_F(Effects, PasteShowsWhatTheClipboardHoldsNow) {
 
 TEST_F(Effects, ShowTheirLongestNumbers) {
   constexpr std::uint8_t kRotate = 12;
-  store({{"Effect", storedBytes({kRotate})}});
+  store({{"Effect", {kRotate}}});
   const Editor editor(paletteFile("large.gpl", brightPalette(1000)), kEffectsPage);
   HWND field = editor.control(L"Edit");
   editor.ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"-1000"));

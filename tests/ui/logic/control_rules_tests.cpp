@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "support/table.h"
 #include "ui/logic/from_image_dialog.h"
 #include "ui/logic/typed_number.h"
 #include "ui/logic/use_controls.h"
@@ -12,42 +13,42 @@ constexpr auto kMaintain = RemapMode::maintain;
 constexpr auto kNearest = RemapMode::nearest;
 constexpr auto kDither = RemapMode::dither;
 
-// How they follow image and mode is tested with the window.
-TEST(UseControls, CanBeTickedWithoutAnImageButNotUsedInARun) {
-  UseState state{.mode = kDither, .protectColor = true, .protectGrid = true};
-  EXPECT_EQ(loadControls(state), LoadControls{.load = true});
-  EXPECT_EQ(protectControls(state), (ProtectControls{true, true, true, true}));
-  EXPECT_FALSE(areLabelsGrey(state));
-  state.hasImage = state.isIndexed = state.hasResult = state.isBusy = true;
-  EXPECT_EQ(loadControls(state), LoadControls{});
-  EXPECT_EQ(protectControls(state), ProtectControls{});
-  EXPECT_TRUE(areLabelsGrey({.protectColor = true}));
+RemapMode modeOf(char letter) { return letter == 'm' ? kMaintain : letter == 'n' ? kNearest : kDither; }
+
+// "+" or "-" for each.
+std::string shown(std::initializer_list<bool> enabled) {
+  std::string text;
+  for (const bool each : enabled) {
+    text += each ? '+' : '-';
+  }
+  return text;
 }
 
-TEST(UseControls, ChangeTheMode) {
-  const struct {
-    bool hasImage;
-    bool isIndexed;
-    RemapMode mode;
-    RemapMode afterLoad;
-    std::optional<RemapMode> clicked[3];
-  } cases[] = {
-      {false, false, kMaintain, kMaintain, {std::nullopt, kNearest, kDither}},
-      {true, true, kMaintain, kMaintain, {std::nullopt, kNearest, kDither}},
-      {true, true, kDither, kDither, {kMaintain, kNearest, std::nullopt}},
-      {true, false, kMaintain, kNearest, {std::nullopt, kNearest, kDither}},
-      {true, false, kNearest, kNearest, {std::nullopt, std::nullopt, kDither}},
-      {true, false, kDither, kDither, {std::nullopt, kNearest, std::nullopt}},
-  };
-  for (const auto& [hasImage, isIndexed, mode, afterLoad, clicked] : cases) {
-    const UseState state{.hasImage = hasImage, .isIndexed = isIndexed, .mode = mode};
-    EXPECT_EQ(modeAfterLoad(state), afterLoad);
-    for (const RemapMode button : {kMaintain, kNearest, kDither}) {
-      EXPECT_EQ(clickedMode(state, button), clicked[static_cast<std::size_t>(button)]);
+TEST(UseControls, FollowImageAndMode) {
+  for (const auto& row : readTable("use_controls.txt")) {
+    const auto is = [&](std::string_view word) { return row.at(0).contains(word); };
+    const UseState state{.hasImage = is("image"),
+                         .isIndexed = is("indexed"),
+                         .hasResult = is("result"),
+                         .isBusy = is("busy"),
+                         .mode = modeOf(row.at(1).at(0)),
+                         .protectColor = is("color"),
+                         .protectGrid = is("grid")};
+    const LoadControls load = loadControls(state);
+    const ProtectControls protect = protectControls(state);
+    EXPECT_EQ(shown({load.load, load.maintain, load.nearest, load.dither, load.process, load.saveAs}) + ' ' +
+                  shown({protect.protectColor, protect.color, protect.protectGrid, protect.gridSides}),
+              row.at(2))
+        << row[0] << ", " << row[1];
+    EXPECT_EQ(modeAfterLoad(state), modeOf(row.at(3).at(0))) << row[0] << ", " << row[1];
+    std::string clicked;
+    for (const char mode : {'m', 'n', 'd'}) {
+      clicked += clickedMode(state, modeOf(mode)) == modeOf(mode) ? mode : '-';
     }
+    EXPECT_EQ(clicked, row.at(4)) << row[0] << ", " << row[1];
+    EXPECT_EQ(areLabelsGrey(state), !is("grid"));
+    EXPECT_EQ(imageStatusText(is("image")), is("image") ? "Image available" : "No image");
   }
-  EXPECT_EQ(imageStatusText(false), "No image");
-  EXPECT_EQ(imageStatusText(true), "Image available");
 }
 
 TEST(TypedNumber, BringsAnythingIntoTheRange) {

@@ -73,6 +73,9 @@ GridLayout gridOf(const Numbers& n, Point corner = {7, 30}) {
 BarsLayout barsOf(const Numbers& n) { return {{n.at(0), n.at(1)}, {n.at(2)}}; }
 
 std::string window(const Numbers& n) { return show(minimumWindowSize({n.at(0)}), defaultWindowSize({n.at(0)})); }
+std::string sizing(const Numbers& n) {
+  return show(keepMinimum({n.at(2), n.at(3), n.at(4), n.at(5)}, static_cast<SizingEdge>(n.at(1)), {n.at(0)}));
+}
 std::string frame(const Numbers& n) {
   const Rect screen = screenArea({n.at(0), n.at(1)}, n.at(2));
   const Scale scale{n.at(3)};
@@ -146,10 +149,10 @@ std::string next(const Numbers& n) {
 
 TEST(Layouts, AreThoseOfTheTable) {
   const std::map<std::string, std::string (*)(const Numbers&)> layouts{
-      {"window", window},   {"frame", frame},   {"intro", intro},   {"grid", grid},   {"hit", hit},
-      {"line", line},       {"entry", entry},   {"bars", bars},     {"value", value}, {"bar", bar},
-      {"row", row},         {"marker", marker}, {"values", values}, {"use", use},     {"scroll", scroll},
-      {"effects", effects}, {"rows", rows},     {"next", next}};
+      {"window", window},   {"frame", frame},   {"intro", intro},   {"grid", grid},    {"hit", hit},
+      {"line", line},       {"entry", entry},   {"bars", bars},     {"value", value},  {"bar", bar},
+      {"row", row},         {"marker", marker}, {"values", values}, {"use", use},      {"scroll", scroll},
+      {"effects", effects}, {"rows", rows},     {"next", next},     {"sizing", sizing}};
   for (const auto& cells : readTable("layouts.txt")) {
     std::istringstream numbers(cells.at(1));
     const Numbers given{std::istream_iterator<std::int32_t>(numbers), {}};

@@ -1,32 +1,20 @@
 #pragma once
 
 #include <cstdint>
-#include <iosfwd>
 #include <map>
 #include <string>
 #include <vector>
 
 namespace quillhue {
 
-/// The program's settings as the system keeps them.
+/// Stored values of the program's settings by name. Numbers have four bytes, the lowest first.
+using StoredSettings = std::map<std::string, std::vector<std::uint8_t>>;
 
-struct StoredValue {
-  /// REG_BINARY, REG_DWORD or another.
-  std::uint32_t type;
-  std::vector<std::uint8_t> bytes;
+[[nodiscard]] std::vector<std::uint8_t> storedNumber(std::int32_t number);
 
-  friend bool operator==(const StoredValue&, const StoredValue&) = default;
-};
-using StoredSettings = std::map<std::string, StoredValue>;
-
-[[nodiscard]] StoredValue storedNumber(std::int32_t number);
-[[nodiscard]] StoredValue storedBytes(std::vector<std::uint8_t> bytes);
-/// For the messages of failed tests.
-void PrintTo(const StoredValue& value, std::ostream* stream);
-
-/// All values of the key; none when it does not exist.
+/// Returns all settings that have a value of their type.
 [[nodiscard]] StoredSettings storedSettings();
-/// Replaces the key by these values, or deletes it when there are none.
+/// Replaces all stored settings by these.
 void store(const StoredSettings& settings);
 
 }  // namespace quillhue
