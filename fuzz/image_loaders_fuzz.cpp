@@ -5,6 +5,7 @@
 
 #include "formats/image_limits.h"
 #include "formats/images/image_loaders.h"
+#include "formats/standard/standard_formats.h"
 #include "fuzz_target.h"
 
 namespace {
@@ -32,5 +33,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   MemorySource source(content);
   check(loadImage(source));
   check(loadClipboardImage(content));
+  check(loadStandardImage(source, {}));
   return 0;
 }

@@ -1,10 +1,27 @@
 // The input is a file. It is looked for a reader under every name that matters to one, and then every reader of the
-// catalogue reads it, whether it is of its format or not.
+// catalogues reads it, whether it is of its format or not.
 
 #include <vector>
 
 #include "formats/readers/palette_readers.h"
+#include "formats/standard/standard_formats.h"
 #include "fuzz_target.h"
+
+namespace {
+
+void check(const quillhue::ReadResult& result) {
+  using namespace quillhue;
+  if (!result) {
+    require(!textOf(result.error()).empty(), "a text for every failure");
+  } else if (const auto* bitmap = std::get_if<TrueColorBitmap>(&*result)) {
+    require(bitmap->pixelCount() >= 1, "at least one pixel");
+  } else if (const auto* file = std::get_if<FilePalette>(&*result)) {
+    const std::int32_t entries = file->palette.getSize();
+    require(entries >= 1 && entries <= kMaxPaletteSize, "1 to 1024 entries");
+  }
+}
+
+}  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quillhue;
@@ -14,15 +31,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     (void)findPaletteReader({source, name});
   }
   for (const PaletteReader* reader : paletteReaders()) {
-    const ReadResult result = reader->read({source, size % 2 == 0 ? L"x.pal" : L"x.col"});
-    if (!result) {
-      require(!textOf(result.error()).empty(), "a text for every failure");
-    } else if (const auto* bitmap = std::get_if<TrueColorBitmap>(&*result)) {
-      require(bitmap->pixelCount() >= 1, "at least one pixel");
-    } else {
-      const std::int32_t entries = std::get<FilePalette>(*result).palette.getSize();
-      require(entries >= 1 && entries <= kMaxPaletteSize, "1 to 1024 entries");
-    }
+    check(reader->read({source, size % 2 == 0 ? L"x.pal" : L"x.col"}));
+  }
+  for (const PaletteReader* reader : standardReaders()) {
+    check(reader->read({source, L"x"}));
   }
   return 0;
 }

@@ -18,7 +18,7 @@ namespace {
 
 struct ConvertOptions {
   std::vector<std::string> files;
-  std::string name;
+  InputOptions input;
   std::optional<std::string> outDir;
   OutputOptions output;
   std::string colors;
@@ -48,7 +48,7 @@ std::expected<Palette, std::string> paletteOfImage(const std::string& file, cons
 
 std::expected<InputPalette, std::string> readPaletteOf(const std::string& file, const ConvertOptions& options,
                                                        Console& console) try {
-  auto input = openInput(file, options.name, console);
+  auto input = openInput(file, options.input, console);
   if (!input) {
     return refusalOf(input.error());
   }
@@ -87,8 +87,8 @@ ExitStatus convertAll(const std::string& outDir, const ConvertOptions& options, 
   if (options.output.format.empty()) {
     refuseUsage("--format", "is needed with --out-dir");
   }
-  const FormatChoice choice(options.output, {});
-  const FolderOutput output{outDir, choice.formatFor({}, 0).extension, options.name, options.output.force};
+  const FormatChoice choice(options.output, options.input.standard, {});
+  const FolderOutput output{outDir, choice.formatFor({}, 0).extension, options.input.name, options.output.force};
   return writeIntoFolder(output, options.files, console, [&](const std::string& from, const std::string& to) {
     return convertFile(from, to, choice, options, console);
   });
@@ -106,7 +106,7 @@ ExitStatus convert(const ConvertOptions& options, Console& console) {
   }
   const std::string& from = options.files[0];
   const std::string& to = options.files[1];
-  const FormatChoice choice(options.output, to, inputName(from, options.name));
+  const FormatChoice choice(options.output, options.input.standard, to, inputName(from, options.input));
   return convertFile(from, to, choice, options, console) ? kDone : kRefused;
 }
 
@@ -117,9 +117,10 @@ void addConvertVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   const auto options = std::make_shared<ConvertOptions>();
   verb.addArgument("FILE", options->files,
                    "IN and OUT; with --out-dir any number of files and folders of them. - is standard input or output");
-  verb.addOption("--name", options->name, "The file name that standard input is taken to have");
+  verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
   verb.addOption("--out-dir", options->outDir, "Convert all files into this folder");
   addOutputOptions(verb, options->output);
+  addStandardFlag(verb, options->input.standard);
   verb.addChoice("--colors", options->colors, {"exact", "reduce"},
                  "How to make a palette from an image without one: all of its colors, or fewer");
   addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},

@@ -23,7 +23,7 @@ struct WrittenStep {
 struct EditOptions {
   std::string from;
   std::string to;
-  std::string name;
+  InputOptions input;
   std::vector<WrittenStep> steps;
   OutputOptions output;
   bool json = false;
@@ -42,12 +42,12 @@ JsonObject editedJson(const EditOptions& options, const OutputFormat& format, co
 
 ExitStatus edit(const EditOptions& options, Console& console) {
   refuseJsonOnStandardOutput(options.json, options.to);
-  const FormatChoice choice(options.output, options.to, inputName(options.from, options.name));
-  auto read = readFilePalette(options.from, options.name, console);
+  const FormatChoice choice(options.output, options.input.standard, options.to, inputName(options.from, options.input));
+  auto read = readFilePalette(options.from, options.input, console);
   if (!read) {
     return refuseFile({options.from, read.error()}, options.json, console);
   }
-  EditSession session(std::move(read->palette), console);
+  EditSession session(std::move(read->palette), options.input, console);
   const StepKind* last = nullptr;
   for (const auto& [kind, text, run] : options.steps) {
     if (std::exchange(last, kind) != kind) {
@@ -91,8 +91,9 @@ void addEditVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   const auto options = std::make_shared<EditOptions>();
   verb.addArgument("IN", options->from, "The palette or image file to read, or - for standard input");
   verb.addArgument("OUT", options->to, "The file to write, or - for standard output");
-  verb.addOption("--name", options->name, "The file name that standard input is taken to have");
+  verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
   addOutputOptions(verb, options->output);
+  addStandardFlag(verb, options->input.standard);
   verb.addFlag("--json", options->json, "Write JSON: the palette that was written, and what the steps left");
   for (const auto& kinds : {selectionSteps(), colorSteps(), documentSteps(), entrySteps()}) {
     for (const StepKind& kind : kinds) {

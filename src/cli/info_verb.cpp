@@ -15,7 +15,7 @@ namespace {
 
 struct InfoOptions {
   std::vector<std::string> files;
-  std::string name;
+  InputOptions input;
   bool json = false;
 };
 
@@ -41,7 +41,7 @@ void showImage(const std::string& file, const Input& input, std::uint64_t colors
 }
 
 std::expected<void, Failure> show(const std::string& file, const InfoOptions& options, Console& console) try {
-  const auto input = openInput(file, options.name, console);
+  const auto input = openInput(file, options.input, console);
   if (!input) {
     return std::unexpected(input.error());
   }
@@ -76,7 +76,8 @@ void addInfoVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   Verb verb = tool.addVerb("info", "Show the palettes of files");
   const auto options = std::make_shared<InfoOptions>();
   verb.addArgument("FILE", options->files, "Palette or image files, folders of them, or - for standard input");
-  verb.addOption("--name", options->name, "The file name that standard input is taken to have");
+  verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
+  addStandardFlag(verb, options->input.standard);
   verb.addFlag("--json", options->json, "Write JSON, one object a line for each file");
   verb.onRun([options, &console, &status] { status = showAll(*options, console); });
 }

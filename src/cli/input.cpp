@@ -10,6 +10,7 @@
 #include "cli/picture_input.h"
 #include "core/utf8.h"
 #include "formats/files.h"
+#include "formats/standard/standard_formats.h"
 
 namespace quillhue::cli {
 
@@ -21,15 +22,24 @@ bool isWithoutPalette(Failure failure) {
 
 }  // namespace
 
-std::expected<Input, Failure> openInput(const std::string& file, const std::string& streamName, Console& console) {
+void addStandardFlag(Verb& verb, bool& standard) {
+  verb.addFlag("--standard", standard, "Read and write files by the published descriptions of their formats");
+}
+
+std::expected<Input, Failure> openInput(const std::string& file, const InputOptions& options, Console& console) {
   auto source = file == "-" ? readStream(console.in) : openFile(fromUtf8(file));
   if (!source) {
     return std::unexpected(source.error());
   }
-  const std::wstring name = fromUtf8(inputName(file, streamName));
+  const std::wstring name = fromUtf8(inputName(file, options));
   const ReaderInput input{**source, name};
-  const PaletteReader* reader = findPaletteReader(input);
-  ReadResult content = readPalette(input);
+  const PaletteReader* reader = options.standard ? findStandardReader(input) : nullptr;
+  const bool isStandard = reader != nullptr;
+  reader = isStandard ? reader : findPaletteReader(input);
+  ReadResult content = isStandard ? reader->read(input) : readPalette(input);
+  if ((*source)->failed()) {
+    return std::unexpected(Failure::couldNotOpen);
+  }
   if (!content && isWithoutPalette(content.error())) {
     if (const PaletteReader* const picture = findPictureReader(input)) {
       reader = picture;
@@ -47,8 +57,8 @@ ImageColors colorsOf(const FileContent& image) {
   return bitmap == nullptr ? ImageColors(std::get<WorkImage>(image)) : ImageColors(*bitmap);
 }
 
-const std::string& inputName(const std::string& file, const std::string& streamName) {
-  return file == "-" ? streamName : file;
+const std::string& inputName(const std::string& file, const InputOptions& options) {
+  return file == "-" ? options.name : file;
 }
 
 std::vector<std::string> expandFolders(const std::vector<std::string>& files) {
@@ -76,9 +86,9 @@ std::vector<std::string> expandFolders(const std::vector<std::string>& files) {
   return expanded;
 }
 
-std::expected<InputPalette, std::string> readFilePalette(const std::string& file, const std::string& streamName,
+std::expected<InputPalette, std::string> readFilePalette(const std::string& file, const InputOptions& options,
                                                          Console& console) try {
-  auto input = openInput(file, streamName, console);
+  auto input = openInput(file, options, console);
   if (!input) {
     return refusalOf(input.error());
   }

@@ -7,12 +7,22 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/refusal.h"
 #include "formats/image_colors.h"
 #include "formats/readers/palette_readers.h"
 
 namespace quillhue::cli {
+
+/// How a verb reads files.
+struct InputOptions {
+  /// The name that standard input is taken to have.
+  std::string name;
+  /// By the published descriptions of the formats.
+  bool standard = false;
+};
+void addStandardFlag(Verb& verb, bool& standard);
 
 /// A file that was read. An image of true colors still reads from the source.
 struct Input {
@@ -21,8 +31,8 @@ struct Input {
   FileContent content;
 };
 
-/// Reads the file, or for "-" standard input, which is then taken to be called `streamName`.
-[[nodiscard]] std::expected<Input, Failure> openInput(const std::string& file, const std::string& streamName,
+/// Reads the file, or for "-" standard input.
+[[nodiscard]] std::expected<Input, Failure> openInput(const std::string& file, const InputOptions& options,
                                                       Console& console);
 
 /// Collects the colors of an image without a palette. The image must outlive the result. Throws std::bad_alloc.
@@ -36,10 +46,10 @@ struct InputPalette {
 
 /// Reads the palette of a palette file or an indexed image. Refuses a true-color image.
 [[nodiscard]] std::expected<InputPalette, std::string> readFilePalette(const std::string& file,
-                                                                       const std::string& streamName, Console& console);
+                                                                       const InputOptions& options, Console& console);
 
 /// The name that the file has, or that standard input is taken to have.
-[[nodiscard]] const std::string& inputName(const std::string& file, const std::string& streamName);
+[[nodiscard]] const std::string& inputName(const std::string& file, const InputOptions& options);
 
 /// Replaces each folder among the files by its regular files, sorted by name.
 [[nodiscard]] std::vector<std::string> expandFolders(const std::vector<std::string>& files);

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "cli/arguments.h"
+#include "cli/input.h"
 #include "cli/json.h"
 #include "cli/output.h"
 #include "cli/verbs.h"
@@ -22,6 +23,7 @@ struct NewOptions {
   bool windowsColors = false;
   PaletteEntry blank;
   OutputOptions output;
+  bool standard = false;
   bool json = false;
 };
 
@@ -75,7 +77,7 @@ std::vector<std::string> kindNames() {
 
 ExitStatus makeNew(const NewOptions& options, Console& console) {
   refuseJsonOnStandardOutput(options.json, options.file);
-  const FormatChoice choice(options.output, options.file);
+  const FormatChoice choice(options.output, options.standard, options.file);
   const Palette palette = createPaletteFor(options);
   const OutputFormat& format = choice.formatFor({}, palette.getSize());
   const auto written =
@@ -116,6 +118,7 @@ void addNewVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addFlag("--windows-colors", options->windowsColors, "Include the 20 Windows colors in blank or rgb");
   addColorOption(verb, "--blank", options->blank, "The color of unused entries (default 0,0,0)");
   addOutputOptions(verb, options->output);
+  addStandardFlag(verb, options->standard);
   verb.addFlag("--json", options->json, "Write JSON: the palette that was written");
   verb.onRun([options, &console, &status] { status = makeNew(*options, console); });
 }

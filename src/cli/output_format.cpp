@@ -9,6 +9,7 @@
 #include "core/utf8.h"
 #include "formats/exports/export_formats.h"
 #include "formats/files.h"
+#include "formats/standard/standard_formats.h"
 #include "formats/writers/palette_writers.h"
 
 namespace quillhue::cli {
@@ -29,18 +30,17 @@ OutputFormat formatOf(const PaletteWriter& writer) {
           }};
 }
 
+Compose composeBy(const ExportFormat& format) {
+  return [&format](const Palette& palette, const Composition& composition) -> Composed {
+    ByteSink sink;
+    format.compose(palette, composition.name, sink);
+    return sink.take();
+  };
+}
+
 OutputFormat formatOf(const ExportFormat& format) {
-  return {format.name,
-          palette_format::kNone,
-          format.title,
-          format.extension,
-          format.ownsExtension,
-          kAnySize,
-          [&format](const Palette& palette, const Composition& composition) -> Composed {
-            ByteSink sink;
-            format.compose(palette, composition.name, sink);
-            return sink.take();
-          }};
+  return {format.name, palette_format::kNone, format.title, format.extension, format.ownsExtension,
+          kAnySize,    composeBy(format)};
 }
 
 OutputFormat pngFormat() {
@@ -72,10 +72,15 @@ std::string extensionOf(const std::string& file) {
 
 }  // namespace
 
-std::vector<OutputFormat> outputFormats() {
+std::vector<OutputFormat> outputFormats(bool standard) {
   std::vector<OutputFormat> formats;
   for (const PaletteWriter* writer : paletteWriters()) {
     formats.push_back(formatOf(*writer));
+    const auto other = std::ranges::find(standardWriters(), writer->name, &ExportFormat::name);
+    if (standard && other != standardWriters().end()) {
+      formats.back().maxSize = kAnySize;
+      formats.back().compose = composeBy(**other);
+    }
   }
   for (const ExportFormat* format : exportFormats()) {
     formats.push_back(formatOf(*format));
@@ -95,8 +100,8 @@ void addOutputOptions(Verb& verb, OutputOptions& options) {
   verb.addFlag("--force", options.force, "Replace files that exist");
 }
 
-FormatChoice::FormatChoice(const OutputOptions& options, const std::string& to, const std::string& from)
-    : formats_(outputFormats()) {
+FormatChoice::FormatChoice(const OutputOptions& options, bool standard, const std::string& to, const std::string& from)
+    : formats_(outputFormats(standard)) {
   const std::string extension = extensionOf(to);
   const auto isChosen = [&](const OutputFormat& format) {
     return options.format.empty() ? format.ownsExtension && '.' + std::string(format.extension) == extension

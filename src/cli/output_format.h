@@ -26,6 +26,7 @@ struct Composition {
 };
 
 using Composed = std::expected<std::vector<std::uint8_t>, Failure>;
+using Compose = std::function<Composed(const Palette& palette, const Composition& composition)>;
 
 /// The format that uses SwatchLayout.
 inline constexpr std::string_view kPngFormat = "png";
@@ -38,10 +39,11 @@ struct OutputFormat {
   std::string_view extension;
   bool ownsExtension;
   std::int32_t maxSize;
-  std::function<Composed(const Palette& palette, const Composition& composition)> compose;
+  Compose compose;
 };
 
-[[nodiscard]] std::vector<OutputFormat> outputFormats();
+/// All of them; with `standard` some are written by their published descriptions.
+[[nodiscard]] std::vector<OutputFormat> outputFormats(bool standard = false);
 
 /// Options of the verbs that write palettes.
 struct OutputOptions {
@@ -57,7 +59,7 @@ class FormatChoice {
  public:
   /// Chooses by --format, or else by the extension of the file `to`. Where `from`, the name of the file that is read,
   /// has the same extension, that file's own format comes first. Refuses the usage when neither can tell a format.
-  FormatChoice(const OutputOptions& options, const std::string& to, const std::string& from = {});
+  FormatChoice(const OutputOptions& options, bool standard, const std::string& to, const std::string& from = {});
 
   /// Returns the format for a palette of `size` entries that was read in the format `readAs`. The input's own format is
   /// used only if it can be written and can hold the palette. Refuses the usage if no other format was chosen.

@@ -20,6 +20,7 @@
 #include "core/utf8.h"
 #include "formats/files.h"
 #include "formats/images/image_loaders.h"
+#include "formats/standard/standard_formats.h"
 #include "pictures/picture_file.h"
 #include "remap/transparent_remap.h"
 
@@ -31,7 +32,7 @@ struct RemapVerbOptions {
   std::vector<std::string> files;
   std::string palette;
   std::optional<std::string> outDir;
-  std::string name;
+  InputOptions input;
   std::string format;
   RemapOptions remap;
   std::optional<std::int32_t> transparent;
@@ -51,14 +52,15 @@ class NoProgress final : public RemapProgress {
   [[nodiscard]] bool rowsDone(std::int32_t /*rows*/, const RemappedImage& /*result*/) override { return true; }
 };
 
-std::expected<WorkImage, std::string> readImage(const std::string& file, PaletteEntry blank, Console& console) {
+std::expected<WorkImage, std::string> readImage(const std::string& file, const RemapVerbOptions& options,
+                                                Console& console) {
   const auto source = file == "-" ? readStream(console.in) : openFile(fromUtf8(file));
   if (!source) {
     return refusalOf(source.error());
   }
-  ImageResult image = loadImage(**source);
+  ImageResult image = options.input.standard ? loadStandardImage(**source, options.blank) : loadImage(**source);
   if (!image && image.error() == Failure::unrecognisedType) {
-    image = loadPicture(**source, blank);
+    image = loadPicture(**source, options.blank);
   }
   if (!image) {
     return refusalOf(image.error());
@@ -108,7 +110,7 @@ struct Remapped {
 // The image is gone when the result is written: they need not fit into the memory with the file.
 std::expected<Remapped, std::string> remapFile(const std::string& file, const Target& target,
                                                const RemapVerbOptions& options, Console& console) {
-  const auto image = readImage(file, options.blank, console);
+  const auto image = readImage(file, options, console);
   if (!image) {
     return Refusal(image.error());
   }
@@ -193,7 +195,7 @@ ExitStatus remap(const RemapVerbOptions& options, Console& console) {
   checkUsage(options);
   const std::string& paletteFile = options.outDir ? options.palette : options.files[1];
   const ImageFormat& format = chooseImageFormat(options.format, options.outDir ? "" : options.files[2]);
-  const auto read = readFilePalette(paletteFile, {}, console);
+  const auto read = readFilePalette(paletteFile, {{}, options.input.standard}, console);
   const auto usable = read ? checkEntries(read->palette, options) : Refusal(read.error());
   if (!usable) {
     reportRefusal(console, paletteFile, usable.error());
@@ -204,7 +206,7 @@ ExitStatus remap(const RemapVerbOptions& options, Console& console) {
     return remapTo(options.files[0], options.files[2], target, options, console) ? kDone : kRefused;
   }
   return writeIntoFolder(
-      {*options.outDir, format.name, options.name, options.force}, options.files, console,
+      {*options.outDir, format.name, options.input.name, options.force}, options.files, console,
       [&](const std::string& from, const std::string& to) { return remapTo(from, to, target, options, console); });
 }
 
@@ -237,7 +239,7 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
                    "--out-dir any number of images and folders of them. - is standard input or output");
   verb.addOption("--palette", options->palette, "The palette or image file whose colors are used, with --out-dir");
   verb.addOption("--out-dir", options->outDir, "Write all results into this folder");
-  verb.addOption("--name", options->name, "The file name that standard input is taken to have, with --out-dir");
+  verb.addOption("--name", options->input.name, "The file name that standard input is taken to have, with --out-dir");
   verb.addAction({"--mode", "NAME",
                   "maintain the indexes of an indexed image, take the nearest colors, or dither (default: nearest)",
                   [options](const std::string& text) { options->remap.mode = parseMode(text); }});
@@ -253,6 +255,7 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   addColorOption(verb, "--blank", options->blank,
                  "The color of unused entries of a bitmap, and behind transparent pixels (default 0,0,0)");
   addForceFlag(verb, options->force);
+  addStandardFlag(verb, options->input.standard);
   verb.onRun([options, &console, &status] { status = remap(*options, console); });
 }
 

@@ -17,7 +17,7 @@ namespace {
 
 struct ValuesOptions {
   std::string file;
-  std::string name;
+  InputOptions input;
   // Color models to show; empty for all.
   std::vector<std::int32_t> models;
   std::optional<EntryList> entries;
@@ -44,7 +44,7 @@ void showEntry(const ColorModel& model, const ColorMode& mode, bool json, Consol
 }
 
 ExitStatus showValues(const ValuesOptions& options, Console& console) {
-  auto read = readFilePalette(options.file, options.name, console);
+  auto read = readFilePalette(options.file, options.input, console);
   if (!read) {
     return refuseFile({options.file, read.error()}, options.json, console);
   }
@@ -82,7 +82,7 @@ void addValuesVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   options->models.resize(colorModels().size());
   std::iota(options->models.begin(), options->models.end(), 0);
   verb.addArgument("FILE", options->file, "A palette or image file, or - for standard input");
-  verb.addOption("--name", options->name, "The file name that standard input is taken to have");
+  verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
   verb.addAction({"--model", "NAME", "Show only this color model (default: all)", [options](const std::string& name) {
                     const auto model = placeOfAnyCase(namesOf(colorModels()), name);
                     if (!model) {
@@ -97,6 +97,7 @@ void addValuesVerb(CommandLine& tool, Console& console, ExitStatus& status) {
                     }
                     options->entries = std::move(*entries);
                   }});
+  addStandardFlag(verb, options->input.standard);
   verb.addFlag("--json", options->json, "Write JSON, one object a line for each entry and model");
   verb.onRun([options, &console, &status] { status = showValues(*options, console); });
 }

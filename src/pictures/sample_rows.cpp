@@ -3,23 +3,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/coverage.h"
+
 namespace quillhue {
 
 namespace {
-
-constexpr std::uint8_t kHalfCovered = 128;
-
-// The rounded quotient by 255.
-constexpr std::uint8_t dividedBy255(std::uint32_t product) { return static_cast<std::uint8_t>((product + 127) / 255); }
-
-std::uint8_t blended(std::uint8_t value, std::uint8_t blank, std::uint8_t coverage) {
-  return dividedBy255(std::uint32_t{value} * coverage + std::uint32_t{blank} * (255U - coverage));
-}
-
-PaletteEntry blended(const PaletteEntry& color, const PaletteEntry& blank, std::uint8_t coverage) {
-  return {blended(color.red, blank.red, coverage), blended(color.green, blank.green, coverage),
-          blended(color.blue, blank.blue, coverage)};
-}
 
 std::optional<Palette> paletteOf(const std::optional<PictureColors>& colors, const PaletteEntry& blank) {
   if (!colors) {

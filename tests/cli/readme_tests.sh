@@ -19,7 +19,7 @@ expect() {
 }
 
 examples=$(awk '/^## / { on = $0 == "## In scripts" } on && /^    / { print substr($0, 5) }' "$readme")
-expect 'examples' "$(grep -c '^quillhue-cli\|^for' <<<"$examples")" 8
+expect 'examples' "$(grep -c '^quillhue-cli\|^for' <<<"$examples")" 10
 eval "$examples"
 
 expect 'red team' "$(entry harbour.gpl 18)" '134 50 44'
@@ -34,3 +34,4 @@ expect 'no water' "$(entry water-7.gpl 8)" '24 40 36'
 expect 'middle of the ramp' "$(entry copper.gpl 4)" '194 161 128'
 expect 'least colorful entries' "$(tr -d '\r' <greys.jsonl | sed 's/.*"index":\([0-9]*\),.*/\1/' | xargs)" \
   '0 1 2 8 9 10 11 12 16 24 25 26 27 30 31'
+expect 'header lines' "$(entry named.act 0)" '16 18 28'

@@ -180,11 +180,12 @@ def web_formats():
     save("models.aco", struct.pack(">HH", 2, len(swatches)) + named, "aco", 0, models)
 
 
-SAMPLES.mkdir(exist_ok=True)
-text_formats()
-fixed_formats()
-image_formats()
-clipboard_formats()
-true_color_images()
-web_formats()
-(HERE / "samples.txt").write_text("\n".join(sorted(lines)) + "\n")
+if __name__ == "__main__":
+    SAMPLES.mkdir(exist_ok=True)
+    text_formats()
+    fixed_formats()
+    image_formats()
+    clipboard_formats()
+    true_color_images()
+    web_formats()
+    (HERE / "samples.txt").write_text("\n".join(sorted(lines)) + "\n")

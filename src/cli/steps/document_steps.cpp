@@ -42,7 +42,7 @@ ParsedStep parseClipboard(const std::string& argument) {
     return Refusal("needs a file: standard input has no name");
   }
   return [argument](EditSession& session) -> StepResult {
-    const auto read = readFilePalette(argument, {}, session.console);
+    const auto read = readFilePalette(argument, session.input, session.console);
     if (!read) {
       return Refusal(read.error());
     }

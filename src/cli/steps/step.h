@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "cli/arguments.h"
+#include "cli/input.h"
 #include "cli/refusal.h"
 #include "cli/tool_services.h"
 #include "colormodes/channel_editor.h"
@@ -19,13 +20,15 @@ namespace quillhue::cli {
 /// The state that the steps of one call share.
 struct EditSession {
   /// Selects all entries.
-  EditSession(Palette palette, Console& toolConsole);
+  EditSession(Palette palette, const InputOptions& inputOptions, Console& toolConsole);
 
   [[nodiscard]] PaletteDocument& document() const { return *slot.document(); }
   [[nodiscard]] PaletteCommandInput commandInput(std::int32_t currentEntry = -1) {
     return {.document = document(), .settings = tool.settings, .mask = mask, .currentEntry = currentEntry};
   }
 
+  /// How steps read files.
+  const InputOptions& input;
   Console& console;
   ToolServices tool;
   DocumentSlot slot;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <expected>
+#include <new>
 #include <string_view>
 
 #include "formats/byte_source.h"
@@ -23,5 +24,18 @@ struct ImageLoader {
   /// Loads a file that matches. Pixels missing from the file are zero.
   ImageResult (*load)(ByteSource& source);
 };
+
+/// Returns what `load` loads from the source, or the failure that can happen in any format: couldNotOpen when the
+/// medium failed, notEnoughMemory when `load` throws std::bad_alloc.
+template <typename Load>
+[[nodiscard]] ImageResult guardedLoad(ByteSource& source, Load load) try {
+  ImageResult image = load();
+  if (source.failed()) {
+    return std::unexpected(Failure::couldNotOpen);
+  }
+  return image;
+} catch (const std::bad_alloc&) {
+  return std::unexpected(Failure::notEnoughMemory);
+}
 
 }  // namespace quillhue

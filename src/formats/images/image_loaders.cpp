@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <new>
 #include <utility>
 
 #include "formats/bitmap_layout.h"
@@ -13,18 +12,6 @@ namespace quillhue {
 namespace {
 
 constexpr std::array kLoaders{&kBitmapLoader, &kClipboardLoader, &kLbmLoader, &kPcxLoader};
-
-// Loads with `load`, and tells the failures that can happen in any format.
-template <typename Load>
-ImageResult guarded(ByteSource& source, Load load) try {
-  ImageResult image = load();
-  if (source.failed()) {
-    return std::unexpected(Failure::couldNotOpen);
-  }
-  return image;
-} catch (const std::bad_alloc&) {
-  return std::unexpected(Failure::notEnoughMemory);
-}
 
 // Screenshot programs put the masks between the header of 40 bytes and the pixels, or into a longer header at the same
 // place.
@@ -46,7 +33,7 @@ DibLayout clipboardLayout(ByteSource& source) {
 std::span<const ImageLoader* const> imageLoaders() { return kLoaders; }
 
 ImageResult loadImage(ByteSource& source) {
-  return guarded(source, [&]() -> ImageResult {
+  return guardedLoad(source, [&]() -> ImageResult {
     const auto found =
         std::ranges::find_if(kLoaders, [&](const ImageLoader* loader) { return loader->matches(source); });
     if (found == kLoaders.end()) {
@@ -58,7 +45,7 @@ ImageResult loadImage(ByteSource& source) {
 
 ImageResult loadClipboardImage(std::vector<std::uint8_t> block) {
   MemorySource source(std::move(block));
-  return guarded(source, [&] { return loadDib(source, clipboardLayout(source), Failure::clipboardDepth); });
+  return guardedLoad(source, [&] { return loadDib(source, clipboardLayout(source), Failure::clipboardDepth); });
 }
 
 }  // namespace quillhue

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <expected>
+#include <optional>
+
+#include "core/palette.h"
+#include "formats/byte_source.h"
+#include "formats/failure.h"
+
+namespace quillhue {
+
+/// The header of a Windows or OS/2 bitmap. Layouts: the Windows API's BITMAPCOREHEADER (12 bytes), BITMAPINFOHEADER
+/// (40; 52 and 56 with masks), BITMAPV4HEADER (108) and BITMAPV5HEADER (124), and BITMAPINFOHEADER2 of the OS/2
+/// Presentation Manager (64, or its first 16 bytes).
+struct BitmapHeader {
+  enum class Compression : std::uint8_t { none, rle8, rle4 };
+
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  /// The first row in the file is the upper one.
+  bool isTopDown = false;
+  /// Per pixel: 1, 2, 4, 8, 16, 24 or 32.
+  unsigned bits = 0;
+  Compression compression = Compression::none;
+  /// Of 16 bits and more: which bits of a pixel are red, green, blue and alpha; 0 for a channel that there is none of.
+  std::array<std::uint32_t, 4> masks{};
+  /// Of 8 bits and fewer: where the color table is, and how many entries of how many bytes it has.
+  std::uint64_t table = 0;
+  std::uint32_t entries = 0;
+  std::uint32_t entrySize = 4;
+  /// Where the pixels are.
+  std::uint64_t pixels = 0;
+};
+
+/// Reads the info header at `offset`. `pixels` is where the file says that the pixels are; without it they follow the
+/// color table. Refuses with bitmapUnsupported other sizes of the header, depths and compressions, with imageTooSmall
+/// or imageTooLarge a size outside image_limits.h.
+[[nodiscard]] std::expected<BitmapHeader, Failure> readBitmapHeader(ByteSource& source, std::uint64_t offset,
+                                                                    std::optional<std::uint64_t> pixels);
+
+/// The header of a file, which a file header precedes.
+[[nodiscard]] std::expected<BitmapHeader, Failure> readBitmapFileHeader(ByteSource& source);
+
+/// The color table, as far as a palette holds it. Refuses with bitmapUnsupported a bitmap without one, with
+/// pictureDamaged one that the file does not hold.
+[[nodiscard]] std::expected<Palette, Failure> readColorTable(ByteSource& source, const BitmapHeader& header);
+
+}  // namespace quillhue

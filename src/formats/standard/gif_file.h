@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <expected>
+#include <optional>
+
+#include "core/palette.h"
+#include "formats/images/image_loader.h"
+
+namespace quillhue {
+
+/// The first image of a GIF file. Layout: CompuServe, "Graphics Interchange Format, Version 89a" (1990).
+struct GifFrame {
+  /// The canvas on which it lies; large enough for all of it.
+  std::int32_t canvasWidth = 0;
+  std::int32_t canvasHeight = 0;
+  std::int32_t left = 0;
+  std::int32_t top = 0;
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  bool isInterlaced = false;
+  /// Where the file's palette and that of this image alone are, and how many entries they have; 0 for none.
+  std::uint64_t globalTable = 0;
+  std::int32_t globalEntries = 0;
+  std::uint64_t localTable = 0;
+  std::int32_t localEntries = 0;
+  std::optional<std::uint8_t> transparentIndex;
+  /// Where the compressed pixels are; 0 when the file has no image.
+  std::uint64_t pixels = 0;
+};
+
+/// Reads the file's blocks up to the first image.
+[[nodiscard]] GifFrame readGifFrame(ByteSource& source);
+
+/// Decodes the image. The transparent index has the color `blank`. Pixels of the canvas that the image leaves free have
+/// the transparent index, or else index 0. Refuses with
+/// gifNoGlobalPalette a file without a palette, with pictureDamaged one without an image or with too little of it, and
+/// a size outside image_limits.h. Throws std::bad_alloc.
+[[nodiscard]] ImageResult readGifPixels(ByteSource& source, const GifFrame& frame, PaletteEntry blank);
+
+}  // namespace quillhue

@@ -1,0 +1,120 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+#include "core/utf8.h"
+#include "formats/readers/palette_readers.h"
+#include "formats/standard/standard_formats.h"
+#include "support/checksum.h"
+#include "support/palettes.h"
+#include "support/table.h"
+
+namespace quillhue {
+namespace {
+
+Bytes contentOf(const std::string& sample) {
+  std::ifstream stream("standard/" + sample, std::ios::binary);
+  return {std::istreambuf_iterator(stream), std::istreambuf_iterator<char>()};
+}
+
+ReadResult readStandard(ByteSource& source, const std::string& name) {
+  const std::wstring wideName = fromUtf8(name);
+  const ReaderInput input{source, wideName};
+  const PaletteReader* const reader = findStandardReader(input);
+  return reader == nullptr ? readPalette(input) : reader->read(input);
+}
+
+// The failure's text, "image", or what `showPalette` says of the palette.
+template <typename ShowPalette>
+std::string paletteIn(Bytes content, const std::string& name, ShowPalette showPalette) {
+  MemorySource source(std::move(content));
+  const ReadResult result = readStandard(source, name);
+  if (!result) {
+    return std::string(textOf(result.error()));
+  }
+  const auto* const file = std::get_if<FilePalette>(&*result);
+  return file == nullptr ? "image" : showPalette(file->palette);
+}
+
+std::string withChecksum(const Palette& palette) {
+  return std::to_string(palette.getSize()) + ' ' + std::to_string(checksumOf(palette));
+}
+
+// Size and checksum of the pixels, each with 0 behind it where it is transparent and 255 otherwise.
+std::string shown(const WorkImage& image) {
+  Checksum sum;
+  for (std::int32_t y = 0; y < image.height(); ++y) {
+    const auto row = image.row(y);
+    for (std::size_t x = 0; x < static_cast<std::size_t>(image.width()); ++x) {
+      const auto& palette = image.palette();
+      sum.add(palette ? palette->entry(row[x]) : PaletteEntry{row[3 * x + 2], row[3 * x + 1], row[3 * x]});
+      const bool isTransparent =
+          palette ? image.transparentIndexes()[row[x]] : image.hasTransparency() && image.transparentRow(y)[x] != 0;
+      sum.add(isTransparent ? 0 : 255);
+    }
+  }
+  return std::to_string(image.width()) + 'x' + std::to_string(image.height()) + ' ' + std::to_string(sum.value());
+}
+
+std::string imageIn(Bytes content) {
+  MemorySource source(std::move(content));
+  const ImageResult image = loadStandardImage(source, {});
+  return image ? shown(*image) : std::string(textOf(image.error()));
+}
+
+TEST(StandardFormats, HoldWhatTheirListSays) {
+  for (const auto& row : readTable("standard.txt")) {
+    EXPECT_EQ(paletteIn(contentOf(row.at(0)), row[0], withChecksum), row.at(1)) << row[0];
+    if (!row.at(2).empty()) {
+      EXPECT_EQ(imageIn(contentOf(row[0])), row[2]) << row[0];
+    }
+  }
+}
+
+// A file that ends early is refused, or nothing that counts is missing.
+TEST(StandardFormats, RefuseFilesThatEndEarly) {
+  for (const auto& row : readTable("standard.txt")) {
+    const Bytes whole = contentOf(row.at(0));
+    // The palette of such a PCX file is the last part of it, whatever that is.
+    const bool endIsFree =
+        row[0].ends_with(".gpl") || row[0].ends_with(".csv") || row[0] == "256-entries.pal" || row[0] == "8x1.pcx";
+    for (std::size_t length = 4; length < whole.size(); ++length) {
+      const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
+      const std::string palette = paletteIn(cut, row[0], withChecksum);
+      ASSERT_TRUE(endIsFree || row[0].ends_with(".clp") || palette == row.at(1) || palette.ends_with('.'))
+          << row[0] << " at " << length << ": " << palette;
+      const std::string image = row.at(2).empty() ? "" : imageIn(cut);
+      ASSERT_TRUE(endIsFree || image == row[2] || image.ends_with('.')) << row[0] << " at " << length << ": " << image;
+    }
+  }
+}
+
+TEST(StandardFormats, ReadTextAndRefuseWhatIsWrong) {
+  for (const auto& row : readTable("standard_text.txt")) {
+    EXPECT_EQ(paletteIn(bytesOf(row.at(1)), row.at(0), show), row.at(2)) << row[1];
+  }
+}
+
+TEST(StandardFormats, CheckWhatTheFileClaims) {
+  for (const auto& row : readTable("standard_mutations.txt")) {
+    Bytes content = contentOf(row.at(0));
+    std::ranges::copy(row.at(2), content.begin() + std::stoi(row.at(1)));
+    const bool isPalette = row[0].ends_with(".pal") || row[0].ends_with(".tga") || row[0].ends_with(".xcf");
+    EXPECT_EQ(isPalette ? paletteIn(content, row[0], withChecksum) : imageIn(content), row.at(3))
+        << row[0] << " at " << row[1];
+  }
+}
+
+TEST(StandardFormats, ComeBackFromTheirWriters) {
+  for (const ExportFormat* writer : standardWriters()) {
+    for (const std::int32_t size : {1, 256, 1024}) {
+      ByteSink sink;
+      writer->compose(variedPalette(size), "a\nb", sink);
+      EXPECT_EQ(paletteIn(sink.take(), "x", show), show(variedPalette(size))) << writer->name << ' ' << size;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quillhue
