@@ -1,8 +1,9 @@
 #include "cli/palette_text.h"
 
 #include <iomanip>
-#include <sstream>
 #include <string>
+
+#include "formats/hex_color.h"
 
 namespace quillhue::cli {
 
@@ -13,14 +14,6 @@ constexpr int kCellWidth = 15;
 
 // Returns black or white, whichever is easier to read on the color.
 std::string textColorOn(PaletteEntry color) { return lumaOf(color) < 128 ? "255;255;255" : "0;0;0"; }
-
-// Returns "#RRGGBB".
-std::string hexOf(PaletteEntry color) {
-  std::ostringstream text;
-  text << '#' << std::uppercase << std::hex << std::setfill('0') << std::setw(6)
-       << (color.red << 16 | color.green << 8 | color.blue);
-  return text.str();
-}
 
 std::string sgr(PaletteEntry color) {
   return "\x1b[48;2;" + std::to_string(color.red) + ';' + std::to_string(color.green) + ';' +
@@ -35,7 +28,7 @@ void showBlocks(const Palette& palette, Console& console) {
   for (std::int32_t i = 0; i < palette.getSize(); ++i) {
     const PaletteEntry color = palette.entry(i);
     const bool endsLine = i % columns == columns - 1 || i + 1 == palette.getSize();
-    console.out << std::setw(5) << i << ' ' << sgr(color) << ' ' << hexOf(color) << " \x1b[0m"
+    console.out << std::setw(5) << i << ' ' << sgr(color) << ' ' << hexTextOf(color) << " \x1b[0m"
                 << (endsLine ? "\n" : "");
   }
 }
@@ -43,7 +36,7 @@ void showBlocks(const Palette& palette, Console& console) {
 void showLines(const Palette& palette, Console& console) {
   for (std::int32_t i = 0; i < palette.getSize(); ++i) {
     const PaletteEntry color = palette.entry(i);
-    console.out << std::setw(4) << i << "  " << hexOf(color) << std::setw(5) << int{color.red} << std::setw(4)
+    console.out << std::setw(4) << i << "  " << hexTextOf(color) << std::setw(5) << int{color.red} << std::setw(4)
                 << int{color.green} << std::setw(4) << int{color.blue} << '\n';
   }
 }

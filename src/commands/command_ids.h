@@ -56,4 +56,7 @@ inline constexpr std::int32_t kEditColor = 70;
 inline constexpr std::int32_t kFill = 71;
 inline constexpr std::int32_t kUseAsBlank = 72;
 
+inline constexpr std::int32_t kNextTab = 80;
+inline constexpr std::int32_t kPreviousTab = 81;
+
 }  // namespace quillhue::command_id

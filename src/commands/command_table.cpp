@@ -91,6 +91,7 @@ constexpr auto kCommands = std::to_array<Command>({
      .need = Need::redoStep,
      .text = "&Redo",
      .accelerator = control('Y'),
+     .otherKey = {.control = true, .shift = true, .key = 'Z'},
      .act = by<&CommandTarget::redo>},
     {.id = id::kCut,
      .scope = Scope::editor,
@@ -233,7 +234,7 @@ constexpr auto kCommands = std::to_array<Command>({
      .step = "sort deviation",
      .change = onChannels<sortByDeviation>},
 
-    {.id = id::kReadMe, .text = "&Read me", .act = by<&CommandTarget::showReadMe>},
+    {.id = id::kReadMe, .text = "&Read me", .otherKey = {.key = kF1Key}, .act = by<&CommandTarget::showReadMe>},
     {.id = id::kAbout, .text = "&About...", .act = by<&CommandTarget::showAbout>},
 
     {.id = id::kEditColor,
@@ -253,6 +254,15 @@ constexpr auto kCommands = std::to_array<Command>({
      .text = "Use as &blank color",
      .step = "use-as-blank",
      .change = [](Input input) { useAsBlankColor(input.document, input.currentEntry, input.settings); }},
+
+    {.id = id::kNextTab,
+     .scope = Scope::editor,
+     .otherKey = {.control = true, .key = kTabKey},
+     .act = by<&CommandTarget::nextTab>},
+    {.id = id::kPreviousTab,
+     .scope = Scope::editor,
+     .otherKey = {.control = true, .shift = true, .key = kTabKey},
+     .act = by<&CommandTarget::previousTab>},
 });
 
 std::vector<Command> allCommands() {

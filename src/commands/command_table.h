@@ -37,7 +37,7 @@ enum class CommandNeed : std::uint8_t {
   clipboardEntry,
 };
 
-/// The shortcut of a menu item. A key of 0 means none.
+/// The shortcut of a command. A key of 0 means none.
 struct Accelerator {
   bool control = false;
   bool shift = false;
@@ -46,7 +46,9 @@ struct Accelerator {
 
   friend bool operator==(const Accelerator&, const Accelerator&) = default;
 };
+inline constexpr std::int32_t kTabKey = 0x09;
 inline constexpr std::int32_t kDeleteKey = 0x2E;
+inline constexpr std::int32_t kF1Key = 0x70;
 
 /// Returns the text that a menu shows: "Ctrl+Shift+S", "Del".
 [[nodiscard]] std::string acceleratorText(const Accelerator& accelerator);
@@ -69,9 +71,11 @@ struct Command {
   std::int32_t id = 0;
   CommandScope scope = CommandScope::application;
   CommandNeed need = CommandNeed::nothing;
-  /// Has & before the letter that selects it in its menu.
+  /// Has & before the letter that selects it in its menu. Empty if the command is in no menu.
   std::string_view text{};
   Accelerator accelerator{};
+  /// Another key, which no menu shows.
+  Accelerator otherKey{};
   /// The tool's step, followed by a blank and the argument if it takes one: "reverse", "sort intensity". Empty if the
   /// tool does not have the command.
   std::string_view step{};

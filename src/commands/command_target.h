@@ -35,6 +35,8 @@ class CommandTarget {
   virtual void countColors() {}
   virtual void averageColor() {}
   virtual void editColor() {}
+  virtual void nextTab() {}
+  virtual void previousTab() {}
 };
 
 }  // namespace quillhue

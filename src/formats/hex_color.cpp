@@ -31,4 +31,11 @@ std::string hexDigitsOf(PaletteEntry color) {
   return digits;
 }
 
+std::string hexTextOf(PaletteEntry color) {
+  std::string text = '#' + hexDigitsOf(color);
+  std::ranges::transform(text, text.begin(),
+                         [](char letter) { return letter >= 'a' ? static_cast<char>(letter - 'a' + 'A') : letter; });
+  return text;
+}
+
 }  // namespace quillhue

@@ -14,4 +14,7 @@ namespace quillhue {
 /// Returns six lower-case digits.
 [[nodiscard]] std::string hexDigitsOf(PaletteEntry color);
 
+/// Returns the color as in a style sheet, with capitals: "#E8B0B0".
+[[nodiscard]] std::string hexTextOf(PaletteEntry color);
+
 }  // namespace quillhue

@@ -159,7 +159,7 @@ void MainWindow::dispatch(MSG& message) {
 
 Rect MainWindow::screenArea() const {
   RECT statusBar{};
-  GetWindowRect(statusBar_, &statusBar);
+  GetWindowRect(statusBar_->handle(), &statusBar);
   return quillhue::screenArea(clientSize(handle()), statusBar.bottom - statusBar.top);
 }
 
@@ -185,6 +185,8 @@ void MainWindow::updateMenus() {
   }
 }
 
+void MainWindow::showEntryText(const std::string& text) { statusBar_->setText(kCurrentEntryPart, text); }
+
 void MainWindow::openFile(const std::wstring& name) {
   const WaitCursor waiting;
   readPaletteFile(name, parts_.slot, services_);
@@ -197,9 +199,7 @@ void MainWindow::openContextMenu(std::int32_t menu, Point screenPoint) const {
 
 void MainWindow::titleChanged(std::wstring_view title) { SetWindowTextW(handle(), std::wstring(title).c_str()); }
 
-void MainWindow::statusChanged(std::string_view text) {
-  SendMessageW(statusBar_, SB_SETTEXTW, kEntriesPart, reinterpret_cast<LPARAM>(fromUtf8(text).c_str()));
-}
+void MainWindow::statusChanged(std::string_view text) { statusBar_->setText(kEntriesPart, text); }
 
 void MainWindow::undoRedoChanged(bool /*canUndo*/, bool /*canRedo*/) {
   // A document that is still being made is announced by documentReplaced(). Until then the menus would be greyed and
@@ -240,6 +240,12 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_VSCROLL:
       controlNotification(wParam, lParam);
       return 0;
+    case WM_DRAWITEM:
+      if (wParam == kStatusBarId) {
+        statusBar_->draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+        return TRUE;
+      }
+      return answerSystem(message, wParam, lParam);
     case WM_CTLCOLORSTATIC:
       return staticColors(reinterpret_cast<HDC>(wParam));
     case WM_DROPFILES:
@@ -291,11 +297,8 @@ void MainWindow::created() {
   constexpr int kWeight = 500;
   font_.reset(CreateFontW(fontHeight(scale), 0, 0, 0, kWeight, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
                           CLIP_DEFAULT_PRECIS, PROOF_QUALITY, DEFAULT_PITCH | FF_DONTCARE, L"Segoe UI"));
-  statusBar_ =
-      CreateStatusWindowW(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, L"", handle(), static_cast<UINT>(kStatusBarId));
-  const std::array<std::int32_t, 3> edges = statusPartEdges(scale);
-  SendMessageW(statusBar_, SB_SETPARTS, edges.size(), reinterpret_cast<LPARAM>(edges.data()));
-  SendMessageW(statusBar_, SB_SETTEXTW, kVersionPart, reinterpret_cast<LPARAM>(fromUtf8(kVersionText).c_str()));
+  statusBar_ = std::make_unique<StatusBar>(handle(), kStatusBarId, statusPartEdges(scale), kCurrentEntryPart);
+  statusBar_->setText(kVersionPart, kVersionText);
   contextMenus_.reset(LoadMenuW(GetModuleHandleW(nullptr), L"MAINPOPUP"));
   parts_.dialogOwner.set(handle(), font_.get(), scale);
   context_ = std::make_unique<WindowContext>(WindowContext{.window = handle(),
@@ -316,6 +319,7 @@ void MainWindow::destroyed() {
   screen_.reset();
   parts_.slot.closeDocument();
   contextMenus_.reset();
+  statusBar_.reset();
   font_.reset();
   saveSettings();
   PostQuitMessage(0);
@@ -328,10 +332,10 @@ void MainWindow::saveSettings() {
 
 void MainWindow::sized() {
   RECT box{};
-  GetWindowRect(statusBar_, &box);
+  GetWindowRect(statusBar_->handle(), &box);
   const Size client = clientSize(handle());
   const std::int32_t height = box.bottom - box.top;
-  moveTo(statusBar_, boxAt({0, client.height - height}, {client.width, height}));
+  moveTo(statusBar_->handle(), boxAt({0, client.height - height}, {client.width, height}));
   if (screen_ != nullptr) {
     const Rect area = screenArea();
     screen_->resize({area.width(), area.height()});

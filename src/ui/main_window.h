@@ -15,6 +15,7 @@
 #include "ui/win32/dialog_owner.h"
 #include "ui/win32/focus_keeper.h"
 #include "ui/win32/handle.h"
+#include "ui/win32/status_bar.h"
 #include "ui/win32/system.h"
 #include "ui/window_context.h"
 
@@ -65,6 +66,7 @@ class MainWindow final : public CustomWindow, public DocumentObserver, private W
 
   [[nodiscard]] Rect screenArea() const override;
   void updateMenus() override;
+  void showEntryText(const std::string& text) override;
   void openContextMenu(std::int32_t menu, Point screenPoint) const override;
   void showEditor() override;
   [[nodiscard]] bool confirmDiscard() override;
@@ -91,7 +93,7 @@ class MainWindow final : public CustomWindow, public DocumentObserver, private W
 
   WindowParts parts_;
   Services services_;
-  HWND statusBar_ = nullptr;
+  std::unique_ptr<StatusBar> statusBar_;
   Font font_;
   Accelerators accelerators_;
   Menu contextMenus_;

@@ -27,6 +27,8 @@ class WindowFrame {
   [[nodiscard]] virtual Rect screenArea() const = 0;
   /// Updates the greyed items and the radio mark of the menus to the screen's commandState().
   virtual void updateMenus() = 0;
+  /// Shows text about the current entry in the middle of the status bar.
+  virtual void showEntryText(const std::string& text) = 0;
   /// Opens a context menu (kNewPopup, kValuesPopup, kEffectsPopup) at a point in screen coordinates. The chosen command
   /// arrives as a menu command.
   virtual void openContextMenu(std::int32_t menu, Point screenPoint) const = 0;

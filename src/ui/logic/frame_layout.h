@@ -18,9 +18,11 @@ namespace quillhue {
 /// The left and right strips have the full height; the top and bottom strips are between them.
 [[nodiscard]] std::array<Rect, 4> frameBackground(const Rect& screen, Scale scale);
 
-/// Returns the right edges of the status bar's three parts: the number of entries, an empty part, the version.
+/// Returns the right edges of the status bar's three parts: the number of entries, the current entry, the
+/// version.
 [[nodiscard]] std::array<std::int32_t, 3> statusPartEdges(Scale scale);
 inline constexpr std::int32_t kEntriesPart = 0;
+inline constexpr std::int32_t kCurrentEntryPart = 1;
 inline constexpr std::int32_t kVersionPart = 2;
 
 /// Returns the height of the interface's font for LOGFONT: negative, because it is the height of the characters.

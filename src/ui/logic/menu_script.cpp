@@ -72,12 +72,13 @@ std::string menuScript() {
   addItems(contextMenus(), 0, Start::enabled, script);
   script += "\nMAINACCEL ACCELERATORS\nBEGIN\n";
   for (const Command& command : commands()) {
-    const Accelerator& accelerator = command.accelerator;
-    if (accelerator.key != 0) {
-      script += "  " + std::to_string(accelerator.key) + ", " + std::to_string(command.id) + ", VIRTKEY";
-      script += accelerator.control ? ", CONTROL" : "";
-      script += accelerator.shift ? ", SHIFT" : "";
-      script += '\n';
+    for (const Accelerator& accelerator : {command.accelerator, command.otherKey}) {
+      if (accelerator.key != 0) {
+        script += "  " + std::to_string(accelerator.key) + ", " + std::to_string(command.id) + ", VIRTKEY";
+        script += accelerator.control ? ", CONTROL" : "";
+        script += accelerator.shift ? ", SHIFT" : "";
+        script += '\n';
+      }
     }
   }
   return script + "END\n";

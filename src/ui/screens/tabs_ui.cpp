@@ -163,6 +163,18 @@ void TabsUI::chooseTab() {
   UpdateWindow(context().window);
 }
 
+void TabsUI::stepTab(std::size_t steps) {
+  FocusKeeper& focus = context().focus;
+  const bool isOnTabs = focus.current() == tabControl_.get();
+  const auto page = static_cast<std::size_t>(SendMessageW(tabControl_.get(), TCM_GETCURSEL, 0, 0));
+  SendMessageW(tabControl_.get(), TCM_SETCURSEL, (page + steps) % kTabs, 0);
+  chooseTab();
+  if (!isOnTabs) {
+    // The first control of the page.
+    focus.give(GetNextDlgTabItem(context().window, tabControl_.get(), FALSE));
+  }
+}
+
 void TabsUI::resize(Size area) {
   moveTo(tabControl_.get(), frameArea({0, 0, area.width, area.height}, context().scale));
   active_->layout(pageArea());

@@ -36,6 +36,8 @@ class TabsUI final : public MainUI, private SharedCommands {
   /// Returns the area of the pages in client coordinates of the main window.
   [[nodiscard]] Rect pageArea() const;
   void chooseTab();
+  /// Goes forward by `steps` tabs. After the last tab comes the first.
+  void stepTab(std::size_t steps);
 
   void savePalette() override;
   void savePaletteAs() override;
@@ -49,6 +51,8 @@ class TabsUI final : public MainUI, private SharedCommands {
   void countColors() override;
   void averageColor() override;
   void editColor() override { active_->editColor(); }
+  void nextTab() override { stepTab(1); }
+  void previousTab() override { stepTab(kTabs - 1); }
 
   void stepThroughHistory(void (PaletteDocument::*step)());
   void rebuild(DocumentChange change);

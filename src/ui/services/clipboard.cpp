@@ -1,16 +1,34 @@
 #include "ui/services/clipboard.h"
 
+#include <cstddef>
 #include <utility>
 
+#include "core/utf8.h"
+#include "formats/color_list.h"
 #include "ui/win32/clipboard.h"
 #include "ui/win32/logical_palette.h"
 
 namespace quillhue {
 
+namespace {
+
+// In characters. Longer text is not read; 64 per color are plenty.
+constexpr std::size_t kMaxTextLength = 65536;
+
+}  // namespace
+
 bool Clipboard::put(std::span<const PaletteEntry> entries) {
   ClipboardAccess clipboard(owner_.window());
   clipboard.empty();
-  return entries.empty() ? static_cast<bool>(clipboard) : clipboard.put(createLogicalPalette(entries));
+  if (entries.empty()) {
+    return static_cast<bool>(clipboard);
+  }
+  const bool taken = clipboard.put(createLogicalPalette(entries));
+  // The text is for other programs. The palette is copied even if the clipboard refuses the text.
+  if (taken) {
+    static_cast<void>(clipboard.putText(fromUtf8(colorListText(entries))));
+  }
+  return taken;
 }
 
 std::expected<std::vector<PaletteEntry>, NoPalette> Clipboard::get() {
@@ -18,11 +36,15 @@ std::expected<std::vector<PaletteEntry>, NoPalette> Clipboard::get() {
   if (!clipboard) {
     return std::unexpected(NoPalette::unavailable);
   }
-  const HPALETTE palette = clipboard.palette();
-  if (palette == nullptr) {
+  if (const HPALETTE palette = clipboard.palette(); palette != nullptr) {
+    return entriesOf(palette);
+  }
+  const auto text = clipboard.text(kMaxTextLength);
+  auto colors = text ? parseColorList(toUtf8(*text)) : std::nullopt;
+  if (!colors) {
     return std::unexpected(NoPalette::notThere);
   }
-  return entriesOf(palette);
+  return std::move(*colors);
 }
 
 bool Clipboard::putBitmap(std::span<const std::uint8_t> block) {

@@ -11,7 +11,9 @@
 
 namespace quillhue {
 
-/// Puts palettes (CF_PALETTE) and bitmaps (CF_DIB) on the system's clipboard, and reads them and PNG files.
+/// Puts palettes (CF_PALETTE) and bitmaps (CF_DIB) on the system's clipboard, and reads them and PNG files. A palette
+/// is also put as text, one color per line. Without a palette on the clipboard, text of nothing but colors counts as
+/// one.
 class Clipboard final : public PaletteClipboard {
  public:
   /// `owner` becomes the owner of the data on the clipboard.

@@ -12,6 +12,10 @@ namespace {
 
 constexpr const wchar_t* kClassName = L"QuillhueGrid";
 
+constexpr UINT_PTR kNumberTimer = 1;
+// A pause after which a typed number is complete, in milliseconds.
+constexpr UINT kNumberPause = 1000;
+
 GridSelection::Keys heldKeys() { return {.shift = GetKeyState(VK_SHIFT) < 0, .control = GetKeyState(VK_CONTROL) < 0}; }
 
 struct KeyRow {
@@ -65,6 +69,13 @@ LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_KEYDOWN:
       return keyPressed(wParam, (HIWORD(lParam) & KF_REPEAT) != 0) ? 0
                                                                    : DefWindowProcW(handle(), message, wParam, lParam);
+    case WM_CHAR:
+      characterTyped(static_cast<wchar_t>(wParam));
+      return 0;
+    case WM_TIMER:
+      KillTimer(handle(), kNumberTimer);
+      client_.endNumber();
+      return 0;
     case WM_KEYUP:
       if (wParam == VK_SHIFT) {
         client_.releaseShift();
@@ -75,6 +86,7 @@ LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       // Otherwise letters without Alt would press the buttons with that access key.
       return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_KILLFOCUS:
+      client_.cancelNumber();
       client_.releaseGrid();
       repaint(handle());
       return 0;
@@ -97,12 +109,28 @@ bool GridWindow::keyPressed(WPARAM key, bool isRepeated) {
     }
     return true;
   }
+  if (key == VK_RETURN) {
+    client_.endNumber();
+    return true;
+  }
+  if (key == VK_ESCAPE) {
+    client_.cancelNumber();
+    return true;
+  }
   const auto row = std::ranges::find(kKeys, key, &KeyRow::key);
   if (row == kKeys.end()) {
     return false;
   }
+  client_.cancelNumber();
   client_.moveByKey(row->meaning, heldKeys());
   return true;
+}
+
+void GridWindow::characterTyped(wchar_t character) {
+  if (character >= L'0' && character <= L'9') {
+    client_.typeDigit(static_cast<char>(character));
+    SetTimer(handle(), kNumberTimer, kNumberPause, nullptr);
+  }
 }
 
 }  // namespace quillhue

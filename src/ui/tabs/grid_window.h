@@ -23,6 +23,10 @@ class GridClient {
   virtual void moveByKey(GridKey key, GridSelection::Keys keys) = 0;
   virtual void pressSpace(GridSelection::Keys keys) = 0;
   virtual void releaseShift() = 0;
+  /// A digit was typed. The digits make the number of an entry, which endNumber() goes to and cancelNumber() forgets.
+  virtual void typeDigit(char digit) = 0;
+  virtual void endNumber() = 0;
+  virtual void cancelNumber() = 0;
   /// Null for the arrow.
   [[nodiscard]] virtual HCURSOR gridCursor() const = 0;
 };
@@ -37,6 +41,7 @@ class GridWindow final : public CustomWindow {
  private:
   LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override;
   bool keyPressed(WPARAM key, bool isRepeated);
+  void characterTyped(wchar_t character);
 
   GridClient& client_;
 };

@@ -1,5 +1,6 @@
 #include "ui/tabs/palette_tab.h"
 
+#include "ui/logic/entry_texts.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
 #include "ui/window_context.h"
@@ -67,9 +68,14 @@ void PaletteTab::documentReplaced(DocumentChange change) {
 void PaletteTab::show() {
   quillhue::show(gridWindow_.handle(), true);
   showControls(true);
+  isShown_ = true;
+  showEntry();
 }
 
 void PaletteTab::hide() {
+  isShown_ = false;
+  typedEntry_.clear();
+  context_.frame.showEntryText({});
   quillhue::show(gridWindow_.handle(), false);
   showControls(false);
 }
@@ -82,12 +88,44 @@ void PaletteTab::paintGrid(HDC dc, const Rect& box) {
   quillhue::paintGrid(dc, box, grid_, shown);
 }
 
-void PaletteTab::repaintGrid() const { repaint(gridWindow_.handle()); }
+void PaletteTab::typeDigit(char digit) {
+  typedEntry_.add(digit);
+  showEntry();
+}
 
-void PaletteTab::repaintEntry(std::int32_t index) const {
+void PaletteTab::endNumber() {
+  if (const auto index = typedEntry_.finish(document().getSize())) {
+    chooseEntry(*index);
+    context_.frame.updateMenus();
+  }
+  showEntry();
+}
+
+void PaletteTab::cancelNumber() {
+  typedEntry_.clear();
+  showEntry();
+}
+
+void PaletteTab::repaintGrid() {
+  repaint(gridWindow_.handle());
+  showEntry();
+}
+
+void PaletteTab::repaintEntry(std::int32_t index) {
   if (document().contains(index)) {
     repaint(gridWindow_.handle(), grid_.cellBox(index));
   }
+  showEntry();
+}
+
+void PaletteTab::showEntry() {
+  // A tab that is not shown follows changes of the document too.
+  if (!isShown_) {
+    return;
+  }
+  const GridPicture shown = picture();
+  context_.frame.showEntryText(typedEntry_.isEmpty() ? entryStatusText(shown.palette, shown.currentEntry)
+                                                     : typedEntry_.statusText());
 }
 
 }  // namespace quillhue

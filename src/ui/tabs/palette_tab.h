@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "ui/logic/grid_layout.h"
+#include "ui/logic/typed_entry.h"
 #include "ui/tabs/grid_painter.h"
 #include "ui/tabs/grid_window.h"
 #include "ui/tabs/tab.h"
@@ -30,6 +31,9 @@ class PaletteTab : public Tab, public GridClient {
   [[nodiscard]] bool hasCurrentEntry() const override;
 
   void paintGrid(HDC dc, const Rect& box) final;
+  void typeDigit(char digit) final;
+  void endNumber() final;
+  void cancelNumber() final;
 
  protected:
   [[nodiscard]] WindowContext& context() const { return context_; }
@@ -50,16 +54,22 @@ class PaletteTab : public Tab, public GridClient {
   /// Shows or hides the tab's own controls.
   virtual void showControls(bool visible) = 0;
 
-  void repaintGrid() const;
-  void repaintEntry(std::int32_t index) const;
+  /// Repaint the grid or one cell, and update what is shown about the current entry elsewhere. Call these after every
+  /// change of the colors shown or of the current entry.
+  void repaintGrid();
+  void repaintEntry(std::int32_t index);
 
  private:
   bool openContextMenu(Point screenPoint);
+  /// Updates the status bar.
+  void showEntry();
 
   WindowContext& context_;
   std::int32_t contextMenu_;
   GridLayout grid_;
   GridWindow gridWindow_;
+  TypedEntry typedEntry_;
+  bool isShown_ = false;
 };
 
 }  // namespace quillhue

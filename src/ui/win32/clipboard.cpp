@@ -1,6 +1,7 @@
 #include "ui/win32/clipboard.h"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace quillhue {
@@ -91,6 +92,26 @@ std::optional<std::vector<std::uint8_t>> ClipboardAccess::bytes(UINT format) con
   }
   const LockedMemory memory(block);
   return std::vector<std::uint8_t>(memory.bytes().begin(), memory.bytes().end());
+}
+
+bool ClipboardAccess::putText(const std::wstring& text) {
+  // Includes the terminating zero.
+  return put(CF_UNICODETEXT,
+             {reinterpret_cast<const std::uint8_t*>(text.c_str()), (text.size() + 1) * sizeof(wchar_t)});
+}
+
+std::optional<std::wstring> ClipboardAccess::text(std::size_t maxLength) const {
+  const HANDLE block = data(CF_UNICODETEXT);
+  if (block == nullptr) {
+    return std::nullopt;
+  }
+  const LockedMemory memory(block);
+  const std::span<const std::uint8_t> bytes = memory.bytes();
+  // Looks at one character more, which shows that the text is longer.
+  std::wstring text(std::min(bytes.size() / sizeof(wchar_t), maxLength + 1), L'\0');
+  std::memcpy(text.data(), bytes.data(), text.size() * sizeof(wchar_t));
+  text.resize(std::min(text.find(L'\0'), text.size()));
+  return text.size() > maxLength ? std::nullopt : std::optional(std::move(text));
 }
 
 HANDLE ClipboardAccess::data(UINT format) const { return open_ ? GetClipboardData(format) : nullptr; }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "ui/win32/handle.h"
@@ -33,6 +35,11 @@ class ClipboardAccess {
   /// Returns the block of this format, or nothing if there is none. The block may be longer than the data that was put,
   /// because the system may round its size up.
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> bytes(UINT format) const;
+
+  /// Puts text on the clipboard. Returns false on failure.
+  [[nodiscard]] bool putText(const std::wstring& text);
+  /// Returns the text, or nothing if there is none or it has more than `maxLength` characters.
+  [[nodiscard]] std::optional<std::wstring> text(std::size_t maxLength) const;
 
  private:
   [[nodiscard]] HANDLE data(UINT format) const;
