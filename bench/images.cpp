@@ -157,6 +157,76 @@ WorkImage makePhotoLike(ImageSize size) {
   return image;
 }
 
+void store(const Color& color, std::span<std::uint8_t> pixel) {
+  std::size_t place = 0;
+  for (const float channel : {color.blue, color.green, color.red}) {
+    pixel[place++] = static_cast<std::uint8_t>(std::clamp(channel, 0.0F, 255.0F));
+  }
+}
+
+// Makes an image of the colors that `colorAt` gives for each column and row.
+template <typename ColorAt>
+WorkImage imageOf(ImageSize size, ColorAt colorAt) {
+  WorkImage image(size.width, size.height, std::nullopt);
+  for (std::int32_t y = 0; y < size.height; ++y) {
+    for (std::int32_t x = 0; x < size.width; ++x) {
+      store(colorAt(x, y), image.row(y).subspan(3 * static_cast<std::size_t>(x), 3));
+    }
+  }
+  return image;
+}
+
+WorkImage makeSmooth(ImageSize size) {
+  return imageOf(size, [size](std::int32_t column, std::int32_t row) {
+    const float x = static_cast<float>(column) / static_cast<float>(size.width);
+    const float y = static_cast<float>(row) / static_cast<float>(size.height);
+    const Color upper = mix({20, 60, 160}, {250, 200, 90}, x);
+    const Color lower = mix({30, 110, 40}, {200, 40, 70}, x);
+    return scaled(mix(upper, lower, y), 0.7F + 0.3F * smoothNoise(4 * x, 3 * y, 80));
+  });
+}
+
+// Twelve hues around the color circle, each dark, strong, light and pale.
+Color artColor(std::uint32_t hue, std::uint32_t shade) {
+  const auto channel = [hue](std::uint32_t turn) {
+    const auto away = static_cast<float>((hue + turn) % 12);
+    return std::clamp(2 - std::min(away, 12 - away) / 2, 0.0F, 1.0F) * 255;
+  };
+  const Color pure{channel(0), channel(8), channel(4)};
+  const Color white{255, 255, 255};
+  return shade == 0 ? scaled(pure, 0.5F) : mix(pure, white, 0.3F * static_cast<float>(shade - 1));
+}
+
+WorkImage makePixelArt(ImageSize size) {
+  // A pixel of the art is 2 x 2 of the image.
+  constexpr std::int32_t kTile = 16;
+  const auto upTo = [](float share, std::uint32_t count) {
+    return static_cast<std::uint32_t>(share * static_cast<float>(count));
+  };
+  return imageOf(size, [upTo](std::int32_t column, std::int32_t row) {
+    const std::int32_t x = column / 2 % kTile;
+    const std::int32_t y = row / 2 % kTile;
+    const std::int32_t tileX = column / 2 / kTile;
+    const std::int32_t tileY = row / 2 / kTile;
+    const auto tile = [&](std::uint32_t what, std::uint32_t count) {
+      return upTo(latticeValue(tileX, tileY, what), count);
+    };
+    const std::uint32_t hue = tile(90, 12);
+    const Color background =
+        artColor(upTo(latticeValue(tileX / 8, tileY / 4, 91), 12), static_cast<std::uint32_t>(tileY % 4));
+    const std::uint32_t kind = tile(92, 4);
+    if (kind == 0) {
+      const bool isJoint = y % 4 == 3 || (x + y / 4 % 2 * 4) % 8 == 7;
+      return artColor(hue, isJoint ? 0 : 1);
+    }
+    // Figures are symmetric.
+    const std::int32_t side = std::min(x, kTile - 1 - x);
+    const float ink = latticeValue(side, y, static_cast<std::uint32_t>(100 + 64 * tileY + tileX));
+    const bool isFigure = kind == 1 && side > 2 && y > 1 && y < 14 && ink < 0.8F;
+    return isFigure ? artColor(hue + upTo(ink, 3), upTo(ink, 4)) : background;
+  });
+}
+
 WorkImage makeNoise(ImageSize size) {
   WorkImage image(size.width, size.height, std::nullopt);
   std::minstd_rand random(2);
@@ -186,6 +256,16 @@ std::string nameOf(ImageSize size) { return std::to_string(size.width) + 'x' + s
 
 const WorkImage& photoLikeImage(ImageSize size) {
   static Images images(makePhotoLike);
+  return images.get(size);
+}
+
+const WorkImage& smoothImage(ImageSize size) {
+  static Images images(makeSmooth);
+  return images.get(size);
+}
+
+const WorkImage& pixelArtImage(ImageSize size) {
+  static Images images(makePixelArt);
   return images.get(size);
 }
 

@@ -28,6 +28,12 @@ inline constexpr ImageSize kSmall{64, 48};
 /// 260 is the same as its left neighbor. Each size is made once.
 [[nodiscard]] const WorkImage& photoLikeImage(ImageSize size);
 
+/// Gradients without noise. Neighboring pixels differ by little.
+[[nodiscard]] const WorkImage& smoothImage(ImageSize size);
+
+/// A game screen in 48 colors, some fully saturated: tiles of 32 x 32 pixels that are flat, bricks or sprites.
+[[nodiscard]] const WorkImage& pixelArtImage(ImageSize size);
+
 /// Every color as likely as every other, and no pixel related to another.
 [[nodiscard]] const WorkImage& noiseImage(ImageSize size);
 

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "remap/color_lanes.h"
+#include "remap/eight_colors.h"
 
 namespace quillhue {
 
@@ -106,14 +106,18 @@ class IndexedPixels {
 };
 
 struct FewColors {
-  static std::uint8_t find(NearestEntry& nearest, ColorLanes target) { return nearest.findOfFew(target); }
+  [[gnu::always_inline]] static Lanes find(NearestEntry& nearest, const EightColors& targets) {
+    return nearest.findOfFew(targets);
+  }
 };
 struct ManyColors {
-  static std::uint8_t find(NearestEntry& nearest, ColorLanes target) { return nearest.findOfMany(target); }
+  [[gnu::always_inline]] static Lanes find(NearestEntry& nearest, const EightColors& targets) {
+    return nearest.findOfMany(targets);
+  }
 };
 
-// Several rows run together, each two columns behind the one above: what a row leaves in a column is complete when the
-// next pixel is done, and is taken by the row below in the step after.
+// Remaps eight rows together, one in each lane, each two columns behind the row above: the error that a row leaves in a
+// column is complete one step later, and the row below takes it in the step after.
 template <typename Pixels, typename Colors, bool isLimited>
 class Diffusion final : public ErrorDiffusion {
  public:
@@ -125,8 +129,7 @@ class Diffusion final : public ErrorDiffusion {
         width_(result.width()),
         left_(static_cast<std::size_t>(result.width())) {
     const auto colors = nearest.colors();
-    std::ranges::transform(colors, sixteenfold_.begin(),
-                           [](const PaletteEntry& color) { return shiftedLeft<4>(lanesOfPixel(pixelOf(color))); });
+    std::ranges::transform(colors, palettePixels_.begin(), pixelOf);
     if (const auto& entry = limits.protectedEntry) {
       protectedPixel_ = pixelOf(colors[*entry]);
       protectedIndex_ = *entry;
@@ -134,102 +137,143 @@ class Diffusion final : public ErrorDiffusion {
   }
 
   void remapRows(std::int32_t count) override {
+    Wave wave = startWave(count);
+    std::ptrdiff_t time = 0;
     if (count == kRowsTogether) {
-      remapWave(std::make_index_sequence<kRowsTogether>());
-    } else {
-      remapWave(std::make_index_sequence<1>());
+      for (; time <= kLag; ++time) {
+        stepAtEdge(wave, time);
+      }
+      time = stepInside(wave, time);
+    }
+    for (; time <= width_ + std::ptrdiff_t{2} * (count - 1); ++time) {
+      stepAtEdge(wave, time);
     }
     row_ += count;
   }
 
  private:
+  static_assert(kRowsTogether == Lanes::kCount);
+  static constexpr std::ptrdiff_t kLag = std::ptrdiff_t{2} * (kRowsTogether - 1);
+
   struct Row {
     typename Pixels::Row pixels;
     std::uint8_t* indexes;
-    bool takesAbove;
-    std::int32_t columnInCell = 0;
-    ColorLanes carried{};
-    // What the column before gets when the next error is known.
-    ColorLanes pending{};
-    ColorLanes lastSixteenth{};
-    // What the row has just completed for the row below.
-    ColorLanes completed{};
   };
 
-  Row startRow(std::int32_t y) { return {pixels_.row(y), result_.row(y).data(), y % limits_.gridHeight != 0}; }
+  // The state of the rows that run together.
+  struct Wave {
+    std::array<Row, Lanes::kCount> rows;
+    std::int32_t count;
+    EightColors carried{};
+    // The error for the row below in the column before, without the share of the next pixel.
+    EightColors pending{};
+    EightColors lastSixteenth{};
+    // The complete error for the row below, two columns before.
+    EightColors completed{};
+    Lanes columnInCell;
+    Lanes takesAbove;
+  };
 
-  [[gnu::always_inline]] void step(Row& row, std::ptrdiff_t x, std::uint32_t pixel, ColorLanes above) {
-    if constexpr (isLimited) {
-      row.carried = passed(row.carried, row.columnInCell != 0);
-      row.columnInCell = row.columnInCell + 1 == limits_.gridWidth ? 0 : row.columnInCell + 1;
-      above = passed(above, row.takesAbove);
-    }
-    ColorLanes error;
-    if (isLimited && pixel == protectedPixel_) {
-      row.indexes[x] = protectedIndex_;
-    } else {
-      const ColorLanes color = lanesOfPixel(pixel);
-      error = row.carried + above;
-      const std::uint8_t index = Colors::find(nearest_, color + sixteenth(error));
-      row.indexes[x] = index;
-      error = error + (shiftedLeft<4>(color) - sixteenfold_[index]);
-    }
-    // The grid's cells do not stop what goes down: what is left across a border is not taken there.
-    row.completed = row.pending + sixteenth(shiftedLeft<1>(error) + error);
-    row.pending = row.lastSixteenth + sixteenth(shiftedLeft<2>(error) + error);
-    row.lastSixteenth = sixteenth(error);
-    row.carried = sixteenth(shiftedLeft<3>(error) - error);
-  }
-
-  // What the row gets from above in column x: from the row that runs before it, or from the rows done before.
-  template <std::size_t place, std::size_t count>
-  [[nodiscard]] ColorLanes above(const std::array<Row, count>& rows, std::ptrdiff_t x) const {
-    if constexpr (place == 0) {
-      return left_[static_cast<std::size_t>(x)];
-    } else {
-      return rows[place - 1].completed;
-    }
-  }
-
-  // Step `time` of one row, which may be before its first or after its last pixel.
-  template <std::size_t place, std::size_t count>
-  void stepAtEdge(std::array<Row, count>& rows, std::ptrdiff_t time) {
-    const std::ptrdiff_t x = time - 2 * static_cast<std::ptrdiff_t>(place);
-    if (x < 0 || x > width_) {
-      return;
-    }
-    Row& row = rows[place];
-    if (x < width_) {
-      step(row, x, row.pixels.at(x), above<place>(rows, x));
-    } else {
-      row.completed = row.pending;
-    }
-    if (place == count - 1 && x > 0) {
-      left_[static_cast<std::size_t>(x - 1)] = row.completed;
-    }
-  }
-
-  template <std::size_t... places>
-  void remapWave(std::index_sequence<places...> /*of the rows*/) {
-    constexpr std::size_t kLast = sizeof...(places) - 1;
-    constexpr auto kLag = static_cast<std::ptrdiff_t>(2 * kLast);
-    std::array<Row, kLast + 1> rows{startRow(row_ + static_cast<std::int32_t>(places))...};
-    // From below, so that each row still finds what the one above it has completed a step ago.
-    const auto atEdge = [&](std::ptrdiff_t time) { (stepAtEdge<kLast - places>(rows, time), ...); };
-    const auto inside = [&]<std::size_t place>(std::ptrdiff_t time) {
-      const std::ptrdiff_t x = time - 2 * static_cast<std::ptrdiff_t>(place);
-      step(rows[place], x, rows[place].pixels.atInner(x), above<place>(rows, x));
+  Wave startWave(std::int32_t count) {
+    const auto rowAt = [&](std::int32_t place) {
+      // Unused lanes get the last row, but never read it.
+      const std::int32_t y = row_ + std::min(place, count - 1);
+      return Row{pixels_.row(y), result_.row(y).data()};
     };
-    std::ptrdiff_t time = 0;
-    for (; time <= kLag; ++time) {
-      atEdge(time);
+    EightNumbers columns{};
+    EightNumbers takesAbove{};
+    for (std::int32_t place = 0; place < kRowsTogether; ++place) {
+      const auto lane = static_cast<std::size_t>(place);
+      // Becomes 0 at the row's first pixel.
+      columns[lane] = (limits_.gridWidth - 2 * place % limits_.gridWidth) % limits_.gridWidth;
+      takesAbove[lane] = (row_ + place) % limits_.gridHeight != 0 ? -1 : 0;
     }
+    return {{rowAt(0), rowAt(1), rowAt(2), rowAt(3), rowAt(4), rowAt(5), rowAt(6), rowAt(7)},
+            count,
+            {},
+            {},
+            {},
+            {},
+            lanesOf(columns),
+            lanesOf(takesAbove)};
+  }
+
+  // Remaps one pixel of each row and returns the indexes. `left` is the error from the row above the first one. At an
+  // edge, lanes that are not `isInside` have no pixel and leave no error.
+  template <bool isAtEdge>
+  [[gnu::always_inline]] Lanes step(Wave& wave, Lanes pixels, const ColorVector& left, Lanes isInside) {
+    const EightColors received{movedUp(wave.completed.blue, left[0]), movedUp(wave.completed.green, left[1]),
+                               movedUp(wave.completed.red, left[2])};
+    const EightColors above = isLimited ? received & wave.takesAbove : received;
+    if constexpr (isLimited) {
+      wave.carried = wave.carried & ~(wave.columnInCell == Lanes{});
+      wave.columnInCell = wave.columnInCell + Lanes::all(1);
+      wave.columnInCell = wave.columnInCell & ~(wave.columnInCell == Lanes::all(limits_.gridWidth));
+    }
+    const EightColors colors = colorsOfPixels(pixels);
+    EightColors errors = wave.carried + above;
+    Lanes indexes = Colors::find(nearest_, colors + (errors >> 4));
+    const Lanes chosen = lanesBy([&](auto lane) { return palettePixels_[lowHalfOf<lane>(indexes)]; });
+    errors = errors + ((colors - colorsOfPixels(chosen)) << 4);
+    if constexpr (isLimited) {
+      const Lanes isProtected = pixels == Lanes::all(static_cast<std::int32_t>(protectedPixel_));
+      errors = errors & ~isProtected;
+      indexes = choose(isProtected, Lanes::all(protectedIndex_), indexes);
+    }
+    if constexpr (isAtEdge) {
+      errors = errors & isInside;
+    }
+    // Errors are also left below the lower border of a grid's cell, where the next row does not take them.
+    wave.completed = wave.pending + (((errors << 1) + errors) >> 4);
+    wave.pending = wave.lastSixteenth + (((errors << 2) + errors) >> 4);
+    wave.lastSixteenth = errors >> 4;
+    wave.carried = ((errors << 3) - errors) >> 4;
+    return indexes;
+  }
+
+  // Runs the steps from `time` on in which all rows are inside the image and none is at its last pixel. Returns the
+  // time after them.
+  std::ptrdiff_t stepInside(Wave& outside, std::ptrdiff_t time) {
+    // A local copy can be kept in registers.
+    Wave wave = outside;
+    const auto columnOf = [&](std::size_t lane) { return time - 2 * static_cast<std::ptrdiff_t>(lane); };
+    const auto lastOf = [](Lanes lanes) { return _mm_cvtsi128_si32(_mm_shuffle_epi32(lanes.high, 0xFF)); };
     for (; time < width_ - 1; ++time) {
-      (inside.template operator()<kLast - places>(time), ...);
-      left_[static_cast<std::size_t>(time - kLag - 1)] = rows[kLast].completed;
+      const Lanes pixels = lanesBy([&](auto lane) { return wave.rows[lane].pixels.atInner(columnOf(lane)); });
+      const Lanes indexes = step<false>(wave, pixels, left_[static_cast<std::size_t>(time)], {});
+      forEachLane([&](auto lane) {
+        wave.rows[lane].indexes[columnOf(lane)] = static_cast<std::uint8_t>(lowHalfOf<lane>(indexes));
+      });
+      left_[static_cast<std::size_t>(time - kLag - 1)] = {lastOf(wave.completed.blue), lastOf(wave.completed.green),
+                                                          lastOf(wave.completed.red)};
     }
-    for (; time <= width_ + kLag; ++time) {
-      atEdge(time);
+    outside = wave;
+    return time;
+  }
+
+  // Runs a step in which some rows may be before their first or after their last pixel.
+  void stepAtEdge(Wave& wave, std::ptrdiff_t time) {
+    const auto columnOf = [time](std::size_t lane) { return time - 2 * static_cast<std::ptrdiff_t>(lane); };
+    EightNumbers pixels{};
+    EightNumbers isInside{};
+    const auto last = static_cast<std::size_t>(wave.count) - 1;
+    for (std::size_t lane = 0; lane <= last; ++lane) {
+      if (columnOf(lane) >= 0 && columnOf(lane) < width_) {
+        pixels[lane] = static_cast<std::int32_t>(wave.rows[lane].pixels.at(columnOf(lane)));
+        isInside[lane] = -1;
+      }
+    }
+    const ColorVector left = time < width_ ? left_[static_cast<std::size_t>(time)] : ColorVector{};
+    const EightNumbers indexes = numbersOf(step<true>(wave, lanesOf(pixels), left, lanesOf(isInside)));
+    for (std::size_t lane = 0; lane <= last; ++lane) {
+      if (isInside[lane] != 0) {
+        wave.rows[lane].indexes[columnOf(lane)] = static_cast<std::uint8_t>(indexes[lane]);
+      }
+    }
+    if (columnOf(last) > 0) {
+      left_[static_cast<std::size_t>(columnOf(last) - 1)] = {numbersOf(wave.completed.blue)[last],
+                                                             numbersOf(wave.completed.green)[last],
+                                                             numbersOf(wave.completed.red)[last]};
     }
   }
 
@@ -241,10 +285,9 @@ class Diffusion final : public ErrorDiffusion {
   std::int32_t row_ = 0;
   std::uint32_t protectedPixel_ = kNoPixel;
   std::uint8_t protectedIndex_ = 0;
-  // For each entry 16 times its color.
-  std::array<ColorLanes, 256> sixteenfold_{};
-  // For each column what the rows done have left.
-  std::vector<ColorLanes> left_;
+  std::array<std::uint32_t, 256> palettePixels_{};
+  // The error that the rows done so far have left in each column.
+  std::vector<ColorVector> left_;
 };
 
 // One color leaves nothing to choose, whatever the errors.

@@ -23,14 +23,14 @@ class ErrorDiffusion {
     bool skipsTransparent = false;
   };
 
-  /// How many rows are remapped fastest together: one row waits for itself at each pixel, and the others fill the time.
-  static constexpr std::int32_t kRowsTogether = 4;
+  /// The number of rows that are remapped fastest together. One row alone waits for its own error at each pixel.
+  static constexpr std::int32_t kRowsTogether = 8;
 
   virtual ~ErrorDiffusion() = default;
   ErrorDiffusion(const ErrorDiffusion&) = delete;
   ErrorDiffusion& operator=(const ErrorDiffusion&) = delete;
 
-  /// Remaps the next `count` rows, 1 or kRowsTogether.
+  /// Remaps the next `count` rows, 1 to kRowsTogether.
   virtual void remapRows(std::int32_t count) = 0;
 
  protected:

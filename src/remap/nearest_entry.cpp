@@ -1,137 +1,95 @@
 #include "remap/nearest_entry.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstdlib>
-#include <limits>
-#include <optional>
+#include <array>
 
 namespace quillhue {
 
 namespace {
 
-constexpr std::int32_t kFarthest = 26000;
-
-// Slabs 8 to 15, each 64 wide, make up the cube. On both sides follow slabs that are each twice as wide as the one
-// before: below 0 they are 129 to 256 away from it, then 257 to 512 and so on, and above 255 the same mirrored. The
-// last ones end at kFarthest.
-constexpr std::int32_t kLastSlab = FarCells::kSlabs - 1;
-
-std::int32_t slabOf(std::int32_t number) {
-  const std::int32_t mirrored = std::min(number, 255 - number);
-  if (mirrored >= -128) {
-    return (number + 640) / 64;
-  }
-  const std::int32_t slab = 15 - static_cast<std::int32_t>(std::bit_width(static_cast<std::uint32_t>(-mirrored - 1)));
-  return number < 0 ? slab : kLastSlab - slab;
+// Returns all bits in the lanes of targets whose squared distances |t|^2 + |p|^2 - 2 t.p to some colors may wrap more
+// often than to others. Holds for numbers up to 2^16; kMargin covers the rounding errors of floats.
+Lanes mayWrapDifferently(const EightColors& targets) {
+  const auto four = [](__m128i blue, __m128i green, __m128i red) {
+    const __m128 sign = _mm_set1_ps(-0.0F);
+    __m128 squares = _mm_setzero_ps();
+    __m128 reach = _mm_setzero_ps();
+    for (const __m128i channel : {blue, green, red}) {
+      const __m128 numbers = _mm_cvtepi32_ps(channel);
+      squares = _mm_add_ps(squares, _mm_mul_ps(numbers, numbers));
+      reach = _mm_add_ps(reach, _mm_andnot_ps(sign, numbers));
+    }
+    // Counts in multiples of 2^32.
+    constexpr float kTurn = 0x1p-32F;
+    constexpr float kMargin = 1e-4F;
+    const __m128 turns = _mm_mul_ps(squares, _mm_set1_ps(kTurn));
+    const __m128 rest = _mm_andnot_ps(sign, _mm_sub_ps(turns, _mm_cvtepi32_ps(_mm_cvtps_epi32(turns))));
+    const __m128 most = _mm_add_ps(rest, _mm_mul_ps(reach, _mm_set1_ps(2 * 255 * kTurn)));
+    return _mm_castps_si128(_mm_cmpge_ps(most, _mm_set1_ps(0.5F - kMargin)));
+  };
+  return {four(targets.blue.low, targets.green.low, targets.red.low),
+          four(targets.blue.high, targets.green.high, targets.red.high)};
 }
 
-// The least number of a slab.
-std::int32_t startOf(std::int32_t slab) {
-  if (slab <= 0) {
-    return -kFarthest;
-  }
-  if (slab < 8) {
-    return -(256 << (7 - slab));
-  }
-  return slab <= 16 ? 64 * slab - 640 : 256 + (128 << (slab - 16));
-}
-
-// How near a grey is depends on nothing but the sum of the channels. Colors that dithering can't make with greys drive
-// targets far off, and this brings them back: a color of the same sum whose channels are as equal as they can be. None
-// where distances wrap in between, so that the order of greys is another one.
-std::optional<ColorLanes> leveled(ColorLanes target) {
-  const auto numbers = numbersOf(target);
-  const std::int64_t sum = std::int64_t{numbers[0]} + numbers[1] + numbers[2];
-  std::uint32_t distanceToBlack = 0;
-  for (const std::int32_t number : numbers) {
-    distanceToBlack += static_cast<std::uint32_t>(number) * static_cast<std::uint32_t>(number);
-  }
-  // Of |t|^2 + 3 g^2 - 2 g (t1 + t2 + t3) for a grey g what comes to |t|^2.
-  constexpr std::int64_t kWhite = 255;
-  const std::int64_t most = std::abs(std::int64_t{static_cast<std::int32_t>(distanceToBlack)}) + 3 * kWhite * kWhite +
-                            2 * kWhite * std::abs(sum);
-  if (most > std::numeric_limits<std::int32_t>::max()) {
-    return {};
-  }
-  const auto rest = static_cast<std::int32_t>((sum % 3 + 3) % 3);
-  const auto level = static_cast<std::int32_t>((sum - rest) / 3);
-  return ColorLanes{_mm_setr_epi32(level + (rest > 0 ? 1 : 0), level + (rest > 1 ? 1 : 0), level, 0)};
+// Returns targets with the same nearest greys but with channels that are as equal as possible: the order of greys by
+// distance depends only on the sum of the target's channels. Colors that greys can't mix drive targets far away from
+// the cube, and this brings them back.
+EightColors leveled(const EightColors& targets) {
+  const EightNumbers sums = numbersOf(targets.blue + targets.green + targets.red);
+  EightNumbers thirds{};
+  std::ranges::transform(sums, thirds.begin(), [](std::int32_t sum) { return (sum - (sum % 3 + 3) % 3) / 3; });
+  const Lanes level = lanesOf(thirds);
+  const Lanes rest = lanesOf(sums) - level - level - level;
+  // A comparison that holds is -1.
+  return {level - (Lanes{} < rest), level - (Lanes::all(1) < rest), level};
 }
 
 }  // namespace
 
-ColorBox NearCells::boxOf(std::size_t cell) {
-  ColorBox box{};
-  for (std::size_t channel = 0; channel < box.low.size(); ++channel) {
-    box.low[channel] = static_cast<std::int32_t>(cell >> (5 * channel) & 31) * 16 - 128;
-    box.high[channel] = box.low[channel] + 15;
-  }
-  return box;
-}
-
-bool FarCells::has(PackedColor target) {
-  const __m128i isBeyond = _mm_or_si128(_mm_cmpgt_epi16(target.lanes, _mm_set1_epi16(kFarthest)),
-                                        _mm_cmplt_epi16(target.lanes, _mm_set1_epi16(-kFarthest)));
-  return _mm_movemask_epi8(isBeyond) == 0;
-}
-
-std::size_t FarCells::cellOf(PackedColor target) {
-  const auto bits = static_cast<std::uint64_t>(_mm_cvtsi128_si64(target.lanes));
-  std::size_t cell = 0;
-  for (const int channel : {2, 1, 0}) {
-    cell = cell * kSlabs + static_cast<std::size_t>(slabOf(static_cast<std::int16_t>(bits >> (16 * channel))));
-  }
-  return cell;
-}
-
-ColorBox FarCells::boxOf(std::size_t cell) {
-  ColorBox box{};
-  for (std::size_t channel = 0; channel < box.low.size(); ++channel) {
-    const auto slab = static_cast<std::int32_t>(cell % kSlabs);
-    box.low[channel] = startOf(slab);
-    box.high[channel] = slab == kLastSlab ? kFarthest : startOf(slab + 1) - 1;
-    cell /= kSlabs;
-  }
-  return box;
-}
-
 NearestEntry::NearestEntry(std::span<const PaletteEntry> colors, std::size_t listBytes)
-    : colors_(colors.begin(), colors.end()),
+    : scan_(colors),
       areGreys_(std::ranges::all_of(
           colors, [](const PaletteEntry& color) { return color.red == color.green && color.green == color.blue; })),
       listBytes_(listBytes) {
   if (hasFewColors()) {
-    all_ = groupsOf<FewGroup>(colors);
+    for (std::size_t i = 0; i < colors.size(); ++i) {
+      const ColorVector factor{colors[i].blue << (kFewBits + 1), colors[i].green << (kFewBits + 1),
+                               colors[i].red << (kFewBits + 1)};
+      few_.push_back({_mm_set1_epi32(keyStart<kFewBits>(colors[i], static_cast<std::uint8_t>(i))),
+                      PairedColors(EightColors::all(factor)).low()});
+    }
   } else {
-    near_ = std::make_unique<CandidateGrid<NearCells>>(colors, listBytes);
+    near_ = std::make_unique<CandidateGrid<NearCells>>(scan_, listBytes);
   }
 }
 
-std::uint8_t NearestEntry::findFar(ColorLanes target) {
-  if (allForFar_.empty()) {
-    allForFar_ = groupsOf<DistanceGroup>(colors_);
+Lanes NearestEntry::findFar(const EightColors& targets) {
+  const Lanes mustScan = FarCells::areBeyond(targets) | mayWrapDifferently(targets);
+  if (areZero(mustScan)) [[likely]] {
+    return findOrdered(targets);
   }
-  if (areGreys_ && !hasFewColors()) {
-    if (const auto level = leveled(target)) {
-      target = *level;
+  const std::array channels{numbersOf(targets.blue), numbersOf(targets.green), numbersOf(targets.red)};
+  const EightNumbers areScanned = numbersOf(mustScan);
+  EightNumbers found = numbersOf(findOrdered(targets & ~mustScan));
+  for (std::size_t lane = 0; lane < found.size(); ++lane) {
+    if (areScanned[lane] != 0) {
+      found[lane] = scan_.nearest({channels[0][lane], channels[1][lane], channels[2][lane]});
     }
   }
-  const PackedColor color = packed(target);
-  if (!FarCells::has(color)) {
-    return DistanceGroup::nearestWrapping(allForFar_.data(), allForFar_.size(), target);
-  }
-  if (hasFewColors()) {
-    return DistanceGroup::nearest(allForFar_.data(), allForFar_.size(), color);
-  }
-  if (NearCells::has(color)) {
-    return near_->find(color);
+  return lanesOf(found);
+}
+
+Lanes NearestEntry::findOrdered(const EightColors& targets) {
+  if (areGreys_ && !hasFewColors()) {
+    const EightColors level = leveled(targets);
+    if (NearCells::has(level)) {
+      return near_->find(level);
+    }
   }
   if (!far_) {
-    // Lists are short where only the direction counts.
-    far_ = std::make_unique<CandidateGrid<FarCells>>(colors_, listBytes_ / 4);
+    far_ = std::make_unique<CandidateGrid<FarCells>>(scan_, listBytes_ / 2);
   }
-  return far_->find(color);
+  return far_->find(targets);
 }
 
 }  // namespace quillhue

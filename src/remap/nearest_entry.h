@@ -8,86 +8,81 @@
 
 #include "core/palette_entry.h"
 #include "remap/candidate_grid.h"
-#include "remap/color_groups.h"
-#include "remap/color_lanes.h"
+#include "remap/color_scan.h"
+#include "remap/far_cells.h"
+#include "remap/near_cells.h"
 
 namespace quillhue {
-
-/// The cube from -128 to 383 in each channel, in 32 x 32 x 32 cells: what images hold and most of what error diffusion
-/// makes of it.
-struct NearCells {
-  using Group = KeyGroup<8>;
-  static constexpr std::size_t kCount = std::size_t{1} << 15;
-  static constexpr std::uint32_t kVisitsBeforeList = 24;
-  static constexpr std::size_t kMostOpponents = 16;
-
-  [[nodiscard]] static bool has(PackedColor target) { return isWithin<-128, 9>(target); }
-  [[nodiscard]] static std::size_t cellOf(PackedColor target) {
-    const __m128i coordinates = _mm_srli_epi16(_mm_add_epi16(target.lanes, _mm_set1_epi16(128)), 4);
-    const auto bits = static_cast<std::uint64_t>(_mm_cvtsi128_si64(coordinates));
-    return (bits | bits >> 11 | bits >> 22) & (kCount - 1);
-  }
-  [[nodiscard]] static ColorBox boxOf(std::size_t cell);
-};
-
-/// What is beyond, up to 26000 in each channel, in cells that are the larger the farther they are: what matters there
-/// is the direction.
-struct FarCells {
-  using Group = DistanceGroup;
-  // Eight slabs of 64 through the cube and as many on each side.
-  static constexpr std::int32_t kSlabs = 24;
-  static constexpr std::size_t kCount = std::size_t{kSlabs} * kSlabs * kSlabs;
-  static constexpr std::uint32_t kVisitsBeforeList = 48;
-  static constexpr std::size_t kMostOpponents = 32;
-
-  [[nodiscard]] static bool has(PackedColor target);
-  [[nodiscard]] static std::size_t cellOf(PackedColor target);
-  [[nodiscard]] static ColorBox boxOf(std::size_t cell);
-};
 
 /// Finds the nearest of at most 256 colors.
 class NearestEntry {
  public:
-  /// Up to so many colors comparing all of them is faster than looking for the few that count.
+  /// Comparing all colors is faster than using lists for up to this number of colors.
   static constexpr std::size_t kFewColors = 24;
 
-  /// Of at least one color. What is learned about the space takes at most about 5/4 `listBytes` and 200 KiB: far
-  /// targets have lists of their own.
+  /// Takes at least one color. Lists of candidates use at most about `listBytes`, and half as much again for targets
+  /// far outside the color cube; tables use 350 KiB.
   NearestEntry(std::span<const PaletteEntry> colors, std::size_t listBytes);
+  NearestEntry(const NearestEntry&) = delete;
+  NearestEntry& operator=(const NearestEntry&) = delete;
+  ~NearestEntry() = default;
 
-  [[nodiscard]] std::span<const PaletteEntry> colors() const { return colors_; }
-  [[nodiscard]] bool hasFewColors() const { return colors_.size() <= kFewColors; }
+  [[nodiscard]] std::span<const PaletteEntry> colors() const { return scan_.colors(); }
+  [[nodiscard]] bool hasFewColors() const { return colors().size() <= kFewColors; }
 
-  /// The index of the first color with the smallest squared distance to `target`, which may be any numbers: the
-  /// distance wraps.
-  [[nodiscard]] std::uint8_t find(ColorLanes target) { return hasFewColors() ? findOfFew(target) : findOfMany(target); }
-
-  /// The same for a caller who has asked hasFewColors before.
-  [[nodiscard]] std::uint8_t findOfFew(ColorLanes target) {
-    const PackedColor color = packed(target);
-    return FewGroup::has(color) ? FewGroup::nearest(all_.data(), all_.size(), color) : findFar(target);
+  /// Returns, for each target, the index of the first color with the smallest squared distance. Targets may be any
+  /// numbers: distances wrap to signed 32 bits.
+  [[nodiscard]] Lanes find(const EightColors& targets) {
+    return hasFewColors() ? findOfFew(targets) : findOfMany(targets);
   }
-  [[nodiscard]] std::uint8_t findOfMany(ColorLanes target) {
-    const PackedColor color = packed(target);
-    return NearCells::has(color) ? near_->find(color) : findFar(target);
+
+  /// The same for a caller that has checked hasFewColors.
+  [[nodiscard, gnu::always_inline]] Lanes findOfFew(const EightColors& targets);
+  [[nodiscard, gnu::always_inline]] Lanes findOfMany(const EightColors& targets) {
+    return NearCells::has(targets) ? near_->find(targets) : findFar(targets);
   }
 
  private:
-  using FewGroup = KeyGroup<5>;
-  static_assert(kFewColors <= 1 << 5);
+  // Four times the start of a color's key and its factors for the target's channels.
+  struct FewColor {
+    __m128i start;
+    ColorQuad factors;
+  };
+  static constexpr int kFewBits = 5;
+  static_assert(kFewColors <= 1 << kFewBits);
 
-  [[gnu::noinline]] std::uint8_t findFar(ColorLanes target);
+  [[gnu::noinline]] Lanes findFar(const EightColors& targets);
+  // Takes targets whose wrapped distances have the same order as the true ones.
+  [[nodiscard]] Lanes findOrdered(const EightColors& targets);
 
-  std::vector<PaletteEntry> colors_;
+  ColorScan scan_;
   bool areGreys_;
-  // Of few colors.
-  std::vector<FewGroup> all_;
+  std::vector<FewColor> few_;
   std::size_t listBytes_;
-  // Of many colors.
+  // Only with many colors.
   std::unique_ptr<CandidateGrid<NearCells>> near_;
-  // From the first far target on.
+  // Made for the first far target.
   std::unique_ptr<CandidateGrid<FarCells>> far_;
-  std::vector<DistanceGroup> allForFar_;
 };
+
+// Compares targets from -16384 to 16383 in each channel with all colors.
+inline Lanes NearestEntry::findOfFew(const EightColors& targets) {
+  constexpr std::int32_t kReach = 1 << 14;
+  const EightColors fromLow = targets + EightColors::all({kReach, kReach, kReach});
+  if (!areZero(unsignedShiftRight(fromLow.blue | fromLow.green | fromLow.red, 15))) [[unlikely]] {
+    return findFar(targets);
+  }
+  const PairedColors paired(targets);
+  const auto keys = [](const FewColor& color, const ColorQuad& four) {
+    return _mm_castsi128_ps(_mm_sub_epi32(color.start, dotProducts(color.factors, four)));
+  };
+  __m128 low = keys(few_.front(), paired.low());
+  __m128 high = keys(few_.front(), paired.high());
+  for (std::size_t i = 1; i < few_.size(); ++i) {
+    low = _mm_min_ps(low, keys(few_[i], paired.low()));
+    high = _mm_min_ps(high, keys(few_[i], paired.high()));
+  }
+  return Lanes{_mm_castps_si128(low), _mm_castps_si128(high)} & Lanes::all((1 << kFewBits) - 1);
+}
 
 }  // namespace quillhue

@@ -5,7 +5,7 @@
 #include <array>
 #include <cstring>
 
-#include "remap/color_groups.h"
+#include "remap/color_quad.h"
 
 namespace quillhue {
 
@@ -17,8 +17,6 @@ constexpr std::size_t kColorsPerLine = 64;
 constexpr std::size_t kLines = (std::size_t{1} << 24) / kColorsPerLine;
 constexpr std::size_t kLinesPerCell = 64;
 constexpr std::size_t kCells = kLines / kLinesPerCell;
-
-constexpr std::size_t kMostOpponents = 64;
 
 using Addresses = std::array<std::uint32_t, 256>;
 
@@ -116,6 +114,7 @@ std::uint8_t NearestTable::resolve(std::size_t address) {
   if (isFilled == 0) {
     fill(line);
     isFilled = 1;
+    ++filledLines_;
   }
   return found_.all()[address];
 }
@@ -133,7 +132,7 @@ std::span<const std::uint8_t> NearestTable::candidatesOf(std::size_t cell) {
   std::uint32_t& list = lists_[cell];
   if (list == 0) {
     const ColorVector low = lowestOf(cell * kLinesPerCell);
-    const auto indexes = candidates_.within({low, {low[0] + 15, low[1] + 15, low[2] + 15}}, kMostOpponents);
+    const auto indexes = candidates_.within({low, {low[0] + 15, low[1] + 15, low[2] + 15}}, colors_.size());
     list = static_cast<std::uint32_t>(listed_.size());
     listed_.push_back(static_cast<std::uint8_t>(indexes.size() - 1));
     listed_.insert(listed_.end(), indexes.begin(), indexes.end());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <vector>
 
 #include "remap/error_diffusion.h"
@@ -14,12 +15,12 @@ namespace {
 
 constexpr std::int32_t kRowsBetweenReports = 16;
 
-// From so many pixels on a table of all colors is worth its memory.
+// The least number of pixels for which a table of all colors is worth its memory.
 constexpr std::int64_t kPixelsForTable = 1 << 20;
 
-// What lists of candidates may take. Without dithering there are no targets outside of what pixels can be.
+// The memory for lists of candidates. Without dithering all targets are colors of pixels, which need fewer lists.
 constexpr std::size_t listBytesFor(RemapMode mode) {
-  return mode == RemapMode::dither ? std::size_t{11} << 17 : std::size_t{6} << 17;
+  return mode == RemapMode::dither ? std::size_t{8} << 17 : std::size_t{6} << 17;
 }
 
 // A table for every index that a pixel can have.
@@ -37,7 +38,9 @@ IndexTable maintainedIndexes(std::size_t colors) {
 IndexTable nearestIndexes(const Palette& imagePalette, NearestEntry& nearest) {
   IndexTable table{};
   for (std::int32_t index = 0; index < imagePalette.getSize(); ++index) {
-    table[static_cast<std::size_t>(index)] = nearest.find(lanesOfPixel(pixelOf(imagePalette.entry(index))));
+    const auto pixel = static_cast<std::int32_t>(pixelOf(imagePalette.entry(index)));
+    table[static_cast<std::size_t>(index)] =
+        static_cast<std::uint8_t>(lowHalfOf<0>(nearest.find(colorsOfPixels(Lanes::all(pixel)))));
   }
   return table;
 }
@@ -50,18 +53,28 @@ void mapIndexes(const WorkImage& image, const IndexTable& table, RemappedImage& 
 
 bool isReportDue(std::int32_t y) { return y % kRowsBetweenReports == 0; }
 
-// Neighbors are often the same.
+// Searches for eight pixels at once, except for pixels like the one before or like the last eight.
 void nearestRow(NearestEntry& nearest, std::span<const std::uint8_t> pixels, std::span<std::uint8_t> indexes) {
-  std::uint32_t last = 0xFFFFFFFF;
-  std::uint8_t found = 0;
-  for (std::size_t x = 0; x < indexes.size(); ++x) {
-    const std::uint32_t pixel =
-        pixels[3 * x] | std::uint32_t{pixels[3 * x + 1]} << 8 | std::uint32_t{pixels[3 * x + 2]} << 16;
-    if (pixel != last) {
-      found = nearest.find(lanesOfPixel(pixel));
-      last = pixel;
+  const auto pixelAt = [pixels](std::size_t x) {
+    return pixels[3 * x] | std::int32_t{pixels[3 * x + 1]} << 8 | std::int32_t{pixels[3 * x + 2]} << 16;
+  };
+  Lanes eight = Lanes::all(-1);
+  EightNumbers found{};
+  for (std::size_t x = 0; x < indexes.size();) {
+    const std::int32_t pixel = pixelAt(x);
+    if (const unsigned same = signsOf(eight == Lanes::all(pixel)); same != 0) {
+      const auto index = static_cast<std::uint8_t>(found[static_cast<std::size_t>(std::countr_zero(same))]);
+      do {
+        indexes[x++] = index;
+      } while (x < indexes.size() && pixelAt(x) == pixel);
+      continue;
     }
-    indexes[x] = found;
+    const std::size_t count = std::min(Lanes::kCount, indexes.size() - x);
+    eight = lanesBy([&](std::size_t lane) { return pixelAt(x + std::min(lane, count - 1)); });
+    found = numbersOf(nearest.find(colorsOfPixels(eight)));
+    for (std::size_t lane = 0; lane < count; ++lane, ++x) {
+      indexes[x] = static_cast<std::uint8_t>(found[lane]);
+    }
   }
 }
 
@@ -127,6 +140,9 @@ bool Remapper::takeNearest(const WorkImage& image, RemappedImage& result, RemapP
     table_ = std::make_unique<NearestTable>(colors_);
   }
   for (std::int32_t y = 0; y < image.height(); ++y) {
+    if (table_ && !table_->paysOff()) {
+      table_.reset();
+    }
     if (table_) {
       table_->remapRow(image.row(y), result.row(y));
     } else {
@@ -145,8 +161,7 @@ bool Remapper::dither(const WorkImage& image, const RemapOptions& options, Remap
   static_assert(kRowsBetweenReports % ErrorDiffusion::kRowsTogether == 0);
   const auto diffusion = diffuseErrors(image, nearest(options.mode), limitsOf(options, image, colors_.size()), result);
   for (std::int32_t done = 0; done < image.height();) {
-    const bool areTogether = done > 0 && image.height() - done >= ErrorDiffusion::kRowsTogether;
-    const std::int32_t count = areTogether ? ErrorDiffusion::kRowsTogether : 1;
+    const std::int32_t count = done == 0 ? 1 : std::min(ErrorDiffusion::kRowsTogether, image.height() - done);
     diffusion->remapRows(count);
     done += count;
     if (isReportDue(done - 1) && !progress.rowsDone(done, result)) {

@@ -46,13 +46,16 @@ TEST(RemapIdentity, HoldsWhereErrorsLeaveAnyRange) {
   }
 }
 
-// Large images take another way to the nearest colors.
+// Large images use a table, which is given up where colors do not repeat.
 TEST(RemapIdentity, HoldsForLargeImages) {
-  CaseBytes random(4'000'000, 13);
-  const Palette palette = paletteOf(3, colorKinds()[0], random);
-  Remapper remapper(palette);
-  EXPECT_EQ(differenceOf(remapper, imageOf(1031, 1024, 1, colorKinds()[0], random), palette, {}), "");
-  EXPECT_EQ(differenceOf(remapper, imageOf(3, 3, 1, colorKinds()[0], random), palette, {}), "");
+  CaseBytes random(10'000'000, 13);
+  for (const auto& [size, levels] : {std::pair{3, 255}, {3, 15}, {30, 255}}) {
+    const Palette palette = paletteOf(size, colorKinds()[0], random);
+    const MakeColor noise = [levels](CaseBytes& bytes) { return bytes.colorUpTo(levels); };
+    Remapper remapper(palette);
+    EXPECT_EQ(differenceOf(remapper, imageOf(1031, 1024, 1, noise, random), palette, {}), "") << size << ' ' << levels;
+    EXPECT_EQ(differenceOf(remapper, imageOf(3, 3, 1, noise, random), palette, {}), "");
+  }
 }
 
 TEST(NearestTable, EqualsTheLiteralRules) {
@@ -86,18 +89,13 @@ TEST(NearestTable, TakesTheFirstInTheCornerOfACell) {
   EXPECT_EQ(index[0], 0);
 }
 
-ColorLanes lanesOf(const std::array<std::int32_t, 3>& numbers) {
-  return {_mm_setr_epi32(numbers[0], numbers[1], numbers[2], 0)};
-}
-
 // Every number of a channel is in the box of its cell, whose lists would else lack colors.
-template <typename Cells>
-void expectInBoxes(std::int32_t first, std::int32_t last) {
+template <typename Cells, typename Has>
+void expectInBoxes(std::int32_t first, std::int32_t last, Has has) {
   for (std::int32_t number = first; number <= last; ++number) {
     const std::array target{number, first + last - number, first};
-    const PackedColor color = packed(lanesOf(target));
-    ASSERT_TRUE(Cells::has(color)) << number;
-    const std::size_t cell = Cells::cellOf(color);
+    ASSERT_TRUE(has(EightColors::all(target))) << number;
+    const std::size_t cell = lowHalfOf<0>(Cells::cellsOf(EightColors::all(target)));
     ASSERT_LT(cell, Cells::kCount) << number;
     const ColorBox box = Cells::boxOf(cell);
     for (std::size_t channel = 0; channel < target.size(); ++channel) {
@@ -106,28 +104,61 @@ void expectInBoxes(std::int32_t first, std::int32_t last) {
     }
   }
   for (const std::int32_t outside : {first - 1, last + 1}) {
-    EXPECT_FALSE(Cells::has(packed(lanesOf({0, outside, 0})))) << outside;
+    EXPECT_FALSE(has(EightColors::all({0, outside, 0}))) << outside;
   }
 }
 
 TEST(NearestEntry, HasAllNumbersInTheBoxesOfTheirCells) {
-  expectInBoxes<NearCells>(-128, 383);
-  expectInBoxes<FarCells>(-26000, 26000);
+  expectInBoxes<NearCells>(-128, 383, NearCells::has);
+  expectInBoxes<FarCells>(-65279, 65535,
+                          [](const EightColors& targets) { return areZero(FarCells::areBeyond(targets)); });
+}
+
+void expectLiteral(NearestEntry& nearest, const std::array<ColorVector, 8>& targets) {
+  const auto channel = [&](std::size_t number) {
+    return lanesBy([&](std::size_t lane) { return targets[lane][number]; });
+  };
+  const EightNumbers found = numbersOf(nearest.find({channel(0), channel(1), channel(2)}));
+  for (std::size_t i = 0; i < targets.size(); ++i) {
+    ASSERT_EQ(found[i], literalNearest(nearest.colors(), targets[i])) << testing::PrintToString(targets[i]);
+  }
 }
 
 TEST(NearestEntry, EqualsTheLiteralRulesAtAllBorders) {
-  CaseBytes random(200000, 16);
+  CaseBytes random(800000, 16);
   for (const std::int32_t size : {2, 24, 25, 256}) {
     for (const MakeColor& make : colorKinds()) {
       const std::vector<PaletteEntry> entries = entriesOf(paletteOf(size, make, random));
       NearestEntry nearest(entries, std::size_t{1} << 20);
-      for (const std::int32_t border : {-26000, -1024, -128, 0, 256, 384, 1024, 26001, 32768, 46341}) {
-        for (int i = 0; i < 100; ++i) {
-          std::array<std::int32_t, 3> target{};
-          std::ranges::generate(target,
-                                [&] { return random.upTo(3) == 0 ? random.upTo(255) : border - random.upTo(1); });
-          ASSERT_EQ(nearest.find(lanesOf(target)), literalNearest(entries, target)) << border;
+      for (const std::int32_t border :
+           {-65279, -26000, -16384, -1024, -128, 0, 256, 384, 1024, 16384, 26755, 32768, 37838, 46341, 65536}) {
+        for (int i = 0; i < 12; ++i) {
+          std::array<ColorVector, 8> targets{};
+          for (ColorVector& target : targets) {
+            std::ranges::generate(target,
+                                  [&] { return random.upTo(3) == 0 ? random.upTo(255) : border - random.upTo(1); });
+          }
+          ASSERT_NO_FATAL_FAILURE(expectLiteral(nearest, targets)) << border;
         }
+      }
+    }
+  }
+}
+
+// Targets in all directions and at all distances.
+TEST(NearestEntry, EqualsTheLiteralRulesFarOut) {
+  CaseBytes random(1000000, 19);
+  for (const std::int32_t size : {5, 40, 256}) {
+    for (const MakeColor& make : colorKinds()) {
+      const std::vector<PaletteEntry> entries = entriesOf(paletteOf(size, make, random));
+      NearestEntry nearest(entries, std::size_t{1} << 20);
+      for (int i = 0; i < 400; ++i) {
+        std::array<ColorVector, 8> targets{};
+        const std::int32_t scale = 1 << (i % 11);
+        for (ColorVector& target : targets) {
+          std::ranges::generate(target, [&] { return (random.upTo(255) - 128) * scale + random.upTo(255) % scale; });
+        }
+        ASSERT_NO_FATAL_FAILURE(expectLiteral(nearest, targets));
       }
     }
   }
@@ -142,27 +173,27 @@ TEST(NearestEntry, EqualsTheLiteralRulesForFarGreys) {
   const auto around = [&](std::int32_t middle, std::int32_t reach) {
     return middle + reach * (random.upTo(254) - 127) / 127;
   };
-  for (int i = 0; i < 6000; ++i) {
-    const std::int32_t far = std::array{-46341, 46341, -30000, 90000, 2000000000, 0}[static_cast<std::size_t>(i % 6)];
-    std::array<std::int32_t, 3> target{around(far, 40), around(0, 300), around(i % 4 == 0 ? -far : 0, 300)};
-    std::ranges::rotate(target, target.begin() + i % 3);
-    ASSERT_EQ(nearest.find(lanesOf(target)), literalNearest(greys, target)) << i;
+  for (int i = 0; i < 800; ++i) {
+    std::array<ColorVector, 8> targets{};
+    for (std::size_t lane = 0; lane < targets.size(); ++lane) {
+      const std::int32_t far = std::array{-46341, 46341, -30000, 60000, 2000000000, 0}[lane % 6];
+      targets[lane] = {around(far, 40), around(0, 300), around(i % 4 == 0 ? -far : 0, 300)};
+      std::ranges::rotate(targets[lane], targets[lane].begin() + i % 3);
+    }
+    ASSERT_NO_FATAL_FAILURE(expectLiteral(nearest, targets)) << i;
   }
 }
 
 // Without memory for lists all colors are compared, with the same results.
 TEST(NearestEntry, WorksWithoutMemoryForLists) {
   CaseBytes random(100000, 15);
-  const Palette palette = paletteOf(256, colorKinds()[3], random);
-  const std::vector<PaletteEntry> entries = entriesOf(palette);
-  NearestEntry without(entries, 0);
-  NearestEntry with(entries, std::size_t{1} << 20);
-  for (int i = 0; i < 30000; ++i) {
-    ColorLanes target = lanesOfPixel(pixelOf(random.colorUpTo(i % 3 == 0 ? 255 : 40)));
-    if (i % 2 == 0) {
-      target = shiftedLeft<3>(target) - shiftedLeft<2>(lanesOfPixel(0x40FFFF));
+  NearestEntry nearest(entriesOf(paletteOf(256, colorKinds()[3], random)), 0);
+  for (int i = 0; i < 2000; ++i) {
+    std::array<ColorVector, 8> targets{};
+    for (ColorVector& target : targets) {
+      std::ranges::generate(target, [&] { return i % 3 == 0 ? random.upTo(255) : 8 * random.upTo(40) - 160; });
     }
-    ASSERT_EQ(without.find(target), with.find(target)) << i;
+    ASSERT_NO_FATAL_FAILURE(expectLiteral(nearest, targets)) << i;
   }
 }
 

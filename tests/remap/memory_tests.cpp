@@ -56,7 +56,7 @@ TEST(RemapMemory, HasALimitForLists) {
   const std::size_t before = __sanitizer_get_current_allocated_bytes();
   std::minstd_rand random(1);
   for (int i = 0; i < 500000; ++i) {
-    (void)nearest.find(lanesOfPixel(static_cast<std::uint32_t>(random() >> 4) & 0x7F7F7F));
+    (void)nearest.find(colorsOfPixels(Lanes::all(static_cast<std::int32_t>(random() >> 4) & 0x7F7F7F)));
   }
   EXPECT_EQ(__sanitizer_get_current_allocated_bytes(), before);
 }
