@@ -1,6 +1,7 @@
 #include "cli/application.h"
 
 #include <exception>
+#include <new>
 #include <sstream>
 #include <utility>
 
@@ -10,24 +11,27 @@
 namespace quillhue::cli {
 
 int run(std::vector<std::string> arguments, Console& console) {
-  CommandLine tool("quillhue-cli", "quillhue-cli " QUILLHUE_VERSION,
-                   "Makes, shows, edits and converts palettes: ordered lists of red-green-blue entries.");
   ExitStatus status = kDone;
-  addFormatsVerb(tool, console, status);
-  addInfoVerb(tool, console, status);
-  addConvertVerb(tool, console, status);
-  addNewVerb(tool, console, status);
-  addEditVerb(tool, console, status);
-  addValuesVerb(tool, console, status);
-  addRemapVerb(tool, console, status);
-  addEffectsVerb(tool, console, status);
-  addModelsVerb(tool, console, status);
   try {
+    CommandLine tool("quillhue-cli", "quillhue-cli " QUILLHUE_VERSION,
+                     "Makes, shows, edits and converts palettes: ordered lists of red-green-blue entries.");
+    addFormatsVerb(tool, console, status);
+    addInfoVerb(tool, console, status);
+    addConvertVerb(tool, console, status);
+    addNewVerb(tool, console, status);
+    addEditVerb(tool, console, status);
+    addValuesVerb(tool, console, status);
+    addRemapVerb(tool, console, status);
+    addEffectsVerb(tool, console, status);
+    addModelsVerb(tool, console, status);
     std::ostringstream refused;
     if (!tool.run(std::move(arguments), console.out, refused)) {
       console.err << printable(refused.str());
       status = kWrongUsage;
     }
+  } catch (const std::bad_alloc&) {
+    console.err << kNoMemoryText << '\n';
+    status = kRefused;
   } catch (const std::exception& error) {
     console.err << error.what() << '\n';
     status = kRefused;

@@ -3,10 +3,12 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <new>
 
 #include "cli/application.h"
+#include "cli/refusal.h"
 
-int main(int argumentCount, char** arguments) {
+int main(int argumentCount, char** arguments) try {
   std::ios::sync_with_stdio(false);
   quillhue::cli::Console console{std::cin, std::cout, std::cerr};
   const char* const noColor = std::getenv("NO_COLOR");
@@ -16,4 +18,7 @@ int main(int argumentCount, char** arguments) {
     console.columns = size.ws_col;
   }
   return quillhue::cli::run({arguments + 1, arguments + argumentCount}, console);
+} catch (const std::bad_alloc&) {
+  std::cerr << quillhue::cli::kNoMemoryText << '\n';
+  return quillhue::cli::kRefused;
 }

@@ -5,10 +5,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <new>
 #include <string>
 #include <vector>
 
 #include "cli/application.h"
+#include "cli/refusal.h"
 #include "core/utf8.h"
 
 namespace {
@@ -49,7 +51,7 @@ class ConsoleModes {
 
 }  // namespace
 
-int wmain(int argumentCount, wchar_t** arguments) {
+int wmain(int argumentCount, wchar_t** arguments) try {
   for (std::FILE* stream : {stdin, stdout, stderr}) {
     _setmode(_fileno(stream), _O_BINARY);
   }
@@ -63,4 +65,7 @@ int wmain(int argumentCount, wchar_t** arguments) {
     utf8.push_back(quillhue::toUtf8(arguments[i]));
   }
   return quillhue::cli::run(std::move(utf8), console);
+} catch (const std::bad_alloc&) {
+  std::cerr << quillhue::cli::kNoMemoryText << '\n';
+  return quillhue::cli::kRefused;
 }

@@ -9,6 +9,8 @@
 
 namespace quillhue::cli {
 
+inline constexpr std::string_view kNoMemoryText = "There is not enough free memory.";
+
 /// A refusal with the reason as text.
 using Refusal = std::unexpected<std::string>;
 

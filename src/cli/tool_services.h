@@ -28,10 +28,10 @@ class ToolServices : private Messages, private DocumentObserver, private FileQue
   void error(std::string_view text) override { console_.err << text << '\n'; }
   SaveChangesAnswer askSaveChanges(std::string_view /*text*/) override { return SaveChangesAnswer::no; }
   bool askReplaceFile(std::string_view /*text*/) override { return false; }
-  void titleChanged(std::wstring_view /*title*/) override {}
-  void statusChanged(std::string_view /*text*/) override {}
-  void undoRedoChanged(bool /*canUndo*/, bool /*canRedo*/) override {}
-  void documentReplaced() override {}
+  void titleChanged(const std::wstring& /*title*/) noexcept override {}
+  void statusChanged(std::string_view /*text*/) noexcept override {}
+  void undoRedoChanged(bool /*canUndo*/, bool /*canRedo*/) noexcept override {}
+  void documentReplaced() noexcept override {}
   std::optional<SaveAsAnswer> askSaveAs(PaletteFormat /*preselected*/) override { return std::nullopt; }
   std::int32_t askPaletteFromImage(std::uint64_t /*distinctColors*/) override { return 0; }
   bool put(std::span<const PaletteEntry> entries) override {

@@ -38,8 +38,9 @@ void ChannelEditor::setCurrentEntry(std::int32_t index) {
 }
 
 void ChannelEditor::chooseModel(std::int32_t index) {
-  settings_.colorMode = static_cast<std::uint8_t>(index);
-  createColorMode(settings_.colorMode, currentEntry_, slot_, mode_);
+  const auto chosen = static_cast<std::uint8_t>(index);
+  createColorMode(chosen, currentEntry_, slot_, mode_);
+  settings_.colorMode = chosen;
   refreshAndRepaint();
 }
 
@@ -52,8 +53,20 @@ void ChannelEditor::refreshValues() {
 // Setting the numbers again rebuilds the bars. The document is locked meanwhile, so nothing is written, whether a
 // control reports its new number as a change or this function sets the number itself.
 void ChannelEditor::showValues() {
-  const bool isRunOver = recordsNext();
-  document().lock();
+  // Restores the state even if a control throws.
+  struct LockedDocument {
+    ChannelEditor& editor;
+    bool isRunOver = editor.recordsNext();
+
+    explicit LockedDocument(ChannelEditor& locking) : editor(locking) { editor.document().lock(); }
+    LockedDocument(const LockedDocument&) = delete;
+    LockedDocument& operator=(const LockedDocument&) = delete;
+    ~LockedDocument() {
+      editor.document().unlock();
+      editor.recordArmed_ = isRunOver;
+    }
+  };
+  const LockedDocument locked(*this);
   recordArmed_ = false;
   runSaveCount_ = document().saveCount();
   for (const Bar bar : kBars) {
@@ -61,8 +74,6 @@ void ChannelEditor::showValues() {
     view_.showChannel(bar, mode_->channelRange(bar), value);
     mode_->setValue(bar, value);
   }
-  document().unlock();
-  recordArmed_ = isRunOver;
 }
 
 void ChannelEditor::paletteChanged() {
@@ -71,9 +82,9 @@ void ChannelEditor::paletteChanged() {
 }
 
 void ChannelEditor::documentReplaced() {
+  createColorMode(settings_.colorMode, 0, slot_, mode_);
   currentEntry_ = 0;
   releaseBar();
-  createColorMode(settings_.colorMode, currentEntry_, slot_, mode_);
   refreshAndRepaint();
 }
 

@@ -21,10 +21,10 @@ const ColorModel& colorModelOf(std::int32_t index) {
 
 ColorMode& createColorMode(std::int32_t index, std::int32_t entry, const DocumentSlot& slot,
                            std::unique_ptr<ColorMode>& mode) {
-  mode.reset();
   const ColorModel& model = colorModelOf(index);
-  mode = model.create(model, slot);
-  mode->start(entry);
+  auto next = model.create(model, slot);
+  next->start(entry);
+  mode = std::move(next);
   return *mode;
 }
 

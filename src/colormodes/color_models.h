@@ -38,7 +38,7 @@ extern const ColorModel kYuvModel;
 /// Returns the model of an index, or RGB if no model has the index.
 [[nodiscard]] const ColorModel& colorModelOf(std::int32_t index);
 
-/// Destroys the mode in `mode`, then puts a mode of this model there. It edits this entry of the slot's document. Its
+/// Replaces the mode in `mode` with a mode of this model. It edits this entry of the slot's document. Its
 /// bars and fixed strips are built from the entry's color. If no model has the index, the mode is RGB.
 ColorMode& createColorMode(std::int32_t index, std::int32_t entry, const DocumentSlot& slot,
                            std::unique_ptr<ColorMode>& mode);

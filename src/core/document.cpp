@@ -1,25 +1,33 @@
 #include "core/document.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <utility>
 
 namespace quillhue {
 
+// Without a backslash, rfind returns npos, and npos + 1 is 0: the title then shows the whole name.
+DocumentName::DocumentName(std::wstring fileName)
+    : fileName_(fileName.empty() ? std::wstring(kUntitled) : std::move(fileName)), title_(L"Quillhue - ") {
+  title_.append(fileName_, fileName_.rfind(L'\\') + 1);
+}
+
 PaletteDocument::PaletteDocument(Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
                                  const AppSettings& settings, DocumentObserver& observer)
+    : PaletteDocument(Silent{}, std::move(palette), initiallyModified, std::move(fileName), format, settings,
+                      observer) {
+  announce();
+}
+
+PaletteDocument::PaletteDocument(Silent /*silent*/, Palette palette, bool initiallyModified, std::wstring fileName,
+                                 PaletteFormat format, const AppSettings& settings, DocumentObserver& observer)
     : palette_(std::move(palette)),
       modificationCount_(initiallyModified ? 1 : 0),
       format_(format),
-      fileName_(std::move(fileName)),
+      name_(std::move(fileName)),
       settings_(settings),
-      observer_(observer) {
-  if (fileName_.empty()) {
-    fileName_ = kUntitled;
-  }
-  announceTitle();
-  announceSize();
-  announceHistory();
-}
+      observer_(observer) {}
 
 bool PaletteDocument::isSelected(std::int32_t index) const {
   return palette_.selected()[static_cast<std::size_t>(index)] != 0;
@@ -65,26 +73,31 @@ void PaletteDocument::setSelected(std::int32_t index, std::uint8_t flag) {
 
 void PaletteDocument::recordColor(std::int32_t index) {
   if (contains(index)) {
-    push(std::make_unique<PaletteDifferenceColor>(palette_, index), getSize());
+    record(std::make_unique<PaletteDifferenceColor>(palette_, index));
   } else {
     // kept on purpose: the document counts as modified, although nothing can be undone.
     ++modificationCount_;
   }
 }
 
-void PaletteDocument::recordColors() { push(std::make_unique<PaletteDifferenceColors>(palette_), getSize()); }
+void PaletteDocument::recordColors() { record(saveColors()); }
 
-void PaletteDocument::recordSelection() { push(std::make_unique<PaletteDifferenceSelection>(palette_), getSize()); }
+void PaletteDocument::recordSelection() { record(std::make_unique<PaletteDifferenceSelection>(palette_)); }
+
+std::unique_ptr<PaletteDifference> PaletteDocument::saveColors() const {
+  return std::make_unique<PaletteDifferenceColors>(palette_);
+}
 
 void PaletteDocument::resize(std::int32_t newSize) {
-  const std::int32_t oldSize = getSize();
-  Palette resized = resizedCopy(palette_, newSize, settings_.blank);
-  push(std::make_unique<PaletteDifferenceSize>(std::exchange(palette_, std::move(resized))), oldSize);
+  auto step = std::make_unique<PaletteDifferenceSize>(resizedCopy(palette_, newSize, settings_.blank));
+  // The step now has the new palette and exchanges it for the old one. There is no step below it yet.
+  std::ignore = step->swap(palette_, nullptr);
+  record(std::move(step));
   announceSize();
 }
 
-void PaletteDocument::push(std::unique_ptr<PaletteDifference> record, std::int32_t size) {
-  history_.push(std::move(record), size);
+void PaletteDocument::record(std::unique_ptr<PaletteDifference> saved) noexcept {
+  history_.push(std::move(saved));
   announceHistory();
   ++modificationCount_;
 }
@@ -105,38 +118,46 @@ void PaletteDocument::redo() {
   ++modificationCount_;
 }
 
-void PaletteDocument::setFileName(const std::wstring& name) {
-  if (name != fileName_) {
-    fileName_ = name;
-    announceTitle();
+void PaletteDocument::setFileName(DocumentName name) noexcept {
+  if (name.fileName() != name_.fileName()) {
+    name_ = std::move(name);
+    observer_.titleChanged(name_.title());
   }
 }
 
-void PaletteDocument::markSaved(const std::wstring& fileName, PaletteFormat format) {
+void PaletteDocument::markSaved(DocumentName name, PaletteFormat format) noexcept {
   modificationCount_ = 0;
   ++saveCount_;
   format_ = format;
-  setFileName(fileName);
+  setFileName(std::move(name));
 }
 
-// Without a backslash, rfind returns npos, and npos + 1 is 0: the title then shows the whole name.
-void PaletteDocument::announceTitle() {
-  std::wstring title = L"Quillhue - ";
-  title.append(fileName_, fileName_.rfind(L'\\') + 1);
-  observer_.titleChanged(title);
+void PaletteDocument::announce() const noexcept {
+  observer_.titleChanged(name_.title());
+  announceSize();
+  announceHistory();
 }
 
-void PaletteDocument::announceHistory() { observer_.undoRedoChanged(history_.canUndo(), history_.canRedo()); }
+void PaletteDocument::announceHistory() const noexcept {
+  observer_.undoRedoChanged(history_.canUndo(), history_.canRedo());
+}
 
-void PaletteDocument::announceSize() {
-  observer_.statusChanged(std::to_string(getSize()) + (getSize() == 1 ? " entry" : " entries"));
+void PaletteDocument::announceSize() const noexcept {
+  constexpr std::string_view kOne = " entry";
+  constexpr std::string_view kMany = " entries";
+  std::array<char, 32> text{};
+  char* const end = std::to_chars(text.begin(), text.end(), getSize()).ptr;
+  observer_.statusChanged({text.begin(), std::ranges::copy(getSize() == 1 ? kOne : kMany, end).out});
 }
 
 void DocumentSlot::replaceDocument(Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
                                    Services& services) {
+  std::unique_ptr<PaletteDocument> next(new PaletteDocument(PaletteDocument::Silent{}, std::move(palette),
+                                                            initiallyModified, std::move(fileName), format,
+                                                            services.settings, services.observer));
   document_.reset();
-  document_ = std::make_unique<PaletteDocument>(std::move(palette), initiallyModified, std::move(fileName), format,
-                                                services.settings, services.observer);
+  next->announce();
+  document_ = std::move(next);
   services.observer.documentReplaced();
 }
 

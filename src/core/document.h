@@ -16,6 +16,21 @@ namespace quillhue {
 /// Name of a document without a file.
 inline constexpr std::wstring_view kUntitled = L"\\Untitled";
 
+/// The name of a document's file and the title that shows it: the part after the last backslash.
+class DocumentName {
+ public:
+  /// An empty name means that there is no file.
+  // NOLINTNEXTLINE(google-explicit-constructor): a name is all that it takes.
+  DocumentName(std::wstring fileName);
+
+  [[nodiscard]] const std::wstring& fileName() const { return fileName_; }
+  [[nodiscard]] const std::wstring& title() const { return title_; }
+
+ private:
+  std::wstring fileName_;
+  std::wstring title_;
+};
+
 /// The open palette: its colors and selection, its file, whether it is modified, and its edit history.
 ///
 /// An undoable change takes two steps: a record operation saves the state that is about to change, then the setters
@@ -47,7 +62,7 @@ class PaletteDocument {
   [[nodiscard]] bool canUndo() const { return history_.canUndo(); }
   [[nodiscard]] bool canRedo() const { return history_.canRedo(); }
   [[nodiscard]] PaletteFormat getFormat() const { return format_; }
-  [[nodiscard]] const std::wstring& getFileName() const { return fileName_; }
+  [[nodiscard]] const std::wstring& getFileName() const { return name_.fileName(); }
 
   /// While locked, setColor, setRed, setGreen, setBlue and applyChannels change nothing.
   void lock() { locked_ = true; }
@@ -63,11 +78,17 @@ class PaletteDocument {
   void select(std::int32_t index) { setSelected(index, 1); }
   void deselect(std::int32_t index) { setSelected(index, 0); }
 
+  /// Each of the changes below either happens completely or throws std::bad_alloc and changes nothing.
+  ///
   /// Record the state as one undo step. Each call discards the redo stack and raises the modification count by 1. If
   /// the index is outside the palette, recordColor raises the count and does nothing else.
   void recordColor(std::int32_t index);
   void recordColors();
   void recordSelection();
+  /// recordColors in two parts, for a change that has to prepare more before it begins. The palette must have the same
+  /// size in both.
+  [[nodiscard]] std::unique_ptr<PaletteDifference> saveColors() const;
+  void record(std::unique_ptr<PaletteDifference> saved) noexcept;
   /// Records the palette, then replaces it with its resizedCopy. A size below 1 counts as 1.
   void resize(std::int32_t newSize);
 
@@ -76,19 +97,23 @@ class PaletteDocument {
   void undo();
   void redo();
 
-  /// Sets the file name and announces a title with the part after the last backslash. Does nothing if the name is
-  /// unchanged.
-  void setFileName(const std::wstring& name);
+  /// Sets the file name and announces the title. Does nothing if the name is unchanged.
+  void setFileName(DocumentName name) noexcept;
   /// Records a save in this file: the document becomes unmodified, and saveCount rises by 1.
-  void markSaved(const std::wstring& fileName, PaletteFormat format);
+  void markSaved(DocumentName name, PaletteFormat format) noexcept;
 
  private:
   void setChannel(std::int32_t index, Channel channel, std::uint8_t value);
   void setSelected(std::int32_t index, std::uint8_t flag);
-  void push(std::unique_ptr<PaletteDifference> record, std::int32_t size);
-  void announceTitle();
-  void announceHistory();
-  void announceSize();
+  friend class DocumentSlot;
+  // Announces nothing yet.
+  struct Silent {};
+  PaletteDocument(Silent silent, Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
+                  const AppSettings& settings, DocumentObserver& observer);
+
+  void announce() const noexcept;
+  void announceHistory() const noexcept;
+  void announceSize() const noexcept;
 
   Palette palette_;
   EditHistory history_;
@@ -96,7 +121,7 @@ class PaletteDocument {
   std::int32_t modificationCount_;
   std::int32_t saveCount_ = 0;
   PaletteFormat format_;
-  std::wstring fileName_;
+  DocumentName name_;
   const AppSettings& settings_;
   DocumentObserver& observer_;
 };
@@ -106,7 +131,8 @@ class DocumentSlot {
  public:
   [[nodiscard]] PaletteDocument* document() const { return document_.get(); }
 
-  /// Destroys the document and its history, creates a new one and notifies the observer.
+  /// Creates a new document, destroys the previous one and its history, and notifies the observer. Throws
+  /// std::bad_alloc and keeps the previous document if there is no memory for the new one.
   void replaceDocument(Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
                        Services& services);
   /// Destroys the document without notifying the observer.

@@ -44,14 +44,14 @@ void PaletteDifferenceSelection::exchange(Palette& palette) { std::ranges::swap_
 void PaletteDifferenceSize::exchange(Palette& palette) { std::swap(palette_, palette); }
 
 EditHistory::~EditHistory() {
-  discard(undo_, 1);
-  discard(redo_, 1);
+  discard(undo_);
+  discard(redo_);
 }
 
-void EditHistory::push(std::unique_ptr<PaletteDifference> record, std::int32_t size) {
+void EditHistory::push(std::unique_ptr<PaletteDifference> record) noexcept {
   record->next_ = std::exchange(undo_, nullptr);
   undo_ = std::move(record);
-  discard(redo_, size);
+  discard(redo_);
 }
 
 void EditHistory::move(Stack& from, Stack& to, Palette& palette) {
@@ -63,11 +63,9 @@ void EditHistory::move(Stack& from, Stack& to, Palette& palette) {
   to = std::move(record);
 }
 
-// A record can only be unlinked by swap(), which also changes a palette: this one is scratch.
-void EditHistory::discard(Stack& stack, std::int32_t size) {
-  Palette scratch = createPalette(size);
+void EditHistory::discard(Stack& stack) noexcept {
   while (stack != nullptr) {
-    stack = stack->swap(scratch, nullptr);
+    stack = std::move(stack->next_);
   }
 }
 

@@ -88,8 +88,8 @@ class EditHistory {
   [[nodiscard]] bool canUndo() const { return undo_ != nullptr; }
   [[nodiscard]] bool canRedo() const { return redo_ != nullptr; }
 
-  /// Makes `record` the newest step and discards the redo stack. `size` is the palette's current size.
-  void push(std::unique_ptr<PaletteDifference> record, std::int32_t size);
+  /// Makes `record` the newest step and discards the redo stack.
+  void push(std::unique_ptr<PaletteDifference> record) noexcept;
 
   /// Exchange the newest step with `palette` and move it to the other stack. Do nothing if there is none.
   void undo(Palette& palette) { move(undo_, redo_, palette); }
@@ -98,7 +98,7 @@ class EditHistory {
  private:
   using Stack = std::unique_ptr<PaletteDifference>;
   static void move(Stack& from, Stack& to, Palette& palette);
-  static void discard(Stack& stack, std::int32_t size);
+  static void discard(Stack& stack) noexcept;
 
   Stack undo_;
   Stack redo_;

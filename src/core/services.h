@@ -32,16 +32,16 @@ class Messages {
 };
 
 /// Receives changes of the current document's title, status text and Undo/Redo state. While a document is being
-/// replaced, the slot is empty until documentReplaced.
+/// replaced, the slot is empty until documentReplaced. The functions must not throw: the document has changed already.
 class DocumentObserver {
  public:
   virtual ~DocumentObserver() = default;
 
-  virtual void titleChanged(std::wstring_view title) = 0;
-  virtual void statusChanged(std::string_view text) = 0;
-  virtual void undoRedoChanged(bool canUndo, bool canRedo) = 0;
+  virtual void titleChanged(const std::wstring& title) noexcept = 0;
+  virtual void statusChanged(std::string_view text) noexcept = 0;
+  virtual void undoRedoChanged(bool canUndo, bool canRedo) noexcept = 0;
   /// The slot now holds another document, which has announced its state.
-  virtual void documentReplaced() = 0;
+  virtual void documentReplaced() noexcept = 0;
 };
 
 struct SaveAsAnswer {

@@ -13,17 +13,22 @@ EffectEditor::EffectEditor(const DocumentSlot& slot, AppSettings& settings, Pale
 }
 
 void EffectEditor::choose(std::int32_t index) {
-  settings_.effect = static_cast<std::uint8_t>(index);
-  reset();
-  readClipboard();
+  const auto chosen = static_cast<std::uint8_t>(index);
+  std::unique_ptr<Effect> next;
+  createEffect(chosen, document().getSize(), next);
+  readClipboard(effectOf(chosen));
+  settings_.effect = chosen;
+  effect_ = std::move(next);
 }
 
 void EffectEditor::setValue(std::int32_t value) { effect_->setValue(effect_->range().clamp(value)); }
 
 void EffectEditor::reset() { createEffect(settings_.effect, document().getSize(), effect_); }
 
-bool EffectEditor::readClipboard() {
-  if (!effectOf(settings_.effect).readsClipboard) {
+bool EffectEditor::readClipboard() { return readClipboard(effectOf(settings_.effect)); }
+
+bool EffectEditor::readClipboard(const EffectDescription& effect) {
+  if (!effect.readsClipboard) {
     return true;
   }
   auto found = clipboard_.get();
@@ -41,15 +46,20 @@ const Palette& EffectEditor::preview(ChannelMask mask) {
 }
 
 void EffectEditor::apply(ChannelMask mask) {
-  document().recordColors();
+  // Everything that can fail comes before the document changes.
+  auto saved = document().saveColors();
   if (!readClipboard()) {
+    document().record(std::move(saved));
     return;
   }
+  std::unique_ptr<Effect> next;
+  createEffect(settings_.effect, document().getSize(), next);
   const Palette& changed = preview(mask);
+  document().record(std::move(saved));
   for (std::int32_t index = 0; index < changed.getSize(); ++index) {
     document().setColor(index, changed.entry(index));
   }
-  reset();
+  effect_ = std::move(next);
 }
 
 }  // namespace quillhue

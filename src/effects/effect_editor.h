@@ -8,6 +8,7 @@
 #include "core/services.h"
 #include "core/settings.h"
 #include "effects/effect.h"
+#include "effects/effects.h"
 
 namespace quillhue {
 
@@ -40,6 +41,7 @@ class EffectEditor {
 
  private:
   [[nodiscard]] PaletteDocument& document() const { return *slot_.document(); }
+  bool readClipboard(const EffectDescription& effect);
 
   const DocumentSlot& slot_;
   AppSettings& settings_;

@@ -23,7 +23,6 @@ const EffectDescription& effectOf(std::int32_t index) {
 }
 
 Effect& createEffect(std::int32_t index, std::int32_t paletteSize, std::unique_ptr<Effect>& slot) {
-  slot.reset();
   const EffectDescription& description = effectOf(index);
   const ValueRange range = description.followsPaletteSize ? ValueRange{-paletteSize, paletteSize} : description.range;
   slot = description.create(range, description.defaultValue);

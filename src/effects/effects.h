@@ -53,7 +53,7 @@ extern const EffectDescription kTwistEffect;
 /// Returns the effect of an index, or Color if no effect has the index.
 [[nodiscard]] const EffectDescription& effectOf(std::int32_t index);
 
-/// Destroys the effect in `slot`, then puts the effect of this index there, with its default value.
+/// Replaces the effect in `slot` with the effect of this index and its default value.
 Effect& createEffect(std::int32_t index, std::int32_t paletteSize, std::unique_ptr<Effect>& slot);
 
 }  // namespace quillhue

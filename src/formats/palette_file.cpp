@@ -75,6 +75,8 @@ bool writePaletteFile(PaletteDocument& document, const std::wstring& fileName, P
     services.messages.error(textOf(bytes.error()));
     return false;
   }
+  // Made now, because nothing may fail once the file is written.
+  DocumentName name(fileName);
   if (!writeFile(fileName, *bytes, files)) {
     services.messages.error(textOf(Failure::couldNotCreate));
     return false;
@@ -83,7 +85,7 @@ bool writePaletteFile(PaletteDocument& document, const std::wstring& fileName, P
   if (findPaletteWriter(format) == nullptr) {
     return false;
   }
-  document.markSaved(fileName, format);
+  document.markSaved(std::move(name), format);
   return true;
 }
 

@@ -11,6 +11,7 @@
 #include "ui/screens/tabs_ui.h"
 #include "ui/win32/command_line.h"
 #include "ui/win32/drawing.h"
+#include "ui/win32/guarded.h"
 #include "ui/win32/system.h"
 
 namespace quillhue {
@@ -55,11 +56,11 @@ int Application::run(int showCommand) {
     return 0;
   }
   if (const std::optional<std::wstring> file = fileArgument()) {
-    window_.openFile(*file);
+    guarded(window_.handle(), [&] { window_.openFile(*file); });
   }
   MSG message{};
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    window_.dispatch(message);
+    guarded(window_.handle(), [&] { window_.dispatch(message); });
   }
   return static_cast<int>(message.wParam);
 }

@@ -14,6 +14,7 @@
 #include "ui/logic/window_texts.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
+#include "ui/win32/guarded.h"
 #include "ui/win32/system.h"
 #include "ui/win32/wait_cursor.h"
 
@@ -164,8 +165,7 @@ Rect MainWindow::screenArea() const {
 }
 
 void MainWindow::showEditor() {
-  // No screen is active while one replaces the other, so messages in between are ignored.
-  screen_.reset();
+  // The intro screen stays if there is no memory for the editor.
   screen_ = parts_.makeEditor(*context_);
   updateMenus();
   repaint(handle(), true);
@@ -197,21 +197,25 @@ void MainWindow::openContextMenu(std::int32_t menu, Point screenPoint) const {
                  nullptr);
 }
 
-void MainWindow::titleChanged(std::wstring_view title) { SetWindowTextW(handle(), std::wstring(title).c_str()); }
+void MainWindow::titleChanged(const std::wstring& title) noexcept { SetWindowTextW(handle(), title.c_str()); }
 
-void MainWindow::statusChanged(std::string_view text) { statusBar_->setText(kEntriesPart, text); }
+void MainWindow::statusChanged(std::string_view text) noexcept {
+  guarded(handle(), [&] { statusBar_->setText(kEntriesPart, text); });
+}
 
-void MainWindow::undoRedoChanged(bool /*canUndo*/, bool /*canRedo*/) {
+void MainWindow::undoRedoChanged(bool /*canUndo*/, bool /*canRedo*/) noexcept {
   // A document that is still being made is announced by documentReplaced(). Until then the menus would be greyed and
   // flicker.
   if (document() != nullptr) {
-    updateMenus();
+    guarded(handle(), [&] { updateMenus(); });
   }
 }
 
-void MainWindow::documentReplaced() {
-  screen_->documentReplaced();
-  updateMenus();
+void MainWindow::documentReplaced() noexcept {
+  guarded(handle(), [&] {
+    screen_->documentReplaced();
+    updateMenus();
+  });
 }
 
 LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -314,6 +318,7 @@ void MainWindow::created() {
 }
 
 void MainWindow::destroyed() {
+  PostQuitMessage(0);
   RemoveClipboardFormatListener(handle());
   // Destroy the screen before the document, because its controls may send notifications while they are destroyed.
   screen_.reset();
@@ -322,7 +327,6 @@ void MainWindow::destroyed() {
   statusBar_.reset();
   font_.reset();
   saveSettings();
-  PostQuitMessage(0);
 }
 
 void MainWindow::saveSettings() {

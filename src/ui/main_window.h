@@ -54,10 +54,10 @@ class MainWindow final : public CustomWindow, public DocumentObserver, private W
   void openFile(const std::wstring& name) override;
 
   // Notifications from the document.
-  void titleChanged(std::wstring_view title) override;
-  void statusChanged(std::string_view text) override;
-  void undoRedoChanged(bool canUndo, bool canRedo) override;
-  void documentReplaced() override;
+  void titleChanged(const std::wstring& title) noexcept override;
+  void statusChanged(std::string_view text) noexcept override;
+  void undoRedoChanged(bool canUndo, bool canRedo) noexcept override;
+  void documentReplaced() noexcept override;
 
  private:
   LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -91,7 +91,7 @@ class ChannelEditorTest : public testing::Test, public ColorChooser {
         {"copy", [this](auto&) { EXPECT_TRUE(editor->copy(fakes)); }},
         {"paste", [this](auto&) { editor->paste(fakes); }},
         {"blank", [this](auto&) { editor->blank(); }},
-        {"save", [this](auto&) { slot.document()->markSaved(L"a.pal", 1); }},
+        {"save", [this](auto&) { slot.document()->markSaved(std::wstring(L"a.pal"), 1); }},
         {"undo",
          [this](auto&) {
            slot.document()->undo();

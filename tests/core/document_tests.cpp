@@ -46,10 +46,10 @@ TEST_F(PaletteDocumentTest, ReplacingAnnouncesEverythingInOrder) {
 TEST_F(PaletteDocumentTest, AnnouncesNamesAndSizes) {
   PaletteDocument& document = replace(createPalette(2), false, L"C:\\art\\sea.pal");
   EXPECT_EQ(fakes.takeLast("title: "), "Quillhue - sea.pal");
-  document.setFileName(L"C:\\art\\sea.pal");
+  document.setFileName(std::wstring(L"C:\\art\\sea.pal"));
   EXPECT_EQ(fakes.takeLines(), "");
-  document.setFileName(L"plain/name");
-  document.setFileName(L"folder\\");
+  document.setFileName(std::wstring(L"plain/name"));
+  document.setFileName(std::wstring(L"folder\\"));
   EXPECT_EQ(fakes.takeLines(), "title: Quillhue - plain/name\ntitle: Quillhue - \n");
   document.resize(-5);
   EXPECT_EQ(fakes.takeLast("status: "), "1 entry");

@@ -63,7 +63,7 @@ TEST_F(EditHistoryTest, CountsPastTheEndsOfTheStacksAndFromTheLastSave) {
   document.redo();
   expect(0, 1, "no/no");
   change(1);
-  document.markSaved(L"saved", 7);
+  document.markSaved(std::wstring(L"saved"), 7);
   expect(1, 0, "yes/no");
   document.undo();
   expect(0, -1, "no/yes");
@@ -116,7 +116,7 @@ TEST(EditHistory, HoldsAMillionSteps) {
   Palette palette = createPalette(1);
   auto history = std::make_unique<EditHistory>();
   for (std::int32_t step = 1; step <= kSteps; ++step) {
-    history->push(std::make_unique<PaletteDifferenceColor>(palette, 0), 1);
+    history->push(std::make_unique<PaletteDifferenceColor>(palette, 0));
     palette.setEntry(0, stateOf(step));
   }
   for (std::int32_t step = kSteps - 1; step >= 0; --step) {
@@ -136,7 +136,7 @@ TEST(EditHistory, HoldsAMillionSteps) {
     }
   };
   undoThird();
-  history->push(std::make_unique<PaletteDifferenceColor>(palette, 0), 1);
+  history->push(std::make_unique<PaletteDifferenceColor>(palette, 0));
   EXPECT_FALSE(history->canRedo());
   undoThird();
   EXPECT_TRUE(history->canUndo() && history->canRedo());

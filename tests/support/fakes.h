@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "core/services.h"
 #include "core/utf8.h"
@@ -49,12 +50,12 @@ class RecordingServices : public Messages,
     note("replace? ", text);
     return replaceFile;
   }
-  void titleChanged(std::wstring_view title) override { note("title: ", toUtf8(title)); }
-  void statusChanged(std::string_view text) override { note("status: ", text); }
-  void undoRedoChanged(bool canUndo, bool canRedo) override {
+  void titleChanged(const std::wstring& title) noexcept override { note("title: ", toUtf8(title)); }
+  void statusChanged(std::string_view text) noexcept override { note("status: ", text); }
+  void undoRedoChanged(bool canUndo, bool canRedo) noexcept override {
     note("undo/redo: ", std::string(canUndo ? "yes" : "no") + '/' + (canRedo ? "yes" : "no"));
   }
-  void documentReplaced() override { note("document replaced", ""); }
+  void documentReplaced() noexcept override { note("document replaced", ""); }
   std::optional<SaveAsAnswer> askSaveAs(PaletteFormat preselected) override {
     note("save as? ", std::to_string(preselected));
     return saveAs;
@@ -67,10 +68,8 @@ class RecordingServices : public Messages,
     if (clipboardIsBusy) {
       return false;
     }
-    clipboard.reset();
-    if (!entries.empty()) {
-      clipboard.emplace(entries.begin(), entries.end());
-    }
+    std::vector<PaletteEntry> copied(entries.begin(), entries.end());
+    clipboard = copied.empty() ? std::nullopt : std::optional(std::move(copied));
     return true;
   }
   std::expected<std::vector<PaletteEntry>, NoPalette> get() override {

@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <iostream>
 #include <random>
+#include <span>
+#include <vector>
 
 #include "commands/command_ids.h"
 #include "commands/command_table.h"
@@ -14,13 +16,12 @@
 #include "ui/support/menus.h"
 #include "ui/support/resources.h"
 #include "ui/support/ui_test.h"
+#include "ui/win32/clipboard.h"
+#include "ui/win32/logical_palette.h"
 #include "ui/win32/system.h"
 
 namespace quillhue {
 namespace {
-
-// The field for red in the system's color chooser.
-constexpr int kColorRed = 706;
 
 // The number in an environment variable.
 unsigned setting(const char* name, unsigned otherwise) {
@@ -28,7 +29,8 @@ unsigned setting(const char* name, unsigned otherwise) {
   return given != nullptr ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : otherwise;
 }
 
-/// Random actions for QUILLHUE_SOAK_SECONDS. The same QUILLHUE_SOAK_SEED gives the same actions.
+/// Random actions: QUILLHUE_SOAK_ACTIONS of them, or for QUILLHUE_SOAK_SECONDS. The same QUILLHUE_SOAK_SEED gives the
+/// same actions.
 class Soak : public UiTest {
  protected:
   Soak() {
@@ -45,9 +47,9 @@ class Soak : public UiTest {
   }
 
   void act() {
-    constexpr void (Soak::* kActs[])() = {&Soak::sendCommand,  &Soak::sendCommand,    &Soak::pressSomeKey,
-                                          &Soak::pressSomeKey, &Soak::clickSomewhere, &Soak::clickSomewhere,
-                                          &Soak::changeSize,   &Soak::chooseOrDrop};
+    constexpr void (Soak::* kActs[])() = {
+        &Soak::sendCommand,    &Soak::sendCommand, &Soak::pressSomeKey, &Soak::pressSomeKey,    &Soak::clickSomewhere,
+        &Soak::clickSomewhere, &Soak::changeSize,  &Soak::chooseOrDrop, &Soak::pressSomeButton, &Soak::fillClipboard};
     (this->*anyOf(kActs))();
   }
 
@@ -69,7 +71,37 @@ class Soak : public UiTest {
     throw ProgramError("dialogs don't end; " + editor().description());
   }
 
+  // Undo gives the palette of before, and redo the changed one.
+  void checkHistory() {
+    editor().ask(tabControl(editor()), TCM_SETCURFOCUS, kEffectsPage);
+    const std::string before = saveTo("before");
+    editor().run(command_id::kInvertSelection);
+    editor().run(command_id::kSwapRedGreen);
+    editor().run(command_id::kClear);
+    const std::string after = saveTo("after");
+    const auto expectAfter = [&](std::int32_t command, const std::string& expected) {
+      for (int i = 0; i < 3; ++i) {
+        editor().run(command);
+      }
+      EXPECT_EQ(saveTo("moved"), expected) << command;
+    };
+    expectAfter(command_id::kUndo, before);
+    expectAfter(command_id::kRedo, after);
+    expectAfter(command_id::kUndo, before);
+  }
+
+  // Under Wine each of the system's file dialogs leaves a window and a handle behind.
+  void expectNoLeakSince(ResourceCount before, int fileDialogsBefore) const {
+    const int left = isWine() ? fileDialogs_ - fileDialogsBefore : 0;
+    before.user += left;
+    before.kernel += left;
+    expectNoLeak(editor(), before, 40);
+  }
+  [[nodiscard]] int fileDialogs() const { return fileDialogs_; }
+
   std::string saveTo(const std::string& name) {
+    DeleteFileW(folder_.name(name).c_str());
+    ++fileDialogs_;
     editor().start(command_id::kSaveAs);
     chooseFile(editor(), L"Save As", folder_.name(name), palette_format::kGimp - 1);
     editor().awaitTitle(L"Quillhue - " + fromUtf8(name));
@@ -136,13 +168,55 @@ class Soak : public UiTest {
     }
   }
 
+  void pressSomeButton() {
+    std::vector<HWND> buttons = findControls(editor().window(), L"Button");
+    std::erase_if(buttons, [](HWND button) { return IsWindowEnabled(button) == 0; });
+    if (!buttons.empty()) {
+      editor().post(anyOf(buttons), BM_CLICK);
+    }
+  }
+
+  // Pastes what another program may have put on the clipboard: bitmaps of all depths, also short ones, palettes, text,
+  // or nothing.
+  void fillClipboard() {
+    const int content = any(8);
+    {
+      ClipboardAccess clipboard(editor().window());
+      clipboard.empty();
+      constexpr std::uint8_t kDepths[] = {1, 4, 8, 16, 24, 32};
+      Bytes bitmap = bitmapOf(3, 24, {1, 2, 3, 4, 5, 6});
+      bitmap[28] = anyOf(kDepths);
+      const auto block = std::span(bitmap).subspan(14, static_cast<std::size_t>(20 + any(bitmap.size() - 33)));
+      if (content < 5) {
+        static_cast<void>(clipboard.put(content == 4 ? CF_TEXT : CF_DIB, block));
+      } else if (content < 7) {
+        static_cast<void>(clipboard.put(createLogicalPalette(entriesOf(brightPalette(1 + any(300))))));
+      }
+    }
+    editor().start(command_id::kPaste);
+  }
+
+  // The field for the name in one of the system's file dialogs; null in another dialog.
+  static HWND nameField(HWND dialog) {
+    constexpr int kNameCombo = 0x47C;
+    constexpr int kNameEdit = 0x480;
+    HWND combo = GetDlgItem(dialog, kNameCombo);
+    return combo != nullptr && IsWindowVisible(combo) != 0 ? combo : GetDlgItem(dialog, kNameEdit);
+  }
+
   void answer(HWND dialog) {
     const auto has = [&](int id) { return GetDlgItem(dialog, id) != nullptr; };
-    // Of files and colors none is chosen, and nothing is saved.
-    const bool isSystems = findControl(dialog, L"ComboBox") != nullptr || has(kColorRed);
+    HWND field = nameField(dialog);
+    fileDialogs_ += field != nullptr ? 1 : 0;
+    if (field != nullptr && any(2) == 0) {
+      editor().ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(anyOf(files_).c_str()));
+      editor().post(dialog, WM_COMMAND, IDOK);
+      return;
+    }
+    const bool isSystems = findControl(dialog, L"ComboBox") != nullptr;
     int button = IDCANCEL;
     if (has(IDNO)) {
-      button = IDNO;
+      button = any(2) == 0 ? IDYES : IDNO;
     } else if (!isSystems && has(IDOK) && (!has(IDCANCEL) || any(2) == 0)) {
       button = IDOK;
     } else if (has(FROM_IMAGE_REDUCE) && any(2) == 0) {
@@ -153,32 +227,51 @@ class Soak : public UiTest {
   }
 
   std::mt19937 random_;
+  int fileDialogs_ = 0;
   const std::vector<std::wstring> files_{
-      paletteFile("one.pal", brightPalette(1)), paletteFile("some.pal", brightPalette(37)),
-      paletteFile("many.pal", brightPalette(1024)), folder_.file("unknown.xyz", bytesOf("nothing")),
-      folder_.file("image.bmp", bitmapOf(2, 24, {1, 2, 3, 4}))};
+      paletteFile("one.pal", brightPalette(1)),
+      paletteFile("some.pal", brightPalette(37)),
+      paletteFile("many.pal", brightPalette(1024)),
+      folder_.file("unknown.xyz", bytesOf("nothing")),
+      folder_.file("image.bmp", bitmapOf(2, 24, {1, 2, 3, 4})),
+      folder_.file("large.bmp", bitmapOf(300, 32, std::vector<ColorWord>(60'000, 0x123456)))};
 };
 
 TEST_F(Soak, EndsWithADocumentThatCanBeSaved) {
   const Editor& editor = open(brightPalette(16));
-  const std::chrono::seconds length(setting("QUILLHUE_SOAK_SECONDS", 60));
+  const double mostActions = setting("QUILLHUE_SOAK_ACTIONS", 0);
+  const double mostSeconds = setting("QUILLHUE_SOAK_SECONDS", 60);
   const auto start = std::chrono::steady_clock::now();
-  const auto isPast = [&](std::chrono::seconds time) { return std::chrono::steady_clock::now() - start >= time; };
   ResourceCount before;
-  bool isCounted = false;
+  int fileDialogsBefore = 0;
   int actions = 0;
-  while (!isPast(length)) {
-    SCOPED_TRACE("action " + std::to_string(actions++));
-    if (!isCounted && isPast(length / 5)) {
+  const auto share = [&] {
+    const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
+    return mostActions > 0 ? actions / mostActions : time.count() / mostSeconds;
+  };
+  for (bool isCounted = false; share() < 1; ++actions) {
+    SCOPED_TRACE("action " + std::to_string(actions));
+    if (!isCounted && share() >= 0.2) {
       before = countResources(editor);
+      fileDialogsBefore = fileDialogs();
       isCounted = true;
     }
     act();
     editor.awaitInput();
     answerAll();
+    if (actions % 500 == 499) {
+      checkHistory();
+      const ResourceCount now = countResources(editor);
+      std::cout << actions + 1 << " actions, " << now.gdi << " GDI, " << now.user << " user and " << now.kernel
+                << " kernel objects, " << now.memory << " MB" << std::endl;
+      if (isCounted) {
+        expectNoLeakSince(before, fileDialogsBefore);
+      }
+      ASSERT_FALSE(HasFailure());
+    }
   }
   std::cout << actions << " actions\n";
-  expectNoLeak(editor, before, 40);
+  expectNoLeakSince(before, fileDialogsBefore);
   const std::string saved = saveTo("saved");
   editor.drop({folder_.name("saved")});
   editor.awaitTitle(L"Quillhue - saved");

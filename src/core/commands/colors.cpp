@@ -29,8 +29,9 @@ void applyGradient(PaletteDocument& document, ChannelMask mask, Mix mix) {
 }  // namespace
 
 void swapChannels(PaletteDocument& document, Channel one, Channel other) {
+  const std::vector<std::int32_t> indexes = selectedIndexes(document.getPalette());
   document.recordColors();
-  for (const std::int32_t index : selectedIndexes(document.getPalette())) {
+  for (const std::int32_t index : indexes) {
     PaletteEntry color = document.getColor(index);
     std::swap(channelOf(color, one), channelOf(color, other));
     document.setColor(index, color);
@@ -38,8 +39,9 @@ void swapChannels(PaletteDocument& document, Channel one, Channel other) {
 }
 
 void recolorSelection(PaletteDocument& document, ChannelMask mask, PaletteEntry color) {
+  const std::vector<std::int32_t> indexes = selectedIndexes(document.getPalette());
   document.recordColors();
-  for (const std::int32_t index : selectedIndexes(document.getPalette())) {
+  for (const std::int32_t index : indexes) {
     document.setColor(index, withChannels(document.getColor(index), mask, color));
   }
 }

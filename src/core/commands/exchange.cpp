@@ -13,8 +13,14 @@ void clearSelection(PaletteDocument& document, ChannelMask mask, PaletteEntry bl
 }
 
 void cutSelection(PaletteDocument& document, ChannelMask mask, PaletteEntry blank, PaletteClipboard& clipboard) {
+  // Everything that can fail comes before the clipboard changes.
+  const std::vector<std::int32_t> indexes = selectedIndexes(document.getPalette());
+  auto saved = document.saveColors();
   if (copySelection(document, clipboard)) {
-    clearSelection(document, mask, blank);
+    document.record(std::move(saved));
+    for (const std::int32_t index : indexes) {
+      document.setColor(index, withChannels(document.getColor(index), mask, blank));
+    }
   }
 }
 
@@ -23,9 +29,10 @@ void pasteIntoSelection(PaletteDocument& document, ChannelMask mask, PaletteClip
   if (!entries) {
     return;
   }
+  const Palette pasted = paletteOf(*entries);
   document.recordColors();
   if (!entries->empty()) {
-    document.applyChannels(mask, paletteOf(*entries));
+    document.applyChannels(mask, pasted);
   }
 }
 

@@ -31,8 +31,9 @@ struct WorkList {
 };
 
 void applyOrder(PaletteDocument& document, ChannelMask mask, const std::vector<PaletteEntry>& colors) {
+  const Palette ordered = paletteOf(colors);
   document.recordColors();
-  document.applyChannels(mask, paletteOf(colors));
+  document.applyChannels(mask, ordered);
 }
 
 PaletteEntry meanColor(const std::vector<PaletteEntry>& colors) {

@@ -71,7 +71,11 @@ void selectDarker(PaletteDocument& document, std::int32_t current) {
 
 void selectRedundant(PaletteDocument& document) {
   std::set<PaletteEntry> seen;
-  selectWhere(document, [&](std::int32_t index) { return !seen.insert(document.getColor(index)).second; });
+  std::vector<bool> isRedundant;
+  for (std::int32_t index = 0; index < document.getSize(); ++index) {
+    isRedundant.push_back(!seen.insert(document.getColor(index)).second);
+  }
+  selectWhere(document, [&](std::int32_t index) { return isRedundant[static_cast<std::size_t>(index)]; });
 }
 
 }  // namespace quillhue

@@ -123,19 +123,21 @@ SaveError saveErrorOf(int error) {
 /// A new file in a folder. The folder is kept open, so it may be moved meanwhile and its own name may be long.
 class Replacement final : public PosixOutput {
  public:
-  Replacement(Descriptor file, Descriptor folder, std::string temporary, std::string target)
-      : PosixOutput(std::move(file)),
+  /// Creates the file, with these rights. isOpen() is false on failure, and errno has the reason.
+  Replacement(Descriptor folder, std::string temporary, std::string target, mode_t rights)
+      : PosixOutput(openAt(folder.get(), temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL, rights)),
         folder_(std::move(folder)),
         temporary_(std::move(temporary)),
         target_(std::move(target)) {}
   ~Replacement() override {
-    if (!temporary_.empty()) {
+    if (isOpen() && !temporary_.empty()) {
       unlinkat(folder_.get(), temporary_.c_str(), 0);
     }
   }
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
 
+  [[nodiscard]] bool isOpen() const { return static_cast<bool>(file()); }
   [[nodiscard]] bool takeRights(const Descriptor& old) { return copyRights(old.get(), file().get()); }
 
   std::expected<void, SaveError> finish() override {
@@ -230,13 +232,11 @@ class PosixFiles final : public FileSystem {
     std::string temporary = temporaryName();
     // Nobody else may read the new file until it has the old file's rights.
     constexpr mode_t kPrivate = S_IRUSR | S_IWUSR;
-    Descriptor file =
-        openAt(folder.get(), temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL, old ? kPrivate : DEFFILEMODE);
-    if (!file) {
+    auto replacement = std::make_unique<Replacement>(std::move(folder), std::move(temporary),
+                                                     target->filename().string(), old ? kPrivate : DEFFILEMODE);
+    if (!replacement->isOpen()) {
       return std::unexpected(saveErrorOf(errno));
     }
-    auto replacement = std::make_unique<Replacement>(std::move(file), std::move(folder), std::move(temporary),
-                                                     target->filename().string());
     if (old && !replacement->takeRights(old)) {
       return std::unexpected(SaveError::notReplaceable);
     }
@@ -249,13 +249,15 @@ class PosixFiles final : public FileSystem {
     if (!file || fstat(file.get(), &old) != 0) {
       return std::unexpected(SaveError::failed);
     }
+    const int descriptor = file.get();
+    auto output = std::make_unique<Overwriting>(std::move(file), S_ISREG(old.st_mode));
     const auto wanted = static_cast<off_t>(size);
     if (S_ISREG(old.st_mode) && wanted > old.st_size &&
-        posix_fallocate(file.get(), old.st_size, wanted - old.st_size) != 0) {
-      std::ignore = ftruncate(file.get(), old.st_size);
+        posix_fallocate(descriptor, old.st_size, wanted - old.st_size) != 0) {
+      std::ignore = ftruncate(descriptor, old.st_size);
       return std::unexpected(SaveError::failed);
     }
-    return std::make_unique<Overwriting>(std::move(file), S_ISREG(old.st_mode));
+    return output;
   }
 };
 

@@ -102,19 +102,22 @@ SaveError saveErrorOf(DWORD error) {
 
 class Replacement final : public WindowsOutput {
  public:
-  Replacement(FileHandle file, std::wstring temporary, std::wstring target, bool replaces)
-      : WindowsOutput(std::move(file)),
+  /// Creates the file `temporary` with these attributes. isOpen() is false on failure.
+  Replacement(std::wstring temporary, std::wstring target, bool replaces, DWORD attributes)
+      : WindowsOutput(openHandle(temporary, GENERIC_WRITE, kSharedWithNobody, CREATE_NEW, attributes)),
         temporary_(std::move(temporary)),
         target_(std::move(target)),
         replaces_(replaces) {}
   ~Replacement() override {
-    if (!temporary_.empty()) {
+    if (isCreated_ && !temporary_.empty()) {
       file().reset();
       DeleteFileW(temporary_.c_str());
     }
   }
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
+
+  [[nodiscard]] bool isOpen() const { return isCreated_; }
 
   std::expected<void, SaveError> finish() override {
     file().reset();
@@ -146,6 +149,7 @@ class Replacement final : public WindowsOutput {
   std::wstring temporary_;
   std::wstring target_;
   bool replaces_;
+  bool isCreated_ = static_cast<bool>(file());
 };
 
 class Overwriting final : public WindowsOutput {
@@ -237,19 +241,25 @@ class WindowsFiles final : public FileSystem {
     std::wstring temporary = target.substr(0, target.rfind(L'\\') + 1) + fromUtf8(temporaryName());
     // ReplaceFileW keeps the old file's attributes, but Wine's version keeps the new file's.
     const DWORD kept = exists ? attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM) : FILE_ATTRIBUTE_NORMAL;
-    FileHandle file = openHandle(temporary, GENERIC_WRITE, kSharedWithNobody, CREATE_NEW, kept);
-    if (!file) {
+    auto replacement = std::make_unique<Replacement>(std::move(temporary), std::move(target), exists, kept);
+    if (!replacement->isOpen()) {
       return std::unexpected(saveErrorOf(GetLastError()));
     }
-    return std::make_unique<Replacement>(std::move(file), std::move(temporary), std::move(target), exists);
+    return replacement;
   }
 
   Output overwrite(const std::wstring& name, std::uint64_t size) override {
     FileHandle file = openHandle(fullName(name), GENERIC_WRITE, kSharedWithNobody, OPEN_EXISTING);
-    if (!file || (isStored(file) && !makeRoom(file.get(), size))) {
+    if (!file) {
       return std::unexpected(SaveError::failed);
     }
-    return std::make_unique<Overwriting>(std::move(file));
+    const HANDLE handle = file.get();
+    const bool isRegular = isStored(file);
+    auto output = std::make_unique<Overwriting>(std::move(file));
+    if (isRegular && !makeRoom(handle, size)) {
+      return std::unexpected(SaveError::failed);
+    }
+    return output;
   }
 };
 

@@ -1,6 +1,7 @@
 #include "ui/services/clipboard.h"
 
 #include <cstddef>
+#include <string>
 #include <utility>
 
 #include "core/utf8.h"
@@ -17,16 +18,22 @@ constexpr std::size_t kMaxTextLength = 65536;
 
 }  // namespace
 
+// In both functions everything that can fail comes before the clipboard is emptied.
 bool Clipboard::put(std::span<const PaletteEntry> entries) {
+  LogicalPalette palette = createLogicalPalette(entries);
+  const std::wstring text = fromUtf8(colorListText(entries));
+  if (!palette && !entries.empty()) {
+    return false;
+  }
   ClipboardAccess clipboard(owner_.window());
   clipboard.empty();
   if (entries.empty()) {
     return static_cast<bool>(clipboard);
   }
-  const bool taken = clipboard.put(createLogicalPalette(entries));
+  const bool taken = clipboard.put(std::move(palette));
   // The text is for other programs. The palette is copied even if the clipboard refuses the text.
   if (taken) {
-    static_cast<void>(clipboard.putText(fromUtf8(colorListText(entries))));
+    static_cast<void>(clipboard.putText(text));
   }
   return taken;
 }
@@ -48,9 +55,13 @@ std::expected<std::vector<PaletteEntry>, NoPalette> Clipboard::get() {
 }
 
 bool Clipboard::putBitmap(std::span<const std::uint8_t> block) {
+  GlobalMemory memory = globalCopy(block);
+  if (!memory) {
+    return false;
+  }
   ClipboardAccess clipboard(owner_.window());
   clipboard.empty();
-  return clipboard.put(CF_DIB, block);
+  return clipboard.put(CF_DIB, std::move(memory));
 }
 
 std::optional<Clipboard::Image> Clipboard::getImage() const {

@@ -30,16 +30,17 @@ class LockedMemory {
   std::size_t size_;
 };
 
-bool copyInto(HGLOBAL memory, std::span<const std::uint8_t> bytes) {
-  const LockedMemory locked(memory);
-  const bool fits = !bytes.empty() && locked.bytes().size() >= bytes.size();
-  if (fits) {
-    std::ranges::copy(bytes, locked.bytes().begin());
-  }
-  return fits;
-}
-
 }  // namespace
+
+GlobalMemory globalCopy(std::span<const std::uint8_t> bytes) {
+  GlobalMemory memory(GlobalAlloc(GMEM_MOVEABLE, bytes.size()));
+  const LockedMemory locked(memory.get());
+  if (bytes.empty() || locked.bytes().size() < bytes.size()) {
+    return GlobalMemory();
+  }
+  std::ranges::copy(bytes, locked.bytes().begin());
+  return memory;
+}
 
 ClipboardAccess::ClipboardAccess(HWND owner) {
   // Remote desktops and clipboard histories open the clipboard for a fraction of a second after each change.
@@ -74,9 +75,10 @@ bool ClipboardAccess::put(LogicalPalette palette) {
   return taken;
 }
 
-bool ClipboardAccess::put(UINT format, std::span<const std::uint8_t> bytes) {
-  GlobalMemory memory(GlobalAlloc(GMEM_MOVEABLE, bytes.size()));
-  const bool taken = open_ && copyInto(memory.get(), bytes) && SetClipboardData(format, memory.get()) != nullptr;
+bool ClipboardAccess::put(UINT format, std::span<const std::uint8_t> bytes) { return put(format, globalCopy(bytes)); }
+
+bool ClipboardAccess::put(UINT format, GlobalMemory memory) {
+  const bool taken = open_ && memory && SetClipboardData(format, memory.get()) != nullptr;
   if (taken) {
     memory.release();
   }

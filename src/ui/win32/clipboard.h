@@ -12,6 +12,9 @@
 
 namespace quillhue {
 
+/// Returns a copy of the bytes in the form that the clipboard takes, or null if there are none or not enough memory.
+[[nodiscard]] GlobalMemory globalCopy(std::span<const std::uint8_t> bytes);
+
 /// Keeps the system's clipboard open, so that no other program can open it.
 class ClipboardAccess {
  public:
@@ -29,6 +32,7 @@ class ClipboardAccess {
   /// Put a palette or a block of bytes on the clipboard. Return false on failure.
   [[nodiscard]] bool put(LogicalPalette palette);
   [[nodiscard]] bool put(UINT format, std::span<const std::uint8_t> bytes);
+  [[nodiscard]] bool put(UINT format, GlobalMemory memory);
 
   /// Returns the palette on the clipboard, or null if there is none. It still belongs to the clipboard.
   [[nodiscard]] HPALETTE palette() const;

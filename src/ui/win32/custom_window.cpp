@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "ui/win32/guarded.h"
+
 namespace quillhue {
 
 CustomWindow::~CustomWindow() {
@@ -41,7 +43,8 @@ LRESULT CALLBACK CustomWindow::procedure(HWND window, UINT message, WPARAM wPara
   if (self == nullptr) {
     return DefWindowProcW(window, message, wParam, lParam);
   }
-  const LRESULT result = self->answer(message, wParam, lParam);
+  const LRESULT failure = message == WM_CREATE ? -1 : 0;
+  const LRESULT result = guarded(window, message, failure, [&] { return self->answer(message, wParam, lParam); });
   if (message == WM_NCDESTROY) {
     self->window_ = nullptr;
     SetWindowLongPtrW(window, GWLP_USERDATA, 0);

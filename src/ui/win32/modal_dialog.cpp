@@ -1,5 +1,7 @@
 #include "ui/win32/modal_dialog.h"
 
+#include "ui/win32/guarded.h"
+
 namespace quillhue {
 
 void ModalDialog::run(HWND owner, const wchar_t* templateName, HFONT font) {
@@ -19,7 +21,9 @@ INT_PTR CALLBACK ModalDialog::dialogProcedure(HWND window, UINT message, WPARAM 
     reinterpret_cast<ModalDialog*>(lParam)->window_ = window;
   }
   auto* dialog = reinterpret_cast<ModalDialog*>(GetWindowLongPtrW(window, DWLP_USER));
-  return dialog == nullptr ? FALSE : dialog->answer(message, wParam, lParam);
+  return dialog == nullptr
+             ? FALSE
+             : guarded(window, message, INT_PTR{TRUE}, [&] { return dialog->answer(message, wParam, lParam); });
 }
 
 INT_PTR ModalDialog::answer(UINT message, WPARAM wParam, LPARAM lParam) {

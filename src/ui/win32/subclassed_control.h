@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/win32/guarded.h"
 #include "ui/win32/handle.h"
 #include "ui/win32/system.h"
 
@@ -23,9 +24,10 @@ class SubclassedControl {
   virtual LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) = 0;
 
  private:
-  static LRESULT CALLBACK procedure(HWND /*control*/, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
+  static LRESULT CALLBACK procedure(HWND control, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
                                     DWORD_PTR self) {
-    return reinterpret_cast<SubclassedControl*>(self)->answer(message, wParam, lParam);
+    return guarded(control, message, LRESULT{0},
+                   [&] { return reinterpret_cast<SubclassedControl*>(self)->answer(message, wParam, lParam); });
   }
 
   Window control_;

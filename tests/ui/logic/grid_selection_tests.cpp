@@ -90,7 +90,7 @@ class GridSelectionTest : public testing::Test {
         selection->paletteChanged();
         return;
       case 'w':
-        document.markSaved(L"a", 1);
+        document.markSaved(std::wstring(L"a"), 1);
         return;
       default:
         selectAll(document);

@@ -1,7 +1,8 @@
 #include "ui/support/resources.h"
 
 #include "ui/win32/system.h"
-// Needs windows.h before it.
+// Need windows.h before them.
+#include <psapi.h>
 #include <winternl.h>
 
 #include <algorithm>
@@ -78,19 +79,30 @@ int kernelHandlesInList(DWORD processId) {
       std::count_if(entries, entries + list->count, [&](const Entry& entry) { return entry.processId == processId; }));
 }
 
+int privateMegabytes(HANDLE process) {
+  PROCESS_MEMORY_COUNTERS counters{};
+  if (K32GetProcessMemoryInfo(process, &counters, sizeof(counters)) == 0) {
+    throw ProgramError("can't read the program's memory");
+  }
+  return static_cast<int>(counters.PagefileUsage >> 20U);
+}
+
 }  // namespace
 
 ResourceCount countResources(const Program& program) {
+  const int memory = privateMegabytes(program.process());
   if (isWine()) {
     return {.gdi = gdiObjectsInTable(program.process()),
             .user = usedUserObjects(),
-            .kernel = kernelHandlesInList(program.processId())};
+            .kernel = kernelHandlesInList(program.processId()),
+            .memory = memory};
   }
   DWORD handles = 0;
   GetProcessHandleCount(program.process(), &handles);
   return {.gdi = static_cast<int>(GetGuiResources(program.process(), GR_GDIOBJECTS)),
           .user = static_cast<int>(GetGuiResources(program.process(), GR_USEROBJECTS)),
-          .kernel = static_cast<int>(handles)};
+          .kernel = static_cast<int>(handles),
+          .memory = memory};
 }
 
 void expectNoLeak(const Program& program, const ResourceCount& before, int slack) {
@@ -98,6 +110,7 @@ void expectNoLeak(const Program& program, const ResourceCount& before, int slack
   EXPECT_LE(after.gdi, before.gdi + slack);
   EXPECT_LE(after.user, before.user + slack);
   EXPECT_LE(after.kernel, before.kernel + slack);
+  EXPECT_LE(after.memory, before.memory + slack);
 }
 
 }  // namespace quillhue

@@ -13,10 +13,13 @@ struct ResourceCount {
   int user = 0;
   /// Files, events, registry keys, threads.
   int kernel = 0;
+  /// Megabytes of memory that no other program shares.
+  int memory = 0;
 };
 
 [[nodiscard]] ResourceCount countResources(const Program& program);
-/// Expects that the program holds hardly more than before: `slack` is what the system may keep for itself.
+/// Expects that the program holds hardly more than before: `slack` is what the system may keep for itself, also in
+/// megabytes.
 void expectNoLeak(const Program& program, const ResourceCount& before, int slack);
 
 }  // namespace quillhue

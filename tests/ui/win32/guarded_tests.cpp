@@ -1,0 +1,86 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <functional>
+#include <new>
+#include <thread>
+#include <utility>
+
+#include "ui/win32/custom_window.h"
+#include "ui/win32/guarded.h"
+#include "ui/win32/subclassed_control.h"
+
+namespace quillhue {
+namespace {
+
+/// A window that has no memory for one message.
+class Failing final : public CustomWindow {
+ public:
+  explicit Failing(UINT message) : message_(message) {
+    EXPECT_TRUE(registerClass(windowClass(L"QuillhueFailing")));
+    isCreated_ = create({.windowClass = L"QuillhueFailing", .style = WS_POPUP, .width = 50, .height = 50});
+  }
+  [[nodiscard]] bool isCreated() const { return isCreated_; }
+
+ private:
+  LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message == message_) {
+      throw std::bad_alloc();
+    }
+    return DefWindowProcW(handle(), message, wParam, lParam);
+  }
+
+  UINT message_;
+  bool isCreated_;
+};
+
+class FailingControl final : public SubclassedControl {
+ public:
+  explicit FailingControl(Window control) : SubclassedControl(std::move(control)) {}
+
+ private:
+  LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override {
+    return message == WM_APP ? throw std::bad_alloc() : DefSubclassProc(handle(), message, wParam, lParam);
+  }
+};
+
+// Runs an action that shows this number of message boxes, one after the other, and closes each. Another message to
+// `window` that fails while a box is open shows no second one.
+void expectBoxes(int expected, HWND window, const std::function<void()>& act) {
+  int boxes = 0;
+  std::thread user([&] {
+    for (int tries = 0; tries < 1000 && boxes < expected; ++tries) {
+      if (HWND box = FindWindowW(L"#32770", L"Error"); box != nullptr && IsWindowVisible(box) != 0) {
+        ++boxes;
+        SendMessageTimeoutW(window, WM_APP, 0, 0, SMTO_NORMAL, 1000, nullptr);
+        EXPECT_EQ(FindWindowExW(nullptr, box, L"#32770", L"Error"), nullptr);
+        SendMessageTimeoutW(box, WM_COMMAND, IDOK, 0, SMTO_NORMAL, 1000, nullptr);
+      }
+      std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+  });
+  act();
+  user.join();
+  EXPECT_EQ(boxes, expected);
+}
+
+TEST(Guarded, AMessageWithoutMemoryShowsOneBox) {
+  const Failing window(WM_APP);
+  expectBoxes(1, window.handle(), [&] { EXPECT_EQ(SendMessageW(window.handle(), WM_APP, 1, 0), 0); });
+  FailingControl control(
+      Window(CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr)));
+  expectBoxes(1, window.handle(), [&] { EXPECT_EQ(SendMessageW(control.handle(), WM_APP, 0, 0), 0); });
+  expectBoxes(1, nullptr, [] { EXPECT_FALSE(Failing(WM_CREATE).isCreated()); });
+}
+
+TEST(Guarded, PaintingWithoutMemoryEndsAndShowsNoBox) {
+  const Failing window(WM_PAINT);
+  ShowWindow(window.handle(), SW_SHOWNA);
+  InvalidateRect(window.handle(), nullptr, FALSE);
+  expectBoxes(0, nullptr, [&] { UpdateWindow(window.handle()); });
+  EXPECT_EQ(GetUpdateRect(window.handle(), nullptr, FALSE), 0);
+  EXPECT_EQ(FindWindowW(L"#32770", L"Error"), nullptr);
+}
+
+}  // namespace
+}  // namespace quillhue
