@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "cli/refusal.h"
+#include "formats/hex_color.h"
 
 namespace quillhue::cli {
 
@@ -16,6 +17,18 @@ namespace {
 std::string inLowerCase(std::string text) {
   std::ranges::transform(text, text.begin(), [](unsigned char letter) { return std::tolower(letter); });
   return text;
+}
+
+// Parses six digits, or three of which each counts twice.
+std::optional<PaletteEntry> parseHexDigits(std::string_view digits) {
+  if (digits.size() != 3) {
+    return parseHexColor(digits);
+  }
+  std::string doubled;
+  for (const char digit : digits) {
+    doubled += {digit, digit};
+  }
+  return parseHexColor(doubled);
 }
 
 }  // namespace
@@ -44,6 +57,9 @@ std::vector<std::string> split(const std::string& text, char separator) {
 }
 
 std::optional<PaletteEntry> parseColor(std::string_view text) {
+  if (text.starts_with('#')) {
+    return parseHexDigits(text.substr(1));
+  }
   const std::vector<std::string> parts = split(std::string(text), ',');
   PaletteEntry color;
   for (const Channel channel : kChannels) {
@@ -57,7 +73,7 @@ std::optional<PaletteEntry> parseColor(std::string_view text) {
   return parts.size() == kChannels.size() ? std::optional(color) : std::nullopt;
 }
 
-std::string refusedColor(const std::string& text) { return text + " is not a color like 255,128,0"; }
+std::string refusedColor(const std::string& text) { return text + " is not a color like 255,128,0 or #FF8000"; }
 
 std::string refusedValue(std::int32_t value, const ValueRange& range) {
   std::ostringstream text;
@@ -135,7 +151,7 @@ void addNumberOption(Verb& verb, const std::string& name, std::optional<std::int
 }
 
 void addColorOption(Verb& verb, const std::string& name, PaletteEntry& color, const std::string& help) {
-  verb.addAction({name, "R,G,B", help, [name, &color](const std::string& text) {
+  verb.addAction({name, "COLOR", help, [name, &color](const std::string& text) {
                     const auto parsed = parseColor(text);
                     if (!parsed) {
                       refuseUsage(name, refusedColor(text));

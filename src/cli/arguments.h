@@ -21,10 +21,10 @@ namespace quillhue::cli {
 /// Splits the text at each separator into at least one part.
 [[nodiscard]] std::vector<std::string> split(const std::string& text, char separator);
 
-/// Parses "R,G,B", each 0..255; empty for any other text.
+/// Parses "R,G,B" with each 0..255, "#RRGGBB" or "#RGB"; empty for any other text.
 [[nodiscard]] std::optional<PaletteEntry> parseColor(std::string_view text);
 
-/// Returns "x is not a color like 255,128,0".
+/// Returns "x is not a color like 255,128,0 or #FF8000".
 [[nodiscard]] std::string refusedColor(const std::string& text);
 /// Returns "300 is not from 0 to 255".
 [[nodiscard]] std::string refusedValue(std::int32_t value, const ValueRange& range);

@@ -1,4 +1,6 @@
+#include <iterator>
 #include <memory>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -56,6 +58,9 @@ ExitStatus edit(const EditOptions& options, Console& console) {
     if (const auto done = run(session); !done) {
       return refuseFile({options.from, text + ": " + done.error()}, options.json, console);
     }
+    if (kind->modifies == nullptr) {
+      session.modifiers = {};
+    }
   }
   const PaletteDocument& document = session.document();
   const OutputFormat& format = choice.formatFor(read->format, document.getSize());
@@ -70,6 +75,18 @@ ExitStatus edit(const EditOptions& options, Console& console) {
   return kDone;
 }
 
+// Keeps a step in its order. A modifier runs before the step that it follows.
+void keepStep(WrittenStep step, std::vector<WrittenStep>& steps) {
+  if (step.kind->modifies == nullptr) {
+    steps.push_back(std::move(step));
+    return;
+  }
+  if (steps.empty() || steps.back().kind->option != std::string_view(step.kind->modifies)) {
+    refuseUsage(step.kind->option, std::string("goes directly after ") + step.kind->modifies);
+  }
+  steps.insert(std::prev(steps.end()), std::move(step));
+}
+
 // Adds an option whose steps keep their order on the command line.
 void addStep(Verb& verb, const StepKind& kind, const std::shared_ptr<EditOptions>& options) {
   const auto keep = [options, &kind](const std::string& argument) {
@@ -78,7 +95,7 @@ void addStep(Verb& verb, const StepKind& kind, const std::shared_ptr<EditOptions
       refuseUsage(kind.option, step.error());
     }
     const std::string text = kind.argument == nullptr ? kind.option : kind.option + (' ' + argument);
-    options->steps.push_back({&kind, text, *std::move(step)});
+    keepStep({&kind, text, *std::move(step)}, options->steps);
   };
   verb.addOrderedAction({kind.option, kind.argument == nullptr ? "" : kind.argument, kind.help, keep},
                         "Steps, in the order in which they are written");
@@ -95,7 +112,7 @@ void addEditVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   addOutputOptions(verb, options->output);
   addStandardFlag(verb, options->input.standard);
   verb.addFlag("--json", options->json, "Write JSON: the palette that was written, and what the steps left");
-  for (const auto& kinds : {selectionSteps(), colorSteps(), documentSteps(), entrySteps()}) {
+  for (const auto& kinds : {selectionSteps(), colorSteps(), structureSteps(), documentSteps(), entrySteps()}) {
     for (const StepKind& kind : kinds) {
       addStep(verb, kind, options);
     }

@@ -88,8 +88,10 @@ std::unique_ptr<PaletteDifference> PaletteDocument::saveColors() const {
   return std::make_unique<PaletteDifferenceColors>(palette_);
 }
 
-void PaletteDocument::resize(std::int32_t newSize) {
-  auto step = std::make_unique<PaletteDifferenceSize>(resizedCopy(palette_, newSize, settings_.blank));
+void PaletteDocument::resize(std::int32_t newSize) { replacePalette(resizedCopy(palette_, newSize, settings_.blank)); }
+
+void PaletteDocument::replacePalette(Palette palette) {
+  auto step = std::make_unique<PaletteDifferenceSize>(std::move(palette));
   // The step now has the new palette and exchanges it for the old one. There is no step below it yet.
   std::ignore = step->swap(palette_, nullptr);
   record(std::move(step));

@@ -91,6 +91,8 @@ class PaletteDocument {
   void record(std::unique_ptr<PaletteDifference> saved) noexcept;
   /// Records the palette, then replaces it with its resizedCopy. A size below 1 counts as 1.
   void resize(std::int32_t newSize);
+  /// Records the palette, then replaces it and its selection with another one of any size.
+  void replacePalette(Palette palette);
 
   /// Undo or redo one step, if there is one. In any case, undo lowers the modification count by 1 and redo raises it by
   /// 1.

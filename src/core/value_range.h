@@ -15,6 +15,8 @@ struct ValueRange {
   [[nodiscard]] constexpr std::int32_t clamp(std::int64_t value) const {
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, minimum, maximum));
   }
+
+  friend bool operator==(const ValueRange&, const ValueRange&) = default;
 };
 
 }  // namespace quillhue

@@ -104,7 +104,7 @@ constexpr std::array<StepKind, 11> kSteps{{
     {"--resize", "N", "Change the number of entries; new entries get the blank color", parseResize},
     {"--undo", nullptr, "Undo the last step", parseUndo},
     {"--redo", nullptr, "Redo the step that was undone last", parseRedo},
-    {"--blank", "R,G,B", "The blank color for the following steps and for unused entries of OUT (initially 0,0,0)",
+    {"--blank", "COLOR", "The blank color for the following steps and for unused entries of OUT (initially 0,0,0)",
      parseBlank},
     {"--count-colors", nullptr, "Write the number of different colors to standard error", parseCountColors},
     {"--average-color", nullptr, "Write the mean of all entries to standard error", parseAverageColor},

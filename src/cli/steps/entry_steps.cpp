@@ -22,7 +22,7 @@ ParsedStep parseSet(const std::string& argument) {
   const auto equals = argument.find('=');
   const auto color = equals == std::string::npos ? std::nullopt : parseColor(argument.substr(equals + 1));
   if (!color) {
-    return Refusal(argument + " is not an entry and a color like 5=255,128,0");
+    return Refusal(argument + " is not an entry and a color like 5=255,128,0 or 5=#FF8000");
   }
   return entryStepOf(argument.substr(0, equals), [color = *color](EditSession& session, std::int32_t entry) {
     replaceColor(session.document(), entry, color);
@@ -52,39 +52,103 @@ void changeChannel(EditSession& session, std::int32_t entry, std::int32_t model,
   session.channels->changeChannel(bar, value);
 }
 
+// A channel of a color model.
+struct ModelChannel {
+  std::int32_t model;
+  Bar bar;
+  ValueRange range;
+};
+
+std::expected<ModelChannel, std::string> parseModelChannel(const std::string& modelName,
+                                                           const std::string& channelName) {
+  const auto place = placeOfAnyCase(namesOf(colorModels()), modelName);
+  if (!place) {
+    return Refusal(refusedName(modelName, namesOf(colorModels())));
+  }
+  const ColorModel& model = *colorModels()[*place];
+  const auto name = placeOfAnyCase(channelNames(model), channelName);
+  if (!name) {
+    return Refusal(refusedName(channelName, channelNames(model)));
+  }
+  const std::size_t bar = *name % kBars.size();
+  return ModelChannel{static_cast<std::int32_t>(*place), kBars[bar], model.channels[bar].range};
+}
+
 ParsedStep parseChannel(const std::string& argument) {
   const auto equals = argument.find('=');
   const std::vector<std::string> parts = split(argument.substr(0, equals), ':');
-  const auto value = equals == std::string::npos ? std::nullopt : parseNumber(argument.substr(equals + 1));
+  const std::string number = equals == std::string::npos ? std::string() : argument.substr(equals + 1);
+  const auto value = parseNumber(number);
   if (parts.size() != 3 || !value) {
     return Refusal(argument + " is not an entry, a model, a channel and its value like 5:HSV:left=120");
   }
-  const auto place = placeOfAnyCase(namesOf(colorModels()), parts[1]);
-  if (!place) {
-    return Refusal(refusedName(parts[1], namesOf(colorModels())));
+  const auto channel = parseModelChannel(parts[1], parts[2]);
+  if (!channel) {
+    return Refusal(channel.error());
   }
-  const ColorModel& model = *colorModels()[*place];
-  const auto name = placeOfAnyCase(channelNames(model), parts[2]);
-  if (!name) {
-    return Refusal(refusedName(parts[2], channelNames(model)));
+  if (number[0] == '+' || (number[0] == '-' && channel->range.minimum == 0)) {
+    return Refusal(argument +
+                   " has a sign, but --channel sets the number. To add to the selected entries, use --shift " +
+                   parts[1] + ':' + parts[2] + '=' + number);
   }
-  const Bar bar = kBars[*name % kBars.size()];
-  const ValueRange& range = model.channels[static_cast<std::size_t>(bar)].range;
-  if (!range.contains(*value)) {
-    return Refusal(parts[2] + ": " + refusedValue(*value, range));
+  if (!channel->range.contains(*value)) {
+    return Refusal(parts[2] + ": " + refusedValue(*value, channel->range));
   }
-  return entryStepOf(
-      parts[0], [index = static_cast<std::int32_t>(*place), bar, value = *value](
-                    EditSession& session, std::int32_t entry) { changeChannel(session, entry, index, bar, value); });
+  return entryStepOf(parts[0], [channel = *channel, value = *value](EditSession& session, std::int32_t entry) {
+    changeChannel(session, entry, channel.model, channel.bar, value);
+  });
+}
+
+// A hue goes round its circle; other numbers stop at the ends of their range.
+std::int32_t shifted(std::int32_t value, std::int32_t amount, const ModelChannel& channel) {
+  const std::int64_t sum = std::int64_t{value} + amount;
+  const std::int64_t circle = kHueRange.maximum + 1;
+  return channel.range == kHueRange ? static_cast<std::int32_t>((sum % circle + circle) % circle)
+                                    : channel.range.clamp(sum);
+}
+
+void shiftSelection(EditSession& session, const ModelChannel& channel, std::int32_t amount) {
+  PaletteDocument& document = session.document();
+  document.recordColors();
+  std::unique_ptr<ColorMode> owner;
+  ColorMode& mode = createColorMode(channel.model, 0, session.slot, owner);
+  for (const std::int32_t index : selectedIndexes(document.getPalette())) {
+    const PaletteEntry color = document.getColor(index);
+    mode.setEntry(index);
+    const std::int32_t value = mode.getValue(channel.bar);
+    const std::int32_t sum = shifted(value, amount, channel);
+    if (sum != value) {
+      mode.setValue(channel.bar, sum);
+      document.setColor(index, withChannels(color, session.mask, document.getColor(index)));
+    }
+  }
+}
+
+ParsedStep parseShift(const std::string& argument) {
+  const auto equals = argument.find('=');
+  const std::vector<std::string> parts = split(argument.substr(0, equals), ':');
+  const auto amount = equals == std::string::npos ? std::nullopt : parseNumber(argument.substr(equals + 1));
+  if (parts.size() != 2 || !amount) {
+    return Refusal(argument + " is not a model, a channel and what to add like HSV:hue=+30");
+  }
+  const auto channel = parseModelChannel(parts[0], parts[1]);
+  if (!channel) {
+    return Refusal(channel.error());
+  }
+  return stepOf(
+      [channel = *channel, amount = *amount](EditSession& session) { shiftSelection(session, channel, amount); });
 }
 
 ParsedStep parseUseAsBlank(const std::string& argument) { return entryStepOf(argument, *findStep("use-as-blank")); }
 
-constexpr std::array<StepKind, 3> kSteps{{
-    {"--set", "N=R,G,B", "Give entry N this color", parseSet},
+constexpr std::array<StepKind, 4> kSteps{{
+    {"--set", "N=COLOR", "Give entry N this color", parseSet},
     {"--channel", "N:MODEL:CHANNEL=VALUE",
      "Change a channel (left, middle, right, or its name) of entry N in a color model (listed by the verb models)",
      parseChannel},
+    {"--shift", "MODEL:CHANNEL=+N",
+     "Add to a channel of the selected entries in a color model; a hue goes round, other channels stop at their limits",
+     parseShift},
     {"--use-as-blank", "N", "Use the color of entry N as the blank color for the following steps", parseUseAsBlank},
 }};
 

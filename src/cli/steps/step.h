@@ -13,9 +13,16 @@
 #include "cli/tool_services.h"
 #include "colormodes/channel_editor.h"
 #include "commands/command_table.h"
+#include "core/commands/ramp.h"
 #include "core/document.h"
 
 namespace quillhue::cli {
+
+/// How one step is carried out, as far as the options after it say so.
+struct StepModifiers {
+  bool descending = false;
+  const RampSpace* space = &rampSpaces().front();
+};
 
 /// The state that the steps of one call share.
 struct EditSession {
@@ -36,6 +43,7 @@ struct EditSession {
   ChannelMask mask = kAllChannels;
   /// The editor used by the preceding steps if they change channels, otherwise null.
   std::unique_ptr<ChannelEditor> channels;
+  StepModifiers modifiers;
 };
 
 /// An operation on the palette. Refuses with one line that says what is allowed.
@@ -51,11 +59,15 @@ struct StepKind {
   const char* help;
   /// Converts the argument to a step, or refuses it with a message that says what is allowed.
   ParsedStep (*parse)(const std::string& argument);
+  /// The option of the step that this option modifies and must directly follow; null for a step. The parsed step then
+  /// sets the modifiers of the other one.
+  const char* modifies = nullptr;
 };
 
-/// Returns the steps by subject: selection, colors, clipboard and history, and single entries.
+/// Returns the steps by subject: selection, colors, order and number of entries, clipboard and history, single entries.
 [[nodiscard]] std::span<const StepKind> selectionSteps();
 [[nodiscard]] std::span<const StepKind> colorSteps();
+[[nodiscard]] std::span<const StepKind> structureSteps();
 [[nodiscard]] std::span<const StepKind> documentSteps();
 [[nodiscard]] std::span<const StepKind> entrySteps();
 

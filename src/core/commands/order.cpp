@@ -1,7 +1,11 @@
 #include "core/commands/order.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
+#include <tuple>
+
+#include "core/color_space.h"
 
 namespace quillhue {
 
@@ -58,7 +62,7 @@ std::int32_t squaredDistance(const PaletteEntry& a, const PaletteEntry& b, Chann
 }
 
 // `keyMask` is `mask` or one channel.
-void sortByKey(PaletteDocument& document, ChannelMask keyMask, ChannelMask mask) {
+void sortBySum(PaletteDocument& document, ChannelMask keyMask, ChannelMask mask) {
   const std::vector<PaletteEntry> colors = colorsToOrder(document, mask);
   if (colors.empty()) {
     return;
@@ -74,7 +78,64 @@ void sortByKey(PaletteDocument& document, ChannelMask keyMask, ChannelMask mask)
   applyOrder(document, mask, list.colors);
 }
 
+// Returns `key` of each color.
+template <auto kKey>
+std::vector<double> keysBy(const std::vector<PaletteEntry>& colors, ChannelMask mask) {
+  std::vector<double> keys;
+  keys.reserve(colors.size());
+  for (const PaletteEntry& color : colors) {
+    keys.push_back(kKey(color, mask));
+  }
+  return keys;
+}
+
+std::vector<double> deviations(const std::vector<PaletteEntry>& colors, ChannelMask mask) {
+  const PaletteEntry mean = meanColor(colors);
+  std::vector<double> keys;
+  std::ranges::transform(colors, std::back_inserter(keys),
+                         [&](const PaletteEntry& color) { return squaredDistance(color, mean, mask); });
+  return keys;
+}
+
+using Color = const PaletteEntry&;
+
+constexpr std::array<SortKey, 10> kSortKeys{{
+    {"intensity", false, keysBy<[](Color color, ChannelMask mask) { return channelSum(color, mask); }>},
+    {"red", false, keysBy<[](Color color, ChannelMask) { return color.red; }>},
+    {"green", false, keysBy<[](Color color, ChannelMask) { return color.green; }>},
+    {"blue", false, keysBy<[](Color color, ChannelMask) { return color.blue; }>},
+    {"deviation", false, deviations},
+    {"hue", true, keysBy<[](Color color, ChannelMask) { return hsvOf(color).hue; }>},
+    {"saturation", false, keysBy<[](Color color, ChannelMask) { return hsvOf(color).saturation; }>},
+    {"value", false, keysBy<[](Color color, ChannelMask) { return hsvOf(color).value; }>},
+    {"luma", false, keysBy<[](Color color, ChannelMask) { return lumaOf(color); }>},
+    {"oklab-lightness", false, keysBy<[](Color color, ChannelMask) { return oklabOf(color).lightness; }>},
+}};
+
 }  // namespace
+
+std::span<const SortKey> sortKeys() { return kSortKeys; }
+
+void sortByKey(PaletteDocument& document, const SortKey& key, bool descending, ChannelMask mask) {
+  const std::vector<PaletteEntry> colors = colorsToOrder(document, mask);
+  if (colors.empty()) {
+    return;
+  }
+  // The index makes the sort stable.
+  std::vector<std::tuple<bool, double, std::size_t>> places;
+  const std::vector<double> keys = key.keysOf(colors, mask);
+  places.reserve(colors.size());
+  for (std::size_t i = 0; i < colors.size(); ++i) {
+    places.emplace_back(key.graysFirst && !isGray(colors[i]), descending ? -keys[i] : keys[i], i);
+  }
+  std::ranges::sort(places);
+  std::vector<PaletteEntry> ordered;
+  ordered.reserve(places.size());
+  for (const auto& place : places) {
+    ordered.push_back(colors[std::get<std::size_t>(place)]);
+  }
+  applyOrder(document, mask, ordered);
+}
 
 void reverseSelection(PaletteDocument& document, ChannelMask mask) {
   std::vector<PaletteEntry> colors = colorsToOrder(document, mask);
@@ -84,9 +145,9 @@ void reverseSelection(PaletteDocument& document, ChannelMask mask) {
   }
 }
 
-void sortByIntensity(PaletteDocument& document, ChannelMask mask) { sortByKey(document, mask, mask); }
+void sortByIntensity(PaletteDocument& document, ChannelMask mask) { sortBySum(document, mask, mask); }
 
-void sortByChannel(PaletteDocument& document, Channel key, ChannelMask mask) { sortByKey(document, maskOf(key), mask); }
+void sortByChannel(PaletteDocument& document, Channel key, ChannelMask mask) { sortBySum(document, maskOf(key), mask); }
 
 void sortByDeviation(PaletteDocument& document, ChannelMask mask) {
   const std::vector<PaletteEntry> colors = colorsToOrder(document, mask);
