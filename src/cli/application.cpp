@@ -22,6 +22,9 @@ int run(std::vector<std::string> arguments, Console& console) {
     addEditVerb(tool, console, status);
     addValuesVerb(tool, console, status);
     addRemapVerb(tool, console, status);
+    addUsageVerb(tool, console, status);
+    addCompactVerb(tool, console, status);
+    addDiffVerb(tool, console, status);
     addEffectsVerb(tool, console, status);
     addModelsVerb(tool, console, status);
     std::ostringstream refused;

@@ -14,9 +14,10 @@ struct Console {
   bool colors = false;
   /// Characters per line of `out`.
   int columns = 80;
+  bool isTerminal = false;
 };
 
-/// The tool's exit status.
-enum ExitStatus : int { kDone = 0, kRefused = 1, kWrongUsage = 2 };
+/// The tool's exit status. The verb diff has two of its own.
+enum ExitStatus : int { kDone = 0, kRefused = 1, kWrongUsage = 2, kDifferent = 1, kTrouble = 2 };
 
 }  // namespace quillhue::cli

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "cli/arguments.h"
 #include "cli/command_line.h"
 #include "core/utf8.h"
 #include "formats/bitmap_writer.h"
@@ -29,9 +30,11 @@ std::expected<Bytes, Failure> composeIndexedPng(const ImageOutput& output) {
 
 std::span<const ImageFormat> imageFormats() {
   static const std::array<ImageFormat, 2> kFormats{
-      {{"bmp", {".BMP", ".DIB"}, composeBmp}, {"png", {".PNG"}, composeIndexedPng}}};
+      {{"bmp", {".BMP", ".DIB"}, false, composeBmp}, {"png", {".PNG"}, true, composeIndexedPng}}};
   return kFormats;
 }
+
+std::vector<std::string> imageFormatNames() { return namesOf(imageFormats()); }
 
 const ImageFormat& chooseImageFormat(const std::string& format, const std::string& file) {
   const bool isFile = !file.empty() && file != "-";

@@ -31,10 +31,14 @@ struct ImageFormat {
   std::string_view name;
   /// Endings of file names in upper case.
   std::vector<std::string_view> endings;
+  bool hasTransparency;
   std::expected<std::vector<std::uint8_t>, Failure> (*compose)(const ImageOutput& output);
 };
 
 [[nodiscard]] std::span<const ImageFormat> imageFormats();
+/// The choices of --format in verbs that write images, and its help.
+[[nodiscard]] std::vector<std::string> imageFormatNames();
+inline constexpr const char* kImageFormatHelp = "The format to write (default: that of OUT's extension, otherwise bmp)";
 
 /// The format with the name `format`, or if that is empty the one that the extension of `file` stands for; for standard
 /// output and for a folder, of which the name is empty, Windows Bitmap. Refuses the usage for any other extension.

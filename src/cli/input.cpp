@@ -26,18 +26,24 @@ void addStandardFlag(Verb& verb, bool& standard) {
   verb.addFlag("--standard", standard, "Read and write files by the published descriptions of their formats");
 }
 
+std::expected<std::unique_ptr<ByteSource>, Failure> openSource(const std::string& file, Console& console) {
+  return file == "-" ? readStream(console.in) : openFile(fromUtf8(file));
+}
+
 std::expected<Input, Failure> openInput(const std::string& file, const InputOptions& options, Console& console) {
-  auto source = file == "-" ? readStream(console.in) : openFile(fromUtf8(file));
-  if (!source) {
-    return std::unexpected(source.error());
-  }
+  auto source = openSource(file, console);
+  return source ? readInput(*std::move(source), file, options) : std::unexpected(source.error());
+}
+
+std::expected<Input, Failure> readInput(std::unique_ptr<ByteSource> source, const std::string& file,
+                                        const InputOptions& options) {
   const std::wstring name = fromUtf8(inputName(file, options));
-  const ReaderInput input{**source, name};
+  const ReaderInput input{*source, name};
   const PaletteReader* reader = options.standard ? findStandardReader(input) : nullptr;
   const bool isStandard = reader != nullptr;
   reader = isStandard ? reader : findPaletteReader(input);
   ReadResult content = isStandard ? reader->read(input) : readPalette(input);
-  if ((*source)->failed()) {
+  if (source->failed()) {
     return std::unexpected(Failure::couldNotOpen);
   }
   if (!content && isWithoutPalette(content.error())) {
@@ -49,7 +55,7 @@ std::expected<Input, Failure> openInput(const std::string& file, const InputOpti
   if (!content) {
     return std::unexpected(content.error());
   }
-  return Input{std::move(*source), reader, std::move(*content)};
+  return Input{std::move(source), reader, std::move(*content)};
 }
 
 ImageColors colorsOf(const FileContent& image) {

@@ -31,9 +31,15 @@ struct Input {
   FileContent content;
 };
 
+/// Opens the file, or reads standard input for "-".
+[[nodiscard]] std::expected<std::unique_ptr<ByteSource>, Failure> openSource(const std::string& file, Console& console);
+
 /// Reads the file, or for "-" standard input.
 [[nodiscard]] std::expected<Input, Failure> openInput(const std::string& file, const InputOptions& options,
                                                       Console& console);
+/// The same for an open file.
+[[nodiscard]] std::expected<Input, Failure> readInput(std::unique_ptr<ByteSource> source, const std::string& file,
+                                                      const InputOptions& options);
 
 /// Collects the colors of an image without a palette. The image must outlive the result. Throws std::bad_alloc.
 [[nodiscard]] ImageColors colorsOf(const FileContent& image);

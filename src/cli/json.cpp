@@ -24,6 +24,8 @@ Json jsonOfNumber(std::int64_t number) { return make(number); }
 
 Json jsonOfFlag(bool flag) { return make(flag); }
 
+Json jsonOf(double number) { return make(number); }
+
 Json jsonArray(const std::vector<Json>& values) {
   ordered_json array = ordered_json::array();
   for (const Json& value : values) {

@@ -25,6 +25,7 @@ class JsonObject;
 [[nodiscard]] Json jsonOf(const PaletteEntry& color);
 [[nodiscard]] Json jsonOfNumber(std::int64_t number);
 [[nodiscard]] Json jsonOfFlag(bool flag);
+[[nodiscard]] Json jsonOf(double number);
 [[nodiscard]] inline Json jsonOf(const Json& value) { return value; }
 
 template <std::integral Number>

@@ -43,6 +43,13 @@ void showLines(const Palette& palette, Console& console) {
 
 }  // namespace
 
+std::string hexOf(PaletteEntry color) {
+  std::ostringstream text;
+  text << '#' << std::uppercase << std::hex << std::setfill('0') << std::setw(6)
+       << (color.red << 16 | color.green << 8 | color.blue);
+  return text.str();
+}
+
 void showPalette(const Palette& palette, Console& console) {
   if (console.colors) {
     showBlocks(palette, console);

@@ -34,6 +34,7 @@ class ConsoleModes {
     }
   }
 
+  [[nodiscard]] bool isConsole() const { return isConsole_; }
   [[nodiscard]] bool showsColors() const { return showsColors_; }
   // Returns the characters per line, or `otherwise` if the output is not a console.
   [[nodiscard]] int columns(int otherwise) const {
@@ -58,6 +59,7 @@ int wmain(int argumentCount, wchar_t** arguments) try {
   const ConsoleModes modes;
   quillhue::cli::Console console{std::cin, std::cout, std::cerr};
   const char* const noColor = std::getenv("NO_COLOR");
+  console.isTerminal = modes.isConsole();
   console.colors = modes.showsColors() && (noColor == nullptr || *noColor == '\0');
   console.columns = modes.columns(console.columns);
   std::vector<std::string> utf8;

@@ -13,15 +13,11 @@
 
 #include "cli/arguments.h"
 #include "cli/image_format.h"
+#include "cli/image_input.h"
 #include "cli/input.h"
 #include "cli/output.h"
 #include "cli/output_folder.h"
 #include "cli/verbs.h"
-#include "core/utf8.h"
-#include "formats/files.h"
-#include "formats/images/image_loaders.h"
-#include "formats/standard/standard_formats.h"
-#include "pictures/picture_file.h"
 #include "remap/transparent_remap.h"
 
 namespace quillhue::cli {
@@ -51,22 +47,6 @@ constexpr std::array<ModeName, 3> kModes{
 class NoProgress final : public RemapProgress {
   [[nodiscard]] bool rowsDone(std::int32_t /*rows*/, const RemappedImage& /*result*/) override { return true; }
 };
-
-std::expected<WorkImage, std::string> readImage(const std::string& file, const RemapVerbOptions& options,
-                                                Console& console) {
-  const auto source = file == "-" ? readStream(console.in) : openFile(fromUtf8(file));
-  if (!source) {
-    return refusalOf(source.error());
-  }
-  ImageResult image = options.input.standard ? loadStandardImage(**source, options.blank) : loadImage(**source);
-  if (!image && image.error() == Failure::unrecognisedType) {
-    image = loadPicture(**source, options.blank);
-  }
-  if (!image) {
-    return refusalOf(image.error());
-  }
-  return std::move(*image);
-}
 
 using RemapImage = std::function<void(const WorkImage& image, RemappedImage& result)>;
 
@@ -110,7 +90,7 @@ struct Remapped {
 // The image is gone when the result is written: they need not fit into the memory with the file.
 std::expected<Remapped, std::string> remapFile(const std::string& file, const Target& target,
                                                const RemapVerbOptions& options, Console& console) {
-  const auto image = readImage(file, options, console);
+  const auto image = readImage(file, options.input.standard, options.blank, console);
   if (!image) {
     return Refusal(image.error());
   }
@@ -250,8 +230,7 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   addNumberOption(verb, "--transparent", options->transparent, {0, kMaxUsedEntries - 1},
                   "The entry of pixels that are less than half opaque, and of no others (default: such pixels are "
                   "blended with --blank)");
-  verb.addChoice("--format", options->format, namesOf(imageFormats()),
-                 "The format to write (default: what OUT's extension stands for, else bmp)");
+  verb.addChoice("--format", options->format, imageFormatNames(), kImageFormatHelp);
   addColorOption(verb, "--blank", options->blank,
                  "The color of unused entries of a bitmap, and behind transparent pixels (default 0,0,0)");
   addForceFlag(verb, options->force);

@@ -14,6 +14,9 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status);
 void addNewVerb(CommandLine& tool, Console& console, ExitStatus& status);
 void addEditVerb(CommandLine& tool, Console& console, ExitStatus& status);
 void addValuesVerb(CommandLine& tool, Console& console, ExitStatus& status);
+void addUsageVerb(CommandLine& tool, Console& console, ExitStatus& status);
+void addCompactVerb(CommandLine& tool, Console& console, ExitStatus& status);
+void addDiffVerb(CommandLine& tool, Console& console, ExitStatus& status);
 void addEffectsVerb(CommandLine& tool, Console& console, ExitStatus& status);
 void addModelsVerb(CommandLine& tool, Console& console, ExitStatus& status);
 

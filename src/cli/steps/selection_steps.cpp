@@ -1,12 +1,33 @@
 #include <array>
 #include <string_view>
+#include <vector>
 
+#include "cli/image_input.h"
 #include "cli/steps/step.h"
 #include "core/commands/selection.h"
 
 namespace quillhue::cli {
 
 namespace {
+
+// Selects the entries that an image uses, or those that it doesn't.
+Step selectByUse(const std::string& file, bool used) {
+  return [file, used](EditSession& session) -> StepResult {
+    const auto image = readImage(file, session.input.standard, {}, session.console);
+    if (!image) {
+      return Refusal(image.error());
+    }
+    const ImageUse use = countUse(*image, session.document().getPalette());
+    std::vector<std::int32_t> indexes;
+    for (std::int32_t index = 0; index < session.document().getSize(); ++index) {
+      if ((use.pixels[static_cast<std::size_t>(index)] > 0) == used) {
+        indexes.push_back(index);
+      }
+    }
+    selectEntries(session.document(), indexes);
+    return {};
+  };
+}
 
 ParsedStep parseSelect(const std::string& argument) {
   const auto colon = argument.find(':');
@@ -15,9 +36,18 @@ ParsedStep parseSelect(const std::string& argument) {
   if (command != nullptr && takesEntry == (colon != std::string::npos)) {
     return takesEntry ? entryStepOf(argument.substr(colon + 1), *command) : stepOf(*command);
   }
+  const std::string which = argument.substr(0, colon);
+  if (colon != std::string::npos && (which == "used" || which == "unused")) {
+    const std::string file = argument.substr(colon + 1);
+    if (file == "-") {
+      return Refusal("needs a file: standard input has no name");
+    }
+    return selectByUse(file, which == "used");
+  }
   auto entries = EntryList::parse(argument);
   if (!entries) {
-    return Refusal(entries.error() + ", nor all, none, invert, redundant, matches:N, brighter:N or darker:N");
+    return Refusal(entries.error() +
+                   ", nor all, none, invert, redundant, matches:N, brighter:N, darker:N, used:IMAGE or unused:IMAGE");
   }
   return [entries = *std::move(entries)](EditSession& session) -> StepResult {
     const auto indexes = entries.within(session.document().getSize());
@@ -47,8 +77,8 @@ ParsedStep parseChannels(const std::string& argument) {
 
 constexpr std::array<StepKind, 2> kSteps{{
     {"--select", "WHICH",
-     "Select entries: a list like 0-15,20, or all, none, invert, redundant, matches:N, brighter:N or darker:N "
-     "(initially all)",
+     "Select entries: a list like 0-15,20, or all, none, invert, redundant, matches:N, brighter:N, darker:N, "
+     "used:IMAGE or unused:IMAGE (initially all)",
      parseSelect},
     {"--channels", "RGB", "The channels that the following steps may change: any of r, g, b, or none (initially rgb)",
      parseChannels},

@@ -13,11 +13,13 @@ namespace {
 using Indexes = std::vector<std::int32_t>;
 
 StepResult checkSize(std::int64_t size) {
-  if (size >= 1 && size <= kMaxPaletteSize) {
-    return {};
+  if (size < 1) {
+    return Refusal("A palette has at least one entry.");
   }
-  return Refusal(size < 1 ? std::string("A palette has at least one entry.")
-                          : "A palette has at most " + std::to_string(kMaxPaletteSize) + " entries.");
+  if (size > kMaxPaletteSize) {
+    return Refusal("A palette has at most " + std::to_string(kMaxPaletteSize) + " entries.");
+  }
+  return {};
 }
 
 // Returns the indexes in their written order. Refuses an index that is not in the palette or is listed twice.
@@ -99,7 +101,7 @@ ParsedStep parseAppend(const std::string& argument) {
     return Refusal("needs a file: standard input has no name");
   }
   return [argument](EditSession& session) -> StepResult {
-    const auto read = readFilePalette(argument, {}, session.console);
+    const auto read = readFilePalette(argument, session.input, session.console);
     if (!read) {
       return Refusal(read.error());
     }
