@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <new>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -36,13 +37,10 @@ struct Compaction {
 };
 
 // Keeps the first used entry of each color, once opaque and once transparent.
-Compaction compactionOf(const ImageFile& file) {
-  // Some files use indexes past the end of their palette.
-  Palette palette = *file.image.palette();
-  for (std::int32_t index = 0; index < std::min(file.palette->getSize(), palette.getSize()); ++index) {
-    palette.setEntry(index, file.palette->entry(index));
-  }
-  const ImageUse use = countUse(file.image, palette);
+Compaction compactionOf(const WorkImage& image, const Palette& stored) {
+  // Some files use indexes past the end of their palette, which are black.
+  const Palette palette = resizedCopy(stored, kMaxUsedEntries, {});
+  const ImageUse use = countUse(image, palette);
   Compaction compaction;
   std::map<std::pair<PaletteEntry, bool>, std::uint8_t> places;
   for (std::size_t i = 0; i < use.pixels.size(); ++i) {
@@ -50,7 +48,7 @@ Compaction compactionOf(const ImageFile& file) {
       continue;
     }
     const PaletteEntry color = palette.entry(static_cast<std::int32_t>(i));
-    const bool isTransparent = file.image.transparentIndexes()[i];
+    const bool isTransparent = image.transparentIndexes()[i];
     const auto next = static_cast<std::uint8_t>(compaction.colors.size());
     const auto [place, isNew] = places.try_emplace({color, isTransparent}, next);
     compaction.newIndexes[i] = place->second;
@@ -77,10 +75,7 @@ std::expected<std::vector<std::uint8_t>, std::string> compose(const WorkImage& i
   return std::move(*content);
 }
 
-std::expected<void, std::string> checkImage(const ImageFile& file, const ImageFormat& format) {
-  if (!file.palette) {
-    return Refusal("The image has no palette. Use the verb remap to give it one.");
-  }
+std::expected<void, std::string> checkTransparency(const ImageFile& file, const ImageFormat& format) {
   if (file.isPartlyTransparent) {
     return Refusal("The image has partly transparent entries, which can't be written.");
   }
@@ -93,11 +88,15 @@ std::expected<void, std::string> checkImage(const ImageFile& file, const ImageFo
 std::expected<void, FileRefusal> compactFile(const CompactOptions& options, Console& console) try {
   const ImageFormat& format = chooseImageFormat(options.format, options.to);
   const auto file = readImageFile(options.from, options.standard, console);
-  const auto usable = file ? checkImage(*file, format) : Refusal(file.error());
+  const auto usable = file ? checkTransparency(*file, format) : Refusal(file.error());
   if (!usable) {
     return std::unexpected(FileRefusal{options.from, usable.error()});
   }
-  const Compaction compaction = compactionOf(*file);
+  const std::optional<Palette>& stored = file->palette;
+  if (!stored) {
+    return std::unexpected(FileRefusal{options.from, "The image has no palette. Use the verb remap to give it one."});
+  }
+  const Compaction compaction = compactionOf(file->image, *stored);
   const auto content = compose(file->image, compaction, format);
   if (!content) {
     return std::unexpected(FileRefusal{options.from, content.error()});

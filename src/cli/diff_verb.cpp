@@ -29,19 +29,24 @@ struct DiffOptions {
 struct Difference {
   std::int32_t index;
   std::array<std::optional<PaletteEntry>, 2> colors;
-
-  [[nodiscard]] bool hasDistance() const { return colors[0] && colors[1]; }
-  // Euclidean distances.
-  [[nodiscard]] double rgbDistance() const {
-    const auto& [a, b] = std::pair(*colors[0], *colors[1]);
-    return std::hypot(a.red - b.red, a.green - b.green, a.blue - b.blue);
-  }
-  [[nodiscard]] double oklabDistance() const {
-    const Oklab a = oklabOf(*colors[0]);
-    const Oklab b = oklabOf(*colors[1]);
-    return std::hypot(a.lightness - b.lightness, a.a - b.a, a.b - b.b);
-  }
 };
+
+// Euclidean distances of two colors.
+struct Distance {
+  double rgb;
+  double oklab;
+};
+
+std::optional<Distance> distanceOf(const Difference& difference) {
+  const auto& [a, b] = difference.colors;
+  if (!a || !b) {
+    return std::nullopt;
+  }
+  const Oklab from = oklabOf(*a);
+  const Oklab to = oklabOf(*b);
+  return Distance{std::hypot(a->red - b->red, a->green - b->green, a->blue - b->blue),
+                  std::hypot(from.lightness - to.lightness, from.a - to.a, from.b - to.b)};
+}
 
 std::vector<Difference> differences(const Palette& a, const Palette& b) {
   const auto entryOf = [](const Palette& palette, std::int32_t index) {
@@ -69,22 +74,21 @@ void show(const Difference& difference, Console& console) {
   for (const auto& color : difference.colors) {
     console.out << "  " << (color ? hexOf(*color) : "none   ");
   }
-  if (difference.hasDistance()) {
-    console.out << "  RGB " << std::setw(5) << rounded(difference.rgbDistance(), 1) << "  Oklab "
-                << rounded(difference.oklabDistance(), 3);
+  if (const auto distance = distanceOf(difference)) {
+    console.out << "  RGB " << std::setw(5) << rounded(distance->rgb, 1) << "  Oklab " << rounded(distance->oklab, 3);
   }
   console.out << '\n';
 }
 
 void showJson(const Difference& difference, Console& console) {
   const auto colorJson = [](const std::optional<PaletteEntry>& color) { return color ? jsonOf(*color) : Json(); };
-  const bool hasDistance = difference.hasDistance();
+  const auto distance = distanceOf(difference);
   writeJson(console, JsonObject()
                          .add("index", difference.index)
                          .add("a", colorJson(difference.colors[0]))
                          .add("b", colorJson(difference.colors[1]))
-                         .add("rgb", hasDistance ? jsonOf(difference.rgbDistance()) : Json())
-                         .add("oklab", hasDistance ? jsonOf(difference.oklabDistance()) : Json()));
+                         .add("rgb", distance ? jsonOf(distance->rgb) : Json())
+                         .add("oklab", distance ? jsonOf(distance->oklab) : Json()));
 }
 
 ExitStatus diff(const DiffOptions& options, Console& console) {

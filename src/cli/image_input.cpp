@@ -34,9 +34,9 @@ bool hasPartCoverage(ByteSource& source) {
     return false;
   }
   const auto png = readPngFile(source.bytes(0, static_cast<std::size_t>(source.size())));
-  return png && png->colors && std::ranges::any_of(png->colors->coverage, [](std::uint8_t coverage) {
-           return coverage != 0 && coverage != 255;
-         });
+  const std::optional<PictureColors> colors = png ? png->colors : std::nullopt;
+  return colors &&
+         std::ranges::any_of(colors->coverage, [](std::uint8_t coverage) { return coverage != 0 && coverage != 255; });
 }
 
 std::uint32_t keyOf(const PaletteEntry& color) {
@@ -84,13 +84,15 @@ std::expected<ImageFile, std::string> readImageFile(const std::string& file, boo
   if (!image) {
     return Refusal(image.error());
   }
-  if (!image->palette()) {
+  std::optional<Palette> palette = image->palette();
+  if (!palette) {
     return ImageFile{std::move(*image), {}};
   }
   const bool isPartlyTransparent = hasPartCoverage(**source);
   auto input = readInput(*std::move(source), file, {{}, standard});
-  auto* const stored = input ? std::get_if<FilePalette>(&input->content) : nullptr;
-  Palette palette = stored == nullptr ? *image->palette() : std::move(stored->palette);
+  if (auto* const stored = input ? std::get_if<FilePalette>(&input->content) : nullptr) {
+    palette = std::move(stored->palette);
+  }
   return ImageFile{std::move(*image), std::move(palette), isPartlyTransparent};
 } catch (const std::bad_alloc&) {
   return refusalOf(Failure::notEnoughMemory);

@@ -28,18 +28,20 @@ struct Usage {
   Palette palette;
   ImageUse use;
   std::uint64_t pixels;
-  // For each entry the first one of the same color, if that is an earlier one.
-  std::vector<std::optional<std::int32_t>> sameAs;
+  // For each entry the first one of the same color, which may be the entry itself.
+  std::vector<std::size_t> first;
+
+  [[nodiscard]] PaletteEntry color(std::size_t index) const { return palette.entry(static_cast<std::int32_t>(index)); }
+  [[nodiscard]] bool isDuplicate(std::size_t index) const { return first[index] != index; }
 };
 
-std::vector<std::optional<std::int32_t>> earlierEntries(const Palette& palette) {
-  std::map<PaletteEntry, std::int32_t> first;
-  std::vector<std::optional<std::int32_t>> earlier;
-  for (std::int32_t index = 0; index < palette.getSize(); ++index) {
-    const auto [found, isNew] = first.try_emplace(palette.entry(index), index);
-    earlier.push_back(isNew ? std::nullopt : std::optional(found->second));
+std::vector<std::size_t> firstEntries(const Palette& palette) {
+  std::map<PaletteEntry, std::size_t> known;
+  std::vector<std::size_t> first;
+  for (const PaletteEntry& color : entriesOf(palette)) {
+    first.push_back(known.try_emplace(color, first.size()).first->second);
   }
-  return earlier;
+  return first;
 }
 
 std::expected<Usage, FileRefusal> readUsage(const UsageOptions& options, Console& console) {
@@ -48,39 +50,38 @@ std::expected<Usage, FileRefusal> readUsage(const UsageOptions& options, Console
   if (!image) {
     return std::unexpected(FileRefusal{file, image.error()});
   }
+  std::optional<Palette> palette = std::move(image->palette);
   if (options.files.size() > 1) {
-    auto palette = readFilePalette(options.files[1], {{}, options.standard}, console);
-    if (!palette) {
-      return std::unexpected(FileRefusal{options.files[1], palette.error()});
+    auto read = readFilePalette(options.files[1], {{}, options.standard}, console);
+    if (!read) {
+      return std::unexpected(FileRefusal{options.files[1], read.error()});
     }
-    image->palette = std::move(palette->palette);
+    palette = std::move(read->palette);
   }
-  if (!image->palette) {
+  if (!palette) {
     return std::unexpected(FileRefusal{file, "The image has no palette. Name a palette file after it."});
   }
-  ImageUse use = countUse(image->image, *image->palette);
+  ImageUse use = countUse(image->image, *palette);
   const auto pixels =
       static_cast<std::uint64_t>(image->image.width()) * static_cast<std::uint64_t>(image->image.height());
-  std::vector<std::optional<std::int32_t>> sameAs = earlierEntries(*image->palette);
-  return Usage{std::move(*image->palette), std::move(use), pixels, std::move(sameAs)};
+  std::vector<std::size_t> first = firstEntries(*palette);
+  return Usage{*std::move(palette), std::move(use), pixels, std::move(first)};
 }
-
-Json optionalJson(const std::optional<std::int32_t>& number) { return number ? jsonOf(*number) : Json(); }
 
 void showJson(const std::string& file, const Usage& usage, Console& console) {
   std::vector<JsonObject> entries;
   std::vector<std::size_t> unused;
   std::vector<std::size_t> duplicates;
-  for (std::size_t i = 0; i < usage.sameAs.size(); ++i) {
+  for (std::size_t i = 0; i < usage.first.size(); ++i) {
     entries.push_back(JsonObject()
                           .add("index", i)
-                          .add("color", usage.palette.entry(static_cast<std::int32_t>(i)))
+                          .add("color", usage.color(i))
                           .add("pixels", usage.use.pixels[i])
-                          .add("sameAs", optionalJson(usage.sameAs[i])));
+                          .add("sameAs", usage.isDuplicate(i) ? jsonOf(usage.first[i]) : Json()));
     if (usage.use.pixels[i] == 0) {
       unused.push_back(i);
     }
-    if (usage.sameAs[i]) {
+    if (usage.isDuplicate(i)) {
       duplicates.push_back(i);
     }
   }
@@ -104,22 +105,24 @@ void showRest(std::uint64_t pixels, const char* what, Console& console) {
 void showText(const std::string& file, const Usage& usage, Console& console) {
   constexpr std::uint64_t kBarWidth = 24;
   const auto& pixels = usage.use.pixels;
+  std::size_t duplicates = 0;
+  for (std::size_t i = 0; i < pixels.size(); ++i) {
+    duplicates += usage.isDuplicate(i) ? 1 : 0;
+  }
   const std::uint64_t most = std::max<std::uint64_t>(1, *std::ranges::max_element(pixels));
   console.out << file << ": " << usage.pixels << (usage.pixels == 1 ? " pixel, " : " pixels, ") << pixels.size()
               << (pixels.size() == 1 ? " entry, " : " entries, ") << std::ranges::count(pixels, 0U) << " unused, "
-              << std::ranges::count_if(usage.sameAs, [](const auto& earlier) { return earlier.has_value(); })
-              << " duplicate\n";
+              << duplicates << " duplicate\n";
   for (std::size_t i = 0; i < pixels.size(); ++i) {
-    console.out << std::setw(4) << i << "  " << hexOf(usage.palette.entry(static_cast<std::int32_t>(i)))
-                << std::setw(10) << pixels[i];
+    console.out << std::setw(4) << i << "  " << hexOf(usage.color(i)) << std::setw(10) << pixels[i];
     if (console.isTerminal && pixels[i] > 0) {
       console.out << "  " << std::string(static_cast<std::size_t>((pixels[i] * kBarWidth + most - 1) / most), '#');
     }
     if (pixels[i] == 0) {
       console.out << "  unused";
     }
-    if (usage.sameAs[i]) {
-      console.out << "  same as " << *usage.sameAs[i];
+    if (usage.isDuplicate(i)) {
+      console.out << "  same as " << usage.first[i];
     }
     console.out << '\n';
   }
