@@ -109,10 +109,11 @@ std::int32_t shifted(std::int32_t value, std::int32_t amount, const ModelChannel
 
 void shiftSelection(EditSession& session, const ModelChannel& channel, std::int32_t amount) {
   PaletteDocument& document = session.document();
-  document.recordColors();
   std::unique_ptr<ColorMode> owner;
   ColorMode& mode = createColorMode(channel.model, 0, session.slot, owner);
-  for (const std::int32_t index : selectedIndexes(document.getPalette())) {
+  const std::vector<std::int32_t> indexes = selectedIndexes(document.getPalette());
+  document.recordColors();
+  for (const std::int32_t index : indexes) {
     const PaletteEntry color = document.getColor(index);
     mode.setEntry(index);
     const std::int32_t value = mode.getValue(channel.bar);

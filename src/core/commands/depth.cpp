@@ -27,8 +27,9 @@ std::uint8_t reduced(std::int32_t value, std::int32_t bits) {
 std::span<const ColorDepth> colorDepths() { return kDepths; }
 
 void reduceDepth(PaletteDocument& document, ChannelMask mask, const ChannelBits& bits) {
+  const std::vector<std::int32_t> indexes = selectedIndexes(document.getPalette());
   document.recordColors();
-  for (const std::int32_t index : selectedIndexes(document.getPalette())) {
+  for (const std::int32_t index : indexes) {
     const PaletteEntry color = document.getColor(index);
     const PaletteEntry rounded{reduced(color.red, bits[0]), reduced(color.green, bits[1]),
                                reduced(color.blue, bits[2])};
