@@ -15,6 +15,8 @@ struct Console {
   /// Characters per line of `out`.
   int columns = 80;
   bool isTerminal = false;
+  /// True if `err` is a terminal, on which a line can show how far a long job is.
+  bool showsProgress = false;
 };
 
 /// The tool's exit status. The verb diff has two of its own.

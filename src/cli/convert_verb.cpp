@@ -8,6 +8,7 @@
 
 #include "cli/arguments.h"
 #include "cli/input.h"
+#include "cli/jobs.h"
 #include "cli/output.h"
 #include "cli/output_folder.h"
 #include "cli/verbs.h"
@@ -24,6 +25,7 @@ struct ConvertOptions {
   std::string colors;
   std::optional<std::int32_t> size;
   PaletteEntry blank;
+  std::optional<std::int32_t> jobs;
 };
 
 constexpr std::int32_t kReducedSize = 256;
@@ -88,9 +90,12 @@ ExitStatus convertAll(const std::string& outDir, const ConvertOptions& options, 
     refuseUsage("--format", "is needed with --out-dir");
   }
   const FormatChoice choice(options.output, options.input.standard, {});
-  const FolderOutput output{outDir, choice.formatFor({}, 0).extension, options.input.name, options.output.force};
-  return writeIntoFolder(output, options.files, console, [&](const std::string& from, const std::string& to) {
-    return convertFile(from, to, choice, options, console);
+  const FolderOutput output{outDir, choice.formatFor({}, 0).extension, options.input.name, options.output.force,
+                            options.jobs};
+  return writeIntoFolder(output, options.files, console, [&]() -> WriteResult {
+    return [&](const std::string& from, const std::string& to, Console& own) {
+      return convertFile(from, to, choice, options, own);
+    };
   });
 }
 
@@ -100,6 +105,9 @@ ExitStatus convert(const ConvertOptions& options, Console& console) {
   }
   if (options.outDir) {
     return convertAll(*options.outDir, options, console);
+  }
+  if (options.jobs) {
+    refuseUsage("--jobs", "goes with --out-dir");
   }
   if (options.files.size() != 2) {
     refuseUsage("convert", "takes IN and OUT, or any number of files with --out-dir");
@@ -125,6 +133,7 @@ void addConvertVerb(CommandLine& tool, Console& console, ExitStatus& status) {
                  "How to make a palette from an image without one: all of its colors, or fewer");
   addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},
                   "The number of entries for --colors (default: all colors for exact, 256 for reduce)");
+  addJobsOption(verb, options->jobs);
   addColorOption(verb, "--blank", options->blank, "The color of unused entries of OUT (default 0,0,0)");
   verb.onRun([options, &console, &status] { status = convert(*options, console); });
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/input.h"
+#include "cli/jobs.h"
 #include "cli/json.h"
 #include "cli/palette_text.h"
 #include "cli/verbs.h"
@@ -16,6 +17,7 @@ namespace {
 struct InfoOptions {
   std::vector<std::string> files;
   InputOptions input;
+  std::optional<std::int32_t> jobs;
   bool json = false;
 };
 
@@ -60,14 +62,12 @@ std::expected<void, Failure> show(const std::string& file, const InfoOptions& op
 }
 
 ExitStatus showAll(const InfoOptions& options, Console& console) {
-  ExitStatus status = kDone;
-  for (const std::string& file : expandFolders(options.files)) {
-    const auto shown = show(file, options, console);
-    if (!shown) {
-      status = refuseFile({file, std::string(textOf(shown.error()))}, options.json, console);
-    }
-  }
-  return status;
+  return runJobs(expandFolders(options.files), options.jobs, console, [&]() -> Job {
+    return [&](const std::string& file, Console& own) {
+      const auto shown = show(file, options, own);
+      return shown ? kDone : refuseFile({file, std::string(textOf(shown.error()))}, options.json, own);
+    };
+  });
 }
 
 }  // namespace
@@ -78,6 +78,7 @@ void addInfoVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addArgument("FILE", options->files, "Palette or image files, folders of them, or - for standard input");
   verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
   addStandardFlag(verb, options->input.standard);
+  addJobsOption(verb, options->jobs);
   verb.addFlag("--json", options->json, "Write JSON, one object a line for each file");
   verb.onRun([options, &console, &status] { status = showAll(*options, console); });
 }

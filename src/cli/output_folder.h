@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,15 +20,19 @@ struct FolderOutput {
   std::string streamName;
   /// Replace existing files.
   bool force = false;
+  /// The number of threads, as for runJobs.
+  std::optional<std::int32_t> jobs;
 };
 
-/// Makes one result. Reports a refusal and returns false.
-using WriteResult = std::function<bool(const std::string& from, const std::string& to)>;
+/// Makes one result. Reports a refusal to the console and returns false.
+using WriteResult = std::function<bool(const std::string& from, const std::string& to, Console& console)>;
+/// Makes the function for one thread.
+using MakeWriteResult = std::function<WriteResult()>;
 
-/// Calls `write` with each file, including the files of each folder, and the name of its result: the file's own name
-/// with the extension. In one call no result replaces another result or another input. Refuses the usage when the
-/// folder's name is empty or standard input has no name.
+/// Writes a result for each file, including the files of each folder. The name of a result is the file's own name with
+/// the extension. In one call no result replaces another result or another input. Refuses the usage when the folder's
+/// name is empty or standard input has no name. Works on several files at the same time, like runJobs.
 ExitStatus writeIntoFolder(const FolderOutput& output, const std::vector<std::string>& files, Console& console,
-                           const WriteResult& write);
+                           const MakeWriteResult& makeWrite);
 
 }  // namespace quillhue::cli

@@ -56,11 +56,14 @@ int wmain(int argumentCount, wchar_t** arguments) try {
   for (std::FILE* stream : {stdin, stdout, stderr}) {
     _setmode(_fileno(stream), _O_BINARY);
   }
+  // Threads that read must not flush what another one writes.
+  std::cin.tie(nullptr);
   const ConsoleModes modes;
   quillhue::cli::Console console{std::cin, std::cout, std::cerr};
   const char* const noColor = std::getenv("NO_COLOR");
   console.isTerminal = modes.isConsole();
   console.colors = modes.showsColors() && (noColor == nullptr || *noColor == '\0');
+  console.showsProgress = _isatty(_fileno(stderr)) != 0;
   console.columns = modes.columns(console.columns);
   std::vector<std::string> utf8;
   for (int i = 1; i < argumentCount; ++i) {

@@ -15,6 +15,7 @@
 #include "cli/image_format.h"
 #include "cli/image_input.h"
 #include "cli/input.h"
+#include "cli/jobs.h"
 #include "cli/output.h"
 #include "cli/output_folder.h"
 #include "cli/verbs.h"
@@ -34,6 +35,7 @@ struct RemapVerbOptions {
   std::optional<std::int32_t> transparent;
   PaletteEntry blank;
   bool force = false;
+  std::optional<std::int32_t> jobs;
 };
 
 struct ModeName {
@@ -50,7 +52,7 @@ class NoProgress final : public RemapProgress {
 
 using RemapImage = std::function<void(const WorkImage& image, RemappedImage& result)>;
 
-// What all images of a call become.
+// What all images of a thread become. The remapper serves one image at a time.
 struct Target {
   const Palette& palette;
   const ImageFormat& format;
@@ -148,6 +150,9 @@ void checkUsage(const RemapVerbOptions& options) {
   if (options.transparent && options.transparent == options.remap.protectedEntry) {
     refuseUsage("--transparent", "names the entry of --protect-color, whose color is for opaque pixels");
   }
+  if (options.jobs && !options.outDir) {
+    refuseUsage("--jobs", "goes with --out-dir");
+  }
   if (options.outDir && options.palette.empty()) {
     refuseUsage("--palette", "is needed with --out-dir");
   }
@@ -181,13 +186,17 @@ ExitStatus remap(const RemapVerbOptions& options, Console& console) {
     reportRefusal(console, paletteFile, usable.error());
     return kRefused;
   }
-  const Target target{read->palette, format, remapperFor(read->palette, options)};
   if (!options.outDir) {
+    const Target target{read->palette, format, remapperFor(read->palette, options)};
     return remapTo(options.files[0], options.files[2], target, options, console) ? kDone : kRefused;
   }
-  return writeIntoFolder(
-      {*options.outDir, format.name, options.input.name, options.force}, options.files, console,
-      [&](const std::string& from, const std::string& to) { return remapTo(from, to, target, options, console); });
+  return writeIntoFolder({*options.outDir, format.name, options.input.name, options.force, options.jobs}, options.files,
+                         console, [&]() -> WriteResult {
+                           const Target target{read->palette, format, remapperFor(read->palette, options)};
+                           return [target, &options](const std::string& from, const std::string& to, Console& own) {
+                             return remapTo(from, to, target, options, own);
+                           };
+                         });
 }
 
 RemapMode parseMode(const std::string& text) {
@@ -234,6 +243,7 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   addColorOption(verb, "--blank", options->blank,
                  "The color of unused entries of a bitmap, and behind transparent pixels (default 0,0,0)");
   addForceFlag(verb, options->force);
+  addJobsOption(verb, options->jobs);
   addStandardFlag(verb, options->input.standard);
   verb.onRun([options, &console, &status] { status = remap(*options, console); });
 }

@@ -51,5 +51,19 @@ if [ -e /dev/full ] && [ $# -eq 1 ]; then
   "${tool[@]}" convert 'ö.act' /dev/stdout --force --format clp >stdout.clp
   "${tool[@]}" convert 'ö.act' /dev/stdout --force --format clp | cmp stdout.clp - || fail 'a pipe is not written'
   cmp stdout.clp file.clp || fail 'standard output by its name is not written'
+
+  # An interrupt while a file is read (SIGTERM, since the shell makes background programs ignore SIGINT): this file is
+  # finished, and no other one is begun.
+  mkfifo slow.map
+  "${tool[@]}" convert slow.map file.clp --out-dir results --format act --jobs 1 2>err &
+  reader=$!
+  exec 3>slow.map
+  kill -TERM $reader
+  printf '1 2 3\r\n' >&3
+  exec 3>&-
+  status=0
+  wait $reader || status=$?
+  [ $status -eq 1 ] && grep -q '^Interrupted: 1 of 2 files are done.$' err || fail "interrupted: $status, $(cat err)"
+  [ "$(ls results)" = slow.act ] && [ "$(stat -c %s results/slow.act)" -eq 772 ] || fail "results: $(ls -l results)"
   ! "${tool[@]}" convert 'ö.act' /dev/full --force --format map 2>err || fail 'a full device goes unnoticed'
 fi

@@ -1,0 +1,104 @@
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <barrier>
+#include <sstream>
+#include <stdexcept>
+
+#include "cli/jobs.h"
+
+namespace quillhue::cli {
+namespace {
+
+struct Ran {
+  ExitStatus status = kDone;
+  std::string out;
+  std::string err;
+};
+
+Ran ran(const std::vector<std::string>& files, int threads, const Job& job, bool showsProgress = false) {
+  std::istringstream in;
+  std::ostringstream out;
+  std::ostringstream err;
+  Console console{in, out, err};
+  console.showsProgress = showsProgress;
+  const ExitStatus status = runJobs(files, threads, console, [&] { return job; });
+  return {status, out.str(), err.str()};
+}
+
+// The first file is done only after the last one has begun, so the texts of the others have to wait for its text.
+TEST(Jobs, WriteTextsInTheOrderOfTheFiles) {
+  std::atomic<bool> hasBegun = false;
+  const Ran result = ran({"a", "refused", "c", "d", "last"}, 2, [&](const std::string& file, Console& console) {
+    hasBegun = hasBegun || file == "last";
+    hasBegun.notify_all();
+    if (file == "a") {
+      hasBegun.wait(false);
+    }
+    console.out << file << '\n';
+    if (file == "refused") {
+      console.err << "no\n";
+      return kRefused;
+    }
+    return kDone;
+  });
+  EXPECT_EQ(result.status, kRefused);
+  EXPECT_EQ(result.out, "a\nrefused\nc\nd\nlast\n");
+  EXPECT_EQ(result.err, "no\n");
+}
+
+// All threads meet in each round, or the test hangs; more of them would be seen.
+TEST(Jobs, RunOnTheThreadsThatAreAskedFor) {
+  for (const int threads : {1, 2, 5}) {
+    std::barrier meeting(threads);
+    std::atomic<int> running = 0;
+    std::atomic<int> most = 0;
+    const Job job = [&](const std::string& /*file*/, Console& /*console*/) {
+      most = std::max(most.load(), ++running);
+      meeting.arrive_and_wait();
+      --running;
+      meeting.arrive_and_wait();
+      return kDone;
+    };
+    EXPECT_EQ(ran(std::vector<std::string>(20, "file"), threads, job).status, kDone);
+    EXPECT_EQ(most, threads);
+  }
+  // Standard input is for one thread.
+  EXPECT_EQ(ran({"a", "-", "c", "d"}, 4,
+                [running = std::make_shared<std::atomic<int>>(0)](const auto&, Console&) {
+                  const bool isAlone = ++*running == 1;
+                  --*running;
+                  return isAlone ? kDone : kRefused;
+                })
+                .status,
+            kDone);
+}
+
+TEST(Jobs, EndWithTheFirstExceptionAfterEarlierTexts) {
+  std::atomic<int> begun = 0;
+  const std::vector<std::string> files(1000, "file");
+  EXPECT_THROW((void)ran(files, 2,
+                         [&](const std::string&, Console&) -> ExitStatus {
+                           if (++begun == 3) {
+                             throw std::runtime_error("wrong usage");
+                           }
+                           return kDone;
+                         }),
+               std::runtime_error);
+  EXPECT_LT(begun, 100);
+}
+
+TEST(Jobs, ShowProgressOnATerminalOnly) {
+  const Job job = [](const std::string&, Console& console) {
+    console.err << "refused\n";
+    return kRefused;
+  };
+  EXPECT_EQ(ran({"a", "b"}, 1, job).err, "refused\nrefused\n");
+  const std::string blank(17, ' ');
+  EXPECT_EQ(ran({"a", "b"}, 1, job, true).err,
+            "refused\n\r1 of 2 files done\r" + blank + "\rrefused\n" + "\r2 of 2 files done\r" + blank + "\r");
+  EXPECT_EQ(ran({"a"}, 1, job, true).err, "refused\n");
+}
+
+}  // namespace
+}  // namespace quillhue::cli
