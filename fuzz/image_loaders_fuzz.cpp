@@ -5,6 +5,7 @@
 
 #include "formats/image_limits.h"
 #include "formats/images/image_loaders.h"
+#include "formats/notes/reading_note.h"
 #include "formats/standard/standard_formats.h"
 #include "fuzz_target.h"
 
@@ -31,7 +32,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quillhue;
   const std::vector content(data, data + size);
   MemorySource source(content);
-  check(loadImage(source));
+  const ImageResult image = loadImage(source);
+  check(image);
+  const auto note = noteImageReading(source, image.has_value());
+  require(!note || note->standardReads || !note->text.empty(), "a text or a way out in every note");
   check(loadClipboardImage(content));
   check(loadStandardImage(source, {}));
   return 0;

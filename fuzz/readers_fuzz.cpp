@@ -1,8 +1,9 @@
-// The input is a file. It is looked for a reader under every name that matters to one, and then every reader of the
-// catalogues reads it, whether it is of its format or not.
+// The input is a file. It is read under every name that matters to a reader, and compared with the standard reading.
+// Then every reader of the catalogues reads it, whether it is of its format or not.
 
 #include <vector>
 
+#include "formats/notes/reading_note.h"
 #include "formats/readers/palette_readers.h"
 #include "formats/standard/standard_formats.h"
 #include "fuzz_target.h"
@@ -28,7 +29,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   MemorySource source(std::vector(data, data + size));
   for (const wchar_t* name :
        {L"x", L"x.map", L"x.csv", L"x.tga", L"x.act", L"x.pal", L"x.col", L"x.aco", L"x.txt", L"x.hex"}) {
-    (void)findPaletteReader({source, name});
+    const ReaderInput input{source, name};
+    const auto note = notePaletteReading(input, readPalette(input));
+    require(!note || note->standardReads || !note->text.empty(), "a text or a way out in every note");
   }
   for (const PaletteReader* reader : paletteReaders()) {
     check(reader->read({source, size % 2 == 0 ? L"x.pal" : L"x.col"}));

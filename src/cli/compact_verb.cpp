@@ -12,6 +12,7 @@
 #include "cli/image_format.h"
 #include "cli/image_input.h"
 #include "cli/input.h"
+#include "cli/notes.h"
 #include "cli/output.h"
 #include "cli/refusal.h"
 #include "cli/verbs.h"
@@ -130,7 +131,7 @@ void addCompactVerb(CommandLine& tool, Console& console, ExitStatus& status) {
       "are left keep their order");
   verb.addOption("--palette-out", options->paletteOut, "Also write the entries that are left into this palette file");
   verb.addChoice("--format", options->format, imageFormatNames(), kImageFormatHelp);
-  addStandardFlag(verb, options->standard);
+  addReadingFlags(verb, options->standard, console);
   addForceFlag(verb, options->force);
   verb.onRun([options, &console, &status] {
     const auto done = compactFile(*options, console);

@@ -2,8 +2,18 @@
 
 #include <istream>
 #include <ostream>
+#include <string>
+#include <vector>
 
 namespace quillhue::cli {
+
+/// Lines about files whose reading or writing may surprise the user.
+struct Notes {
+  /// Don't write them to standard error.
+  bool quiet = false;
+  /// Waiting to be added to the next JSON object.
+  std::vector<std::string> lines;
+};
 
 /// The tool's streams: data goes to `out`, everything else to `err`. All are binary.
 struct Console {
@@ -17,6 +27,7 @@ struct Console {
   bool isTerminal = false;
   /// True if `err` is a terminal, on which a line can show how far a long job is.
   bool showsProgress = false;
+  Notes notes{};
 };
 
 /// The tool's exit status. The verb diff has two of its own.

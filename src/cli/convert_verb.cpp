@@ -9,6 +9,7 @@
 #include "cli/arguments.h"
 #include "cli/input.h"
 #include "cli/jobs.h"
+#include "cli/notes.h"
 #include "cli/output.h"
 #include "cli/output_folder.h"
 #include "cli/verbs.h"
@@ -40,12 +41,14 @@ std::expected<Palette, std::string> paletteOfImage(const std::string& file, cons
     return colors.reducedPalette(options.size.value_or(kReducedSize), options.blank);
   }
   const std::uint64_t count = colors.distinctCount();
-  if (!options.size && count > kMaxPaletteSize) {
-    console.err << file << ": Only the first " << kMaxPaletteSize << " of " << count
-                << " different colors are used. Use --colors reduce to represent all of them.\n";
-  }
   const auto all = static_cast<std::int32_t>(std::min<std::uint64_t>(count, kMaxPaletteSize));
-  return colors.exactPalette(options.size.value_or(all), options.blank);
+  const std::int32_t size = options.size.value_or(all);
+  if (count > static_cast<std::uint64_t>(size)) {
+    addNote(console, file,
+            std::to_string(count - static_cast<std::uint64_t>(size)) + " of " + std::to_string(count) +
+                " different colors are left out. Use --colors reduce to represent all of them.");
+  }
+  return colors.exactPalette(size, options.blank);
 }
 
 std::expected<InputPalette, std::string> readPaletteOf(const std::string& file, const ConvertOptions& options,
@@ -55,6 +58,9 @@ std::expected<InputPalette, std::string> readPaletteOf(const std::string& file, 
     return refusalOf(input.error());
   }
   if (auto* const stored = std::get_if<FilePalette>(&input->content)) {
+    if (!options.colors.empty()) {
+      addNote(console, file, "the file has a palette, so --colors is not used.");
+    }
     return InputPalette{std::move(stored->palette), input->reader->name};
   }
   auto palette = paletteOfImage(file, input->content, options, console);
@@ -128,7 +134,7 @@ void addConvertVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
   verb.addOption("--out-dir", options->outDir, "Convert all files into this folder");
   addOutputOptions(verb, options->output);
-  addStandardFlag(verb, options->input.standard);
+  addReadingFlags(verb, options->input.standard, console);
   verb.addChoice("--colors", options->colors, {"exact", "reduce"},
                  "How to make a palette from an image without one: all of its colors, or fewer");
   addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},

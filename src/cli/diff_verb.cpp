@@ -10,6 +10,7 @@
 
 #include "cli/input.h"
 #include "cli/json.h"
+#include "cli/notes.h"
 #include "cli/palette_text.h"
 #include "cli/refusal.h"
 #include "cli/verbs.h"
@@ -122,7 +123,7 @@ void addDiffVerb(CommandLine& tool, Console& console, ExitStatus& status) {
       "The file to compare with. The exit status is 0 if the palettes are the same, 1 if they differ, and 2 "
       "if a file can't be read");
   verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
-  addStandardFlag(verb, options->input.standard);
+  addReadingFlags(verb, options->input.standard, console);
   verb.addFlag("--json", options->json, "Write JSON, one object a line for each entry that differs");
   verb.onRun([options, &console, &status] { status = diff(*options, console); });
 }

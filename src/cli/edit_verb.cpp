@@ -6,6 +6,7 @@
 
 #include "cli/input.h"
 #include "cli/json.h"
+#include "cli/notes.h"
 #include "cli/output.h"
 #include "cli/steps/step.h"
 #include "cli/verbs.h"
@@ -110,7 +111,7 @@ void addEditVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addArgument("OUT", options->to, "The file to write, or - for standard output");
   verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
   addOutputOptions(verb, options->output);
-  addStandardFlag(verb, options->input.standard);
+  addReadingFlags(verb, options->input.standard, console);
   verb.addFlag("--json", options->json, "Write JSON: the palette that was written, and what the steps left");
   for (const auto& kinds : {selectionSteps(), colorSteps(), structureSteps(), documentSteps(), entrySteps()}) {
     for (const StepKind& kind : kinds) {

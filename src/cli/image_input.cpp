@@ -7,8 +7,10 @@
 #include <variant>
 
 #include "cli/input.h"
+#include "cli/notes.h"
 #include "cli/refusal.h"
 #include "formats/images/image_loaders.h"
+#include "formats/notes/reading_note.h"
 #include "formats/standard/standard_formats.h"
 #include "pictures/picture_file.h"
 #include "pictures/png_file.h"
@@ -17,10 +19,13 @@ namespace quillhue::cli {
 
 namespace {
 
-std::expected<WorkImage, std::string> loadPixels(ByteSource& source, bool standard, PaletteEntry blank) {
+std::expected<WorkImage, std::string> loadPixels(ByteSource& source, const std::string& file, bool standard,
+                                                 PaletteEntry blank, Console& console) {
   ImageResult image = standard ? loadStandardImage(source, blank) : loadImage(source);
-  if (!image && image.error() == Failure::unrecognisedType) {
+  if (!image && image.error() == Failure::unrecognisedType && findPictureKind(source) != nullptr) {
     image = loadPicture(source, blank);
+  } else if (!standard) {
+    addReadingNote(console, file, noteImageReading(source, image.has_value()));
   }
   if (!image) {
     return refusalOf(image.error());
@@ -72,7 +77,7 @@ void countColors(const WorkImage& image, const Palette& palette, ImageUse& use) 
 std::expected<WorkImage, std::string> readImage(const std::string& file, bool standard, PaletteEntry blank,
                                                 Console& console) {
   const auto source = openSource(file, console);
-  return source ? loadPixels(**source, standard, blank) : refusalOf(source.error());
+  return source ? loadPixels(**source, file, standard, blank, console) : refusalOf(source.error());
 }
 
 std::expected<ImageFile, std::string> readImageFile(const std::string& file, bool standard, Console& console) try {
@@ -80,7 +85,7 @@ std::expected<ImageFile, std::string> readImageFile(const std::string& file, boo
   if (!source) {
     return refusalOf(source.error());
   }
-  auto image = loadPixels(**source, standard, {});
+  auto image = loadPixels(**source, file, standard, {}, console);
   if (!image) {
     return Refusal(image.error());
   }
@@ -89,7 +94,7 @@ std::expected<ImageFile, std::string> readImageFile(const std::string& file, boo
     return ImageFile{std::move(*image), {}};
   }
   const bool isPartlyTransparent = hasPartCoverage(**source);
-  auto input = readInput(*std::move(source), file, {{}, standard});
+  auto input = readInput(*std::move(source), file, {{}, standard}, nullptr);
   if (auto* const stored = input ? std::get_if<FilePalette>(&input->content) : nullptr) {
     palette = std::move(stored->palette);
   }

@@ -7,6 +7,7 @@
 #include "cli/input.h"
 #include "cli/jobs.h"
 #include "cli/json.h"
+#include "cli/notes.h"
 #include "cli/palette_text.h"
 #include "cli/verbs.h"
 
@@ -77,8 +78,8 @@ void addInfoVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   const auto options = std::make_shared<InfoOptions>();
   verb.addArgument("FILE", options->files, "Palette or image files, folders of them, or - for standard input");
   verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
-  addStandardFlag(verb, options->input.standard);
   addJobsOption(verb, options->jobs);
+  addReadingFlags(verb, options->input.standard, console);
   verb.addFlag("--json", options->json, "Write JSON, one object a line for each file");
   verb.onRun([options, &console, &status] { status = showAll(*options, console); });
 }

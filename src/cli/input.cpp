@@ -7,9 +7,11 @@
 #include <utility>
 #include <variant>
 
+#include "cli/notes.h"
 #include "cli/picture_input.h"
 #include "core/utf8.h"
 #include "formats/files.h"
+#include "formats/notes/reading_note.h"
 #include "formats/standard/standard_formats.h"
 
 namespace quillhue::cli {
@@ -22,21 +24,17 @@ bool isWithoutPalette(Failure failure) {
 
 }  // namespace
 
-void addStandardFlag(Verb& verb, bool& standard) {
-  verb.addFlag("--standard", standard, "Read and write files by the published descriptions of their formats");
-}
-
 std::expected<std::unique_ptr<ByteSource>, Failure> openSource(const std::string& file, Console& console) {
   return file == "-" ? readStream(console.in) : openFile(fromUtf8(file));
 }
 
 std::expected<Input, Failure> openInput(const std::string& file, const InputOptions& options, Console& console) {
   auto source = openSource(file, console);
-  return source ? readInput(*std::move(source), file, options) : std::unexpected(source.error());
+  return source ? readInput(*std::move(source), file, options, &console) : std::unexpected(source.error());
 }
 
 std::expected<Input, Failure> readInput(std::unique_ptr<ByteSource> source, const std::string& file,
-                                        const InputOptions& options) {
+                                        const InputOptions& options, Console* notes) {
   const std::wstring name = fromUtf8(inputName(file, options));
   const ReaderInput input{*source, name};
   const PaletteReader* reader = options.standard ? findStandardReader(input) : nullptr;
@@ -46,14 +44,20 @@ std::expected<Input, Failure> readInput(std::unique_ptr<ByteSource> source, cons
   if (source->failed()) {
     return std::unexpected(Failure::couldNotOpen);
   }
-  if (!content && isWithoutPalette(content.error())) {
-    if (const PaletteReader* const picture = findPictureReader(input)) {
-      reader = picture;
-      content = picture->read(input);
-    }
+  const PaletteReader* const picture =
+      !content && isWithoutPalette(content.error()) ? findPictureReader(input) : nullptr;
+  if (picture != nullptr) {
+    reader = picture;
+    content = picture->read(input);
+  } else if (!isStandard && notes != nullptr) {
+    addReadingNote(*notes, file, notePaletteReading(input, content));
   }
   if (!content) {
     return std::unexpected(content.error());
+  }
+  const auto* const stored = std::get_if<FilePalette>(&*content);
+  if (stored != nullptr && stored->isCut && notes != nullptr) {
+    addNote(*notes, file, "only the first " + std::to_string(kMaxPaletteSize) + " entries are used.");
   }
   return Input{std::move(source), reader, std::move(*content)};
 }

@@ -7,7 +7,6 @@
 #include <string_view>
 #include <vector>
 
-#include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/refusal.h"
 #include "formats/image_colors.h"
@@ -22,7 +21,6 @@ struct InputOptions {
   /// By the published descriptions of the formats.
   bool standard = false;
 };
-void addStandardFlag(Verb& verb, bool& standard);
 
 /// A file that was read. An image of true colors still reads from the source.
 struct Input {
@@ -37,9 +35,9 @@ struct Input {
 /// Reads the file, or for "-" standard input.
 [[nodiscard]] std::expected<Input, Failure> openInput(const std::string& file, const InputOptions& options,
                                                       Console& console);
-/// The same for an open file.
+/// The same for an open file. Adds notes to `notes`, if it is not null.
 [[nodiscard]] std::expected<Input, Failure> readInput(std::unique_ptr<ByteSource> source, const std::string& file,
-                                                      const InputOptions& options);
+                                                      const InputOptions& options, Console* notes);
 
 /// Collects the colors of an image without a palette. The image must outlive the result. Throws std::bad_alloc.
 [[nodiscard]] ImageColors colorsOf(const FileContent& image);

@@ -34,6 +34,7 @@ Outcome outcomeOf(const Job& job, const std::string& file, const Console& consol
     std::ostringstream out;
     std::ostringstream err;
     Console own{console.in, out, err, console.colors, console.columns, console.isTerminal};
+    own.notes.quiet = console.notes.quiet;
     outcome.status = job(file, own);
     if (!out || !err) {
       throw std::bad_alloc();

@@ -50,7 +50,11 @@ JsonObject paletteJson(const std::string& file, std::string_view format, Palette
       .add("entries", entriesOf(palette));
 }
 
-void writeJson(Console& console, const JsonObject& object) {
+void writeJson(Console& console, JsonObject object) {
+  const std::vector<std::string> notes = std::exchange(console.notes.lines, {});
+  if (!notes.empty()) {
+    object.add("notes", notes);
+  }
   console.out << object.value()->dump(-1, ' ', false, ordered_json::error_handler_t::replace) << '\n';
 }
 

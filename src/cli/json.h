@@ -72,7 +72,7 @@ class JsonObject {
 [[nodiscard]] JsonObject paletteJson(const std::string& file, std::string_view format, PaletteFormat code,
                                      const Palette& palette);
 
-/// Writes the object on one line.
-void writeJson(Console& console, const JsonObject& object);
+/// Writes the object on one line. Adds the notes that wait in the console, if any, as "notes".
+void writeJson(Console& console, JsonObject object);
 
 }  // namespace quillhue::cli

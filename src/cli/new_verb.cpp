@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "cli/arguments.h"
-#include "cli/input.h"
 #include "cli/json.h"
+#include "cli/notes.h"
 #include "cli/output.h"
 #include "cli/verbs.h"
 #include "core/new_palette.h"
@@ -118,7 +118,7 @@ void addNewVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addFlag("--windows-colors", options->windowsColors, "Include the 20 Windows colors in blank or rgb");
   addColorOption(verb, "--blank", options->blank, "The color of unused entries (default 0,0,0)");
   addOutputOptions(verb, options->output);
-  addStandardFlag(verb, options->standard);
+  addReadingFlags(verb, options->standard, console);
   verb.addFlag("--json", options->json, "Write JSON: the palette that was written");
   verb.onRun([options, &console, &status] { status = makeNew(*options, console); });
 }

@@ -1,7 +1,9 @@
 #include "cli/output.h"
 
+#include "cli/notes.h"
 #include "core/utf8.h"
 #include "formats/files.h"
+#include "formats/notes/written_note.h"
 
 namespace quillhue::cli {
 
@@ -30,6 +32,12 @@ std::expected<void, FileRefusal> writePalette(const PaletteOutput& output, const
   const auto written = writeOutput(output.to, *content, output.options.force, console);
   if (!written) {
     return std::unexpected(FileRefusal{output.to, written.error()});
+  }
+  if (const PaletteReader* const reader = output.format.reader) {
+    if (const auto note = noteWriting(palette, *reader, *content)) {
+      addNote(console, output.to,
+              note->text + (note->isReadable ? "." : ". Use --standard to write a file that can be read."));
+    }
   }
   return {};
 }

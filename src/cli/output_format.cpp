@@ -9,6 +9,7 @@
 #include "core/utf8.h"
 #include "formats/exports/export_formats.h"
 #include "formats/files.h"
+#include "formats/readers/palette_readers.h"
 #include "formats/standard/standard_formats.h"
 #include "formats/writers/palette_writers.h"
 
@@ -70,6 +71,17 @@ std::string extensionOf(const std::string& file) {
   return extension;
 }
 
+const PaletteReader* readerNamed(std::string_view name, bool standard) {
+  if (standard) {
+    const auto found = std::ranges::find(standardReaders(), name, &PaletteReader::name);
+    if (found != standardReaders().end()) {
+      return *found;
+    }
+  }
+  const auto found = std::ranges::find(paletteReaders(), name, &PaletteReader::name);
+  return found == paletteReaders().end() ? nullptr : *found;
+}
+
 }  // namespace
 
 std::vector<OutputFormat> outputFormats(bool standard) {
@@ -86,6 +98,9 @@ std::vector<OutputFormat> outputFormats(bool standard) {
     formats.push_back(formatOf(*format));
   }
   formats.push_back(pngFormat());
+  for (OutputFormat& format : formats) {
+    format.reader = readerNamed(format.name, standard);
+  }
   return formats;
 }
 

@@ -13,6 +13,7 @@
 #include "core/palette.h"
 #include "core/palette_format.h"
 #include "formats/failure.h"
+#include "formats/readers/palette_reader.h"
 
 namespace quillhue::cli {
 
@@ -40,6 +41,8 @@ struct OutputFormat {
   bool ownsExtension;
   std::int32_t maxSize;
   Compose compose;
+  /// Reads such files back; null if nothing does.
+  const PaletteReader* reader = nullptr;
 };
 
 /// All of them; with `standard` some are written by their published descriptions.

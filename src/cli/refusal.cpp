@@ -20,14 +20,18 @@ std::string printable(std::string text) {
   return text;
 }
 
-void reportRefusal(Console& console, const std::string& file, std::string_view text) {
+std::string fileLine(const std::string& file, std::string_view text) {
   std::string reason(text);
   std::ranges::replace(reason, '\n', ' ');
   std::string line = file;
   std::ranges::replace(line, '\n', '?');
   line += ": ";
   line += reason;
-  console.err << printable(line) << '\n';
+  return printable(line);
+}
+
+void reportRefusal(Console& console, const std::string& file, std::string_view text) {
+  console.err << fileLine(file, text) << '\n';
 }
 
 }  // namespace quillhue::cli

@@ -28,6 +28,9 @@ ExitStatus refuseFile(const FileRefusal& refused, bool json, Console& console);
 /// Replaces control characters in the text; line ends stay.
 [[nodiscard]] std::string printable(std::string text);
 
+/// Returns one line, without a line end, about a file.
+[[nodiscard]] std::string fileLine(const std::string& file, std::string_view text);
+
 /// Reports in one line why a file was refused.
 void reportRefusal(Console& console, const std::string& file, std::string_view text);
 

@@ -16,6 +16,7 @@
 #include "cli/image_input.h"
 #include "cli/input.h"
 #include "cli/jobs.h"
+#include "cli/notes.h"
 #include "cli/output.h"
 #include "cli/output_folder.h"
 #include "cli/verbs.h"
@@ -186,6 +187,11 @@ ExitStatus remap(const RemapVerbOptions& options, Console& console) {
     reportRefusal(console, paletteFile, usable.error());
     return kRefused;
   }
+  if (read->palette.getSize() > kMaxUsedEntries) {
+    addNote(console, paletteFile,
+            "only the first " + std::to_string(kMaxUsedEntries) + " of " + std::to_string(read->palette.getSize()) +
+                " entries are used.");
+  }
   if (!options.outDir) {
     const Target target{read->palette, format, remapperFor(read->palette, options)};
     return remapTo(options.files[0], options.files[2], target, options, console) ? kDone : kRefused;
@@ -244,7 +250,7 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
                  "The color of unused entries of a bitmap, and behind transparent pixels (default 0,0,0)");
   addForceFlag(verb, options->force);
   addJobsOption(verb, options->jobs);
-  addStandardFlag(verb, options->input.standard);
+  addReadingFlags(verb, options->input.standard, console);
   verb.onRun([options, &console, &status] { status = remap(*options, console); });
 }
 

@@ -10,6 +10,7 @@
 #include "cli/image_input.h"
 #include "cli/input.h"
 #include "cli/json.h"
+#include "cli/notes.h"
 #include "cli/palette_text.h"
 #include "cli/refusal.h"
 #include "cli/verbs.h"
@@ -153,7 +154,7 @@ void addUsageVerb(CommandLine& tool, Console& console, ExitStatus& status) {
       "FILE", options->files,
       "IMAGE, or - for standard input; then PALETTE, if it is not that of the image. A pixel of an indexed "
       "image uses the entry of its index, any other pixel the first entry of exactly its color");
-  addStandardFlag(verb, options->standard);
+  addReadingFlags(verb, options->standard, console);
   verb.addFlag("--json", options->json, "Write JSON: pixels of each entry, unused entries, duplicates");
   verb.onRun([options, &console, &status] { status = showUsage(*options, console); });
 }

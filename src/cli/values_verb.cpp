@@ -6,6 +6,7 @@
 #include "cli/arguments.h"
 #include "cli/input.h"
 #include "cli/json.h"
+#include "cli/notes.h"
 #include "cli/refusal.h"
 #include "cli/tool_services.h"
 #include "cli/verbs.h"
@@ -97,7 +98,7 @@ void addValuesVerb(CommandLine& tool, Console& console, ExitStatus& status) {
                     }
                     options->entries = std::move(*entries);
                   }});
-  addStandardFlag(verb, options->input.standard);
+  addReadingFlags(verb, options->input.standard, console);
   verb.addFlag("--json", options->json, "Write JSON, one object a line for each entry and model");
   verb.onRun([options, &console, &status] { status = showValues(*options, console); });
 }

@@ -76,7 +76,7 @@ void NumberCursor::skipSeparator() {
   skipBlanks();
 }
 
-Palette readNumberLines(ByteSource& source, std::uint64_t offset, HashLines hashLines) {
+NumberLines readNumberLines(ByteSource& source, std::uint64_t offset, HashLines hashLines) {
   Palette palette = createPalette(kMaxPaletteSize);
   std::int32_t count = 0;
   do {
@@ -90,7 +90,8 @@ Palette readNumberLines(ByteSource& source, std::uint64_t offset, HashLines hash
     palette.setEntry(count++, readEntry(source, offset));
     offset = behindLineFeed(source, offset);
   } while (offset < source.size() && count < kMaxPaletteSize);
-  return resizedCopy(palette, count, {});
+  const std::uint64_t rest = hashLines == HashLines::areComments ? behindComments(source, offset) : offset;
+  return {resizedCopy(palette, count, {}), rest < source.size()};
 }
 
 }  // namespace quillhue

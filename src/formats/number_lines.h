@@ -37,9 +37,16 @@ class NumberCursor {
 
 enum class HashLines : std::uint8_t { areEntries, areComments };
 
+/// Entries that were read from lines.
+struct NumberLines {
+  Palette palette;
+  /// There are more lines than kMaxPaletteSize.
+  bool isCut = false;
+};
+
 /// Reads lines of three decimal numbers from `offset` to the end of the file, at most kMaxPaletteSize. Every line is an
 /// entry, except comments when `hashLines` is areComments. Missing numbers are 0. Only the first 256 bytes of a line
 /// are used. Without any line the palette is one black entry.
-[[nodiscard]] Palette readNumberLines(ByteSource& source, std::uint64_t offset, HashLines hashLines);
+[[nodiscard]] NumberLines readNumberLines(ByteSource& source, std::uint64_t offset, HashLines hashLines);
 
 }  // namespace quillhue

@@ -17,6 +17,7 @@ inline Bytes bitmapOf(std::uint32_t width, std::uint8_t bits, const std::vector<
   ByteSink sink;
   sink.text(0, "BM");
   sink.u8(10, 54);
+  sink.u8(14, 40);
   sink.u32le(18, width);
   sink.u32le(22, static_cast<std::uint32_t>(height));
   sink.u8(28, bits);

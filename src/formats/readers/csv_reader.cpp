@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "formats/number_lines.h"
 #include "formats/readers/palette_readers.h"
 
@@ -8,8 +10,8 @@ namespace {
 bool matches(const ReaderInput& input) { return nameEndsWith(input.name, "CSV"); }
 
 ReadResult read(const ReaderInput& input) {
-  return FilePalette{readNumberLines(input.source, 0, HashLines::areEntries),
-                     palette_format::kCsv | palette_format::kMayHoldMore};
+  auto [palette, isCut] = readNumberLines(input.source, 0, HashLines::areEntries);
+  return FilePalette{std::move(palette), palette_format::kCsv | palette_format::kMayHoldMore, isCut};
 }
 
 }  // namespace

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "formats/number_lines.h"
 #include "formats/readers/palette_readers.h"
 
@@ -11,8 +13,8 @@ ReadResult read(const ReaderInput& input) {
   // kept on purpose: every line after "GIMP Palette" that is not a comment is an entry, including Name and Columns
   // lines.
   constexpr std::uint64_t kHeaderLength = 13;
-  return FilePalette{readNumberLines(input.source, kHeaderLength, HashLines::areComments),
-                     palette_format::kGimp | palette_format::kMayHoldMore};
+  auto [palette, isCut] = readNumberLines(input.source, kHeaderLength, HashLines::areComments);
+  return FilePalette{std::move(palette), palette_format::kGimp | palette_format::kMayHoldMore, isCut};
 }
 
 }  // namespace

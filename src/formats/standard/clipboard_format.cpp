@@ -15,8 +15,9 @@ bool isClipboardFile(ByteSource& source) { return source.u16le(0) == kClipboardF
 
 ImageResult load(ByteSource& source, PaletteEntry blank) {
   const auto items = clipboardItems(source);
-  const auto bitmap = std::ranges::find(items, kBitmapItem, &ClipboardItem::format);
-  if (bitmap == items.end()) {
+  // Of several bitmaps, the last one is read, as without --standard.
+  const auto bitmap = std::ranges::find(items.rbegin(), items.rend(), kBitmapItem, &ClipboardItem::format);
+  if (bitmap == items.rend()) {
     return std::unexpected(Failure::clipboardNoImages);
   }
   const auto header = readBitmapHeader(source, bitmap->data, {});

@@ -34,8 +34,10 @@ const PaletteReader* findStandardReader(const ReaderInput& input) { return first
 
 std::span<const StandardLoader* const> standardLoaders() { return kLoaders; }
 
+const StandardLoader* findStandardLoader(ByteSource& source) { return firstMatch(kLoaders, source); }
+
 ImageResult loadStandardImage(ByteSource& source, PaletteEntry blank) {
-  const StandardLoader* const loader = firstMatch(kLoaders, source);
+  const StandardLoader* const loader = findStandardLoader(source);
   return loader == nullptr ? loadImage(source) : guardedLoad(source, [&] { return loader->load(source, blank); });
 }
 

@@ -43,6 +43,9 @@ extern const StandardLoader kStandardGifLoader;
 /// All loaders of images, of which at most one matches a file.
 [[nodiscard]] std::span<const StandardLoader* const> standardLoaders();
 
+/// Returns the one that matches, or null.
+[[nodiscard]] const StandardLoader* findStandardLoader(ByteSource& source);
+
 /// Loads an image by the loader here that matches, and other files as loadImage does.
 [[nodiscard]] ImageResult loadStandardImage(ByteSource& source, PaletteEntry blank);
 

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "cli/command_line.h"
+#include "cli/console.h"
+#include "formats/notes/reading_note.h"
+
+namespace quillhue::cli {
+
+/// Adds --standard and --quiet, which mean the same for every verb that reads or writes palettes and images.
+void addReadingFlags(Verb& verb, bool& standard, Console& console);
+
+/// Adds a note on a file. Unless the notes are quiet, writes it to standard error in one line.
+void addNote(Console& console, const std::string& file, std::string_view text);
+
+/// Adds the note, if there is one, and the way to the standard reading.
+void addReadingNote(Console& console, const std::string& file, const std::optional<ReadingNote>& note);
+
+}  // namespace quillhue::cli
