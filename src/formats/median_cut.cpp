@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <functional>
 
+#include "formats/byte_sort.h"
+
 namespace quillhue {
 
 namespace {
@@ -32,11 +34,7 @@ unsigned splitChannel(std::span<const ColorWord> words) {
   return green <= a ? 1 : 0;
 }
 
-void sortBySplitChannel(std::span<ColorWord> words) {
-  const unsigned channel = splitChannel(words);
-  std::sort(words.begin(), words.end(),
-            [channel](ColorWord left, ColorWord right) { return byteOf(left, channel) < byteOf(right, channel); });
-}
+void sortBySplitChannel(std::span<ColorWord> words) { sortByByte(words, splitChannel(words)); }
 
 class MedianCut {
  public:

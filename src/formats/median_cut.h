@@ -9,8 +9,8 @@
 namespace quillhue {
 
 /// Reduces colors to at most `target` entries (1 .. the palette's size) and writes them to `palette` from entry 0 on;
-/// the other entries stay unchanged. Permutes `words`. The result depends on how std::sort orders equal keys; libstdc++
-/// does it the same way on all systems.
+/// the other entries stay unchanged. Permutes `words`. The result depends on the order in which sortByByte leaves equal
+/// keys.
 void medianCut(std::span<ColorWord> words, std::int32_t target, Palette& palette);
 
 }  // namespace quillhue

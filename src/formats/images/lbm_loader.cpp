@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <new>
 #include <vector>
 
@@ -134,19 +136,33 @@ class Body {
   std::uint8_t value_ = 0;
 };
 
-// Each row has its planes one after the other, the lowest bit of the index first. In a byte, the left pixel is the
-// highest bit.
+// For each byte of a plane its bits as the lowest bits of eight pixels. The left pixel is the highest bit.
+constexpr auto kPixelsOfByte = [] {
+  std::array<std::array<std::uint8_t, 8>, 256> pixels{};
+  for (std::size_t byte = 0; byte < pixels.size(); ++byte) {
+    for (std::size_t x = 0; x < 8; ++x) {
+      pixels[byte][x] = static_cast<std::uint8_t>(byte >> (7 - x) & 1);
+    }
+  }
+  return pixels;
+}();
+
+// Each row has its planes one after the other, the lowest bit of the index first.
 void readPlanes(Body& body, bool hasMask, WorkImage& image) {
   const std::size_t planeRow = (static_cast<std::size_t>(image.width()) + 15) / 16 * 2;
   std::vector<std::uint8_t> planes(planeRow * (hasMask ? kPlanes + 1 : kPlanes));
   for (std::int32_t y = 0; y < image.height() && !body.isAtEnd(); ++y) {
     body.read(planes);
-    const auto row = image.row(y);
-    for (std::size_t x = 0; x < row.size(); ++x) {
+    std::span<std::uint8_t> row = image.row(y);
+    for (std::size_t byte = 0; !row.empty(); ++byte) {
+      std::uint64_t pixels = 0;
       for (std::size_t plane = 0; plane < kPlanes; ++plane) {
-        const auto bit = static_cast<std::uint32_t>(planes[plane * planeRow + x / 8]) >> (7 - x % 8) & 1U;
-        row[x] = static_cast<std::uint8_t>(row[x] | bit << plane);
+        pixels |= std::bit_cast<std::uint64_t>(kPixelsOfByte[planes[plane * planeRow + byte]]) << plane;
       }
+      const auto indexes = std::bit_cast<std::array<std::uint8_t, 8>>(pixels);
+      const std::size_t count = std::min(row.size(), indexes.size());
+      std::copy_n(indexes.begin(), count, row.begin());
+      row = row.subspan(count);
     }
   }
 }

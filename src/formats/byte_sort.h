@@ -1,0 +1,17 @@
+#pragma once
+
+#include <span>
+
+#include "formats/true_color_bitmap.h"
+
+namespace quillhue {
+
+/// Sorts words by one of their bytes, 0 for the lowest. Leaves words with equal bytes in the same order as std::sort of
+/// libstdc++ does, on which palettes depend, and is faster: few of its branches depend on the words.
+///
+/// The algorithm is introsort (D. Musser, 1997): quicksort with the median of three words as the pivot down to 16
+/// words, heapsort where that is too deep, and an insertion sort at the end. Words are compared in blocks as in
+/// BlockQuicksort (S. Edelkamp, A. Weiss, 2016), which exchanges the same pairs as C. A. R. Hoare's partition.
+void sortByByte(std::span<ColorWord> words, unsigned byte);
+
+}  // namespace quillhue
