@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# others_tests.sh PROGRAM: reads images that other programs write, as far as they are installed, with --standard, and
+# compares the pixels with what ImageMagick reads.
+set -euo pipefail
+tool=$1
+convert -version 2>/dev/null | grep -q ImageMagick && command -v compare >/dev/null || exit 77
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+
+checked=0
+# check FILE: an image of at most 256 colors.
+check() {
+  "$tool" convert --standard --quiet --force --colors exact "$1" colors.gpl
+  "$tool" remap --standard --force "$1" colors.gpl out.png
+  wrong=$(compare -metric AE "$1[0]" out.png null: 2>&1) || true
+  [ "$wrong" = 0 ] || { echo "$1: $wrong pixels differ" >&2; exit 1; }
+  checked=$((checked + 1))
+}
+
+convert -seed 7 -size 61x40 plasma:red-blue -colors 200 -depth 8 200.png
+convert 200.png -colors 16 16.png
+convert 200.png -monochrome 2.png
+for colors in 2 16 200; do
+  for program in convert 'gm convert'; do
+    command -v ${program%% *} >/dev/null || continue
+    for kind in bmp bmp2 bmp3 gif pcx; do
+      # ImageMagick misreads the uncompressed black and white PCX files of GraphicsMagick.
+      [ "$program $kind $colors" != 'gm convert pcx 2' ] || continue
+      $program $colors.png "$kind:plain-$colors.${kind%[23]}"
+      check "plain-$colors.${kind%[23]}"
+    done
+    for compression in RLE None; do
+      $program $colors.png -compress $compression "bmp:$compression.bmp"
+      check "$compression.bmp"
+    done
+    $program $colors.png -type TrueColor bmp:direct.bmp
+    check direct.bmp
+  done
+  for kind in RGB555 RGB565 ARGB1555; do
+    convert $colors.png -define bmp:subtype=$kind bmp:$kind.bmp
+    check $kind.bmp
+  done
+  if command -v ffmpeg >/dev/null; then
+    for pixels in bgr24 bgra; do
+      ffmpeg -loglevel error -y -i $colors.png -pix_fmt $pixels $pixels.bmp
+      check $pixels.bmp
+    done
+  fi
+  if command -v ppmtobmp >/dev/null; then
+    pngtopnm $colors.png | ppmtobmp -os2 2>/dev/null >os2.bmp
+    check os2.bmp
+    pngtopnm $colors.png | ppmtopcx 2>/dev/null >netpbm.pcx
+    [ $colors = 2 ] || check netpbm.pcx
+  fi
+done
+echo "$checked files"
