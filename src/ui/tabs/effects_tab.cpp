@@ -3,6 +3,7 @@
 #include "commands/command_table.h"
 #include "core/commands/exchange.h"
 #include "effects/effects.h"
+#include "ui/logic/entry_texts.h"
 #include "ui/logic/menus.h"
 #include "ui/win32/controls.h"
 #include "ui/window_context.h"
@@ -179,6 +180,11 @@ GridPicture EffectsTab::picture() {
   const Palette& preview = editor_.preview(mask());
   const Palette& own = document().getPalette();
   return {.palette = isTicked(previewBox_) ? preview : own, .selected = own.selected(), .currentEntry = currentEntry()};
+}
+
+std::string EffectsTab::tooltipOf(std::int32_t index) {
+  const Palette& own = document().getPalette();
+  return entryTooltip(own, index, numbersText(own.entry(index)), &picture().palette);
 }
 
 void EffectsTab::layOutControls() {

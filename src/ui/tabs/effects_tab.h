@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "core/enum_array.h"
@@ -40,6 +41,7 @@ class EffectsTab final : public PaletteTab {
   [[nodiscard]] std::int32_t currentEntry() const override { return selection_.currentEntry(); }
   void chooseEntry(std::int32_t index) override;
   [[nodiscard]] GridPicture picture() override;
+  [[nodiscard]] std::string tooltipOf(std::int32_t index) override;
   void followPalette() override { selection_.paletteChanged(); }
   void beginDocument() override { selection_.documentReplaced(); }
   void layOutControls() override;

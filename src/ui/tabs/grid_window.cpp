@@ -33,7 +33,8 @@ constexpr auto kKeys = std::to_array<KeyRow>({{VK_LEFT, GridKey::left},
 
 }  // namespace
 
-GridWindow::GridWindow(HWND parent, GridClient& client) : client_(client) {
+GridWindow::GridWindow(HWND parent, GridClient& client)
+    : client_(client), tip_(*this, [&client](Point point) { return client.tooltipAt(point); }) {
   static_cast<void>(registerClass(windowClass(kClassName)));
   static_cast<void>(create({.windowClass = kClassName,
                             // The name for screen readers.
@@ -43,6 +44,7 @@ GridWindow::GridWindow(HWND parent, GridClient& client) : client_(client) {
 }
 
 LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
+  tip_.note(message, wParam, lParam);
   switch (message) {
     case WM_PAINT: {
       const PaintDc dc(handle());
@@ -73,8 +75,10 @@ LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       characterTyped(static_cast<wchar_t>(wParam));
       return 0;
     case WM_TIMER:
-      KillTimer(handle(), kNumberTimer);
-      client_.endNumber();
+      if (wParam == kNumberTimer) {
+        KillTimer(handle(), kNumberTimer);
+        client_.endNumber();
+      }
       return 0;
     case WM_KEYUP:
       if (wParam == VK_SHIFT) {

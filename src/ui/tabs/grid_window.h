@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "ui/logic/geometry.h"
 #include "ui/logic/grid_navigation.h"
 #include "ui/logic/grid_selection.h"
 #include "ui/win32/custom_window.h"
+#include "ui/win32/hover_tip.h"
 #include "ui/win32/system.h"
 
 namespace quillhue {
@@ -27,6 +29,8 @@ class GridClient {
   virtual void typeDigit(char digit) = 0;
   virtual void endNumber() = 0;
   virtual void cancelNumber() = 0;
+  /// Returns the tooltip for a point, or an empty text for none.
+  [[nodiscard]] virtual std::string tooltipAt(Point point) = 0;
   /// Null for the arrow.
   [[nodiscard]] virtual HCURSOR gridCursor() const = 0;
 };
@@ -37,6 +41,8 @@ class GridWindow final : public CustomWindow {
   GridWindow(HWND parent, GridClient& client);
 
   [[nodiscard]] bool hasFocus() const { return GetFocus() == handle(); }
+  /// Call this when the content has changed.
+  void hideTooltip() { tip_.hide(); }
 
  private:
   LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -44,6 +50,7 @@ class GridWindow final : public CustomWindow {
   void characterTyped(wchar_t character);
 
   GridClient& client_;
+  HoverTip tip_;
 };
 
 }  // namespace quillhue

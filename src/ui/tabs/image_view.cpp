@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "ui/logic/entry_texts.h"
 #include "ui/tabs/image_painter.h"
 #include "ui/tabs/scroll_bar.h"
 #include "ui/win32/controls.h"
@@ -28,7 +29,7 @@ void ImageView::showImage(const WorkImage* image) {
 void ImageView::showResult(const RemappedImage* result, std::int32_t rows) {
   result_ = result;
   resultRows_ = rows;
-  repaint(view_.handle());
+  view_.contentChanged();
 }
 
 void ImageView::addRows(const RemappedImage& result, const RowRange& rows) {
@@ -38,7 +39,7 @@ void ImageView::addRows(const RemappedImage& result, const RowRange& rows) {
   result_ = &result;
   resultRows_ = rows.end;
   const std::int32_t top = vertical_.position;
-  repaint(view_.handle(), {0, rows.begin - top, viewSize_.width, rows.end - top});
+  view_.contentChanged({0, rows.begin - top, viewSize_.width, rows.end - top});
 }
 
 RowRange ImageView::visibleRows() const {
@@ -90,6 +91,14 @@ void ImageView::paintImage(HDC dc, const Rect& box) {
   paintRows(dc, box, offset, *image_, {resultRows_, image_->height()});
 }
 
+std::string ImageView::tooltipAt(Point point) const {
+  const Point pixel{point.x + horizontal_.position, point.y + vertical_.position};
+  if (result_ != nullptr && pixel.y < resultRows_) {
+    return pixelTooltip(*result_, context_.settings().blank, pixel);
+  }
+  return image_ != nullptr ? pixelTooltip(*image_, pixel) : "";
+}
+
 void ImageView::scrollImage(bool isVertical, ScrollAction action) {
   Scrolling& scrolling = isVertical ? vertical_ : horizontal_;
   scrollTo(scrolling, scrolled(action, scrolling.position, scrolling.position, scrolling.range));
@@ -106,7 +115,7 @@ void ImageView::scrollTo(Scrolling& scrolling, std::int32_t position) {
   if (isEnabled_ && position != scrolling.position) {
     scrolling.position = position;
     showScrolling(scrolling.bar.get(), scrolling.range, position);
-    repaint(view_.handle());
+    view_.contentChanged();
   }
 }
 
@@ -117,7 +126,7 @@ void ImageView::refreshScrolling() {
     const std::int32_t position = scrolling->range.clamp(scrolling->position);
     if (position != scrolling->position) {
       scrolling->position = position;
-      repaint(view_.handle());
+      view_.contentChanged();
     }
     showScrolling(scrolling->bar.get(), scrolling->range, position);
     // Nothing can be scrolled if the whole image is visible.

@@ -56,6 +56,7 @@ class ImageView final : private ImageClient {
   void scrollImage(bool isVertical, ScrollAction action) override;
   void wheelImage(bool isVertical, std::int32_t delta) override;
   void fileDropped(const std::wstring& name) override { fileDropped_(name); }
+  [[nodiscard]] std::string tooltipAt(Point point) const override;
 
   void scrollTo(Scrolling& scrolling, std::int32_t position);
   void refreshScrolling();

@@ -30,7 +30,8 @@ constexpr auto kKeys = std::to_array<KeyRow>({{VK_LEFT, false, ScrollAction::lin
 
 }  // namespace
 
-ImageWindow::ImageWindow(HWND parent, ImageClient& client) : client_(client) {
+ImageWindow::ImageWindow(HWND parent, ImageClient& client)
+    : client_(client), tip_(*this, [&client](Point point) { return client.tooltipAt(point); }) {
   static_cast<void>(registerClass(windowClass(kClassName)));
   static_cast<void>(create({.windowClass = kClassName,
                             // The name for screen readers.
@@ -40,7 +41,18 @@ ImageWindow::ImageWindow(HWND parent, ImageClient& client) : client_(client) {
                             .parent = parent}));
 }
 
+void ImageWindow::contentChanged() {
+  tip_.hide();
+  repaint(handle());
+}
+
+void ImageWindow::contentChanged(const Rect& box) {
+  tip_.hide();
+  repaint(handle(), box);
+}
+
 LRESULT ImageWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
+  tip_.note(message, wParam, lParam);
   switch (message) {
     case WM_PAINT:
       paint();

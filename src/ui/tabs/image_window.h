@@ -6,6 +6,7 @@
 #include "ui/logic/geometry.h"
 #include "ui/logic/image_view.h"
 #include "ui/win32/custom_window.h"
+#include "ui/win32/hover_tip.h"
 #include "ui/win32/system.h"
 
 namespace quillhue {
@@ -21,12 +22,18 @@ class ImageClient {
   /// `delta` is 120 per notch of the wheel.
   virtual void wheelImage(bool isVertical, std::int32_t delta) = 0;
   virtual void fileDropped(const std::wstring& name) = 0;
+  /// Returns the tooltip for a point, or an empty text for none.
+  [[nodiscard]] virtual std::string tooltipAt(Point point) const = 0;
 };
 
 /// The child window that shows an image. It can have the focus, for the scroll keys, and accepts dropped files.
 class ImageWindow final : public CustomWindow {
  public:
   ImageWindow(HWND parent, ImageClient& client);
+
+  /// Repaints the whole view or a box of it, because the content has changed.
+  void contentChanged();
+  void contentChanged(const Rect& box);
 
  private:
   LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -35,6 +42,7 @@ class ImageWindow final : public CustomWindow {
   void filesDropped(WPARAM wParam);
 
   ImageClient& client_;
+  HoverTip tip_;
 };
 
 }  // namespace quillhue

@@ -75,6 +75,7 @@ void PaletteTab::show() {
 void PaletteTab::hide() {
   isShown_ = false;
   typedEntry_.clear();
+  gridWindow_.hideTooltip();
   context_.frame.showEntryText({});
   quillhue::show(gridWindow_.handle(), false);
   showControls(false);
@@ -106,6 +107,11 @@ void PaletteTab::cancelNumber() {
   showEntry();
 }
 
+std::string PaletteTab::tooltipAt(Point point) {
+  const std::int32_t index = grid_.hitTest(point);
+  return document().contains(index) ? tooltipOf(index) : "";
+}
+
 void PaletteTab::repaintGrid() {
   repaint(gridWindow_.handle());
   showEntry();
@@ -123,6 +129,7 @@ void PaletteTab::showEntry() {
   if (!isShown_) {
     return;
   }
+  gridWindow_.hideTooltip();
   const GridPicture shown = picture();
   context_.frame.showEntryText(typedEntry_.isEmpty() ? entryStatusText(shown.palette, shown.currentEntry)
                                                      : typedEntry_.statusText());

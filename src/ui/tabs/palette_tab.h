@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
+#include <string>
 
 #include "ui/logic/grid_layout.h"
 #include "ui/logic/typed_entry.h"
@@ -34,6 +34,7 @@ class PaletteTab : public Tab, public GridClient {
   void typeDigit(char digit) final;
   void endNumber() final;
   void cancelNumber() final;
+  [[nodiscard]] std::string tooltipAt(Point point) final;
 
  protected:
   [[nodiscard]] WindowContext& context() const { return context_; }
@@ -45,6 +46,7 @@ class PaletteTab : public Tab, public GridClient {
   /// Sets the current entry chosen by the user. `index` may be kNoEntry or past the end.
   virtual void chooseEntry(std::int32_t index) = 0;
   [[nodiscard]] virtual GridPicture picture() = 0;
+  [[nodiscard]] virtual std::string tooltipOf(std::int32_t index) = 0;
   /// Updates the tab's state after the document's colors, selection or size have changed.
   virtual void followPalette() = 0;
   /// Resets the tab's state for another document.

@@ -1,10 +1,12 @@
 #include "ui/tabs/values_tab.h"
 
 #include <cstddef>
+#include <memory>
 #include <string_view>
 
 #include "colormodes/color_models.h"
 #include "commands/command_table.h"
+#include "ui/logic/entry_texts.h"
 #include "ui/logic/menus.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
@@ -133,6 +135,15 @@ void ValuesTab::chooseEntry(std::int32_t index) {
 }
 
 GridPicture ValuesTab::picture() { return {.palette = document().getPalette(), .currentEntry = currentEntry()}; }
+
+// The current entry has the numbers that are shown beside the grid.
+std::string ValuesTab::tooltipOf(std::int32_t index) {
+  const std::int32_t model = context().settings().colorMode;
+  std::unique_ptr<ColorMode> other;
+  const ColorMode& mode =
+      index == currentEntry() ? editor_.mode() : createColorMode(model, index, context().slot, other);
+  return entryTooltip(document().getPalette(), index, numbersText(mode, colorModelOf(model).channels));
+}
 
 void ValuesTab::layOutControls() {
   const ValuesLayout layout = valuesLayout(grid(), context().scale);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
 #include "colormodes/channel_editor.h"
 #include "core/enum_array.h"
@@ -48,6 +49,7 @@ class ValuesTab final : public PaletteTab, private ChannelView {
   [[nodiscard]] std::int32_t currentEntry() const override { return editor_.currentEntry(); }
   void chooseEntry(std::int32_t index) override;
   [[nodiscard]] GridPicture picture() override;
+  [[nodiscard]] std::string tooltipOf(std::int32_t index) override;
   void followPalette() override { editor_.paletteChanged(); }
   void beginDocument() override { editor_.documentReplaced(); }
   void layOutControls() override;
