@@ -8,8 +8,9 @@ namespace quillhue {
 
 namespace {
 
-constexpr COLORREF kDark = RGB(0, 0, 0);
-constexpr COLORREF kLight = RGB(255, 255, 255);
+// The two colors of each outline, of which one is visible on any color. The first one is visible on the background.
+COLORREF outerColor() { return GetSysColor(COLOR_WINDOWTEXT); }
+COLORREF innerColor() { return GetSysColor(COLOR_WINDOW); }
 
 // Boxes of GridLayout are measured as outlined rectangles.
 Rect filledPart(const Rect& outlined) { return {outlined.left, outlined.top, outlined.right - 1, outlined.bottom - 1}; }
@@ -18,26 +19,26 @@ bool overlap(const Rect& one, const Rect& other) {
   return one.left < other.right && other.left < one.right && one.top < other.bottom && other.top < one.bottom;
 }
 
-// Draws a dark frame around the color and a light line on its edge.
+// Draws a frame around the color and a line of the other color on its edge.
 void paintSelected(HDC dc, const Rect& cell, const Rect& color) {
-  frameBox(dc, cell, color.left - cell.left, kDark);
-  frameBox(dc, color, 1, kLight);
+  frameBox(dc, cell, color.left - cell.left, outerColor());
+  frameBox(dc, color, 1, innerColor());
 }
 
-// Draws a dark and a light line inside the color, each two pixels wide if the color is large. A color that is too small
+// Draws a line of each color inside the entry's color, each two pixels wide if the color is large. A color that is too small
 // for lines inside gets them around it, within its cell.
 void paintCurrent(HDC dc, const Rect& cell, const Rect& color) {
   constexpr std::int32_t kSmallColor = 8;
   constexpr std::int32_t kLargeColor = 24;
   if (color.width() < kSmallColor) {
-    frameBox(dc, cell, 1, kDark);
-    frameBox(dc, cell.inset(1), 1, kLight);
+    frameBox(dc, cell, 1, outerColor());
+    frameBox(dc, cell.inset(1), 1, innerColor());
     return;
   }
   const std::int32_t line = color.width() >= kLargeColor ? 2 : 1;
   const Rect inside = color.inset(1);
-  frameBox(dc, inside, line, kDark);
-  frameBox(dc, inside.inset(line), line, kLight);
+  frameBox(dc, inside, line, outerColor());
+  frameBox(dc, inside.inset(line), line, innerColor());
 }
 
 void paintFocus(HDC dc, const GridLayout& grid) {
@@ -45,8 +46,8 @@ void paintFocus(HDC dc, const GridLayout& grid) {
   const Rect cells = boxAt({grid.margin(), grid.margin()}, {grid.columns() * grid.cell(), grid.rows() * grid.cell()});
   const RECT frame = toSystem(
       Rect{cells.left - gap, cells.top - gap, std::min(cells.right + gap, grid.rightEdge()), cells.bottom + gap});
-  SetTextColor(dc, kDark);
-  SetBkColor(dc, kLight);
+  SetTextColor(dc, outerColor());
+  SetBkColor(dc, innerColor());
   DrawFocusRect(dc, &frame);
 }
 
