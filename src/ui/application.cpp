@@ -9,6 +9,7 @@
 #include "ui/logic/window_texts.h"
 #include "ui/screens/intro_ui.h"
 #include "ui/screens/tabs_ui.h"
+#include "ui/services/recent_documents.h"
 #include "ui/win32/command_line.h"
 #include "ui/win32/drawing.h"
 #include "ui/win32/guarded.h"
@@ -44,6 +45,7 @@ Application::Application()
                             .clipboard = clipboard_,
                             .colorChooser = colorDialog_,
                             .programFolder = programFolder()},
+               .fileUsed = addRecentDocument,
                .makeIntro = makeScreen<IntroUI>,
                .makeEditor = makeScreen<TabsUI>}) {}
 

@@ -9,6 +9,7 @@
 #include "ui/services/halftone_palette.h"
 #include "ui/services/message_boxes.h"
 #include "ui/services/registry_settings.h"
+#include "ui/win32/com.h"
 #include "ui/win32/dialog_owner.h"
 
 namespace quillhue {
@@ -26,6 +27,7 @@ class Application {
   int run(int showCommand);
 
  private:
+  Apartment apartment_;
   RegistrySettings store_;
   SavedSettings settings_;
   DocumentSlot slot_;

@@ -192,6 +192,8 @@ void MainWindow::openFile(const std::wstring& name) {
   readPaletteFile(name, parts_.slot, services_);
 }
 
+void MainWindow::documentSaved() { parts_.fileUsed(document()->getFileName()); }
+
 void MainWindow::openContextMenu(std::int32_t menu, Point screenPoint) const {
   TrackPopupMenu(GetSubMenu(contextMenus_.get(), menu), TPM_RIGHTBUTTON, screenPoint.x, screenPoint.y, 0, handle(),
                  nullptr);
@@ -215,6 +217,9 @@ void MainWindow::documentReplaced() noexcept {
   guarded(handle(), [&] {
     screen_->documentReplaced();
     updateMenus();
+    if (!document()->getFileName().empty()) {
+      parts_.fileUsed(document()->getFileName());
+    }
   });
 }
 
@@ -432,7 +437,17 @@ void MainWindow::runEnded() const {
   }
 }
 
-bool MainWindow::confirmDiscard() { return document() == nullptr || askToSave(*document(), services_); }
+bool MainWindow::confirmDiscard() {
+  if (document() == nullptr) {
+    return true;
+  }
+  const std::int32_t saves = document()->saveCount();
+  const bool confirmed = askToSave(*document(), services_);
+  if (document()->saveCount() != saves) {
+    documentSaved();
+  }
+  return confirmed;
+}
 
 void MainWindow::endRun() {
   runIsOn_ = false;

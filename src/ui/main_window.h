@@ -33,6 +33,8 @@ struct WindowParts {
   /// Set by the main window when it is created.
   DialogOwner& dialogOwner;
   WindowServices services;
+  /// Called with the name of each palette file that was opened or saved.
+  std::function<void(const std::wstring& name)> fileUsed;
 
   using MakeScreen = std::function<std::unique_ptr<MainUI>(WindowContext& context)>;
   MakeScreen makeIntro;
@@ -52,6 +54,7 @@ class MainWindow final : public CustomWindow, public DocumentObserver, private W
   /// Passes a message to the accelerators, the keyboard navigation or its window.
   void dispatch(MSG& message);
   void openFile(const std::wstring& name) override;
+  void documentSaved() override;
 
   // Notifications from the document.
   void titleChanged(const std::wstring& title) noexcept override;

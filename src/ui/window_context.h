@@ -36,6 +36,8 @@ class WindowFrame {
   virtual void showEditor() = 0;
   /// Opens a palette file as the new document, or shows an error message.
   virtual void openFile(const std::wstring& name) = 0;
+  /// Call this after the document was saved.
+  virtual void documentSaved() = 0;
   /// Asks the user about unsaved changes, if there are any. Returns true if the document may be discarded.
   [[nodiscard]] virtual bool confirmDiscard() = 0;
 

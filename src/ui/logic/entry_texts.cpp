@@ -1,7 +1,6 @@
 #include "ui/logic/entry_texts.h"
 
 #include <cstddef>
-#include <optional>
 #include <string_view>
 
 #include "colormodes/color_models.h"
@@ -70,6 +69,18 @@ std::string pixelTooltip(const RemappedImage& image, PaletteEntry blank, Point p
   const std::size_t row = static_cast<std::size_t>(point.y) * paddedRowLength(image.width());
   const std::size_t index = image.rows()[row + static_cast<std::size_t>(point.x)];
   return pixelText(point, index, index < image.colors().size() ? image.colors()[index] : blank);
+}
+
+std::string entryName(const Palette& palette, std::int32_t index) {
+  return "Entry " + std::to_string(index) + ", " + hexTextOf(palette.entry(index));
+}
+
+std::string imageName(std::optional<Size> size, bool isRemapped) {
+  if (!size) {
+    return "No image";
+  }
+  return "Image, " + std::to_string(size->width) + " by " + std::to_string(size->height) + " pixels" +
+         (isRemapped ? ", remapped" : "");
 }
 
 }  // namespace quillhue

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "colormodes/color_mode.h"
@@ -30,5 +31,10 @@ namespace quillhue {
 /// the point is outside the image. An index past the result's colors has the blank color.
 [[nodiscard]] std::string pixelTooltip(const WorkImage& image, Point point);
 [[nodiscard]] std::string pixelTooltip(const RemappedImage& image, PaletteEntry blank, Point point);
+
+/// Names for screen readers: "Entry 29, #E8B0B0", and "Image, 640 by 480 pixels, remapped". There is "No image" without
+/// a size.
+[[nodiscard]] std::string entryName(const Palette& palette, std::int32_t index);
+[[nodiscard]] std::string imageName(std::optional<Size> size, bool isRemapped);
 
 }  // namespace quillhue

@@ -1,6 +1,7 @@
 #include "ui/screens/intro_ui.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "commands/command_table.h"
 #include "core/utf8.h"
@@ -28,15 +29,11 @@ IntroUI::IntroUI(WindowContext& context) : context_(context), commands_(context)
 
 IntroUI::Button IntroUI::makeButton(const IntroButton& description) const {
   const std::int32_t side = context_.scale(kIconSide);
-  Button button{.description = description};
-  button.icon.reset(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), fromUtf8(description.icon).c_str(),
-                                                  IMAGE_ICON, side, side, LR_DEFAULTCOLOR)));
-  button.control =
-      createControl(context_.window, nullptr,
-                    {.windowClass = L"Button", .text = description.text, .style = WS_VISIBLE | WS_TABSTOP | BS_ICON});
-  SendMessageW(button.control.get(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(button.icon.get()));
-  button.tooltip = createTooltip(context_.window, button.control.get(), description.tooltip);
-  return button;
+  Icon icon(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), fromUtf8(description.icon).c_str(), IMAGE_ICON,
+                                          side, side, LR_DEFAULTCOLOR)));
+  return {
+      .description = description,
+      .control = std::make_unique<IconButton>(context_.window, description.text, description.tooltip, std::move(icon))};
 }
 
 void IntroUI::menuCommand(std::int32_t command) {
@@ -56,7 +53,7 @@ LRESULT IntroUI::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM l
 bool IntroUI::openSystemPalettes(Point screenPoint) {
   const auto button =
       std::ranges::find_if(buttons_, [](const Button& each) { return &each.description == &systemPalettesButton(); });
-  const HWND control = button->control.get();
+  const HWND control = button->control->handle();
   const Rect face = introButtonFace(context_.scale);
   if (screenPoint == Point{-1, -1} && GetFocus() == control) {
     POINT middle{face.width() / 2, face.height() / 2};
@@ -78,13 +75,13 @@ void IntroUI::resize(Size area) {
   }
   area_ = area;
   for (const Button& button : buttons_) {
-    moveTo(button.control.get(), introButtonBox(button.description, area, context_.scale));
+    moveTo(button.control->handle(), introButtonBox(button.description, area, context_.scale));
   }
 }
 
 void IntroUI::controlNotification(HWND control, WPARAM wParam) {
   const auto button =
-      std::ranges::find_if(buttons_, [control](const Button& each) { return each.control.get() == control; });
+      std::ranges::find_if(buttons_, [control](const Button& each) { return each.control->handle() == control; });
   if (button != buttons_.end() && HIWORD(wParam) == BN_CLICKED) {
     menuCommand(button->description.command);
   }

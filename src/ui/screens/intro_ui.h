@@ -1,11 +1,12 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "ui/logic/intro_layout.h"
 #include "ui/main_ui.h"
 #include "ui/screens/shared_commands.h"
-#include "ui/win32/handle.h"
+#include "ui/win32/icon_button.h"
 #include "ui/win32/system.h"
 
 namespace quillhue {
@@ -28,9 +29,7 @@ class IntroUI final : public MainUI {
  private:
   struct Button {
     const IntroButton& description;
-    Icon icon{};
-    Window control{};
-    Window tooltip{};
+    std::unique_ptr<IconButton> control;
   };
 
   [[nodiscard]] Button makeButton(const IntroButton& description) const;

@@ -82,9 +82,17 @@ void TabsUI::menuCommand(std::int32_t command) {
   context().frame.updateMenus();
 }
 
-void TabsUI::savePalette() { static_cast<void>(save(*context().document(), context().services)); }
+void TabsUI::savePalette() {
+  if (save(*context().document(), context().services)) {
+    context().frame.documentSaved();
+  }
+}
 
-void TabsUI::savePaletteAs() { static_cast<void>(saveAs(*context().document(), context().services)); }
+void TabsUI::savePaletteAs() {
+  if (saveAs(*context().document(), context().services)) {
+    context().frame.documentSaved();
+  }
+}
 
 void TabsUI::cut() {
   if (active_->copy()) {

@@ -25,8 +25,8 @@ void paintSelected(HDC dc, const Rect& cell, const Rect& color) {
   frameBox(dc, color, 1, innerColor());
 }
 
-// Draws a line of each color inside the entry's color, each two pixels wide if the color is large. A color that is too small
-// for lines inside gets them around it, within its cell.
+// Draws a line of each color inside the entry's color, each two pixels wide if the color is large. A color that is too
+// small for lines inside gets them around it, within its cell.
 void paintCurrent(HDC dc, const Rect& cell, const Rect& color) {
   constexpr std::int32_t kSmallColor = 8;
   constexpr std::int32_t kLargeColor = 24;

@@ -34,7 +34,7 @@ constexpr auto kKeys = std::to_array<KeyRow>({{VK_LEFT, GridKey::left},
 }  // namespace
 
 GridWindow::GridWindow(HWND parent, GridClient& client)
-    : client_(client), tip_(*this, [&client](Point point) { return client.tooltipAt(point); }) {
+    : client_(client), tip_(*this, [&client](Point point) { return client.tooltipAt(point); }), accessibility_(client) {
   static_cast<void>(registerClass(windowClass(kClassName)));
   static_cast<void>(create({.windowClass = kClassName,
                             // The name for screen readers.
@@ -45,6 +45,9 @@ GridWindow::GridWindow(HWND parent, GridClient& client)
 
 LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
   tip_.note(message, wParam, lParam);
+  if (Accessibility::isAsked(message, lParam)) {
+    return accessibility_.answer(handle(), wParam);
+  }
   switch (message) {
     case WM_PAINT: {
       const PaintDc dc(handle());
@@ -55,6 +58,7 @@ LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_LBUTTONDOWN:
       SetFocus(handle());
       SetCapture(handle());
+      client_.cancelNumber();
       client_.pressGrid(pointOf(lParam), heldKeys());
       return 0;
     case WM_MOUSEMOVE:
@@ -68,6 +72,16 @@ LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CAPTURECHANGED:
       client_.releaseGrid();
       return 0;
+    case WM_SETCURSOR:
+      SetCursor(client_.gridCursor() != nullptr ? client_.gridCursor() : LoadCursorW(nullptr, IDC_ARROW));
+      return TRUE;
+    default:
+      return answerKeyboard(message, wParam, lParam);
+  }
+}
+
+LRESULT GridWindow::answerKeyboard(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
     case WM_KEYDOWN:
       return keyPressed(wParam, (HIWORD(lParam) & KF_REPEAT) != 0) ? 0
                                                                    : DefWindowProcW(handle(), message, wParam, lParam);
@@ -95,11 +109,9 @@ LRESULT GridWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       repaint(handle());
       return 0;
     case WM_SETFOCUS:
+      announce(EVENT_OBJECT_FOCUS, handle(), client_.accessibleFocus());
       repaint(handle());
       return 0;
-    case WM_SETCURSOR:
-      SetCursor(client_.gridCursor() != nullptr ? client_.gridCursor() : LoadCursorW(nullptr, IDC_ARROW));
-      return TRUE;
     default:
       return DefWindowProcW(handle(), message, wParam, lParam);
   }

@@ -6,17 +6,16 @@
 #include "ui/logic/geometry.h"
 #include "ui/logic/grid_navigation.h"
 #include "ui/logic/grid_selection.h"
+#include "ui/tabs/hover_tip.h"
+#include "ui/win32/accessible.h"
 #include "ui/win32/custom_window.h"
-#include "ui/win32/hover_tip.h"
 #include "ui/win32/system.h"
 
 namespace quillhue {
 
 /// Content and behavior of the palette's grid. Points and boxes are relative to the grid's top left corner.
-class GridClient {
+class GridClient : public AccessibleContent {
  public:
-  virtual ~GridClient() = default;
-
   virtual void paintGrid(HDC dc, const Rect& box) = 0;
   /// Handle a press of the left button, a move of the pointer with the button held, and the end of the gesture.
   virtual void pressGrid(Point point, GridSelection::Keys keys) = 0;
@@ -46,11 +45,14 @@ class GridWindow final : public CustomWindow {
 
  private:
   LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override;
+  /// Answers messages about the keyboard and the focus.
+  LRESULT answerKeyboard(UINT message, WPARAM wParam, LPARAM lParam);
   bool keyPressed(WPARAM key, bool isRepeated);
   void characterTyped(wchar_t character);
 
   GridClient& client_;
   HoverTip tip_;
+  Accessibility accessibility_;
 };
 
 }  // namespace quillhue

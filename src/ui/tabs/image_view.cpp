@@ -1,5 +1,6 @@
 #include "ui/tabs/image_view.h"
 
+#include <optional>
 #include <utility>
 
 #include "ui/logic/entry_texts.h"
@@ -30,6 +31,7 @@ void ImageView::showResult(const RemappedImage* result, std::int32_t rows) {
   result_ = result;
   resultRows_ = rows;
   view_.contentChanged();
+  announce(EVENT_OBJECT_NAMECHANGE, view_.handle());
 }
 
 void ImageView::addRows(const RemappedImage& result, const RowRange& rows) {
@@ -97,6 +99,11 @@ std::string ImageView::tooltipAt(Point point) const {
     return pixelTooltip(*result_, context_.settings().blank, pixel);
   }
   return image_ != nullptr ? pixelTooltip(*image_, pixel) : "";
+}
+
+AccessibleElement ImageView::accessibleElement(std::int32_t /*index*/) {
+  const auto size = image_ != nullptr ? std::optional(Size{image_->width(), image_->height()}) : std::nullopt;
+  return {.name = imageName(size, result_ != nullptr), .role = ROLE_SYSTEM_GRAPHIC};
 }
 
 void ImageView::scrollImage(bool isVertical, ScrollAction action) {

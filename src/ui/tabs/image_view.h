@@ -57,6 +57,8 @@ class ImageView final : private ImageClient {
   void wheelImage(bool isVertical, std::int32_t delta) override;
   void fileDropped(const std::wstring& name) override { fileDropped_(name); }
   [[nodiscard]] std::string tooltipAt(Point point) const override;
+  [[nodiscard]] AccessibleElement accessibleElement(std::int32_t index) override;
+  void accessibleAct(std::int32_t /*index*/) override {}
 
   void scrollTo(Scrolling& scrolling, std::int32_t position);
   void refreshScrolling();

@@ -31,7 +31,7 @@ constexpr auto kKeys = std::to_array<KeyRow>({{VK_LEFT, false, ScrollAction::lin
 }  // namespace
 
 ImageWindow::ImageWindow(HWND parent, ImageClient& client)
-    : client_(client), tip_(*this, [&client](Point point) { return client.tooltipAt(point); }) {
+    : client_(client), tip_(*this, [&client](Point point) { return client.tooltipAt(point); }), accessibility_(client) {
   static_cast<void>(registerClass(windowClass(kClassName)));
   static_cast<void>(create({.windowClass = kClassName,
                             // The name for screen readers.
@@ -53,6 +53,9 @@ void ImageWindow::contentChanged(const Rect& box) {
 
 LRESULT ImageWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
   tip_.note(message, wParam, lParam);
+  if (Accessibility::isAsked(message, lParam)) {
+    return accessibility_.answer(handle(), wParam);
+  }
   switch (message) {
     case WM_PAINT:
       paint();

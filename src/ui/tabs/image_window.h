@@ -5,17 +5,16 @@
 
 #include "ui/logic/geometry.h"
 #include "ui/logic/image_view.h"
+#include "ui/tabs/hover_tip.h"
+#include "ui/win32/accessible.h"
 #include "ui/win32/custom_window.h"
-#include "ui/win32/hover_tip.h"
 #include "ui/win32/system.h"
 
 namespace quillhue {
 
 /// Content and behavior of an image's view.
-class ImageClient {
+class ImageClient : public AccessibleContent {
  public:
-  virtual ~ImageClient() = default;
-
   /// `box` is relative to the view's top left corner.
   virtual void paintImage(HDC dc, const Rect& box) = 0;
   virtual void scrollImage(bool isVertical, ScrollAction action) = 0;
@@ -43,6 +42,7 @@ class ImageWindow final : public CustomWindow {
 
   ImageClient& client_;
   HoverTip tip_;
+  Accessibility accessibility_;
 };
 
 }  // namespace quillhue

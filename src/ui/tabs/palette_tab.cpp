@@ -1,5 +1,8 @@
 #include "ui/tabs/palette_tab.h"
 
+#include <algorithm>
+#include <cstddef>
+
 #include "ui/logic/entry_texts.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
@@ -133,6 +136,54 @@ void PaletteTab::showEntry() {
   const GridPicture shown = picture();
   context_.frame.showEntryText(typedEntry_.isEmpty() ? entryStatusText(shown.palette, shown.currentEntry)
                                                      : typedEntry_.statusText());
+  announceEntry(shown);
+}
+
+void PaletteTab::announceEntry(const GridPicture& shown) {
+  if (shown.currentEntry != announcedEntry_) {
+    announcedEntry_ = shown.currentEntry;
+    if (gridWindow_.hasFocus()) {
+      announce(EVENT_OBJECT_FOCUS, gridWindow_.handle(), accessibleFocus());
+    }
+  }
+  if (!std::ranges::equal(shown.selected, announcedSelection_)) {
+    announcedSelection_.assign(shown.selected.begin(), shown.selected.end());
+    announce(EVENT_OBJECT_SELECTIONWITHIN, gridWindow_.handle());
+  }
+}
+
+std::int32_t PaletteTab::accessibleCount() { return document().getSize(); }
+
+AccessibleElement PaletteTab::accessibleElement(std::int32_t index) {
+  if (index == kWindow) {
+    return {.name = "Palette", .role = ROLE_SYSTEM_TABLE};
+  }
+  const GridPicture shown = picture();
+  const auto place = static_cast<std::size_t>(index);
+  const bool isSelected = shown.selected.empty() ? index == shown.currentEntry : shown.selected[place] != 0;
+  return {.name = entryName(shown.palette, index),
+          .role = ROLE_SYSTEM_CELL,
+          .description = numbersText(shown.palette.entry(index)),
+          .action = "Select",
+          .state = STATE_SYSTEM_SELECTABLE | STATE_SYSTEM_FOCUSABLE | (isSelected ? STATE_SYSTEM_SELECTED : 0),
+          .box = grid_.cellBox(index)};
+}
+
+std::int32_t PaletteTab::accessibleFocus() { return hasCurrentEntry() ? currentEntry() : kWindow; }
+
+std::int32_t PaletteTab::accessibleAt(Point point) {
+  const std::int32_t index = grid_.hitTest(point);
+  return document().contains(index) ? index : kWindow;
+}
+
+void PaletteTab::accessibleAct(std::int32_t index) {
+  accessibleChoose(index);
+  pressSpace({});
+}
+
+void PaletteTab::accessibleChoose(std::int32_t index) {
+  chooseEntry(index);
+  context_.frame.updateMenus();
 }
 
 }  // namespace quillhue

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "ui/logic/grid_layout.h"
 #include "ui/logic/typed_entry.h"
@@ -36,6 +37,13 @@ class PaletteTab : public Tab, public GridClient {
   void cancelNumber() final;
   [[nodiscard]] std::string tooltipAt(Point point) final;
 
+  [[nodiscard]] std::int32_t accessibleCount() final;
+  [[nodiscard]] AccessibleElement accessibleElement(std::int32_t index) final;
+  [[nodiscard]] std::int32_t accessibleFocus() final;
+  [[nodiscard]] std::int32_t accessibleAt(Point point) final;
+  void accessibleAct(std::int32_t index) final;
+  void accessibleChoose(std::int32_t index) final;
+
  protected:
   [[nodiscard]] WindowContext& context() const { return context_; }
   [[nodiscard]] PaletteDocument& document() const;
@@ -63,8 +71,9 @@ class PaletteTab : public Tab, public GridClient {
 
  private:
   bool openContextMenu(Point screenPoint);
-  /// Updates the status bar.
+  /// Updates the status bar, and tells screen readers.
   void showEntry();
+  void announceEntry(const GridPicture& shown);
 
   WindowContext& context_;
   std::int32_t contextMenu_;
@@ -72,6 +81,9 @@ class PaletteTab : public Tab, public GridClient {
   GridWindow gridWindow_;
   TypedEntry typedEntry_;
   bool isShown_ = false;
+  // As last told to screen readers.
+  std::int32_t announcedEntry_ = kNoEntry;
+  std::vector<std::uint8_t> announcedSelection_;
 };
 
 }  // namespace quillhue

@@ -17,6 +17,7 @@
 #include "ui/services/file_dialogs.h"
 #include "ui/services/other_images.h"
 #include "ui/win32/controls.h"
+#include "ui/win32/taskbar_progress.h"
 #include "ui/win32/wait_cursor.h"
 #include "ui/window_context.h"
 
@@ -34,25 +35,30 @@ constexpr std::array kModes{RemapMode::maintain, RemapMode::nearest, RemapMode::
 /// A run, from construction to destruction.
 class UseTab::Run {
  public:
-  explicit Run(WindowFrame& frame) : frame_(frame) { frame_.beginRun(); }
+  explicit Run(const WindowContext& context) : frame_(context.frame), taskbar_(context.window) { frame_.beginRun(); }
   Run(const Run&) = delete;
   Run& operator=(const Run&) = delete;
   ~Run() { frame_.endRun(); }
 
-  [[nodiscard]] bool pumpMessages() { return frame_.pumpMessages(); }
+  /// Shows the progress and handles the window's messages. Returns false if the user has closed the window.
+  [[nodiscard]] bool goesOn(std::int32_t done, std::int32_t total) {
+    taskbar_.report(done, total);
+    return frame_.pumpMessages();
+  }
 
  private:
   WindowFrame& frame_;
+  TaskbarProgress taskbar_;
 };
 
 /// Shows finished rows and handles the window's messages.
 class UseTab::Progress final : public RemapProgress {
  public:
-  explicit Progress(UseTab& tab) : tab_(tab), run_(tab.context_.frame) {}
+  explicit Progress(UseTab& tab) : tab_(tab), run_(tab.context_) {}
 
   [[nodiscard]] bool rowsDone(std::int32_t rows, const RemappedImage& result) override {
     tab_.view_.addRows(result, rows_.progress(rows, tab_.view_.visibleRows()));
-    return run_.pumpMessages() && !tab_.stops_;
+    return run_.goesOn(rows, result.height()) && !tab_.stops_;
   }
 
  private:

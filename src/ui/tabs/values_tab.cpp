@@ -15,9 +15,7 @@
 namespace quillhue {
 
 ValuesTab::ValuesTab(WindowContext& context)
-    : PaletteTab(context, kValuesPopup),
-      editor_(context.slot, context.settings(), *this),
-      bars_(context.window, editor_, context.scale) {
+    : PaletteTab(context, kValuesPopup), editor_(context.slot, context.settings(), *this), bars_(context, editor_) {
   const HWND parent = context.window;
   constexpr EnumArray<Bar, Rect ValuesLayout::*, kBars.size()> kBoxes{
       {&ValuesLayout::leftField, &ValuesLayout::middleField, &ValuesLayout::rightField}};

@@ -10,6 +10,11 @@ namespace quillhue {
 
 namespace {
 
+// After each new text, a pause in milliseconds until the next one is painted. While a bar is dragged, the text changes
+// with every move of the pointer.
+constexpr UINT_PTR kPauseTimer = 77;
+constexpr UINT kPause = 50;
+
 std::int32_t textWidth(HDC dc, const std::wstring& text) {
   SIZE size{};
   GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
@@ -49,7 +54,23 @@ void StatusBar::setText(int part, std::string_view text) {
     SendMessageW(handle(), SB_SETTEXTW, static_cast<WPARAM>(part), reinterpret_cast<LPARAM>(wide.c_str()));
   } else if (wide != fittedText_) {
     fittedText_ = std::move(wide);
-    SendMessageW(handle(), SB_SETTEXTW, static_cast<WPARAM>(part) | SBT_OWNERDRAW, 0);
+    if (!isPausing_) {
+      repaintFitted();
+    }
+  }
+}
+
+void StatusBar::repaintFitted() {
+  paintedText_ = fittedText_;
+  SendMessageW(handle(), SB_SETTEXTW, static_cast<WPARAM>(fittedPart_) | SBT_OWNERDRAW, 0);
+  isPausing_ = SetTimer(handle(), kPauseTimer, kPause, nullptr) != 0;
+}
+
+void StatusBar::endPause() {
+  KillTimer(handle(), kPauseTimer);
+  isPausing_ = false;
+  if (paintedText_ != fittedText_) {
+    repaintFitted();
   }
 }
 
@@ -57,11 +78,11 @@ void StatusBar::draw(const DRAWITEMSTRUCT& item) const {
   constexpr std::int32_t kMargin = 2;
   RECT box = toSystem(fromSystem(item.rcItem).inset(kMargin));
   auto* const font = reinterpret_cast<HFONT>(SendMessageW(handle(), WM_GETFONT, 0, 0));
-  const Font narrow = narrowFont(item.hDC, font, fittedText_, box.right - box.left);
+  const Font narrow = narrowFont(item.hDC, font, paintedText_, box.right - box.left);
   const Selected selected(item.hDC, narrow ? narrow.get() : font);
   SetTextColor(item.hDC, GetSysColor(COLOR_BTNTEXT));
   SetBkMode(item.hDC, TRANSPARENT);
-  DrawTextW(item.hDC, fittedText_.c_str(), static_cast<int>(fittedText_.size()), &box,
+  DrawTextW(item.hDC, paintedText_.c_str(), static_cast<int>(paintedText_.size()), &box,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
 }
 
@@ -76,6 +97,10 @@ LRESULT StatusBar::answer(UINT message, WPARAM wParam, LPARAM lParam) {
     std::ranges::copy(fittedText_.c_str(), fittedText_.c_str() + fittedText_.size() + 1,
                       reinterpret_cast<wchar_t*>(lParam));
     return length;
+  }
+  if (message == WM_TIMER && wParam == kPauseTimer) {
+    endPause();
+    return 0;
   }
   return DefSubclassProc(handle(), message, wParam, lParam);
 }

@@ -23,8 +23,13 @@ class StatusBar final : public SubclassedControl {
  private:
   LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+  void repaintFitted();
+  void endPause();
+
   int fittedPart_;
   std::wstring fittedText_;
+  std::wstring paintedText_;
+  bool isPausing_ = false;
 };
 
 }  // namespace quillhue

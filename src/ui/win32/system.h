@@ -6,4 +6,6 @@
 #include <cderr.h>
 #include <commctrl.h>
 #include <commdlg.h>
+#include <oleacc.h>
 #include <shellapi.h>
+#include <shlobj.h>

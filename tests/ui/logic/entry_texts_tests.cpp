@@ -3,6 +3,7 @@
 #include "colormodes/color_models.h"
 #include "support/fakes.h"
 #include "ui/logic/entry_texts.h"
+#include "ui/logic/tip_position.h"
 #include "ui/logic/typed_entry.h"
 
 namespace quillhue {
@@ -22,6 +23,7 @@ TEST(EntryTexts, DescribeAnEntry) {
   }
   Palette preview = palette;
   preview.setEntry(1, {1, 2, 3});
+  EXPECT_EQ(entryName(palette, 1), "Entry 1, #0000FF");
   EXPECT_EQ(entryTooltip(palette, 0, "three numbers", &preview), "0: #E8B00A\nthree numbers");
   EXPECT_EQ(entryTooltip(palette, 1, numbersText(palette.entry(1)), &preview),
             "1: #0000FF\nred 0, green 0, blue 255\nPreview: #010203\nred 1, green 2, blue 3");
@@ -54,6 +56,27 @@ TEST(EntryTexts, DescribeAPixel) {
   EXPECT_EQ(pixelTooltip(result, {9, 9, 9}, {1, 1}), "1, 1: index 1, #0000FF");
   EXPECT_EQ(pixelTooltip(result, {9, 9, 9}, {2, 1}), "2, 1: index 2, #090909");
   EXPECT_EQ(pixelTooltip(result, {9, 9, 9}, {3, 1}), "");
+}
+
+TEST(EntryTexts, NameTheImage) {
+  EXPECT_EQ(imageName(std::nullopt, false), "No image");
+  EXPECT_EQ(imageName(Size{640, 1}, false), "Image, 640 by 1 pixels");
+  EXPECT_EQ(imageName(Size{640, 1}, true), "Image, 640 by 1 pixels, remapped");
+}
+
+TEST(TipPosition, IsBesideThePointerAndOnTheScreen) {
+  const Rect screen{-1000, 0, 1000, 800};
+  const struct {
+    Point pointer;
+    std::int32_t dpi;
+    Point corner;
+  } cases[] = {{{10, 10}, 96, {10, 32}},     {{10, 10}, 192, {10, 54}},       {{950, 10}, 96, {900, 32}},
+               {{10, 738}, 96, {10, 760}},   {{10, 739}, 96, {10, 695}},      {{999, 799}, 192, {900, 751}},
+               {{-990, 10}, 96, {-990, 32}}, {{-1000, 799}, 96, {-1000, 755}}};
+  for (const auto& [pointer, dpi, corner] : cases) {
+    EXPECT_EQ(tipPosition(pointer, {100, 40}, screen, Scale{dpi}), corner) << pointer.x << ' ' << pointer.y;
+  }
+  EXPECT_EQ(tipPosition({10, 10}, {3000, 40}, screen, {}).x, -1000);
 }
 
 TEST(TypedEntry, IsAnEntryOfThePalette) {

@@ -1,4 +1,4 @@
-#include "ui/win32/hover_tip.h"
+#include "ui/tabs/hover_tip.h"
 
 #include "core/utf8.h"
 #include "ui/logic/tip_position.h"
