@@ -1,9 +1,8 @@
 #include "formats/image_colors.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstddef>
-#include <numeric>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -13,7 +12,6 @@ namespace quillhue {
 
 namespace {
 
-constexpr std::size_t kColors = std::size_t{1} << 24;
 constexpr ColorWord kFourthByte = 0xFF000000;
 
 // Returns the place of a color in the order: green in the highest byte, then blue, then red.
@@ -25,20 +23,6 @@ constexpr ColorWord wordAt(std::uint32_t order) {
   return (order >> 8 & 0xFF) | (order >> 16 & 0xFF) << 8 | (order & 0xFF) << 16;
 }
 
-constexpr std::uint64_t bitOf(std::uint32_t order) { return std::uint64_t{1} << (order % 64); }
-
-// Calls `visit` with the place of each color that occurs, in ascending order, until it returns false.
-template <typename Visit>
-void forEachBit(const std::vector<std::uint64_t>& bits, Visit visit) {
-  for (std::size_t i = 0; i < bits.size(); ++i) {
-    for (std::uint64_t left = bits[i]; left != 0; left &= left - 1) {
-      if (!visit(static_cast<std::uint32_t>(i * 64 + static_cast<std::size_t>(std::countr_zero(left))))) {
-        return;
-      }
-    }
-  }
-}
-
 ColorWord wordOf(const WorkImage& image, std::int32_t y, std::size_t x) {
   const auto row = image.row(y);
   if (const auto& palette = image.palette()) {
@@ -48,7 +32,7 @@ ColorWord wordOf(const WorkImage& image, std::int32_t y, std::size_t x) {
   return row[3 * x] | static_cast<ColorWord>(row[3 * x + 1]) << 8 | static_cast<ColorWord>(row[3 * x + 2]) << 16;
 }
 
-// The pixels of a row that are not transparent.
+// Replaces `words` by the pixels of a row that are not transparent.
 void readWords(const WorkImage& image, std::int32_t y, std::vector<ColorWord>& words) {
   words.clear();
   for (std::size_t x = 0; x < static_cast<std::size_t>(image.width()); ++x) {
@@ -74,7 +58,7 @@ ImageColors::ImageColors(const WorkImage& image)
         }
       }) {}
 
-ImageColors::ImageColors(ForEachBlock forEachBlock) : forEachBlock_(std::move(forEachBlock)), occurring_(kColors / 64) {
+ImageColors::ImageColors(ForEachBlock forEachBlock) : forEachBlock_(std::move(forEachBlock)) {
   std::optional<ColorWord> first;
   ColorWord differing = 0;
   forEachBlock_([&](std::span<const ColorWord> words) {
@@ -82,8 +66,7 @@ ImageColors::ImageColors(ForEachBlock forEachBlock) : forEachBlock_(std::move(fo
     first = reference;
     pixelCount_ += words.size();
     for (const ColorWord word : words) {
-      const std::uint32_t order = orderOf(word);
-      occurring_[order / 64] |= bitOf(order);
+      occurring_.insert(orderOf(word));
       differing |= word ^ reference;
     }
   });
@@ -93,16 +76,14 @@ ImageColors::ImageColors(ForEachBlock forEachBlock) : forEachBlock_(std::move(fo
     auto pixels = sortedPixels();
     distinctCount_ = static_cast<std::uint64_t>(std::unique(pixels.begin(), pixels.end()) - pixels.begin());
   } else {
-    for (const std::uint64_t bits : occurring_) {
-      distinctCount_ += static_cast<std::uint64_t>(std::popcount(bits));
-    }
+    distinctCount_ = occurring_.size();
   }
 }
 
 Palette ImageColors::exactPalette(std::int32_t size, PaletteEntry blank) const {
   Palette palette = createPalette(size, blank);
   std::int32_t filled = 0;
-  forEachBit(occurring_, [&](std::uint32_t order) {
+  occurring_.forEach([&](std::uint32_t order) {
     palette.setEntry(filled++, colorOf(wordAt(order)));
     return filled < palette.getSize();
   });
@@ -136,7 +117,7 @@ void ImageColors::forEachColor(const VisitColor& visit) const {
   }
   const auto counts = pixelsOfEachColor();
   auto count = counts.begin();
-  forEachBit(occurring_, [&](std::uint32_t order) {
+  occurring_.forEach([&](std::uint32_t order) {
     visit(wordAt(order) | fourthByte_, *count++);
     return true;
   });
@@ -156,17 +137,12 @@ std::vector<std::uint32_t> ImageColors::sortedPixels() const {
 
 // Returns the number of pixels of each color that occurs, in order.
 std::vector<std::uint32_t> ImageColors::pixelsOfEachColor() const {
-  // How many colors occur before each word of bits.
-  std::vector<std::uint32_t> before(occurring_.size());
-  std::transform_exclusive_scan(occurring_.begin(), occurring_.end(), before.begin(), std::uint32_t{0}, std::plus(),
-                                [](std::uint64_t bits) { return static_cast<std::uint32_t>(std::popcount(bits)); });
+  const ColorSet::Ranks ranks(occurring_);
   // One more than needed, in case the file gained a color after the first pass.
   std::vector<std::uint32_t> counts(static_cast<std::size_t>(distinctCount_) + 1);
   forEachBlock_([&](std::span<const ColorWord> words) {
     for (const ColorWord word : words) {
-      const std::uint32_t order = orderOf(word);
-      const std::uint64_t lower = occurring_[order / 64] & (bitOf(order) - 1);
-      ++counts[before[order / 64] + static_cast<std::uint32_t>(std::popcount(lower))];
+      ++counts[ranks.of(orderOf(word))];
     }
   });
   return counts;

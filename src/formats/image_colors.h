@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/palette.h"
+#include "formats/color_set.h"
 #include "formats/true_color_bitmap.h"
 #include "formats/work_image.h"
 
@@ -14,7 +15,7 @@ namespace quillhue {
 /// The distinct colors of a true-color image, and the palettes that can be made from them. Colors are ordered by green,
 /// then blue, then red.
 ///
-/// A table with one bit a color records which colors occur. Counting and exact palettes therefore keep no pixels in
+/// A set with one bit a color records which colors occur. Counting and exact palettes therefore keep no pixels in
 /// memory; the constructor reads the image once. A reduced palette reads the image again and keeps the pixels that it
 /// uses, four bytes each. The fourth byte of a pixel counts as part of its color; if not all fourth bytes are the same,
 /// all pixels are sorted in memory. Every operation may throw std::bad_alloc.
@@ -45,8 +46,8 @@ class ImageColors {
   // Passes all pixels to the visitor, block by block.
   ForEachBlock forEachBlock_;
   std::uint64_t pixelCount_ = 0;
-  // One bit for each of the 2^24 colors, at the color's place in the order.
-  std::vector<std::uint64_t> occurring_;
+  // The places of all colors in the order.
+  ColorSet occurring_;
   std::uint64_t distinctCount_ = 0;
   // The fourth byte that all pixels share, at its place in the word.
   ColorWord fourthByte_ = 0;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <random>
 
 #include "support/literal_remap.h"
 #include "support/stopping_progress.h"
@@ -16,23 +15,18 @@ std::uint8_t atBorder(CaseBytes& bytes) {
   return static_cast<std::uint8_t>(std::clamp(16 * bytes.upTo(16) + bytes.upTo(2) - 1, 0, 255));
 }
 
-template <typename Items>
-auto anyOf(const Items& items, CaseBytes& bytes) {
-  return items[bytes.next() % std::size(items)];
-}
-
 RemapOptions optionsFrom(CaseBytes& bytes) {
   constexpr std::array kModes{RemapMode::dither, RemapMode::dither, RemapMode::nearest, RemapMode::maintain};
   // Sides out of range count as the nearest ones inside.
   constexpr std::array kSides{1, 2, 3, 4, 5, 7, 64, 1000, 5000, -5, 0};
   RemapOptions options;
-  options.mode = anyOf(kModes, bytes);
+  options.mode = bytes.anyOf(kModes);
   if (bytes.upTo(2) == 0) {
     options.protectedEntry = bytes.upTo(40) - 1;
   }
   if (bytes.upTo(2) == 0) {
-    const std::int32_t width = anyOf(kSides, bytes);
-    options.protectGrid = {width, anyOf(kSides, bytes)};
+    const std::int32_t width = bytes.anyOf(kSides);
+    options.protectGrid = {width, bytes.anyOf(kSides)};
   }
   return options;
 }
@@ -41,12 +35,12 @@ RemapOptions optionsFrom(CaseBytes& bytes) {
 WorkImage imageFrom(const Palette& palette, CaseBytes& bytes) {
   constexpr std::int32_t kMostPixels = 4096;
   constexpr std::array kSides{1, 2, 3, 4, 5, 6, 17, 18, 21, 29, 40, 70, 1010};
-  const std::int32_t width = anyOf(kSides, bytes);
-  const std::int32_t height = std::min(anyOf(kSides, bytes), kMostPixels / width);
+  const std::int32_t width = bytes.anyOf(kSides);
+  const std::int32_t height = std::min(bytes.anyOf(kSides), kMostPixels / width);
   const std::size_t run = bytes.upTo(3) != 0 ? 1U + bytes.upTo(3) : 60U * (1U + bytes.next());
   const std::size_t kind = bytes.upTo(12);
   if (kind > 10) {
-    WorkImage image(width, height, paletteOf(kind == 11 ? 16 : 256, anyOf(colorKinds(), bytes), bytes));
+    WorkImage image(width, height, paletteOf(kind == 11 ? 16 : 256, bytes.anyOf(colorKinds()), bytes));
     std::ranges::generate(image.pixels(), [&] { return bytes.upTo(image.palette()->getSize() - 1); });
     return image;
   }
@@ -59,17 +53,6 @@ WorkImage imageFrom(const Palette& palette, CaseBytes& bytes) {
 }
 
 }  // namespace
-
-CaseBytes::CaseBytes(std::size_t count, std::uint32_t seed) : bytes_(count) {
-  std::minstd_rand random(seed);
-  std::ranges::generate(bytes_, [&] { return static_cast<std::uint8_t>(random() >> 8); });
-}
-
-PaletteEntry CaseBytes::colorUpTo(int limit) {
-  const std::uint8_t red = upTo(limit);
-  const std::uint8_t green = upTo(limit);
-  return {red, green, upTo(limit)};
-}
 
 MakeColor always(PaletteEntry color) {
   return [color](CaseBytes& /*bytes*/) { return color; };
@@ -149,8 +132,8 @@ std::string differenceOf(Remapper& remapper, const WorkImage& image, const Palet
 
 std::string differenceOf(CaseBytes& bytes) {
   constexpr std::array kSizes{1, 2, 3, 16, 17, 24, 25, 50, 100, 216, 255, 256, 300, 1024};
-  const std::int32_t size = anyOf(kSizes, bytes);
-  const Palette palette = paletteOf(size, anyOf(colorKinds(), bytes), bytes);
+  const std::int32_t size = bytes.anyOf(kSizes);
+  const Palette palette = paletteOf(size, bytes.anyOf(colorKinds()), bytes);
   Remapper remapper(palette);
   std::string difference;
   // What the remapper learned from one image serves the next.

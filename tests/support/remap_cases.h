@@ -7,26 +7,9 @@
 #include <vector>
 
 #include "remap/remap.h"
+#include "support/case_bytes.h"
 
 namespace quillhue {
-
-/// The bytes that a case is made of, in order, followed by zeros.
-class CaseBytes {
- public:
-  explicit CaseBytes(std::vector<std::uint8_t> bytes) : bytes_(std::move(bytes)) {}
-  /// As many random bytes, the same for the same seed.
-  CaseBytes(std::size_t count, std::uint32_t seed);
-
-  std::uint8_t next() { return place_ < bytes_.size() ? bytes_[place_++] : 0; }
-  /// A number from 0 to `limit`, at most 255.
-  std::uint8_t upTo(int limit) { return static_cast<std::uint8_t>(next() % (limit + 1)); }
-  PaletteEntry colorUpTo(int limit);
-  [[nodiscard]] std::size_t left() const { return bytes_.size() - place_; }
-
- private:
-  std::vector<std::uint8_t> bytes_;
-  std::size_t place_ = 0;
-};
 
 using MakeColor = std::function<PaletteEntry(CaseBytes& bytes)>;
 MakeColor always(PaletteEntry color);
