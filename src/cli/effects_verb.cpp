@@ -37,8 +37,14 @@ void showText(Console& console) {
 }  // namespace
 
 void addEffectsVerb(CommandLine& tool, Console& console, ExitStatus& /*status*/) {
-  addListVerb(tool, console, "effects", "List the effects: name, values, default",
-              "Write JSON, one object a line for each effect (null: the palette's size)", showText, showJson);
+  addListVerb(tool, console,
+              {
+                  .name = "effects",
+                  .help = "List the effects: name, values, default",
+                  .jsonHelp = "Write JSON, one object a line for each effect (null: the palette's size)",
+                  .showText = showText,
+                  .showJson = showJson,
+              });
 }
 
 }  // namespace quillhue::cli

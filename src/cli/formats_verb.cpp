@@ -67,8 +67,14 @@ void showText(Console& console) {
 }  // namespace
 
 void addFormatsVerb(CommandLine& tool, Console& console, ExitStatus& /*status*/) {
-  addListVerb(tool, console, "formats", "List the formats that can be written and read", "Write JSON", showText,
-              showJson);
+  addListVerb(tool, console,
+              {
+                  .name = "formats",
+                  .help = "List the formats that can be written and read",
+                  .jsonHelp = "Write JSON",
+                  .showText = showText,
+                  .showJson = showJson,
+              });
 }
 
 }  // namespace quillhue::cli

@@ -4,12 +4,13 @@
 
 namespace quillhue::cli {
 
-void addListVerb(CommandLine& tool, Console& console, const std::string& name, const std::string& help,
-                 const std::string& jsonHelp, void (*showText)(Console& console), void (*showJson)(Console& console)) {
-  Verb verb = tool.addVerb(name, help);
+void addListVerb(CommandLine& tool, Console& console, const ListVerb& list) {
+  Verb verb = tool.addVerb(list.name, list.help);
   const auto json = std::make_shared<bool>(false);
-  verb.addFlag("--json", *json, jsonHelp);
-  verb.onRun([json, showText, showJson, &console] { *json ? showJson(console) : showText(console); });
+  verb.addFlag("--json", *json, list.jsonHelp);
+  verb.onRun([json, showText = list.showText, showJson = list.showJson, &console] {
+    *json ? showJson(console) : showText(console);
+  });
 }
 
 }  // namespace quillhue::cli

@@ -7,8 +7,15 @@
 
 namespace quillhue::cli {
 
-/// Adds a verb that prints a list, as text or with --json as JSON. `jsonHelp` is the help text of --json.
-void addListVerb(CommandLine& tool, Console& console, const std::string& name, const std::string& help,
-                 const std::string& jsonHelp, void (*showText)(Console& console), void (*showJson)(Console& console));
+/// A verb that prints a list, as text or with --json as JSON.
+struct ListVerb {
+  std::string name;
+  std::string help;
+  /// Help text of --json.
+  std::string jsonHelp;
+  void (*showText)(Console& console) = nullptr;
+  void (*showJson)(Console& console) = nullptr;
+};
+void addListVerb(CommandLine& tool, Console& console, const ListVerb& list);
 
 }  // namespace quillhue::cli

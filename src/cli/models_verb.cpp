@@ -45,8 +45,14 @@ void showText(Console& console) {
 }  // namespace
 
 void addModelsVerb(CommandLine& tool, Console& console, ExitStatus& /*status*/) {
-  addListVerb(tool, console, "models", "List the color models: left, middle and right channel",
-              "Write JSON, one object a line for each model", showText, showJson);
+  addListVerb(tool, console,
+              {
+                  .name = "models",
+                  .help = "List the color models: left, middle and right channel",
+                  .jsonHelp = "Write JSON, one object a line for each model",
+                  .showText = showText,
+                  .showJson = showJson,
+              });
 }
 
 }  // namespace quillhue::cli

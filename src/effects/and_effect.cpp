@@ -17,7 +17,13 @@ class andEffect final : public ChannelEffect {
 
 }  // namespace
 
-constinit const EffectDescription kAndEffect{"and",    "Binary AND", "mask ANDed into each channel",
-                                             {0, 255}, 255,          makeEffect<andEffect>};
+constinit const EffectDescription kAndEffect{
+    .name = "and",
+    .label = "Binary AND",
+    .meaning = "mask ANDed into each channel",
+    .range = {0, 255},
+    .defaultValue = 255,
+    .create = makeEffect<andEffect>,
+};
 
 }  // namespace quillhue

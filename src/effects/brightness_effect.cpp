@@ -18,6 +18,12 @@ class brightnessEffect final : public ChannelEffect {
 }  // namespace
 
 constinit const EffectDescription kBrightnessEffect{
-    "brightness", "Brightness", "amount added to each channel", {-255, 255}, 0, makeEffect<brightnessEffect>};
+    .name = "brightness",
+    .label = "Brightness",
+    .meaning = "amount added to each channel",
+    .range = {-255, 255},
+    .defaultValue = 0,
+    .create = makeEffect<brightnessEffect>,
+};
 
 }  // namespace quillhue

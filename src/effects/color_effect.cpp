@@ -19,6 +19,12 @@ class colorEffect final : public ChannelEffect {
 }  // namespace
 
 constinit const EffectDescription kColorEffect{
-    "color", "Color", "saturation in percent (0 = grey, 100 = unchanged)", {-100, 200}, 100, makeEffect<colorEffect>};
+    .name = "color",
+    .label = "Color",
+    .meaning = "saturation in percent (0 = grey, 100 = unchanged)",
+    .range = {-100, 200},
+    .defaultValue = 100,
+    .create = makeEffect<colorEffect>,
+};
 
 }  // namespace quillhue

@@ -20,7 +20,13 @@ class contrastEffect final : public ChannelEffect {
 
 }  // namespace
 
-constinit const EffectDescription kContrastEffect{"contrast",  "Contrast", "contrast in percent around 127",
-                                                  {-100, 200}, 100,        makeEffect<contrastEffect>};
+constinit const EffectDescription kContrastEffect{
+    .name = "contrast",
+    .label = "Contrast",
+    .meaning = "contrast in percent around 127",
+    .range = {-100, 200},
+    .defaultValue = 100,
+    .create = makeEffect<contrastEffect>,
+};
 
 }  // namespace quillhue

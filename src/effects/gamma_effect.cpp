@@ -19,7 +19,13 @@ class gammaEffect final : public ChannelEffect {
 
 }  // namespace
 
-constinit const EffectDescription kGammaEffect{"gamma",   "Gamma", "exponent x 100",
-                                               {1, 1000}, 100,     makeEffect<gammaEffect>};
+constinit const EffectDescription kGammaEffect{
+    .name = "gamma",
+    .label = "Gamma",
+    .meaning = "exponent x 100",
+    .range = {1, 1000},
+    .defaultValue = 100,
+    .create = makeEffect<gammaEffect>,
+};
 
 }  // namespace quillhue

@@ -19,7 +19,13 @@ class maxEffect final : public ChannelEffect {
 
 }  // namespace
 
-constinit const EffectDescription kMaxEffect{"maximum", "Maximum", "largest value a channel may keep",
-                                             {0, 255},  255,       makeEffect<maxEffect>};
+constinit const EffectDescription kMaxEffect{
+    .name = "maximum",
+    .label = "Maximum",
+    .meaning = "largest value a channel may keep",
+    .range = {0, 255},
+    .defaultValue = 255,
+    .create = makeEffect<maxEffect>,
+};
 
 }  // namespace quillhue

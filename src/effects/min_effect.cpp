@@ -19,7 +19,13 @@ class minEffect final : public ChannelEffect {
 
 }  // namespace
 
-constinit const EffectDescription kMinEffect{"minimum", "Minimum", "smallest value a channel may keep",
-                                             {0, 255},  0,         makeEffect<minEffect>};
+constinit const EffectDescription kMinEffect{
+    .name = "minimum",
+    .label = "Minimum",
+    .meaning = "smallest value a channel may keep",
+    .range = {0, 255},
+    .defaultValue = 0,
+    .create = makeEffect<minEffect>,
+};
 
 }  // namespace quillhue

@@ -17,11 +17,13 @@ class multBrightnessEffect final : public ChannelEffect {
 
 }  // namespace
 
-constinit const EffectDescription kMultBrightnessEffect{"brightness-percent",
-                                                        "Brightness (%)",
-                                                        "percentage each channel is scaled by",
-                                                        {-100, 200},
-                                                        100,
-                                                        makeEffect<multBrightnessEffect>};
+constinit const EffectDescription kMultBrightnessEffect{
+    .name = "brightness-percent",
+    .label = "Brightness (%)",
+    .meaning = "percentage each channel is scaled by",
+    .range = {-100, 200},
+    .defaultValue = 100,
+    .create = makeEffect<multBrightnessEffect>,
+};
 
 }  // namespace quillhue

@@ -27,7 +27,13 @@ class negativeEffect final : public ChannelEffect {
 }  // namespace
 
 // kept on purpose: the default changes nothing; 0 is the plain negative.
-constinit const EffectDescription kNegativeEffect{"negative", "Negative", "inversion threshold",
-                                                  {0, 255},   255,        makeEffect<negativeEffect>};
+constinit const EffectDescription kNegativeEffect{
+    .name = "negative",
+    .label = "Negative",
+    .meaning = "inversion threshold",
+    .range = {0, 255},
+    .defaultValue = 255,
+    .create = makeEffect<negativeEffect>,
+};
 
 }  // namespace quillhue

@@ -17,7 +17,13 @@ class orEffect final : public ChannelEffect {
 
 }  // namespace
 
-constinit const EffectDescription kOrEffect{"or",     "Binary OR", "mask ORed into each channel",
-                                            {0, 255}, 0,           makeEffect<orEffect>};
+constinit const EffectDescription kOrEffect{
+    .name = "or",
+    .label = "Binary OR",
+    .meaning = "mask ORed into each channel",
+    .range = {0, 255},
+    .defaultValue = 0,
+    .create = makeEffect<orEffect>,
+};
 
 }  // namespace quillhue

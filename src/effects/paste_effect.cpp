@@ -30,13 +30,15 @@ class pasteEffect final : public Effect {
 
 }  // namespace
 
-constinit const EffectDescription kPasteEffect{"paste",
-                                               "Translucent paste",
-                                               "weight in percent of the clipboard palette",
-                                               {0, 100},
-                                               0,
-                                               makeEffect<pasteEffect>,
-                                               false,
-                                               true};
+constinit const EffectDescription kPasteEffect{
+    .name = "paste",
+    .label = "Translucent paste",
+    .meaning = "weight in percent of the clipboard palette",
+    .range = {0, 100},
+    .defaultValue = 0,
+    .create = makeEffect<pasteEffect>,
+    .followsPaletteSize = false,
+    .readsClipboard = true,
+};
 
 }  // namespace quillhue

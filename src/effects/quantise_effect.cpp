@@ -17,7 +17,13 @@ class quantiseEffect final : public ChannelEffect {
 
 }  // namespace
 
-constinit const EffectDescription kQuantiseEffect{"quantise", "Quantise", "number of levels per channel",
-                                                  {2, 256},   256,        makeEffect<quantiseEffect>};
+constinit const EffectDescription kQuantiseEffect{
+    .name = "quantise",
+    .label = "Quantise",
+    .meaning = "number of levels per channel",
+    .range = {2, 256},
+    .defaultValue = 256,
+    .create = makeEffect<quantiseEffect>,
+};
 
 }  // namespace quillhue

@@ -26,6 +26,13 @@ class rotateEffect final : public Effect {
 }  // namespace
 
 constinit const EffectDescription kRotateEffect{
-    "rotate", "Rotate", "places to move colors along the selection", {}, 0, makeEffect<rotateEffect>, true};
+    .name = "rotate",
+    .label = "Rotate",
+    .meaning = "places to move colors along the selection",
+    .range = {},
+    .defaultValue = 0,
+    .create = makeEffect<rotateEffect>,
+    .followsPaletteSize = true,
+};
 
 }  // namespace quillhue

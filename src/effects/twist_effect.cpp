@@ -25,7 +25,13 @@ class twistEffect final : public ChannelEffect {
 
 }  // namespace
 
-constinit const EffectDescription kTwistEffect{"twist",   "Twist", "curve exponent x 100",
-                                               {1, 1000}, 100,     makeEffect<twistEffect>};
+constinit const EffectDescription kTwistEffect{
+    .name = "twist",
+    .label = "Twist",
+    .meaning = "curve exponent x 100",
+    .range = {1, 1000},
+    .defaultValue = 100,
+    .create = makeEffect<twistEffect>,
+};
 
 }  // namespace quillhue

@@ -17,7 +17,13 @@ class xorEffect final : public ChannelEffect {
 
 }  // namespace
 
-constinit const EffectDescription kXorEffect{"xor", "Binary XOR",         "mask XORed into each channel", {0, 255},
-                                             0,     makeEffect<xorEffect>};
+constinit const EffectDescription kXorEffect{
+    .name = "xor",
+    .label = "Binary XOR",
+    .meaning = "mask XORed into each channel",
+    .range = {0, 255},
+    .defaultValue = 0,
+    .create = makeEffect<xorEffect>,
+};
 
 }  // namespace quillhue

@@ -20,6 +20,12 @@ void compose(const Palette& palette, std::string_view /*name*/, ByteSink& sink) 
 
 }  // namespace
 
-constinit const ExportFormat kAcoExport{"aco", "Photoshop swatches (*.aco)", "aco", true, compose};
+constinit const ExportFormat kAcoExport{
+    .name = "aco",
+    .title = "Photoshop swatches (*.aco)",
+    .extension = "aco",
+    .ownsExtension = true,
+    .compose = compose,
+};
 
 }  // namespace quillhue

@@ -42,6 +42,12 @@ void compose(const Palette& palette, std::string_view /*name*/, ByteSink& sink) 
 
 }  // namespace
 
-constinit const ExportFormat kAseExport{"ase", "Swatch Exchange (*.ase)", "ase", true, compose};
+constinit const ExportFormat kAseExport{
+    .name = "ase",
+    .title = "Swatch Exchange (*.ase)",
+    .extension = "ase",
+    .ownsExtension = true,
+    .compose = compose,
+};
 
 }  // namespace quillhue

@@ -31,6 +31,12 @@ void compose(const Palette& palette, std::string_view name, ByteSink& sink) {
 
 }  // namespace
 
-constinit const ExportFormat kCExport{"c", "C array (*.c)", "c", true, compose};
+constinit const ExportFormat kCExport{
+    .name = "c",
+    .title = "C array (*.c)",
+    .extension = "c",
+    .ownsExtension = true,
+    .compose = compose,
+};
 
 }  // namespace quillhue

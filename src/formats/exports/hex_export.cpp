@@ -13,6 +13,12 @@ void compose(const Palette& palette, std::string_view /*name*/, ByteSink& sink) 
 
 }  // namespace
 
-constinit const ExportFormat kHexExport{"hex", "Hex list (*.hex)", "hex", true, compose};
+constinit const ExportFormat kHexExport{
+    .name = "hex",
+    .title = "Hex list (*.hex)",
+    .extension = "hex",
+    .ownsExtension = true,
+    .compose = compose,
+};
 
 }  // namespace quillhue

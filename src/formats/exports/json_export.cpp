@@ -14,6 +14,12 @@ void compose(const Palette& palette, std::string_view /*name*/, ByteSink& sink) 
 
 }  // namespace
 
-constinit const ExportFormat kJsonExport{"json", "JSON list of \"#rrggbb\" (*.json)", "json", true, compose};
+constinit const ExportFormat kJsonExport{
+    .name = "json",
+    .title = "JSON list of \"#rrggbb\" (*.json)",
+    .extension = "json",
+    .ownsExtension = true,
+    .compose = compose,
+};
 
 }  // namespace quillhue

@@ -14,6 +14,12 @@ void compose(const Palette& palette, std::string_view /*name*/, ByteSink& sink) 
 
 }  // namespace
 
-constinit const ExportFormat kPaintNetExport{"paint-net", "Paint.NET palette (*.txt)", "txt", false, compose};
+constinit const ExportFormat kPaintNetExport{
+    .name = "paint-net",
+    .title = "Paint.NET palette (*.txt)",
+    .extension = "txt",
+    .ownsExtension = false,
+    .compose = compose,
+};
 
 }  // namespace quillhue

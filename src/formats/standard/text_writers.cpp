@@ -24,7 +24,19 @@ void composeGimp(const Palette& palette, std::string_view name, ByteSink& sink) 
 
 }  // namespace
 
-constinit const ExportFormat kStandardJascWriter{"jasc", "JASC palette (*.pal)", "pal", false, composeJasc};
-constinit const ExportFormat kStandardGimpWriter{"gimp", "GIMP palette (*.gpl)", "gpl", true, composeGimp};
+constinit const ExportFormat kStandardJascWriter{
+    .name = "jasc",
+    .title = "JASC palette (*.pal)",
+    .extension = "pal",
+    .ownsExtension = false,
+    .compose = composeJasc,
+};
+constinit const ExportFormat kStandardGimpWriter{
+    .name = "gimp",
+    .title = "GIMP palette (*.gpl)",
+    .extension = "gpl",
+    .ownsExtension = true,
+    .compose = composeGimp,
+};
 
 }  // namespace quillhue

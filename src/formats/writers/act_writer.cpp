@@ -17,6 +17,15 @@ void compose(const Palette& palette, PaletteEntry blank, ByteSink& sink) {
 }  // namespace
 
 constinit const PaletteWriter kActWriter{
-    palette_format::kAdobeColorTable, "act", "Adobe Color Table (*.act)", "*.act", "act", true, true, 256, compose};
+    .format = palette_format::kAdobeColorTable,
+    .name = "act",
+    .fileType = "Adobe Color Table (*.act)",
+    .pattern = "*.act",
+    .extension = "act",
+    .appendsExtension = true,
+    .ownsExtension = true,
+    .maxSize = 256,
+    .compose = compose,
+};
 
 }  // namespace quillhue

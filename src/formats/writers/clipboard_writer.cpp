@@ -18,20 +18,22 @@ void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
   sink.text(16, "Pal&ette");
   sink.u16le(kData, 0x0300);
   sink.u16le(kData + 2, static_cast<std::uint16_t>(size));
-  composeQuads(palette, size, {}, 1, kData + 4, sink);
+  composeQuads(palette, {.offset = kData + 4, .count = size, .fourth = 1}, sink);
   sink.extend(sink.size() + 4);
 }
 
 }  // namespace
 
-constinit const PaletteWriter kClipboardWriter{palette_format::kWindowsClipboard,
-                                               "clp",
-                                               "Windows Clipboard File (*.clp)",
-                                               "*.clp",
-                                               "clp",
-                                               true,
-                                               true,
-                                               kAnySize,
-                                               compose};
+constinit const PaletteWriter kClipboardWriter{
+    .format = palette_format::kWindowsClipboard,
+    .name = "clp",
+    .fileType = "Windows Clipboard File (*.clp)",
+    .pattern = "*.clp",
+    .extension = "clp",
+    .appendsExtension = true,
+    .ownsExtension = true,
+    .maxSize = kAnySize,
+    .compose = compose,
+};
 
 }  // namespace quillhue

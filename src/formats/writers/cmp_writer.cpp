@@ -19,6 +19,15 @@ void compose(const Palette& palette, PaletteEntry blank, ByteSink& sink) {
 }  // namespace
 
 constinit const PaletteWriter kCmpWriter{
-    palette_format::kCmp, "cmp", "CMP Palette (*.cmp)", "*.cmp", "cmp", true, true, 256, compose};
+    .format = palette_format::kCmp,
+    .name = "cmp",
+    .fileType = "CMP Palette (*.cmp)",
+    .pattern = "*.cmp",
+    .extension = "cmp",
+    .appendsExtension = true,
+    .ownsExtension = true,
+    .maxSize = 256,
+    .compose = compose,
+};
 
 }  // namespace quillhue

@@ -6,7 +6,7 @@ namespace {
 
 void compose(const Palette& palette, PaletteEntry blank, ByteSink& sink) {
   sink.bytes(0, {0, 3, 0, 1});
-  composeQuads(palette, palette.getSize() <= 16 ? 16 : 256, blank, 0, 4, sink);
+  composeQuads(palette, {.offset = 4, .count = palette.getSize() <= 16 ? 16 : 256, .blank = blank}, sink);
   // kept on purpose: every file is as long as the large table, so a palette of 16 entries opens again with 256.
   sink.extend(1032);
 }
@@ -14,6 +14,15 @@ void compose(const Palette& palette, PaletteEntry blank, ByteSink& sink) {
 }  // namespace
 
 constinit const PaletteWriter kColorTableWriter{
-    palette_format::kColorTable, "color-table", "Color Table (*.pal)", "*.pal", "pal", true, false, 256, compose};
+    .format = palette_format::kColorTable,
+    .name = "color-table",
+    .fileType = "Color Table (*.pal)",
+    .pattern = "*.pal",
+    .extension = "pal",
+    .appendsExtension = true,
+    .ownsExtension = false,
+    .maxSize = 256,
+    .compose = compose,
+};
 
 }  // namespace quillhue

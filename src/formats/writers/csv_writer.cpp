@@ -11,6 +11,15 @@ void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
 }  // namespace
 
 constinit const PaletteWriter kCsvWriter{
-    palette_format::kCsv, "csv", "Comma-separated values (*.csv)", "*.csv", "csv", true, true, 256, compose};
+    .format = palette_format::kCsv,
+    .name = "csv",
+    .fileType = "Comma-separated values (*.csv)",
+    .pattern = "*.csv",
+    .extension = "csv",
+    .appendsExtension = true,
+    .ownsExtension = true,
+    .maxSize = 256,
+    .compose = compose,
+};
 
 }  // namespace quillhue

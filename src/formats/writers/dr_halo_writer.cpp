@@ -19,6 +19,15 @@ void compose(const Palette& palette, PaletteEntry blank, ByteSink& sink) {
 }  // namespace
 
 constinit const PaletteWriter kDrHaloWriter{
-    palette_format::kDrHalo, "dr-halo", "Dr. Halo Palette (*.pal)", "*.pal", "pal", true, false, 256, compose};
+    .format = palette_format::kDrHalo,
+    .name = "dr-halo",
+    .fileType = "Dr. Halo Palette (*.pal)",
+    .pattern = "*.pal",
+    .extension = "pal",
+    .appendsExtension = true,
+    .ownsExtension = false,
+    .maxSize = 256,
+    .compose = compose,
+};
 
 }  // namespace quillhue

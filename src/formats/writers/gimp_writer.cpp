@@ -12,6 +12,15 @@ void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
 }  // namespace
 
 constinit const PaletteWriter kGimpWriter{
-    palette_format::kGimp, "gimp", "Gimp Palette", "*", "gpl", false, true, kAnySize, compose};
+    .format = palette_format::kGimp,
+    .name = "gimp",
+    .fileType = "Gimp Palette",
+    .pattern = "*",
+    .extension = "gpl",
+    .appendsExtension = false,
+    .ownsExtension = true,
+    .maxSize = kAnySize,
+    .compose = compose,
+};
 
 }  // namespace quillhue

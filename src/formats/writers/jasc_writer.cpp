@@ -16,6 +16,15 @@ void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
 }  // namespace
 
 constinit const PaletteWriter kJascWriter{
-    palette_format::kJasc, "jasc", "JASC Palette (*.pal)", "*.pal", "pal", true, false, 256, compose};
+    .format = palette_format::kJasc,
+    .name = "jasc",
+    .fileType = "JASC Palette (*.pal)",
+    .pattern = "*.pal",
+    .extension = "pal",
+    .appendsExtension = true,
+    .ownsExtension = false,
+    .maxSize = 256,
+    .compose = compose,
+};
 
 }  // namespace quillhue

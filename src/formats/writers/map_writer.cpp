@@ -11,6 +11,15 @@ void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
 }  // namespace
 
 constinit const PaletteWriter kMapWriter{
-    palette_format::kMap, "map", "MAP Palette (*.map)", "*.map", "map", true, true, 256, compose};
+    .format = palette_format::kMap,
+    .name = "map",
+    .fileType = "MAP Palette (*.map)",
+    .pattern = "*.map",
+    .extension = "map",
+    .appendsExtension = true,
+    .ownsExtension = true,
+    .maxSize = 256,
+    .compose = compose,
+};
 
 }  // namespace quillhue

@@ -11,12 +11,21 @@ void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
   sink.extend(kHeaderLength);
   // Black is implied: a black first entry overlaps the header's last four zeros, and readers add it again.
   const std::size_t firstRecord = palette.entry(0) == PaletteEntry{} ? kHeaderLength - 4 : kHeaderLength;
-  composeQuads(palette, palette.getSize(), {}, 0, firstRecord, sink);
+  composeQuads(palette, {.offset = firstRecord, .count = palette.getSize()}, sink);
 }
 
 }  // namespace
 
 constinit const PaletteWriter kMsDrawWriter{
-    palette_format::kMsDraw, "ms-draw", "MS Draw Palette (*.pal)", "*.pal", "pal", true, false, 101, compose};
+    .format = palette_format::kMsDraw,
+    .name = "ms-draw",
+    .fileType = "MS Draw Palette (*.pal)",
+    .pattern = "*.pal",
+    .extension = "pal",
+    .appendsExtension = true,
+    .ownsExtension = false,
+    .maxSize = 101,
+    .compose = compose,
+};
 
 }  // namespace quillhue

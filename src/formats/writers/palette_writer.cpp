@@ -15,11 +15,11 @@ void composeNumberLines(const Palette& palette, char separator, std::string_view
   }
 }
 
-void composeQuads(const Palette& palette, std::int32_t count, PaletteEntry blank, std::uint8_t fourth,
-                  std::size_t offset, ByteSink& sink) {
-  for (std::int32_t i = 0; i < count; ++i, offset += 4) {
-    sink.rgb(offset, entryOr(palette, i, blank));
-    sink.u8(offset + 3, fourth);
+void composeQuads(const Palette& palette, const QuadTable& table, ByteSink& sink) {
+  std::size_t offset = table.offset;
+  for (std::int32_t i = 0; i < table.count; ++i, offset += 4) {
+    sink.rgb(offset, entryOr(palette, i, table.blank));
+    sink.u8(offset + 3, table.fourth);
   }
 }
 

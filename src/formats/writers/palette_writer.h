@@ -42,9 +42,15 @@ struct PaletteWriter {
 /// Appends one line of three decimal numbers for each entry.
 void composeNumberLines(const Palette& palette, char separator, std::string_view lineEnd, ByteSink& sink);
 
-/// Writes `count` records of red, green, blue and `fourth`, with `blank` past the palette's end.
-void composeQuads(const Palette& palette, std::int32_t count, PaletteEntry blank, std::uint8_t fourth,
-                  std::size_t offset, ByteSink& sink);
+/// A table of `count` records from `offset` on, each of red, green, blue and `fourth`. Records past the palette's end
+/// are `blank`.
+struct QuadTable {
+  std::size_t offset = 0;
+  std::int32_t count = 0;
+  PaletteEntry blank{};
+  std::uint8_t fourth = 0;
+};
+void composeQuads(const Palette& palette, const QuadTable& table, ByteSink& sink);
 /// Writes `count` records of red, green and blue, with `blank` past the palette's end.
 void composeTriples(const Palette& palette, std::int32_t count, PaletteEntry blank, std::size_t offset, ByteSink& sink);
 

@@ -14,13 +14,22 @@ void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
   sink.u32le(16, entryBytes + 8);
   sink.u16le(20, 0x0300);
   sink.u16le(22, static_cast<std::uint16_t>(size));
-  composeQuads(palette, size, {}, 0, 24, sink);
+  composeQuads(palette, {.offset = 24, .count = size}, sink);
   sink.extend(sink.size() + 5);
 }
 
 }  // namespace
 
 constinit const PaletteWriter kRiffWriter{
-    palette_format::kRiff, "riff", "RIFF Palette (*.pal)", "*.pal", "pal", true, true, kAnySize, compose};
+    .format = palette_format::kRiff,
+    .name = "riff",
+    .fileType = "RIFF Palette (*.pal)",
+    .pattern = "*.pal",
+    .extension = "pal",
+    .appendsExtension = true,
+    .ownsExtension = true,
+    .maxSize = kAnySize,
+    .compose = compose,
+};
 
 }  // namespace quillhue

@@ -28,7 +28,9 @@ struct Part {
   RowRange rows;
 };
 
-Part partInView(const Rect& box, Point offset, std::int32_t imageWidth, const RowRange& rows) {
+Part partInView(const ViewPart& view, std::int32_t imageWidth, const RowRange& rows) {
+  const Rect& box = view.box;
+  const Point offset = view.offset;
   Part part;
   part.left = std::clamp(offset.x + box.left, 0, imageWidth);
   part.width = std::clamp(offset.x + box.right, part.left, imageWidth) - part.left;
@@ -38,7 +40,7 @@ Part partInView(const Rect& box, Point offset, std::int32_t imageWidth, const Ro
 
 // `rowOf` returns all bytes of a row of the image.
 template <typename RowOf>
-void paintPart(HDC dc, Point offset, const Part& part, std::size_t pixelBytes, std::span<const PaletteEntry> colors,
+void paintPart(const ViewPart& view, const Part& part, std::size_t pixelBytes, std::span<const PaletteEntry> colors,
                const RowOf& rowOf) {
   if (part.width <= 0 || part.rows.isEmpty()) {
     return;
@@ -62,24 +64,24 @@ void paintPart(HDC dc, Point offset, const Part& part, std::size_t pixelBytes, s
     description.colors[i] = {colors[i].blue, colors[i].green, colors[i].red, 0};
   }
   const auto height = static_cast<DWORD>(part.rows.count());
-  SetDIBitsToDevice(dc, part.left - offset.x, part.rows.begin - offset.y, static_cast<DWORD>(part.width), height, 0, 0,
-                    0, height, pixels.data(), reinterpret_cast<const BITMAPINFO*>(&description), DIB_RGB_COLORS);
+  SetDIBitsToDevice(view.dc, part.left - view.offset.x, part.rows.begin - view.offset.y, static_cast<DWORD>(part.width),
+                    height, 0, 0, 0, height, pixels.data(), reinterpret_cast<const BITMAPINFO*>(&description),
+                    DIB_RGB_COLORS);
 }
 
 }  // namespace
 
-void paintRows(HDC dc, const Rect& box, Point offset, const WorkImage& image, const RowRange& rows) {
+void paintRows(const ViewPart& view, const WorkImage& image, const RowRange& rows) {
   const std::optional<Palette>& palette = image.palette();
   const std::vector<PaletteEntry> colors = palette ? entriesOf(*palette) : std::vector<PaletteEntry>{};
-  paintPart(dc, offset, partInView(box, offset, image.width(), rows), image.bytesPerPixel(), colors,
+  paintPart(view, partInView(view, image.width(), rows), image.bytesPerPixel(), colors,
             [&](std::int32_t y) { return image.row(y); });
 }
 
-void paintRows(HDC dc, const Rect& box, Point offset, const RemappedImage& image, PaletteEntry blank,
-               const RowRange& rows) {
+void paintRows(const ViewPart& view, const RemappedImage& image, PaletteEntry blank, const RowRange& rows) {
   const auto colors = bitmapColors(image.colors(), blank);
   const std::size_t stride = paddedRowLength(image.width());
-  paintPart(dc, offset, partInView(box, offset, image.width(), rows), 1, colors,
+  paintPart(view, partInView(view, image.width(), rows), 1, colors,
             [&](std::int32_t y) { return image.rows().subspan(static_cast<std::size_t>(y) * stride, stride); });
 }
 

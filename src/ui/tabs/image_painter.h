@@ -8,11 +8,17 @@
 
 namespace quillhue {
 
-/// Paint the given rows of an image within `box` of a view. The view's top left corner shows the image's pixel
-/// `offset`. Create no GDI object: the visible pixels go directly to the device.
-void paintRows(HDC dc, const Rect& box, Point offset, const WorkImage& image, const RowRange& rows);
+/// The part of a view that is painted.
+struct ViewPart {
+  HDC dc = nullptr;
+  Rect box;
+  /// The pixel of the image that the view's top left corner shows.
+  Point offset;
+};
+
+/// Paint the given rows of an image. Create no GDI object: the visible pixels go directly to the device.
+void paintRows(const ViewPart& view, const WorkImage& image, const RowRange& rows);
 /// Shows indexes past the image's colors in the blank color, as in the color table of a bitmap file.
-void paintRows(HDC dc, const Rect& box, Point offset, const RemappedImage& image, PaletteEntry blank,
-               const RowRange& rows);
+void paintRows(const ViewPart& view, const RemappedImage& image, PaletteEntry blank, const RowRange& rows);
 
 }  // namespace quillhue

@@ -88,9 +88,9 @@ void ImageView::paintImage(HDC dc, const Rect& box) {
   }
   const Point offset{horizontal_.position, vertical_.position};
   if (result_ != nullptr) {
-    paintRows(dc, box, offset, *result_, context_.settings().blank, {0, resultRows_});
+    paintRows({dc, box, offset}, *result_, context_.settings().blank, {0, resultRows_});
   }
-  paintRows(dc, box, offset, *image_, {resultRows_, image_->height()});
+  paintRows({dc, box, offset}, *image_, {resultRows_, image_->height()});
 }
 
 std::string ImageView::tooltipAt(Point point) const {
