@@ -1,13 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <map>
 #include <sstream>
 
 #include "colormodes/channel_editor.h"
 #include "colormodes/color_models.h"
 #include "support/fakes.h"
 #include "support/palettes.h"
+#include "support/script.h"
 #include "support/table.h"
 
 namespace quillhue {
@@ -51,22 +50,17 @@ class ChannelEditorTest : public testing::Test, public ColorChooser {
     editor->refreshValues();
   }
 
-  // The table explains the words.
-  void perform(const std::string& words) {
-    std::istringstream stream(words);
-    for (std::string word; stream >> word;) {
-      const auto equals = std::min(word.find('='), word.size());
-      std::istringstream text(word.substr(std::min(equals + 1, word.size())));
-      std::array<std::int32_t, 3> numbers{};
-      char separator = 0;
-      text >> numbers[0] >> separator >> numbers[1] >> separator >> numbers[2];
+  // Performs the words one by one. After each, bars and controls have to agree with the numbers.
+  void perform(const std::string& script) {
+    std::istringstream words(script);
+    for (std::string word; words >> word;) {
       controls.repainted.clear();
-      acts_.at(word.substr(0, equals))(numbers);
+      quillhue::perform(acts_, word);
       for (const Bar bar : kBars) {
-        EXPECT_EQ(editor->mode().bar(bar)[33], editor->mode().barColor(bar, 33)) << words;
+        EXPECT_EQ(editor->mode().bar(bar)[33], editor->mode().barColor(bar, 33)) << script;
         const bool isShown = !word.starts_with("typed") && editor->currentEntry() >= 0;
         EXPECT_TRUE(!isShown || controls.shown.at(static_cast<std::size_t>(bar)) == editor->mode().getValue(bar))
-            << words;
+            << script;
       }
     }
   }
@@ -78,10 +72,8 @@ class ChannelEditorTest : public testing::Test, public ColorChooser {
   }
 
  private:
-  using Act = std::function<void(const std::array<std::int32_t, 3>& numbers)>;
-
-  [[nodiscard]] std::map<std::string, Act> makeActs() {
-    std::map<std::string, Act> acts{
+  [[nodiscard]] ScriptActs makeActs() {
+    ScriptActs acts{
         {"entry", [this](auto& n) { editor->setCurrentEntry(n[0]); }},
         {"model", [this](auto& n) { editor->chooseModel(n[0]); }},
         {"drag", [this](auto& n) { editor->dragBar(n[0], n[1]); }},
@@ -92,16 +84,8 @@ class ChannelEditorTest : public testing::Test, public ColorChooser {
         {"paste", [this](auto&) { editor->paste(fakes); }},
         {"blank", [this](auto&) { editor->blank(); }},
         {"save", [this](auto&) { slot.document()->markSaved(std::wstring(L"a.pal"), 1); }},
-        {"undo",
-         [this](auto&) {
-           slot.document()->undo();
-           editor->paletteChanged();
-         }},
-        {"resize",
-         [this](auto& n) {
-           slot.document()->resize(n[0]);
-           editor->paletteChanged();
-         }},
+        {"undo", [this](auto&) { slot.document()->undo(), editor->paletteChanged(); }},
+        {"resize", [this](auto& n) { slot.document()->resize(n[0]), editor->paletteChanged(); }},
         {"open",
          [this](auto&) {
            slot.replaceDocument(createPalette(1, {7, 8, 9}), false, {}, 0, fakes.services);
@@ -117,7 +101,7 @@ class ChannelEditorTest : public testing::Test, public ColorChooser {
     return acts;
   }
 
-  const std::map<std::string, Act> acts_ = makeActs();
+  const ScriptActs acts_ = makeActs();
 };
 
 TEST_F(ChannelEditorTest, DoesWhatTheTableSays) {

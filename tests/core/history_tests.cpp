@@ -6,76 +6,32 @@
 #include "core/history.h"
 #include "support/fakes.h"
 #include "support/palettes.h"
+#include "support/script.h"
+#include "support/table.h"
 
 namespace quillhue {
 namespace {
 
-// A document whose first entry's red byte is the state that the timelines below talk about.
-class EditHistoryTest : public testing::Test {
- protected:
-  void change(std::uint8_t red) {
-    document.recordColor(0);
-    document.setRed(0, red);
+TEST(EditHistory, WalksAndCountsAsTheTableSays) {
+  for (const auto& row : readTable("history.txt")) {
+    RecordingServices fakes;
+    PaletteDocument document{createPalette(8), false, L"", 0, fakes.settings, fakes};
+    const ScriptActs acts{{"set", [&](auto& n) { document.recordColor(0), document.setRed(0, clampToByte(n[0])); }},
+                          {"record", [&](auto& n) { document.recordColor(n[0]); }},
+                          {"undo", [&](auto&) { document.undo(); }},
+                          {"redo", [&](auto&) { document.redo(); }},
+                          {"save", [&](auto&) { document.markSaved(std::wstring(L"saved"), 7); }}};
+    perform(acts, row.at(0));
+    EXPECT_EQ(std::to_string(document.getRed(0)), row.at(1)) << row[0];
+    EXPECT_EQ(std::to_string(document.modificationCount()), row.at(2)) << row[0];
+    EXPECT_EQ(document.isModified(), row[2] != "0") << row[0];
+    EXPECT_EQ(fakes.takeLast("undo/redo: "), row.at(3)) << row[0];
   }
-  // `undoRedo` is what the menus were told last, if anything.
-  void expect(std::uint8_t red, std::int32_t modifications, const std::string& undoRedo) {
-    EXPECT_EQ(document.getRed(0), red);
-    EXPECT_EQ(document.modificationCount(), modifications);
-    EXPECT_EQ(document.isModified(), modifications != 0);
-    EXPECT_EQ(fakes.takeLast("undo/redo: "), undoRedo);
-  }
+}
 
+TEST(EditHistory, RestoresWholePalettes) {
   RecordingServices fakes;
   PaletteDocument document{createPalette(8), false, L"", 0, fakes.settings, fakes};
-};
-
-TEST_F(EditHistoryTest, WalksBackAndForthAndCountsModifications) {
-  expect(0, 0, "no/no");
-  change(1);
-  change(2);
-  expect(2, 2, "yes/no");
-  // 0 --- 1 --- 2
-  //       ^
-  document.undo();
-  expect(1, 1, "yes/yes");
-  document.undo();
-  expect(0, 0, "no/yes");
-  document.redo();
-  expect(1, 1, "yes/yes");
-  document.redo();
-  expect(2, 2, "yes/no");
-  // 0 --- 1 --- 2
-  //  \-- 3, and 1 and 2 are gone
-  document.undo();
-  document.undo();
-  change(3);
-  expect(3, 1, "yes/no");
-  document.redo();
-  expect(3, 2, "yes/no");
-  document.undo();
-  expect(0, 1, "no/yes");
-}
-
-TEST_F(EditHistoryTest, CountsPastTheEndsOfTheStacksAndFromTheLastSave) {
-  document.undo();
-  expect(0, -1, "no/no");
-  document.redo();
-  document.redo();
-  expect(0, 1, "no/no");
-  change(1);
-  document.markSaved(std::wstring(L"saved"), 7);
-  expect(1, 0, "yes/no");
-  document.undo();
-  expect(0, -1, "no/yes");
-  // A record past the end counts without a step, and leaves the redo stack alone.
-  document.recordColor(8);
-  document.recordColor(-1);
-  expect(0, 1, "");
-  document.redo();
-  expect(1, 2, "yes/no");
-}
-
-TEST_F(EditHistoryTest, RestoresWholePalettes) {
   fakes.settings.blank = {1, 2, 3};
   document.recordColors();
   document.setColor(7, {5, 6, 7});

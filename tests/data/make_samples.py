@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Makes one small file of every layout in samples/, and samples.txt, which tells what each of them holds.
 
-A line of samples.txt: file, reader, and then format code, number of entries and the Adler-32 checksum of their red,
-green and blue bytes; for an image of true colors the number of different colors.
+A line of samples.txt: file, reader, then format code, number of entries and the Adler-32 checksum of their red, green and
+blue bytes, or for an image of true colors the number of different colors, and the bytes of the signature.
 """
 
 import pathlib
@@ -11,6 +11,9 @@ import zlib
 
 HERE = pathlib.Path(__file__).parent
 SAMPLES = HERE / "samples"
+# The bytes among the first four that a file of these readers needs. The others need all four.
+SIGNATURES = {"bmp": "01", "clp": "01", "ms-draw": "023", "pcx": "012", "map": "", "csv": "", "act": "", "raw": "",
+              "tga": "0", "hex": "", "aco": "01"}
 lines = []
 
 
@@ -35,14 +38,17 @@ def blue_first(entries):
     return [(b, g, r) for r, g, b in entries]
 
 
-def save(name, content, reader, code, entries):
+def save_as(name, content, reader, holds):
     (SAMPLES / name).write_bytes(content)
-    lines.append(f"{name} | {reader} | {code} {len(entries)} {zlib.adler32(triples(entries))}")
+    lines.append(f"{name} | {reader} | {holds} | {SIGNATURES.get(reader, '0123')}".rstrip())
+
+
+def save(name, content, reader, code, entries):
+    save_as(name, content, reader, f"{code} {len(entries)} {zlib.adler32(triples(entries))}")
 
 
 def save_image(name, content, distinct):
-    (SAMPLES / name).write_bytes(content)
-    lines.append(f"{name} | bmp | {distinct} colors")
+    save_as(name, content, "bmp", f"{distinct} colors")
 
 
 def numbers(entries, separator, end):

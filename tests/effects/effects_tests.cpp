@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "core/generators.h"
 #include "effects/effect_editor.h"
 #include "effects/effects.h"
 #include "support/checksum.h"
 #include "support/fakes.h"
 #include "support/palettes.h"
+#include "support/script.h"
 #include "support/table.h"
 
 namespace quillhue {
@@ -93,63 +96,31 @@ TEST_F(EffectsTest, EveryEffectLeavesTheRestAsItIs) {
   }
 }
 
-TEST_F(EffectsTest, PreviewShowsAndApplyWrites) {
-  PaletteDocument& document = open(createPalette(2, {10, 20, 30}));
-  fakes.settings.effect = 3;
-  EffectEditor editor(slot, fakes.settings, fakes);
-  editor.setValue(5);
-  EXPECT_EQ(show(editor.preview(5)), "15,20,35 15,20,35");
-  EXPECT_EQ(show(document.getPalette()), "10,20,30 10,20,30");
-  editor.setValue(1000);
-  EXPECT_EQ(editor.effect().getValue(), 255);
-  editor.setValue(-1000);
-  EXPECT_EQ(show(editor.preview(4)), "10,20,0 10,20,0");
-  editor.apply(4);
-  EXPECT_EQ(show(document.getPalette()), "10,20,0 10,20,0");
-  EXPECT_EQ(editor.effect().getValue(), 0);
-  editor.apply(7);
-  EXPECT_EQ(document.modificationCount(), 2);
-  document.undo();
-  document.undo();
-  EXPECT_EQ(show(document.getPalette()), "10,20,30 10,20,30");
-  // The preview follows the document's size.
-  document.resize(1);
-  EXPECT_EQ(editor.preview(7).getSize(), 1);
-  editor.choose(255);
-  EXPECT_EQ(fakes.settings.effect, 255);
-  EXPECT_EQ(editor.effect().getValue(), 100);
-}
-
-TEST_F(EffectsTest, PasteWaitsForABusyClipboard) {
-  PaletteDocument& document = open(createPalette(1, {10, 20, 30}));
-  document.select(0);
-  fakes.clipboard = {{100, 100, 100}};
-  EffectEditor editor(slot, fakes.settings, fakes);
-  editor.choose(kPaste);
-  editor.setValue(100);
-  fakes.clipboard = {{50, 50, 50}};
-  // The preview shows what was read last.
-  EXPECT_EQ(show(editor.preview(kAllChannels)), "100,100,100");
-  fakes.clipboardIsBusy = true;
-  EXPECT_FALSE(editor.readClipboard());
-  editor.apply(kAllChannels);
-  EXPECT_EQ(editor.effect().getValue(), 100);
-  EXPECT_EQ(document.getRed(0), 10);
-  fakes.clipboardIsBusy = false;
-  editor.apply(kAllChannels);
-  EXPECT_EQ(editor.effect().getValue(), 0);
-  EXPECT_EQ(document.getRed(0), 50);
-}
-
-TEST_F(EffectsTest, RotateTakesItsRangeFromTheSizeWhenItIsChosen) {
-  PaletteDocument& document = open(createPalette(9));
-  EffectEditor editor(slot, fakes.settings, fakes);
-  editor.choose(kRotate);
-  document.resize(4);
-  editor.setValue(-20);
-  EXPECT_EQ(editor.effect().getValue(), -9);
-  editor.reset();
-  EXPECT_EQ(std::pair(editor.effect().getMinimum(), editor.effect().getMaximum()), std::pair(-4, 4));
+TEST_F(EffectsTest, AreEditedAsTheTableSays) {
+  for (const auto& row : readTable("effect_edits.txt")) {
+    PaletteDocument& document = open(shownPalette(row.at(0)));
+    fakes.clipboard = {{100, 100, 100}};
+    fakes.clipboardIsBusy = false;
+    fakes.settings.effect = 3;
+    EffectEditor editor(slot, fakes.settings, fakes);
+    const ScriptActs acts{{"choose", [&](auto& n) { editor.choose(n[0]); }},
+                          {"value", [&](auto& n) { editor.setValue(n[0]); }},
+                          {"apply", [&](auto& n) { editor.apply(static_cast<ChannelMask>(n[0])); }},
+                          {"reset", [&](auto&) { editor.reset(); }},
+                          {"undo", [&](auto&) { document.undo(); }},
+                          {"resize", [&](auto& n) { document.resize(n[0]); }},
+                          {"clipboard", [&](auto& n) { fakes.clipboard = {{clampToByte(n[0]), 50, 50}}; }},
+                          {"busy", [&](auto& n) { fakes.clipboardIsBusy = n[0] == 1; }},
+                          {"read", [&](auto&) { EXPECT_EQ(editor.readClipboard(), !fakes.clipboardIsBusy); }}};
+    perform(acts, row.at(1));
+    const Effect& effect = editor.effect();
+    std::ostringstream numbers;
+    numbers << effect.getMinimum() << ' ' << effect.getValue() << ' ' << effect.getMaximum();
+    EXPECT_EQ(numbers.str(), row.at(2)) << row[1];
+    EXPECT_EQ(show(document.getPalette()), row.at(3)) << row[1];
+    EXPECT_EQ(show(editor.preview(5)), row.at(4)) << row[1];
+    EXPECT_EQ(std::to_string(document.modificationCount()), row.at(5)) << row[1];
+  }
 }
 
 }  // namespace

@@ -81,7 +81,7 @@ TEST_F(PaletteFileTest, LeavesDocumentAndFileAloneWhenSavingIsRefused) {
             "error: Could not create the file.\n");
   // No dialog offers such a format; its file stays empty.
   document.resize(256);
-  EXPECT_FALSE(writePaletteFile(document, folder.name("empty"), 12, fakes.services));
+  EXPECT_FALSE(writePaletteFile(document, folder.name("empty"), PaletteFormat{15}, fakes.services));
   EXPECT_EQ(folder.contentOf("empty"), "");
   EXPECT_EQ(folder.contentOf("a.csv"), "1,2,3\n");
   EXPECT_EQ(document.modificationCount(), 2);

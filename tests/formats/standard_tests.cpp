@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-
 #include "core/utf8.h"
 #include "formats/readers/palette_readers.h"
 #include "formats/standard/standard_formats.h"
@@ -13,10 +10,7 @@
 namespace quillhue {
 namespace {
 
-Bytes contentOf(const std::string& sample) {
-  std::ifstream stream("standard/" + sample, std::ios::binary);
-  return {std::istreambuf_iterator(stream), std::istreambuf_iterator<char>()};
-}
+Bytes contentOf(const std::string& sample) { return dataFile("standard/" + sample); }
 
 ReadResult readStandard(ByteSource& source, const std::string& name) {
   const std::wstring wideName = fromUtf8(name);

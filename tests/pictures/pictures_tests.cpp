@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-
 #include "pictures/picture_decoder.h"
 #include "pictures/png_encoder.h"
 #include "pictures/png_file.h"
@@ -20,8 +17,7 @@ PictureResult decode(const Bytes& file) {
 }
 
 Bytes contentOf(const std::vector<std::string>& row) {
-  std::ifstream stream("pictures/" + row.at(0), std::ios::binary);
-  Bytes content{std::istreambuf_iterator(stream), std::istreambuf_iterator<char>()};
+  Bytes content = dataFile("pictures/" + row.at(0));
   if (content.empty()) {
     return bytesOf(row[0]);
   }

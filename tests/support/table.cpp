@@ -1,6 +1,7 @@
 #include "support/table.h"
 
 #include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <string_view>
 
@@ -47,6 +48,11 @@ std::vector<std::vector<std::string>> readTable(const std::string& file) {
     throw std::runtime_error(file + " has no rows");
   }
   return rows;
+}
+
+std::vector<std::uint8_t> dataFile(const std::string& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator(stream), std::istreambuf_iterator<char>()};
 }
 
 std::string pinnedChecksum(const std::string& result) {

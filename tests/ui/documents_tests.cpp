@@ -79,16 +79,6 @@ TEST_F(Documents, AreAskedForAgainAfterASave) {
   EXPECT_EQ(paletteIn(editor.file()).entry(0).red, 79);
 }
 
-TEST_F(Documents, AreDiscardedAtOnceWhenUnmodified) {
-  const Editor& editor = open(brightPalette(4));
-  editor.run(command_id::kClear);
-  editor.run(command_id::kUndo);
-  editor.run(command_id::kNewWindows);
-  EXPECT_EQ(textOf(editor.window()), L"Quillhue - Untitled");
-  EXPECT_EQ(statusText(editor), L"16 entries");
-  editor.close();
-}
-
 TEST_F(Documents, AreAskedForWhenTheSessionEnds) {
   const Editor& editor = open(brightPalette(4));
   const auto maySessionEnd = [&] { return editor.ask(editor.window(), WM_QUERYENDSESSION); };

@@ -196,17 +196,9 @@ class Soak : public UiTest {
     editor().start(command_id::kPaste);
   }
 
-  // The field for the name in one of the system's file dialogs; null in another dialog.
-  static HWND nameField(HWND dialog) {
-    constexpr int kNameCombo = 0x47C;
-    constexpr int kNameEdit = 0x480;
-    HWND combo = GetDlgItem(dialog, kNameCombo);
-    return combo != nullptr && IsWindowVisible(combo) != 0 ? combo : GetDlgItem(dialog, kNameEdit);
-  }
-
   void answer(HWND dialog) {
     const auto has = [&](int id) { return GetDlgItem(dialog, id) != nullptr; };
-    HWND field = nameField(dialog);
+    HWND field = fileNameField(dialog);
     fileDialogs_ += field != nullptr ? 1 : 0;
     if (field != nullptr && any(2) == 0) {
       editor().ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(anyOf(files_).c_str()));

@@ -40,7 +40,7 @@ TEST_F(UseRuns, EndWithTheWindow) {
 }
 
 TEST_F(UseRuns, WaitForTheQuestionBeforeTheWindowCloses) {
-  for (const int answer : {IDCANCEL, IDNO, IDYES}) {
+  for (const int answer : {IDCANCEL, IDYES}) {
     SCOPED_TRACE(answer);
     prepare(true);
     startRun();
@@ -60,14 +60,10 @@ TEST_F(UseRuns, WaitForTheQuestionBeforeTheWindowCloses) {
       editor().await("the result", [&] { return isUsable(L"&Save as..."); });
       editor().run(command_id::kSave);
       EXPECT_EQ(result(), toolsResult(big_, L"dither"));
-      continue;
+    } else {
+      EXPECT_EQ(editor().awaitEnd(), 0U);
+      EXPECT_EQ(paletteIn(editor().file()).entry(0), PaletteEntry{});
     }
-    EXPECT_EQ(editor().awaitEnd(), 0U);
-    Palette expected = twoColors_;
-    if (answer == IDYES) {
-      expected.setEntry(0, {});
-    }
-    EXPECT_EQ(show(paletteIn(editor().file())), show(expected));
   }
 }
 
@@ -80,21 +76,17 @@ TEST_F(UseRuns, StopWhereAnotherPaletteIsOpened) {
   // What was done is kept.
   EXPECT_TRUE(isUsable(L"&Save as..."));
   EXPECT_EQ(editor().chosenPage(), kUsePage);
+  // A file begins with the last row. Of the first one, the tool's file has half a byte a pixel.
   const std::string partial = result();
+  const std::string first = partial.substr(partial.size() - kBig.width);
+  EXPECT_NE(first, std::string(kBig.width, '\0'));
+  EXPECT_EQ(partial.substr(1078, kBig.width), std::string(kBig.width, '\0'));
   runTool({L"remap", L"--force", L"--mode", L"dither", big_, paletteFile("other.pal", twoColors_),
            folder_.name("whole.bmp")});
-  // Of each row the tool's file has half a byte a pixel, the other one a byte.
-  constexpr std::size_t kPackedRow = 1500;
   const std::string whole = folder_.contentOf("whole.bmp");
-  const std::string packed = whole.substr(whole.size() - kPackedRow, kBig.width / 2);
-  std::string row;
-  for (const char pair : packed) {
-    row += {static_cast<char>(pair >> 4 & 15), static_cast<char>(pair & 15)};
+  for (std::size_t pair = 0; pair < kBig.width / 2; ++pair) {
+    ASSERT_EQ(whole[whole.size() - kBig.width / 2 + pair], first[2 * pair] << 4 | first[2 * pair + 1]) << pair;
   }
-  EXPECT_EQ(partial.substr(partial.size() - kBig.width), row);
-  EXPECT_NE(row, std::string(kBig.width, '\0'));
-  // The last row of the image is the first one of the file.
-  EXPECT_EQ(partial.substr(1078, kBig.width), std::string(kBig.width, '\0'));
 }
 
 TEST_F(UseRuns, LeaveTheWindowAlive) {

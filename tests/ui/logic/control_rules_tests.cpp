@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <array>
+
+#include "core/utf8.h"
 #include "support/table.h"
 #include "ui/logic/from_image_dialog.h"
 #include "ui/logic/typed_number.h"
@@ -52,42 +55,18 @@ TEST(UseControls, FollowImageAndMode) {
 }
 
 TEST(TypedNumber, BringsAnythingIntoTheRange) {
-  const struct {
-    const wchar_t* text;
-    std::optional<std::int32_t> number;
-    // In -100 .. 200, after 7.
-    std::int32_t value;
-  } cases[] = {
-      {L"42", 42, 42},
-      {L" 042\t", 42, 42},
-      {L"-5", -5, -5},
-      {L"201", 201, 200},
-      {L"-101", -101, -100},
-      {L"2147483647", 2147483647, 200},
-      {L"2147483648", 2147483647, 200},
-      {L"99999999999999999999999", 2147483647, 200},
-      {L"-99999999999999999999999", -2147483647 - 1, -100},
-      {L"", std::nullopt, 7},
-      {L"-", std::nullopt, 7},
-      {L"4 2", std::nullopt, 7},
-      {L"--4", std::nullopt, 7},
-      {L"4x", std::nullopt, 7},
-      {L"+4", std::nullopt, 7},
-  };
-  for (const auto& [text, number, value] : cases) {
-    EXPECT_EQ(typedNumber(text), number) << testing::PrintToString(text);
-    EXPECT_EQ(typedValue(text, {-100, 200}, 7), value) << testing::PrintToString(text);
+  for (const auto& row : readTable("typed_numbers.txt")) {
+    const std::wstring text = fromUtf8(row.at(0));
+    const auto number = typedNumber(text);
+    EXPECT_EQ(number ? std::to_string(*number) : "", row.at(1)) << row[0];
+    EXPECT_EQ(std::to_string(typedValue(text, {-100, 200}, 7)), row.at(2)) << row[0];
   }
   EXPECT_EQ(typedValue(L"", {1, 5}, 7), 5);
 }
 
 TEST(TypedNumber, StepsWithinTheRange) {
-  const struct {
-    std::int32_t value;
-    std::int32_t step;
-    std::int32_t result;
-  } cases[] = {{200, 10, 210}, {250, 10, 255}, {255, 1, 255}, {255, -300, 0}, {0, -1, 0}, {0, 2147483647, 255}};
-  for (const auto& [value, step, result] : cases) {
+  for (const auto& [value, step, result] :
+       {std::array{200, 10, 210}, {250, 10, 255}, {255, 1, 255}, {255, -300, 0}, {0, -1, 0}, {0, 2147483647, 255}}) {
     EXPECT_EQ(steppedValue(value, step, {0, 255}), result) << value << ' ' << step;
   }
 }
@@ -107,27 +86,17 @@ TEST(WheelSum, AddsUpPartsOfANotch) {
 }
 
 TEST(FromImageDialog, ProposesAndAnswers) {
-  const struct {
-    std::uint64_t colors;
-    std::optional<std::int32_t> size;
-    std::int32_t proposed;
-    // 0 for a refusal.
-    std::int32_t all;
-    std::int32_t reduced;
-  } cases[] = {
-      {1, 1, 1, 1, -1},           {200, 1024, 200, 1024, -1024},   {256, 256, 256, 256, -256},
-      {257, 256, 256, 257, -256}, {1024, 1, 256, 1024, -1},        {1024, 0, 256, 0, 0},
-      {1024, 1025, 256, 0, 0},    {1024, std::nullopt, 256, 0, 0},
-  };
-  for (const auto& [colors, size, proposed, all, reduced] : cases) {
-    EXPECT_EQ(proposedSize(colors), proposed) << colors;
-    EXPECT_TRUE(canUseAllColors(colors)) << colors;
-    EXPECT_EQ(useAllColors(size, colors).value_or(0), all) << colors;
-    EXPECT_EQ(reduceColors(size).value_or(0), reduced) << colors;
+  for (const auto& row : readTable("from_image.txt")) {
+    const std::uint64_t colors = std::stoull(row.at(0));
+    const auto size = row.at(1).empty() ? std::nullopt : std::optional(std::stoi(row[1]));
+    const auto text = [](const auto& answer) { return answer ? std::to_string(*answer) : "refused"; };
+    EXPECT_EQ(std::to_string(proposedSize(colors)), row.at(2)) << row[0];
+    EXPECT_EQ(text(useAllColors(size, colors)), row.at(3)) << row[0] << ", " << row[1];
+    EXPECT_EQ(text(reduceColors(size)), row.at(4)) << row[0] << ", " << row[1];
   }
+  EXPECT_TRUE(canUseAllColors(1024));
   EXPECT_FALSE(canUseAllColors(1025));
   EXPECT_FALSE(canUseAllColors(std::uint64_t{1} << 32));
-  EXPECT_EQ(proposedSize(std::uint64_t{1} << 32), 256);
   EXPECT_EQ(reduceColors(0).error(), "The palette size must be a number from 1 to 1024.");
   EXPECT_EQ(colorsFoundText(1), "1 different color found in the image.");
   EXPECT_EQ(colorsFoundText(300), "300 different colors found in the image.");

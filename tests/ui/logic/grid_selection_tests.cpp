@@ -2,11 +2,11 @@
 
 #include <map>
 #include <memory>
-#include <sstream>
 
 #include "core/commands/selection.h"
 #include "support/fakes.h"
 #include "support/palettes.h"
+#include "support/script.h"
 #include "support/table.h"
 #include "ui/logic/grid_selection.h"
 
@@ -30,18 +30,6 @@ class GridSelectionTest : public testing::Test {
 
   [[nodiscard]] Point middleOf(std::int32_t cell) const { return {50 + cell % 4 * 80, 50 + cell / 4 * 80}; }
 
-  // The table explains the words.
-  void perform(const std::string& words) {
-    std::istringstream stream(words);
-    for (std::string word; stream >> word;) {
-      GridSelection::Keys keys;
-      for (; word[0] == 's' || word[0] == 'c'; word.erase(0, 1)) {
-        (word[0] == 's' ? keys.shift : keys.control) = true;
-      }
-      performOne(word[0], word.substr(1), keys);
-    }
-  }
-
   // # where selected, then the undo steps and the current entry.
   [[nodiscard]] std::string state() const {
     const PaletteDocument& document = *slot.document();
@@ -55,49 +43,42 @@ class GridSelectionTest : public testing::Test {
   }
 
  private:
-  void performOne(char action, const std::string& place, GridSelection::Keys keys) {
-    PaletteDocument& document = *slot.document();
-    const auto comma = place.find(',');
-    const std::int32_t cell = place.empty() ? 0 : std::stoi(place);
-    const Point point = comma == std::string::npos ? middleOf(cell) : Point{cell, std::stoi(place.substr(comma + 1))};
-    const Palette before = document.getPalette();
-    bool changed = false;
-    switch (action) {
-      case 'p':
-        changed = selection->press(grid, point, keys);
-        break;
-      case 'd':
-        changed = selection->drag(grid, point);
-        break;
-      case 'm':
-        selection->moveTo(cell);
-        break;
-      case 'x':
-        changed = selection->extendTo(cell, keys);
-        break;
-      case 'k':
-        changed = selection->pressCurrent(grid.columns(), keys);
-        break;
-      case 'r':
-        selection->finish();
-        break;
-      case 'h':
-        selection->releaseShift();
-        break;
-      case 'u':
-      case 'y':
-        action == 'u' ? document.undo() : document.redo();
-        selection->paletteChanged();
-        return;
-      case 'w':
-        document.markSaved(std::wstring(L"a"), 1);
-        return;
-      default:
-        selectAll(document);
-        return;
-    }
-    EXPECT_EQ(changed, !(before == document.getPalette())) << action << place;
+  // Each act tells whether it has changed the selection.
+  void expectTold(const std::function<bool()>& act) const {
+    const Palette before = slot.document()->getPalette();
+    const bool hasChanged = act();
+    EXPECT_EQ(hasChanged, before != slot.document()->getPalette()) << state();
   }
+
+  ScriptActs makeActs() {
+    ScriptActs acts{
+        {"move", [this](auto& n) { selection->moveTo(n[0]); }},
+        {"release", [this](auto&) { selection->finish(); }},
+        {"release-shift", [this](auto&) { selection->releaseShift(); }},
+        {"undo", [this](auto&) { slot.document()->undo(), selection->paletteChanged(); }},
+        {"save", [this](auto&) { slot.document()->markSaved(std::wstring(L"a"), 1); }},
+        {"select-all", [this](auto&) { selectAll(*slot.document()); }},
+        {"drag", [this](auto& n) { expectTold([&] { return selection->drag(grid, middleOf(n[0])); }); }},
+        {"drag-at", [this](auto& n) { expectTold([&] { return selection->drag(grid, {n[0], n[1]}); }); }},
+    };
+    for (const auto& [held, keys] : std::map<std::string, GridSelection::Keys>{
+             {"", {}}, {"shift+", {true, false}}, {"ctrl+", {false, true}}, {"shift+ctrl+", {true, true}}}) {
+      acts[held + "press"] = [=, this](auto& n) {
+        expectTold([&] { return selection->press(grid, middleOf(n[0]), keys); });
+      };
+      acts[held + "press-at"] = [=, this](auto& n) {
+        expectTold([&] { return selection->press(grid, {n[0], n[1]}, keys); });
+      };
+      acts[held + "extend"] = [=, this](auto& n) { expectTold([&] { return selection->extendTo(n[0], keys); }); };
+      acts[held + "space"] = [=, this](auto&) {
+        expectTold([&] { return selection->pressCurrent(grid.columns(), keys); });
+      };
+    }
+    return acts;
+  }
+
+ protected:
+  const ScriptActs acts_ = makeActs();
 };
 
 TEST_F(GridSelectionTest, DoesWhatTheTableSays) {
@@ -105,7 +86,7 @@ TEST_F(GridSelectionTest, DoesWhatTheTableSays) {
       {"free", SelectionMode::free}, {"row", SelectionMode::row}, {"range", SelectionMode::range}};
   for (const auto& row : readTable("grid_selection.txt")) {
     open(modes.at(row.at(0)));
-    perform(row.at(1));
+    perform(acts_, row.at(1));
     EXPECT_EQ(state(), row.at(2)) << row[0] << ": " << row[1];
     // Every change is a step that can be undone.
     while (slot.document()->canUndo()) {
@@ -126,10 +107,10 @@ TEST_F(GridSelectionTest, KeepsTheCurrentEntryInThePalette) {
   document.resize(4);
   selection->paletteChanged();
   EXPECT_EQ(selection->currentEntry(), 3);
-  perform("sp1 r");
+  perform(acts_, "shift+press=1 release");
   EXPECT_EQ(state(), ".### 2 1");
   // A palette that shrinks under a gesture.
-  perform("p0");
+  perform(acts_, "press=0");
   document.resize(2);
   EXPECT_FALSE(selection->drag(grid, middleOf(3)));
   slot.replaceDocument(variedPalette(3), false, {}, 0, fakes.services);

@@ -1,39 +1,56 @@
 #include <gtest/gtest.h>
 
+#include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
-#include "core/utf8.h"
+#include "formats/images/image_loaders.h"
+#include "formats/readers/palette_readers.h"
+#include "formats/writers/palette_writers.h"
 #include "ui/services/file_types.h"
 
 namespace quillhue {
 namespace {
 
-// The list that the system gets, with a bar for each null.
-std::string shown(const std::vector<FileType>& types) {
-  std::string filter = toUtf8(filterOf(types));
-  for (char& letter : filter) {
-    letter = letter == '\0' ? '|' : letter;
+using Patterns = std::set<std::string>;
+
+void add(Patterns& patterns, std::string_view list) {
+  std::istringstream stream{std::string(list)};
+  for (std::string pattern; std::getline(stream, pattern, ';');) {
+    patterns.insert(pattern);
   }
-  return filter;
+}
+
+// All patterns of a catalogue, in alphabetical order.
+std::string patternsOf(const auto& catalogue) {
+  Patterns patterns;
+  for (const auto* const member : catalogue) {
+    add(patterns, member->patterns);
+  }
+  std::string list;
+  for (const std::string& pattern : patterns) {
+    list += (list.empty() ? "" : ";") + pattern;
+  }
+  return list;
+}
+
+TEST(FileTypes, AreThoseOfTheCatalogues) {
+  EXPECT_EQ(openPaletteTypes().at(0).patterns, patternsOf(paletteReaders()));
+  EXPECT_EQ(openImageTypes().at(0).patterns, patternsOf(imageLoaders()));
+  EXPECT_TRUE(openImageTypes().at(1).patterns.starts_with("*.gif;*.heic;*.ico;*.jpeg;*.jpg;*.jxr;*.pam;"));
+  const auto saved = savePaletteTypes();
+  for (const PaletteWriter* const writer : paletteWriters()) {
+    EXPECT_EQ(saved.at(writer->format - 1).text, writer->fileType);
+    EXPECT_EQ(saved.at(writer->format - 1).patterns, writer->pattern);
+  }
+  EXPECT_EQ(saved.size(), paletteWriters().size());
 }
 
 // The string's own end is the null behind the last type.
-TEST(FileTypes, AreListedForEachDialog) {
-  EXPECT_EQ(shown(openPaletteTypes()),
-            "All Supported File Types|*.aco;*.act;*.anm;*.ase;*.bmp;*.clp;*.cmp;*.col;*.csv;*.dib;*.gif;*.gpl;*.hex;"
-            "*.iff;*.lbm;*.map;*.pal;*.pcx;*.png;*.tga;*.tif;*.tiff;*.txt;*.xcf|All Files|*|");
-  EXPECT_EQ(
-      shown(openImageTypes()),
-      "Supported File Types|*.bmp;*.clp;*.dib;*.lbm;*.pcx|"
-      "Other images|*.gif;*.heic;*.ico;*.jpeg;*.jpg;*.jxr;*.pam;*.pbm;*.pgm;*.png;*.pnm;*.ppm;*.tif;*.tiff;*.webp|"
-      "All Files|*|");
-  EXPECT_EQ(shown(savePaletteTypes()),
-            "Adobe Color Table (*.act)|*.act|CMP Palette (*.cmp)|*.cmp|Color Table (*.pal)|*.pal|"
-            "Comma-separated values (*.csv)|*.csv|Dr. Halo Palette (*.pal)|*.pal|Gimp Palette|*|"
-            "JASC Palette (*.pal)|*.pal|MAP Palette (*.map)|*.map|MS Draw Palette (*.pal)|*.pal|"
-            "RIFF Palette (*.pal)|*.pal|Windows Clipboard File (*.clp)|*.clp|");
-  EXPECT_EQ(shown(saveResultTypes()), "Windows Bitmap (*.bmp)|*.bmp|PNG (*.png)|*.png|All Files|*|");
+TEST(FileTypes, AreSeparatedByNulls) {
+  using namespace std::literals;
+  EXPECT_EQ(filterOf(saveResultTypes()), L"Windows Bitmap (*.bmp)\0*.bmp\0PNG (*.png)\0*.png\0All Files\0*\0"s);
 }
 
 }  // namespace

@@ -40,16 +40,18 @@ std::wstring answerMessage(const Program& program, const std::wstring& caption, 
   return text;
 }
 
-void chooseFile(const Program& program, const std::wstring& caption, const std::wstring& name, int type) {
-  constexpr int kTypes = 0x470;
-  // The name's field has one number or the other, by the dialog's kind.
+HWND fileNameField(HWND dialog) {
+  // It has one number or the other, by the dialog's kind.
   constexpr int kNameCombo = 0x47C;
   constexpr int kNameEdit = 0x480;
+  HWND combo = GetDlgItem(dialog, kNameCombo);
+  return combo != nullptr && IsWindowVisible(combo) != 0 ? combo : GetDlgItem(dialog, kNameEdit);
+}
+
+void chooseFile(const Program& program, const std::wstring& caption, const std::wstring& name, int type) {
+  constexpr int kTypes = 0x470;
   const Dialog dialog(program, caption);
-  HWND field = program.await("the field for the name", [&]() -> HWND {
-    HWND combo = GetDlgItem(dialog.window(), kNameCombo);
-    return combo != nullptr && IsWindowVisible(combo) != 0 ? combo : GetDlgItem(dialog.window(), kNameEdit);
-  });
+  HWND field = program.await("the field for the name", [&] { return fileNameField(dialog.window()); });
   if (type >= 0) {
     HWND types = dialog.control(kTypes);
     program.ask(types, CB_SETCURSEL, static_cast<WPARAM>(type));

@@ -36,6 +36,8 @@ class Dialog {
 /// Answers the message box with this caption, and returns what it said.
 std::wstring answerMessage(const Program& program, const std::wstring& caption, int button);
 
+/// The field for the name in one of the system's file dialogs; null in another dialog.
+[[nodiscard]] HWND fileNameField(HWND dialog);
 /// Gives a file's name to the dialog "Open" or "Save As" that is about to come, and the file type at an index of its
 /// list, -1 for the one that is chosen already.
 void chooseFile(const Program& program, const std::wstring& caption, const std::wstring& name, int type = -1);

@@ -20,24 +20,20 @@ Window createOwner() {
       CreateWindowExW(0, L"Static", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, GetModuleHandleW(nullptr), nullptr));
 }
 
-std::vector<PaletteEntry> colors(int count) {
-  std::vector<PaletteEntry> entries(static_cast<std::size_t>(count));
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    entries[i] = {static_cast<std::uint8_t>(i), static_cast<std::uint8_t>(i / 256), 77};
+std::vector<PaletteEntry> colors(std::int32_t count) {
+  std::vector<PaletteEntry> entries;
+  for (std::int32_t i = 0; i < count; ++i) {
+    entries.push_back({static_cast<std::uint8_t>(i), static_cast<std::uint8_t>(i / 256), 77});
   }
   return entries;
 }
 
 TEST(ClipboardAccess, GivesThePaletteThatItTook) {
   const Window owner = createOwner();
-  for (const int count : {1, 2, 256, 1023, 1024, 1025, 3000}) {
-    {
-      ClipboardAccess clipboard(owner.get());
-      ASSERT_TRUE(clipboard);
-      clipboard.empty();
-      EXPECT_TRUE(clipboard.put(createLogicalPalette(colors(count))));
-    }
-    const ClipboardAccess clipboard(owner.get());
+  ClipboardAccess clipboard(owner.get());
+  for (const std::int32_t count : {1, 256, 1024, 1025, 3000}) {
+    clipboard.empty();
+    EXPECT_TRUE(clipboard.put(createLogicalPalette(colors(count))));
     EXPECT_EQ(entriesOf(clipboard.palette()), colors(std::min(count, 1024))) << count;
     PALETTEENTRY first{};
     GetPaletteEntries(clipboard.palette(), 0, 1, &first);
@@ -59,7 +55,7 @@ TEST(ClipboardAccess, APaletteWithoutEntriesLeavesItEmpty) {
 
 TEST(ClipboardAccess, GivesBitmapsOfAnySize) {
   const Window owner = createOwner();
-  for (const std::size_t size : {1U, 3U, 14U, 15U, 39U, 40U, 41U, 107U, 5000U}) {
+  for (const std::size_t size : {1U, 3U, 14U, 15U, 41U, 5000U}) {
     const Bytes block(size, 1);
     {
       ClipboardAccess clipboard(owner.get());
@@ -76,26 +72,18 @@ TEST(ClipboardAccess, GivesBitmapsOfAnySize) {
 
 TEST(ClipboardAccess, HasNothingWhileAnotherHasIt) {
   const Window owner = createOwner();
-  {
-    ClipboardAccess clipboard(owner.get());
-    clipboard.empty();
-    EXPECT_TRUE(clipboard.put(createLogicalPalette(colors(2))));
-    bool opened = true;
-    bool found = true;
-    std::thread([&] {
-      const Window otherOwner = createOwner();
-      ClipboardAccess other(otherOwner.get());
-      opened = static_cast<bool>(other);
-      found = other.palette() != nullptr || other.bytes(CF_DIB);
-      other.empty();
-      opened = opened || other.put(createLogicalPalette(colors(1)));
-    }).join();
-    EXPECT_FALSE(opened);
-    EXPECT_FALSE(found);
-    // Still open here, with what it had.
-    EXPECT_EQ(entriesOf(clipboard.palette()), colors(2));
-  }
-  EXPECT_EQ(entriesOf(ClipboardAccess(owner.get()).palette()), colors(2));
+  ClipboardAccess clipboard(owner.get());
+  clipboard.empty();
+  EXPECT_TRUE(clipboard.put(createLogicalPalette(colors(2))));
+  std::thread([] {
+    const Window otherOwner = createOwner();
+    ClipboardAccess other(otherOwner.get());
+    EXPECT_FALSE(other || other.palette() != nullptr || other.bytes(CF_DIB));
+    other.empty();
+    EXPECT_FALSE(other.put(createLogicalPalette(colors(1))));
+  }).join();
+  // It is still open here, with what it had.
+  EXPECT_EQ(entriesOf(clipboard.palette()), colors(2));
 }
 
 TEST(HalftonePalette, GoesFromBlackToWhite) {
