@@ -14,18 +14,18 @@ struct ImageSize {
   std::int32_t height;
 };
 
-/// 12.6, 0.79 and 0.003 megapixels.
+/// Image sizes of 12.6, 0.79 and 0.003 megapixels.
 inline constexpr ImageSize kLarge{4096, 3072};
 inline constexpr ImageSize kMedium{1024, 768};
 inline constexpr ImageSize kSmall{64, 48};
 
-/// As in 64x48.
+/// Returns the size as text, for example "64x48".
 [[nodiscard]] std::string nameOf(ImageSize size);
 
 /// A landscape, always the same: a sky in a smooth gradient with soft clouds, two ranges of hills with sharp outlines,
 /// a meadow of fine texture with shaded balls of strong colors in it, and over all of it the mild noise of a camera.
-/// Its features grow with the image. 12.6 megapixels have some 300,000 different colors, and one pixel in some
-/// 260 is the same as its left neighbor. Each size is made once.
+/// Its features grow with the image. At 12.6 megapixels it has about 300,000 different colors, and about one pixel in
+/// 260 equals its left neighbor. Each size is made once.
 [[nodiscard]] const WorkImage& photoLikeImage(ImageSize size);
 
 /// Gradients without noise. Neighboring pixels differ by little.
@@ -34,7 +34,7 @@ inline constexpr ImageSize kSmall{64, 48};
 /// A game screen in 48 colors, some fully saturated: tiles of 32 x 32 pixels that are flat, bricks or sprites.
 [[nodiscard]] const WorkImage& pixelArtImage(ImageSize size);
 
-/// Every color as likely as every other, and no pixel related to another.
+/// Noise: every color is equally likely, and the pixels are independent.
 [[nodiscard]] const WorkImage& noiseImage(ImageSize size);
 
 /// A Windows Bitmap of 24 bits a pixel.
@@ -43,7 +43,7 @@ inline constexpr ImageSize kSmall{64, 48};
 /// The photo-like image's bitmap as a scratch file.
 [[nodiscard]] std::wstring bitmapFileOf(ImageSize size);
 
-/// A file of the temporary folder, made when it is asked for first. Throws when it cannot be written.
+/// Returns the name of a file in the temporary folder, which the first call makes. Throws if it can't be written.
 [[nodiscard]] std::wstring scratchFile(const std::string& name,
                                        const std::function<std::vector<std::uint8_t>()>& content);
 

@@ -1,4 +1,4 @@
-// Runs a fuzz target over the files named, and over all files in the folders named.
+// Runs a fuzz target on each file of the command line, and on all files in each folder.
 
 #include <filesystem>
 #include <fstream>

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# check-tidy.sh BUILD...: runs clang-tidy on the project's sources that the builds compile, on each as the first of them
-# compiles it. A file that was clean is looked at again only when it, a header of the project or the rules have changed.
-# For a cross compiler's build clang takes system and headers from the compiler's name.
+# check-tidy.sh BUILD...: runs clang-tidy on the project's sources in these builds, with the options of the first build
+# that compiles the source. A clean file is checked again only if it, a header of the project or the rules have changed.
+# For a cross build, clang derives the target system and its headers from the compiler's name.
 set -euo pipefail
 builds=()
 for build in "$@"; do

@@ -131,7 +131,7 @@ void addConvertVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   const auto options = std::make_shared<ConvertOptions>();
   verb.addArgument("FILE", options->files,
                    "IN and OUT; with --out-dir any number of files and folders of them. - is standard input or output");
-  verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
+  verb.addOption("--name", options->input.name, "File name to assume for standard input");
   verb.addOption("--out-dir", options->outDir, "Convert all files into this folder");
   addOutputOptions(verb, options->output);
   addReadingFlags(verb, options->input.standard, console);

@@ -122,7 +122,7 @@ void addDiffVerb(CommandLine& tool, Console& console, ExitStatus& status) {
       "B", options->files[1],
       "The file to compare with. The exit status is 0 if the palettes are the same, 1 if they differ, and 2 "
       "if a file can't be read");
-  verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
+  verb.addOption("--name", options->input.name, "File name to assume for standard input");
   addReadingFlags(verb, options->input.standard, console);
   verb.addFlag("--json", options->json, "Write JSON, one object a line for each entry that differs");
   verb.onRun([options, &console, &status] { status = diff(*options, console); });

@@ -109,10 +109,11 @@ void addEditVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   const auto options = std::make_shared<EditOptions>();
   verb.addArgument("IN", options->from, "The palette or image file to read, or - for standard input");
   verb.addArgument("OUT", options->to, "The file to write, or - for standard output");
-  verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
+  verb.addOption("--name", options->input.name, "File name to assume for standard input");
   addOutputOptions(verb, options->output);
   addReadingFlags(verb, options->input.standard, console);
-  verb.addFlag("--json", options->json, "Write JSON: the palette that was written, and what the steps left");
+  verb.addFlag("--json", options->json,
+               "Write JSON: the palette that was written, with selection, history and results of the steps");
   for (const auto& kinds : {selectionSteps(), colorSteps(), structureSteps(), documentSteps(), entrySteps()}) {
     for (const StepKind& kind : kinds) {
       addStep(verb, kind, options);

@@ -14,22 +14,22 @@
 
 namespace quillhue::cli {
 
-/// A remapped image that is to be written.
+/// A remapped image to be written.
 struct ImageOutput {
   const RemappedImage& image;
-  /// The whole palette, of which the image has the first entries.
+  /// The whole palette; the image uses its first entries.
   const Palette& palette;
-  /// Transparent entries, in formats that have any.
+  /// Transparent entries. Formats without transparency ignore them.
   std::bitset<256> transparent;
-  /// Of entries that the format has and the palette has not.
+  /// Color of the format's entries past the palette's end.
   PaletteEntry blank;
 };
 
-/// A format in which remapped images are written.
+/// A format of remapped images.
 struct ImageFormat {
-  /// For --format; also the usual extension.
+  /// Name for --format, and the usual extension.
   std::string_view name;
-  /// Endings of file names in upper case.
+  /// File name endings in upper case.
   std::vector<std::string_view> endings;
   bool hasTransparency;
   std::expected<std::vector<std::uint8_t>, Failure> (*compose)(const ImageOutput& output);
@@ -40,8 +40,8 @@ struct ImageFormat {
 [[nodiscard]] std::vector<std::string> imageFormatNames();
 inline constexpr const char* kImageFormatHelp = "The format to write (default: that of OUT's extension, otherwise bmp)";
 
-/// The format with the name `format`, or if that is empty the one that the extension of `file` stands for; for standard
-/// output and for a folder, of which the name is empty, Windows Bitmap. Refuses the usage for any other extension.
+/// Returns the format with the name `format`. If that is empty, the extension of `file` decides; for standard output
+/// ("-") and for a folder (an empty name) the format is Windows Bitmap. Other extensions are a usage error.
 [[nodiscard]] const ImageFormat& chooseImageFormat(const std::string& format, const std::string& file);
 
 }  // namespace quillhue::cli

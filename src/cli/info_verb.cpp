@@ -77,7 +77,7 @@ void addInfoVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   Verb verb = tool.addVerb("info", "Show the palettes of files");
   const auto options = std::make_shared<InfoOptions>();
   verb.addArgument("FILE", options->files, "Palette or image files, folders of them, or - for standard input");
-  verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
+  verb.addOption("--name", options->input.name, "File name to assume for standard input");
   addJobsOption(verb, options->jobs);
   addReadingFlags(verb, options->input.standard, console);
   verb.addFlag("--json", options->json, "Write JSON, one object a line for each file");

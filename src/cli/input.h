@@ -16,13 +16,13 @@ namespace quillhue::cli {
 
 /// How a verb reads files.
 struct InputOptions {
-  /// The name that standard input is taken to have.
+  /// File name to assume for standard input.
   std::string name;
-  /// By the published descriptions of the formats.
+  /// Follow the published descriptions of the formats.
   bool standard = false;
 };
 
-/// A file that was read. An image of true colors still reads from the source.
+/// A file that was read. The pixels of a true-color bitmap are still read from the source.
 struct Input {
   std::unique_ptr<ByteSource> source;
   const PaletteReader* reader;
@@ -32,7 +32,7 @@ struct Input {
 /// Opens the file, or reads standard input for "-".
 [[nodiscard]] std::expected<std::unique_ptr<ByteSource>, Failure> openSource(const std::string& file, Console& console);
 
-/// Reads the file, or for "-" standard input.
+/// Reads a file, or standard input for "-".
 [[nodiscard]] std::expected<Input, Failure> openInput(const std::string& file, const InputOptions& options,
                                                       Console& console);
 /// The same for an open file. Adds notes to `notes`, if it is not null.
@@ -52,7 +52,7 @@ struct InputPalette {
 [[nodiscard]] std::expected<InputPalette, std::string> readFilePalette(const std::string& file,
                                                                        const InputOptions& options, Console& console);
 
-/// The name that the file has, or that standard input is taken to have.
+/// Returns the name of the file, or for "-" the name to assume for standard input.
 [[nodiscard]] const std::string& inputName(const std::string& file, const InputOptions& options);
 
 /// Replaces each folder among the files by its regular files, sorted by name.

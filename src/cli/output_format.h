@@ -45,7 +45,7 @@ struct OutputFormat {
   const PaletteReader* reader = nullptr;
 };
 
-/// All of them; with `standard` some are written by their published descriptions.
+/// Returns all formats. With `standard`, some of them follow their published descriptions.
 [[nodiscard]] std::vector<OutputFormat> outputFormats(bool standard = false);
 
 /// Options of the verbs that write palettes.
@@ -60,12 +60,12 @@ void addOutputOptions(Verb& verb, OutputOptions& options);
 /// Chooses the format of one output file.
 class FormatChoice {
  public:
-  /// Chooses by --format, or else by the extension of the file `to`. Where `from`, the name of the file that is read,
-  /// has the same extension, that file's own format comes first. Refuses the usage when neither can tell a format.
+  /// Chooses by --format, otherwise by the extension of the file `to`. If the input file `from` has the same extension,
+  /// its own format is preferred. It is a usage error if neither determines a format.
   FormatChoice(const OutputOptions& options, bool standard, const std::string& to, const std::string& from = {});
 
   /// Returns the format for a palette of `size` entries that was read in the format `readAs`. The input's own format is
-  /// used only if it can be written and can hold the palette. Refuses the usage if no other format was chosen.
+  /// used only if it can be written and can hold the palette. It is a usage error if no other format was chosen.
   [[nodiscard]] const OutputFormat& formatFor(std::string_view readAs, std::int32_t size) const;
 
  private:

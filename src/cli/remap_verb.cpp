@@ -46,14 +46,14 @@ struct ModeName {
 constexpr std::array<ModeName, 3> kModes{
     {{"maintain", RemapMode::maintain}, {"nearest", RemapMode::nearest}, {"dither", RemapMode::dither}}};
 
-// Nobody watches, and nobody stops a run.
+// Reports to nobody, and never stops a run.
 class NoProgress final : public RemapProgress {
   [[nodiscard]] bool rowsDone(std::int32_t /*rows*/, const RemappedImage& /*result*/) override { return true; }
 };
 
 using RemapImage = std::function<void(const WorkImage& image, RemappedImage& result)>;
 
-// What all images of a thread become. The remapper serves one image at a time.
+// The palette, format and method for all images of a thread. The remapper serves one image at a time.
 struct Target {
   const Palette& palette;
   const ImageFormat& format;
@@ -73,7 +73,7 @@ RemapImage remapperFor(const Palette& palette, const RemapVerbOptions& options) 
   return remapBy(std::make_shared<Remapper>(palette));
 }
 
-// Maintained indexes are as transparent as they were.
+// Returns the transparent entries of the result. Maintained indexes stay as transparent as they were.
 std::bitset<256> transparentEntries(const WorkImage& image, const RemapVerbOptions& options) {
   if (options.remap.mode == RemapMode::maintain) {
     return image.transparentIndexes();
@@ -90,7 +90,7 @@ struct Remapped {
   std::bitset<256> transparent;
 };
 
-// The image is gone when the result is written: they need not fit into the memory with the file.
+// Frees the image before the result is composed, so that they need not be in memory together.
 std::expected<Remapped, std::string> remapFile(const std::string& file, const Target& target,
                                                const RemapVerbOptions& options, Console& console) {
   const auto image = readImage(file, options.input.standard, options.blank, console);
@@ -232,18 +232,18 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addArgument("FILE", options->files,
                    "IMAGE (bitmap, PNG, JPEG, PNM, PCX, LBM, clipboard file), PALETTE and OUT (.bmp, .dib, .png); with "
                    "--out-dir any number of images and folders of them. - is standard input or output");
-  verb.addOption("--palette", options->palette, "The palette or image file whose colors are used, with --out-dir");
+  verb.addOption("--palette", options->palette, "The palette or image file with the colors to use, with --out-dir");
   verb.addOption("--out-dir", options->outDir, "Write all results into this folder");
-  verb.addOption("--name", options->input.name, "The file name that standard input is taken to have, with --out-dir");
+  verb.addOption("--name", options->input.name, "File name to assume for standard input, with --out-dir");
   verb.addAction({"--mode", "NAME",
                   "maintain the indexes of an indexed image, take the nearest colors, or dither (default: nearest)",
                   [options](const std::string& text) { options->remap.mode = parseMode(text); }});
   addNumberOption(verb, "--protect-color", options->remap.protectedEntry, {0, kMaxUsedEntries - 1},
                   "An entry whose exact color is kept when dithering");
-  verb.addAction({"--protect-grid", "WxH", "Cells that dithering treats each for itself, as in 16x16",
+  verb.addAction({"--protect-grid", "WxH", "Size of cells that are dithered independently, for example 16x16",
                   [options](const std::string& text) { options->remap.protectGrid = parseGrid(text); }});
   addNumberOption(verb, "--transparent", options->transparent, {0, kMaxUsedEntries - 1},
-                  "The entry of pixels that are less than half opaque, and of no others (default: such pixels are "
+                  "The entry for pixels that are less than half opaque, used for no others (default: such pixels are "
                   "blended with --blank)");
   verb.addChoice("--format", options->format, imageFormatNames(), kImageFormatHelp);
   addColorOption(verb, "--blank", options->blank,

@@ -83,7 +83,7 @@ void addValuesVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   options->models.resize(colorModels().size());
   std::iota(options->models.begin(), options->models.end(), 0);
   verb.addArgument("FILE", options->file, "A palette or image file, or - for standard input");
-  verb.addOption("--name", options->input.name, "The file name that standard input is taken to have");
+  verb.addOption("--name", options->input.name, "File name to assume for standard input");
   verb.addAction({"--model", "NAME", "Show only this color model (default: all)", [options](const std::string& name) {
                     const auto model = placeOfAnyCase(namesOf(colorModels()), name);
                     if (!model) {

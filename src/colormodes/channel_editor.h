@@ -15,10 +15,10 @@ class ChannelView {
  public:
   virtual ~ChannelView() = default;
 
-  /// Shows a channel's range and number in its control. A control that reports this as a change by the user calls
-  /// fieldChanged, which then changes nothing.
+  /// Shows a channel's range and number in its control. Some controls report this like a change by the user and call
+  /// fieldChanged, which then does nothing.
   virtual void showChannel(Bar bar, const ValueRange& range, std::int32_t value) = 0;
-  /// The entry may have another color: repaints its cell, and the bars if it is the current entry.
+  /// Repaints the cell of an entry whose color may have changed, and the bars if it is the current entry.
   virtual void entryChanged(std::int32_t index) = 0;
 };
 

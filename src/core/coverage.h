@@ -6,15 +6,15 @@
 
 namespace quillhue {
 
-/// The least coverage (alpha, 0..255) of a pixel that is not transparent.
+/// Minimum coverage (alpha, 0 .. 255) of a pixel that counts as opaque.
 inline constexpr std::uint8_t kHalfCovered = 128;
 
-/// The quotient by 255, rounded to the nearest.
+/// Divides by 255, and rounds to the nearest integer.
 [[nodiscard]] constexpr std::uint8_t dividedBy255(std::uint32_t product) {
   return static_cast<std::uint8_t>((product + 127) / 255);
 }
 
-/// The color where `color` covers `behind` by `coverage` of 255 parts.
+/// Blends `color` over `behind`; `coverage` is 0 .. 255.
 [[nodiscard]] constexpr PaletteEntry blended(PaletteEntry color, const PaletteEntry& behind, std::uint8_t coverage) {
   for (const Channel channel : kChannels) {
     auto& value = channelOf(color, channel);

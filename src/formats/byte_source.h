@@ -18,7 +18,7 @@ class ByteSource {
   ByteSource& operator=(const ByteSource&) = delete;
   virtual ~ByteSource() = default;
 
-  /// In bytes.
+  /// Size in bytes.
   [[nodiscard]] std::uint64_t size() const { return size_; }
 
   /// Little-endian (le) or big-endian (be) unsigned values.
@@ -36,7 +36,7 @@ class ByteSource {
   /// Returns `count` bytes. The caller limits the count.
   [[nodiscard]] std::vector<std::uint8_t> bytes(std::uint64_t offset, std::size_t count);
 
-  /// True when the medium gave fewer bytes than the size it had announced, so the bytes read are not the file.
+  /// Returns true if the medium delivered fewer bytes than its announced size. The bytes read are then not the file's.
   [[nodiscard]] bool failed() const { return failed_; }
 
  protected:

@@ -36,12 +36,12 @@ class WorkImage {
     return pixels().subspan(rowStart(y), rowLength());
   }
 
-  /// A pixel is transparent when the image covers less than half of it. It still has the color that it has without
-  /// transparency.
+  /// Returns whether a pixel is transparent, that is, less than half covered. It still has a color, for uses that
+  /// ignore transparency.
   [[nodiscard]] bool isTransparent(std::int32_t y, std::size_t x) const {
     return palette_ ? transparentIndexes_[row(y)[x]] : !transparent_.all().empty() && transparentRow(y)[x] != 0;
   }
-  /// False when no pixel can be transparent.
+  /// Returns false if certainly no pixel is transparent.
   [[nodiscard]] bool hasTransparency() const { return transparentIndexes_.any() || !transparent_.all().empty(); }
   /// Indexes of transparent pixels. Only for an image with a palette.
   [[nodiscard]] std::bitset<256>& transparentIndexes() { return transparentIndexes_; }

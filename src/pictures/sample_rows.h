@@ -29,9 +29,9 @@ struct SampleFormat {
   bool hasAlpha = false;
   /// Bits a sample: 1, 2, 4 (the left pixel in the highest bits), 8 or 16.
   unsigned bits = 8;
-  /// The greatest possible sample.
+  /// Maximum value of a sample.
   std::uint16_t maximum = 255;
-  /// Byte order of samples of 16 bits.
+  /// Byte order of 16-bit samples.
   bool isLittleEndian = false;
 
   [[nodiscard]] std::size_t samplesPerPixel() const;
@@ -51,7 +51,7 @@ struct TransparentColor {
   std::uint16_t maximum = 255;
 };
 
-/// The columns that the pixels of a row go to: those of one pass of an interlaced image, or all.
+/// The image columns of the pixels in a row: those of one pass of an interlaced image, or all.
 struct Columns {
   std::size_t first = 0;
   std::size_t step = 1;
@@ -60,8 +60,8 @@ struct Columns {
 /// Converts rows of samples to an image.
 class SampleRows {
  public:
-  /// The size must be within the limits; `colors` is for images of indexes. Transparent pixels are blended with
-  /// `blank`. Throws std::bad_alloc.
+  /// The size must be within the limits of image_limits.h. Images of indexes need `colors`. Transparent pixels are
+  /// blended with `blank`. Throws std::bad_alloc.
   SampleRows(std::int32_t width, std::int32_t height, SampleFormat format, PaletteEntry blank,
              const std::optional<PictureColors>& colors = {});
 

@@ -17,13 +17,13 @@ class NearestTable;
 enum class RemapMode : std::uint8_t {
   /// An indexed image keeps its indexes.
   maintain,
-  /// Every color becomes the nearest of the palette.
+  /// Each pixel gets the nearest color of the palette.
   nearest,
-  /// The same with error diffusion.
+  /// The same, with error diffusion.
   dither,
 };
 
-/// Cells that errors do not leave to the right or downward, in pixels.
+/// Size of the cells, in pixels, whose right and lower borders errors do not cross.
 struct ProtectGrid {
   static constexpr std::int32_t kMaxSide = 1000;
 
@@ -33,29 +33,31 @@ struct ProtectGrid {
 
 struct RemapOptions {
   RemapMode mode = RemapMode::nearest;
-  /// An entry whose exact color error diffusion keeps. One that no result can hold protects nothing.
+  /// Error diffusion leaves pixels that have exactly the color of this entry unchanged. An index past the colors in use
+  /// protects nothing.
   std::optional<std::int32_t> protectedEntry;
-  /// Sides outside 1 .. ProtectGrid::kMaxSide count as the nearest ones inside.
+  /// Sides are clamped to 1 .. ProtectGrid::kMaxSide.
   std::optional<ProtectGrid> protectGrid;
-  /// In error diffusion transparent pixels get any index, and neither take nor leave errors.
+  /// Error diffusion skips transparent pixels: they get any index, and no error passes through them.
   bool skipsTransparent = false;
 };
 
-/// Hears how far a run is, after rows 0, 16, 32 and so on of an image of direct colors or one that is dithered.
+/// Is told about the progress of a run after rows 0, 16, 32 and so on. Runs that only look up the indexes of an indexed
+/// image report nothing.
 class RemapProgress {
  public:
   virtual ~RemapProgress() = default;
 
-  /// The first `rows` rows of `result` are done. False stops the run.
+  /// The first `rows` rows of `result` are done. Returning false stops the run.
   [[nodiscard]] virtual bool rowsDone(std::int32_t rows, const RemappedImage& result) = 0;
 };
 
-/// Remaps images onto a palette's first kMaxUsedEntries entries, of which it takes a copy. What it learns about their
-/// places in the color space serves all its images; how much room that gets is up to the mode of the first one.
+/// Remaps images onto a copy of the first kMaxUsedEntries entries of a palette. The tables that it builds serve all its
+/// images; the mode of the first image decides how large they may become.
 ///
-/// Distances are squared Euclidean distances of red, green and blue; of equally near entries the first one counts.
-/// Arithmetic is 32-bit two's complement: errors are never clamped, and with a palette that is far from the image's
-/// colors they grow until they wrap.
+/// Distances are squared Euclidean distances of red, green and blue; of equally near entries the first one is used.
+/// Arithmetic is 32-bit two's complement. Errors are never clamped: if the palette is far from the image's colors, they
+/// grow until they wrap.
 class Remapper {
  public:
   explicit Remapper(const Palette& palette);
@@ -63,8 +65,8 @@ class Remapper {
   Remapper(const Remapper&) = delete;
   Remapper& operator=(const Remapper&) = delete;
 
-  /// Makes `result` from `image`. An image of direct colors has no indexes to maintain and becomes all 0. False when
-  /// `progress` stopped the run, which leaves the rows done so far in `result`. Throws std::bad_alloc.
+  /// Makes `result` from `image`. In the mode maintain, an image without a palette becomes all 0. Returns false if
+  /// `progress` stopped the run; `result` then contains the rows done so far. Throws std::bad_alloc.
   bool remap(const WorkImage& image, const RemapOptions& options, RemappedImage& result, RemapProgress& progress);
 
  private:

@@ -11,18 +11,18 @@
 
 namespace quillhue {
 
-/// The greatest number of palette entries that an image with one byte a pixel can use.
+/// Maximum number of palette entries that an image with one byte per pixel can use.
 inline constexpr std::int32_t kMaxUsedEntries = 256;
 
-/// An image with one byte a pixel in the colors of a palette. A moved-from image may only be assigned or destroyed.
+/// An image with one byte per pixel and the colors of a palette. A moved-from image may only be assigned or destroyed.
 class RemappedImage {
  public:
   [[nodiscard]] std::int32_t width() const { return width_; }
   [[nodiscard]] std::int32_t height() const { return height_; }
-  /// A copy of the palette's first kMaxUsedEntries entries from when the image was made.
+  /// Returns a copy of the palette's first kMaxUsedEntries entries, made when the image was remapped.
   [[nodiscard]] const std::vector<PaletteEntry>& colors() const { return colors_; }
 
-  /// Rows of indexes from top to bottom, padded with zeros to the paddedRowLength.
+  /// Returns the rows of indexes from top to bottom. Each is padded with zeros to paddedRowLength().
   [[nodiscard]] std::span<const std::uint8_t> rows() const { return rows_.all(); }
   /// Returns the pixels of a row without its padding.
   [[nodiscard]] std::span<std::uint8_t> row(std::int32_t y) {

@@ -9,12 +9,12 @@ namespace quillhue {
 /// Remaps images onto a palette with one entry for transparent pixels.
 class TransparentRemapper {
  public:
-  /// Of the palette's first kMaxUsedEntries entries, at least two, `transparentEntry` is for the transparent pixels.
+  /// `transparentEntry` is one of the palette's first kMaxUsedEntries entries, of which there are at least two.
   TransparentRemapper(const Palette& palette, std::int32_t transparentEntry);
 
-  /// Makes `result` from `image` in the mode nearest or dither: transparent pixels get the transparent entry, and all
-  /// others what Remapper gives them on the palette without it. Until this is done `result` has indexes of that
-  /// palette. Otherwise as Remapper::remap.
+  /// Makes `result` from `image` in the mode nearest or dither. Transparent pixels get the transparent entry. All
+  /// others get the same color as from a Remapper for a palette without that entry; while the run goes on, `result`
+  /// contains indexes into that palette. In all other respects it works like Remapper::remap.
   bool remap(const WorkImage& image, RemapOptions options, RemappedImage& result, RemapProgress& progress);
 
  private:

@@ -11,9 +11,9 @@
 
 namespace quillhue {
 
-/// Puts palettes (CF_PALETTE) and bitmaps (CF_DIB) on the system's clipboard, and reads them and PNG files. A palette
-/// is also put as text, one color per line. Without a palette on the clipboard, text of nothing but colors counts as
-/// one.
+/// Puts palettes (CF_PALETTE) and bitmaps (CF_DIB) on the system's clipboard, and reads palettes, bitmaps and PNG
+/// files. A palette is also put as text, one color per line. If the clipboard holds no palette, text that consists of
+/// colors only is read as one.
 class Clipboard final : public PaletteClipboard {
  public:
   /// `owner` becomes the owner of the data on the clipboard.
@@ -25,7 +25,7 @@ class Clipboard final : public PaletteClipboard {
   /// Replaces the clipboard's content by a device-independent bitmap: header, colors, pixels. Returns false if the
   /// clipboard can't be opened or refuses the bitmap.
   [[nodiscard]] bool putBitmap(std::span<const std::uint8_t> block);
-  /// A device-independent bitmap, or a PNG file, after which there may be other bytes.
+  /// A device-independent bitmap or a PNG file. Other bytes may follow.
   struct Image {
     bool isPng = false;
     std::vector<std::uint8_t> bytes;

@@ -35,7 +35,7 @@ ValuesTab::ValuesTab(WindowContext& context)
   }
   chooseItem(models_, context.settings().colorMode);
   nameChannels();
-  // Below the controls on it.
+  // The bars must not cover the controls that lie on them.
   SetWindowPos(bars_.handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
