@@ -14,7 +14,7 @@ int run(std::vector<std::string> arguments, Console& console) {
   ExitStatus status = kDone;
   try {
     CommandLine tool("quillhue-cli", "quillhue-cli " QUILLHUE_VERSION,
-                     "Makes, shows, edits and converts palettes: ordered lists of red-green-blue entries.");
+                     "Makes, shows, edits and converts palettes of red-green-blue entries.");
     addFormatsVerb(tool, console, status);
     addInfoVerb(tool, console, status);
     addConvertVerb(tool, console, status);

@@ -92,14 +92,17 @@ std::optional<std::size_t> placeOfAnyCase(const std::vector<std::string>& names,
   return placeOf(lowerNames, inLowerCase(name));
 }
 
-std::string refusedName(const std::string& name, const std::vector<std::string>& names) {
-  std::string text = name;
-  text += " is not ";
+std::string listed(const std::vector<std::string>& names) {
+  std::string text;
   for (std::size_t i = 0; i < names.size(); ++i) {
     text += i == 0 ? "" : (i + 1 == names.size() ? " or " : ", ");
     text += names[i];
   }
   return text;
+}
+
+std::string refusedName(const std::string& name, const std::vector<std::string>& names) {
+  return name + " is not " + listed(names);
 }
 
 std::expected<EntryList, std::string> EntryList::parse(const std::string& text) {

@@ -49,6 +49,8 @@ std::vector<std::string> namesOf(const Rows& rows) {
 /// The same, ignoring case.
 [[nodiscard]] std::optional<std::size_t> placeOfAnyCase(const std::vector<std::string>& names, const std::string& name);
 
+/// Returns "a, b or c".
+[[nodiscard]] std::string listed(const std::vector<std::string>& names);
 /// Returns "x is not a, b or c".
 [[nodiscard]] std::string refusedName(const std::string& name, const std::vector<std::string>& names);
 

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "cli/verb_help.h"
+
 // Only command_line.cpp includes the parser's library, which takes longer to compile than all of the tool's own code.
 namespace CLI {
 class App;
@@ -24,13 +26,15 @@ struct Action {
   std::string argument;
   std::string help;
   std::function<void(const std::string& argument)> act;
+  /// The allowed arguments, for help; empty if there are too many to list.
+  std::vector<std::string> choices{};
 };
 
 /// One verb of the tool and its options. The given variables are written when the command line is parsed, so they must
 /// still exist then.
 class Verb {
  public:
-  explicit Verb(CLI::App& parser) : parser_(&parser) {}
+  Verb(CLI::App& parser, VerbHelp& help) : parser_(&parser), help_(&help) {}
 
   /// Adds a required argument without an option name.
   void addArgument(const std::string& name, std::string& value, const std::string& help);
@@ -38,23 +42,36 @@ class Verb {
   void addChoiceArgument(const std::string& name, std::string& value, const std::vector<std::string>& choices,
                          const std::string& help);
 
-  void addOption(const std::string& name, std::string& value, const std::string& help);
-  void addOption(const std::string& name, std::optional<std::string>& value, const std::string& help);
+  /// Adds the required argument OUT, which can also be given as -o OUT.
+  void addOutputArgument(std::string& value, const std::string& help);
+
+  /// Adds -o OUT for a verb whose output is the last argument of a list.
+  void addOutputOption(std::string& value);
+
+  /// Makes help list the following options under this heading.
+  void beginGroup(const std::string& group) { group_ = group; }
+  /// `declaration` is the option and the placeholder of its argument, such as "--name FILE".
+  void addOption(const std::string& declaration, std::string& value, const std::string& help);
+  void addOption(const std::string& declaration, std::optional<std::string>& value, const std::string& help);
   void addChoice(const std::string& name, std::string& value, const std::vector<std::string>& choices,
                  const std::string& help);
   void addFlag(const std::string& name, bool& value, const std::string& help);
 
   /// Adds an option whose argument is converted to a value of another type.
   void addAction(const Action& action);
-  /// Adds an action that runs at its place in the command line, before or after other actions. Help lists it under
-  /// `group`.
-  void addOrderedAction(const Action& action, const std::string& group);
+  /// Adds an action that runs at its place in the command line, before or after other actions. The verb's help shows
+  /// only its option.
+  void addOrderedAction(const Action& action);
 
   /// Sets the function that runs the verb after all its options are known.
   void onRun(const std::function<void()>& run);
 
  private:
+  void describe(OptionHelp option);
+
   CLI::App* parser_;
+  VerbHelp* help_;
+  std::string group_ = "Options";
 };
 
 /// The tool's command line.
@@ -67,12 +84,20 @@ class CommandLine {
 
   [[nodiscard]] Verb addVerb(const std::string& name, const std::string& help);
 
+  [[nodiscard]] const ToolHelp& help() const { return help_; }
+
   /// Runs the requested verb, or writes the help or version to `out`. If the arguments are wrong, writes the reason to
   /// `refused` and returns false.
   [[nodiscard]] bool run(std::vector<std::string> arguments, std::ostream& out, std::ostream& refused);
 
  private:
+  [[nodiscard]] bool showHelp(const std::vector<std::string>& words, std::ostream& out, std::ostream& refused) const;
+  [[nodiscard]] bool refuseArguments(const std::string& reason, std::ostream& refused) const;
+  // Returns the name of the verb that was called, or nothing.
+  [[nodiscard]] std::vector<std::string> calledVerb() const;
+
   std::string version_;
+  ToolHelp help_;
   std::unique_ptr<CLI::App> parser_;
 };
 

@@ -122,14 +122,13 @@ std::expected<void, FileRefusal> compactFile(const CompactOptions& options, Cons
 }  // namespace
 
 void addCompactVerb(CommandLine& tool, Console& console, ExitStatus& status) {
-  Verb verb = tool.addVerb("compact", "Remove unused and duplicate entries from an indexed image");
+  Verb verb = tool.addVerb("compact", "Remove unused and duplicate entries from an image");
   const auto options = std::make_shared<CompactOptions>();
-  verb.addArgument("IMAGE", options->from, "The indexed image to read, or - for standard input");
-  verb.addArgument(
-      "OUT", options->to,
-      "The image to write (.bmp, .dib, .png), or - for standard output. It looks the same; the entries that "
-      "are left keep their order");
-  verb.addOption("--palette-out", options->paletteOut, "Also write the entries that are left into this palette file");
+  verb.addArgument("IMAGE", options->from, "An indexed image, or - for standard input");
+  verb.addArgument("OUT", options->to,
+                   "The image to write, which looks the same. It looks the same; the entries that "
+                   "are left keep their order");
+  verb.addOption("--palette-out FILE", options->paletteOut, "Write the remaining entries to this palette file");
   verb.addChoice("--format", options->format, imageFormatNames(), kImageFormatHelp);
   addReadingFlags(verb, options->standard, console);
   addForceFlag(verb, options->force);

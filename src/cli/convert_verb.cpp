@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "cli/arguments.h"
+#include "cli/file_reason.h"
 #include "cli/input.h"
 #include "cli/jobs.h"
 #include "cli/notes.h"
@@ -20,6 +21,7 @@ namespace {
 
 struct ConvertOptions {
   std::vector<std::string> files;
+  std::string out;
   InputOptions input;
   std::optional<std::string> outDir;
   OutputOptions output;
@@ -55,7 +57,7 @@ std::expected<InputPalette, std::string> readPaletteOf(const std::string& file, 
                                                        Console& console) try {
   auto input = openInput(file, options.input, console);
   if (!input) {
-    return refusalOf(input.error());
+    return Refusal(openingFailure(input.error(), file));
   }
   if (auto* const stored = std::get_if<FilePalette>(&input->content)) {
     if (!options.colors.empty()) {
@@ -93,7 +95,7 @@ bool convertFile(const std::string& from, const std::string& to, const FormatCho
 
 ExitStatus convertAll(const std::string& outDir, const ConvertOptions& options, Console& console) {
   if (options.output.format.empty()) {
-    refuseUsage("--format", "is needed with --out-dir");
+    refuseUsage("--format", "is needed with --out-dir: " + listed(namesOf(outputFormats())));
   }
   const FormatChoice choice(options.output, options.input.standard, {});
   const FolderOutput output{outDir, choice.formatFor({}, 0).extension, options.input.name, options.output.force,
@@ -129,19 +131,24 @@ ExitStatus convert(const ConvertOptions& options, Console& console) {
 void addConvertVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   Verb verb = tool.addVerb("convert", "Convert palettes from one format to another");
   const auto options = std::make_shared<ConvertOptions>();
-  verb.addArgument("FILE", options->files,
-                   "IN and OUT; with --out-dir any number of files and folders of them. - is standard input or output");
-  verb.addOption("--name", options->input.name, "File name to assume for standard input");
-  verb.addOption("--out-dir", options->outDir, "Convert all files into this folder");
-  addOutputOptions(verb, options->output);
+  verb.addArgument("FILE", options->files, "IN and OUT, or files and folders with --out-dir");
+  verb.beginGroup("Input");
+  verb.addOption("--name FILE", options->input.name, "File name to assume for standard input");
   addReadingFlags(verb, options->input.standard, console);
-  verb.addChoice("--colors", options->colors, {"exact", "reduce"},
-                 "How to make a palette from an image without one: all of its colors, or fewer");
-  addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},
-                  "The number of entries for --colors (default: all colors for exact, 256 for reduce)");
+  verb.beginGroup("Output");
+  verb.addOutputOption(options->out);
+  verb.addOption("--out-dir DIR", options->outDir, "Convert all files into this folder");
+  addOutputOptions(verb, options->output);
+  addColorOption(verb, "--blank", options->blank, "Color of unused entries (default 0,0,0)");
   addJobsOption(verb, options->jobs);
-  addColorOption(verb, "--blank", options->blank, "The color of unused entries of OUT (default 0,0,0)");
-  verb.onRun([options, &console, &status] { status = convert(*options, console); });
+  verb.beginGroup("Images without a palette");
+  verb.addChoice("--colors", options->colors, {"exact", "reduce"}, "Make a palette of all colors, or of fewer");
+  addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},
+                  "Number of entries (default: all, or 256 for reduce)");
+  verb.onRun([options, &console, &status] {
+    addOutput(options->out, options->outDir.has_value(), options->files);
+    status = convert(*options, console);
+  });
 }
 
 }  // namespace quillhue::cli

@@ -118,13 +118,10 @@ void addDiffVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   Verb verb = tool.addVerb("diff", "Show the entries in which two palettes differ");
   const auto options = std::make_shared<DiffOptions>();
   verb.addArgument("A", options->files[0], "A palette or image file, or - for standard input");
-  verb.addArgument(
-      "B", options->files[1],
-      "The file to compare with. The exit status is 0 if the palettes are the same, 1 if they differ, and 2 "
-      "if a file can't be read");
-  verb.addOption("--name", options->input.name, "File name to assume for standard input");
+  verb.addArgument("B", options->files[1], "The file to compare with");
+  verb.addOption("--name FILE", options->input.name, "File name to assume for standard input");
   addReadingFlags(verb, options->input.standard, console);
-  verb.addFlag("--json", options->json, "Write JSON, one object a line for each entry that differs");
+  verb.addFlag("--json", options->json, "Write JSON, one object a line for each such entry");
   verb.onRun([options, &console, &status] { status = diff(*options, console); });
 }
 

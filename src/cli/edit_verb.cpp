@@ -98,24 +98,23 @@ void addStep(Verb& verb, const StepKind& kind, const std::shared_ptr<EditOptions
     const std::string text = kind.argument == nullptr ? kind.option : kind.option + (' ' + argument);
     keepStep({&kind, text, *std::move(step)}, options->steps);
   };
-  verb.addOrderedAction({kind.option, kind.argument == nullptr ? "" : kind.argument, kind.help, keep},
-                        "Steps, in the order in which they are written");
+  verb.addOrderedAction({kind.option, kind.argument == nullptr ? "" : kind.argument, kind.help, keep});
 }
 
 }  // namespace
 
 void addEditVerb(CommandLine& tool, Console& console, ExitStatus& status) {
-  Verb verb = tool.addVerb("edit", "Change a palette, step by step");
+  Verb verb = tool.addVerb("edit", "Change a palette, step by step; see help edit STEP");
   const auto options = std::make_shared<EditOptions>();
-  verb.addArgument("IN", options->from, "The palette or image file to read, or - for standard input");
-  verb.addArgument("OUT", options->to, "The file to write, or - for standard output");
-  verb.addOption("--name", options->input.name, "File name to assume for standard input");
+  verb.addArgument("IN", options->from, "A palette or image file, or - for standard input");
+  verb.addOutputArgument(options->to, "The file to write, or - for standard output");
+  verb.addOption("--name FILE", options->input.name, "File name to assume for standard input");
   addOutputOptions(verb, options->output);
   addReadingFlags(verb, options->input.standard, console);
-  verb.addFlag("--json", options->json,
-               "Write JSON: the palette that was written, with selection, history and results of the steps");
-  for (const auto& kinds : {selectionSteps(), colorSteps(), structureSteps(), documentSteps(), entrySteps()}) {
-    for (const StepKind& kind : kinds) {
+  verb.addFlag("--json", options->json, "Write JSON: the palette, selection and history");
+  for (const StepGroup& group : stepGroups()) {
+    verb.beginGroup(group.subject);
+    for (const StepKind& kind : group.kinds()) {
       addStep(verb, kind, options);
     }
   }

@@ -41,7 +41,7 @@ void addEffectsVerb(CommandLine& tool, Console& console, ExitStatus& /*status*/)
               {
                   .name = "effects",
                   .help = "List the effects: name, values, default",
-                  .jsonHelp = "Write JSON, one object a line for each effect (null: the palette's size)",
+                  .jsonHelp = "Write JSON, one object a line for each effect",
                   .showText = showText,
                   .showJson = showJson,
               });

@@ -38,7 +38,7 @@ struct ImageFormat {
 [[nodiscard]] std::span<const ImageFormat> imageFormats();
 /// The choices of --format in verbs that write images, and its help.
 [[nodiscard]] std::vector<std::string> imageFormatNames();
-inline constexpr const char* kImageFormatHelp = "The format to write (default: that of OUT's extension, otherwise bmp)";
+inline constexpr const char* kImageFormatHelp = "Format to write (default: by the extension, or bmp)";
 
 /// Returns the format with the name `format`. If that is empty, the extension of `file` decides; for standard output
 /// ("-") and for a folder (an empty name) the format is Windows Bitmap. Other extensions are a usage error.

@@ -6,6 +6,7 @@
 #include <utility>
 #include <variant>
 
+#include "cli/file_reason.h"
 #include "cli/input.h"
 #include "cli/notes.h"
 #include "cli/refusal.h"
@@ -77,13 +78,13 @@ void countColors(const WorkImage& image, const Palette& palette, ImageUse& use) 
 std::expected<WorkImage, std::string> readImage(const std::string& file, bool standard, PaletteEntry blank,
                                                 Console& console) {
   const auto source = openSource(file, console);
-  return source ? loadPixels(**source, file, standard, blank, console) : refusalOf(source.error());
+  return source ? loadPixels(**source, file, standard, blank, console) : Refusal(openingFailure(source.error(), file));
 }
 
 std::expected<ImageFile, std::string> readImageFile(const std::string& file, bool standard, Console& console) try {
   auto source = openSource(file, console);
   if (!source) {
-    return refusalOf(source.error());
+    return Refusal(openingFailure(source.error(), file));
   }
   auto image = loadPixels(**source, file, standard, {}, console);
   if (!image) {

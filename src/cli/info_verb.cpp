@@ -4,6 +4,7 @@
 #include <variant>
 #include <vector>
 
+#include "cli/file_reason.h"
 #include "cli/input.h"
 #include "cli/jobs.h"
 #include "cli/json.h"
@@ -19,8 +20,18 @@ struct InfoOptions {
   std::vector<std::string> files;
   InputOptions input;
   std::optional<std::int32_t> jobs;
+  std::string color = "auto";
   bool json = false;
 };
+
+// Returns the console with the colors that --color asks for.
+Console consoleFor(const std::string& color, const Console& console) {
+  Console chosen = console;
+  if (color != "auto") {
+    chosen.colors = color == "always" ? console.possibleColors : TerminalColors::none;
+  }
+  return chosen;
+}
 
 void showFilePalette(const std::string& file, const Input& input, bool json, Console& console) {
   const auto& content = std::get<FilePalette>(input.content);
@@ -29,7 +40,7 @@ void showFilePalette(const std::string& file, const Input& input, bool json, Con
     writeJson(console, paletteJson(file, input.reader->name, content.format, palette));
     return;
   }
-  console.out << file << ": " << input.reader->title << ", " << palette.getSize()
+  console.out << printableName(file) << ": " << input.reader->title << ", " << palette.getSize()
               << (palette.getSize() == 1 ? " entry\n" : " entries\n");
   showPalette(palette, console);
 }
@@ -39,7 +50,7 @@ void showImage(const std::string& file, const Input& input, std::uint64_t colors
     writeJson(console, JsonObject().add("file", file).add("format", input.reader->name).add("colors", colors));
     return;
   }
-  console.out << file << ": " << input.reader->title << " without a palette, " << colors
+  console.out << printableName(file) << ": " << input.reader->title << " without a palette, " << colors
               << (colors == 1 ? " color\n" : " different colors\n");
 }
 
@@ -66,7 +77,7 @@ ExitStatus showAll(const InfoOptions& options, Console& console) {
   return runJobs(expandFolders(options.files), options.jobs, console, [&]() -> Job {
     return [&](const std::string& file, Console& own) {
       const auto shown = show(file, options, own);
-      return shown ? kDone : refuseFile({file, std::string(textOf(shown.error()))}, options.json, own);
+      return shown ? kDone : refuseFile({file, openingFailure(shown.error(), file)}, options.json, own);
     };
   });
 }
@@ -76,12 +87,17 @@ ExitStatus showAll(const InfoOptions& options, Console& console) {
 void addInfoVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   Verb verb = tool.addVerb("info", "Show the palettes of files");
   const auto options = std::make_shared<InfoOptions>();
-  verb.addArgument("FILE", options->files, "Palette or image files, folders of them, or - for standard input");
-  verb.addOption("--name", options->input.name, "File name to assume for standard input");
-  addJobsOption(verb, options->jobs);
+  verb.addArgument("FILE", options->files, "Palettes, images, folders, or - for standard input");
+  verb.addOption("--name FILE", options->input.name, "File name to assume for standard input");
   addReadingFlags(verb, options->input.standard, console);
+  addJobsOption(verb, options->jobs);
+  verb.addChoice("--color", options->color, {"auto", "always", "never"},
+                 "Show blocks of color (default: auto, on a terminal)");
   verb.addFlag("--json", options->json, "Write JSON, one object a line for each file");
-  verb.onRun([options, &console, &status] { status = showAll(*options, console); });
+  verb.onRun([options, &console, &status] {
+    Console chosen = consoleFor(options->color, console);
+    status = showAll(*options, chosen);
+  });
 }
 
 }  // namespace quillhue::cli

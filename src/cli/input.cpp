@@ -7,6 +7,7 @@
 #include <utility>
 #include <variant>
 
+#include "cli/file_reason.h"
 #include "cli/notes.h"
 #include "cli/picture_input.h"
 #include "core/utf8.h"
@@ -100,7 +101,7 @@ std::expected<InputPalette, std::string> readFilePalette(const std::string& file
                                                          Console& console) try {
   auto input = openInput(file, options, console);
   if (!input) {
-    return refusalOf(input.error());
+    return Refusal(openingFailure(input.error(), file));
   }
   if (!std::holds_alternative<FilePalette>(input->content)) {
     return Refusal("The image has no palette. Make one from its colors with convert --colors.");

@@ -159,8 +159,7 @@ class ProgressLine {
 }  // namespace
 
 void addJobsOption(Verb& verb, std::optional<std::int32_t>& jobs) {
-  addNumberOption(verb, "--jobs", jobs, {1, kMaxJobs},
-                  "How many files to work on at the same time (default: the number of processor cores)");
+  addNumberOption(verb, "--jobs", jobs, {1, kMaxJobs}, "Files to work on at once (default: one per core)");
 }
 
 ExitStatus runJobs(const std::vector<std::string>& files, std::optional<std::int32_t> threads, Console& console,

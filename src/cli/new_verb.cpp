@@ -110,13 +110,13 @@ void addNewVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   Verb verb = tool.addVerb("new", "Make a new palette");
   const auto options = std::make_shared<NewOptions>();
   verb.addChoiceArgument("KIND", options->kind, kindNames(), "The kind of palette to make");
-  verb.addArgument("OUT", options->file, "The file to write, or - for standard output");
+  verb.addOutputArgument(options->file, "The file to write, or - for standard output");
   addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},
-                  "The number of entries for blank, greyscale and rgb (default 256)");
-  verb.addAction({"--levels", "R,G,B", "The number of red, green and blue levels for rgb (default 6,7,6)",
+                  "Entries of blank, greyscale and rgb (default 256)");
+  verb.addAction({"--levels", "R,G,B", "Levels of the channels of rgb (default 6,7,6)",
                   [options](const std::string& text) { options->levels = parseLevels(text); }});
   verb.addFlag("--windows-colors", options->windowsColors, "Include the 20 Windows colors in blank or rgb");
-  addColorOption(verb, "--blank", options->blank, "The color of unused entries (default 0,0,0)");
+  addColorOption(verb, "--blank", options->blank, "Color of unused entries (default 0,0,0)");
   addOutputOptions(verb, options->output);
   addReadingFlags(verb, options->standard, console);
   verb.addFlag("--json", options->json, "Write JSON: the palette that was written");

@@ -7,9 +7,8 @@
 namespace quillhue::cli {
 
 void addReadingFlags(Verb& verb, bool& standard, Console& console) {
-  verb.addFlag("--standard", standard, "Read and write files by the published descriptions of their formats");
-  verb.addFlag("--quiet", console.notes.quiet,
-               "Don't say when a file is read or written differently from what it says or holds");
+  verb.addFlag("--standard", standard, "Follow the published descriptions of the formats");
+  verb.addFlag("--quiet", console.notes.quiet, "Don't note what is read or written differently");
 }
 
 void addNote(Console& console, const std::string& file, std::string_view text) {

@@ -1,5 +1,8 @@
 #include "cli/output.h"
 
+#include <algorithm>
+
+#include "cli/file_reason.h"
 #include "cli/notes.h"
 #include "core/utf8.h"
 #include "formats/files.h"
@@ -20,9 +23,26 @@ Composition compositionFor(const PaletteOutput& output) {
       output.blank, name, {output.options.columns.value_or(usual.columns), output.options.cell.value_or(usual.cell)}};
 }
 
+// Whether there are control characters other than line ends and tabs.
+bool isBinary(const std::vector<std::uint8_t>& content) {
+  return std::ranges::any_of(content, [](std::uint8_t byte) {
+    return byte == 0x7F || (byte < ' ' && byte != '\n' && byte != '\r' && byte != '\t');
+  });
+}
+
 }  // namespace
 
 void addForceFlag(Verb& verb, bool& force) { verb.addFlag("--force", force, "Replace files that exist"); }
+
+void addOutput(const std::string& out, bool hasOutDir, std::vector<std::string>& files) {
+  if (out.empty()) {
+    return;
+  }
+  if (hasOutDir) {
+    refuseUsage("--out", "does not go with --out-dir");
+  }
+  files.push_back(out);
+}
 
 std::expected<void, FileRefusal> writePalette(const PaletteOutput& output, const Palette& palette, Console& console) {
   const auto content = output.format.compose(palette, compositionFor(output));
@@ -51,6 +71,9 @@ void refuseJsonOnStandardOutput(bool json, const std::string& file) {
 std::expected<void, std::string> writeOutput(const std::string& file, const std::vector<std::uint8_t>& content,
                                              bool force, Console& console) {
   if (file == "-") {
+    if (console.isTerminal && !force && isBinary(content)) {
+      return Refusal("This is binary data, which a terminal can't show. Write it anyway with --force.");
+    }
     console.out.write(reinterpret_cast<const char*>(content.data()), static_cast<std::streamsize>(content.size()));
     return {};
   }
@@ -59,7 +82,7 @@ std::expected<void, std::string> writeOutput(const std::string& file, const std:
     return Refusal("This file already exists. Replace it with --force.");
   }
   if (!writeFile(name, content)) {
-    return refusalOf(Failure::couldNotCreate);
+    return Refusal(creationFailure(file, content.size()));
   }
   return {};
 }

@@ -117,7 +117,7 @@ ExitStatus writeIntoFolder(const FolderOutput& output, const std::vector<std::st
   std::error_code error;
   std::filesystem::create_directories(toPath(fromUtf8(output.folder)), error);
   if (error) {
-    reportRefusal(console, output.folder, "Could not create the folder.");
+    reportRefusal(console, output.folder, "Could not create the folder: " + error.message() + '.');
     return kRefused;
   }
   const std::vector<std::string> inputs = expandFolders(files);

@@ -60,7 +60,8 @@ OutputFormat pngFormat() {
 }
 
 [[noreturn]] void refuseNoFormat() {
-  refuseUsage("--format", "is needed because the output's extension does not determine the format");
+  refuseUsage("--format", "is needed because the output's extension does not determine the format: " +
+                              listed(namesOf(outputFormats())));
 }
 
 // Returns the extension in lower case with its dot; empty for standard output and for names without one.
@@ -106,12 +107,11 @@ std::vector<OutputFormat> outputFormats(bool standard) {
 
 void addOutputOptions(Verb& verb, OutputOptions& options) {
   verb.addChoice("--format", options.format, namesOf(outputFormats()),
-                 "The format to write (default: the format of IN if OUT has the same extension, otherwise the format "
-                 "that belongs to OUT's extension)");
+                 "Format to write (default: by the extension of OUT)");
   addNumberOption(verb, "--columns", options.columns, {1, SwatchLayout::kMaxColumns},
-                  "The number of squares in a row with --format png (default 16)");
+                  "Squares in a row of a png (default 16)");
   addNumberOption(verb, "--cell", options.cell, {1, SwatchLayout::kMaxCell},
-                  "The width of each square in pixels with --format png (default 16)");
+                  "Width of a square in pixels in a png (default 16)");
   verb.addFlag("--force", options.force, "Replace files that exist");
 }
 

@@ -3,6 +3,7 @@
 #include <iomanip>
 #include <string>
 
+#include "cli/terminal_colors.h"
 #include "formats/hex_color.h"
 
 namespace quillhue::cli {
@@ -12,14 +13,6 @@ namespace {
 // The width of " 1023 " and " #RRGGBB ".
 constexpr int kCellWidth = 15;
 
-// Returns black or white, whichever is easier to read on the color.
-std::string textColorOn(PaletteEntry color) { return lumaOf(color) < 128 ? "255;255;255" : "0;0;0"; }
-
-std::string sgr(PaletteEntry color) {
-  return "\x1b[48;2;" + std::to_string(color.red) + ';' + std::to_string(color.green) + ';' +
-         std::to_string(color.blue) + ";38;2;" + textColorOn(color) + 'm';
-}
-
 void showBlocks(const Palette& palette, Console& console) {
   int columns = 1;
   while (columns < 16 && 2 * columns * kCellWidth <= console.columns) {
@@ -28,8 +21,8 @@ void showBlocks(const Palette& palette, Console& console) {
   for (std::int32_t i = 0; i < palette.getSize(); ++i) {
     const PaletteEntry color = palette.entry(i);
     const bool endsLine = i % columns == columns - 1 || i + 1 == palette.getSize();
-    console.out << std::setw(5) << i << ' ' << sgr(color) << ' ' << hexTextOf(color) << " \x1b[0m"
-                << (endsLine ? "\n" : "");
+    console.out << std::setw(5) << i << ' ' << colorSequence(color, console.colors) << ' ' << hexTextOf(color)
+                << " \x1b[0m" << (endsLine ? "\n" : "");
   }
 }
 
@@ -51,7 +44,7 @@ std::string hexOf(PaletteEntry color) {
 }
 
 void showPalette(const Palette& palette, Console& console) {
-  if (console.colors) {
+  if (console.colors != TerminalColors::none) {
     showBlocks(palette, console);
   } else {
     showLines(palette, console);

@@ -62,8 +62,10 @@ int wmain(int argumentCount, wchar_t** arguments) try {
   quillhue::cli::Console console{std::cin, std::cout, std::cerr};
   const char* const noColor = std::getenv("NO_COLOR");
   console.isTerminal = modes.isConsole();
-  console.colors = modes.showsColors() && (noColor == nullptr || *noColor == '\0');
   console.showsProgress = _isatty(_fileno(stderr)) != 0;
+  if (modes.showsColors() && (noColor == nullptr || *noColor == '\0')) {
+    console.colors = quillhue::cli::TerminalColors::direct;
+  }
   console.columns = modes.columns(console.columns);
   std::vector<std::string> utf8;
   for (int i = 1; i < argumentCount; ++i) {

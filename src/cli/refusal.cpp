@@ -1,6 +1,7 @@
 #include "cli/refusal.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "cli/json.h"
 
@@ -20,11 +21,15 @@ std::string printable(std::string text) {
   return text;
 }
 
+std::string printableName(std::string file) {
+  std::ranges::replace(file, '\n', '?');
+  return printable(std::move(file));
+}
+
 std::string fileLine(const std::string& file, std::string_view text) {
   std::string reason(text);
   std::ranges::replace(reason, '\n', ' ');
-  std::string line = file;
-  std::ranges::replace(line, '\n', '?');
+  std::string line = printableName(file);
   line += ": ";
   line += reason;
   return printable(line);

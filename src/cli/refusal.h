@@ -28,6 +28,8 @@ ExitStatus refuseFile(const FileRefusal& refused, bool json, Console& console);
 /// Replaces control characters in the text; line ends stay.
 [[nodiscard]] std::string printable(std::string text);
 
+/// Returns the name of a file with control characters replaced, line ends too.
+[[nodiscard]] std::string printableName(std::string file);
 /// Returns one line, without a line end, about a file.
 [[nodiscard]] std::string fileLine(const std::string& file, std::string_view text);
 

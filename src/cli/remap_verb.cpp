@@ -28,6 +28,7 @@ namespace {
 
 struct RemapVerbOptions {
   std::vector<std::string> files;
+  std::string out;
   std::string palette;
   std::optional<std::string> outDir;
   InputOptions input;
@@ -227,31 +228,33 @@ ProtectGrid parseGrid(const std::string& text) {
 }  // namespace
 
 void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
-  Verb verb = tool.addVerb("remap", "Turn images into indexed ones that use the colors of a palette");
+  Verb verb = tool.addVerb("remap", "Give images the colors of a palette");
   const auto options = std::make_shared<RemapVerbOptions>();
-  verb.addArgument("FILE", options->files,
-                   "IMAGE (bitmap, PNG, JPEG, PNM, PCX, LBM, clipboard file), PALETTE and OUT (.bmp, .dib, .png); with "
-                   "--out-dir any number of images and folders of them. - is standard input or output");
-  verb.addOption("--palette", options->palette, "The palette or image file with the colors to use, with --out-dir");
-  verb.addOption("--out-dir", options->outDir, "Write all results into this folder");
-  verb.addOption("--name", options->input.name, "File name to assume for standard input, with --out-dir");
-  verb.addAction({"--mode", "NAME",
-                  "maintain the indexes of an indexed image, take the nearest colors, or dither (default: nearest)",
-                  [options](const std::string& text) { options->remap.mode = parseMode(text); }});
-  addNumberOption(verb, "--protect-color", options->remap.protectedEntry, {0, kMaxUsedEntries - 1},
-                  "An entry whose exact color is kept when dithering");
-  verb.addAction({"--protect-grid", "WxH", "Size of cells that are dithered independently, for example 16x16",
-                  [options](const std::string& text) { options->remap.protectGrid = parseGrid(text); }});
-  addNumberOption(verb, "--transparent", options->transparent, {0, kMaxUsedEntries - 1},
-                  "The entry for pixels that are less than half opaque, used for no others (default: such pixels are "
-                  "blended with --blank)");
+  verb.addArgument("FILE", options->files, "IMAGE, PALETTE and OUT, or files with --out-dir");
+  verb.beginGroup("Input");
+  verb.addOption("--palette FILE", options->palette, "The file whose colors are used, with --out-dir");
+  verb.addOption("--name FILE", options->input.name, "The name of standard input, with --out-dir");
+  addReadingFlags(verb, options->input.standard, console);
+  verb.beginGroup("Output");
+  verb.addOutputOption(options->out);
+  verb.addOption("--out-dir DIR", options->outDir, "Write all results into this folder");
   verb.addChoice("--format", options->format, imageFormatNames(), kImageFormatHelp);
-  addColorOption(verb, "--blank", options->blank,
-                 "The color of unused entries of a bitmap, and behind transparent pixels (default 0,0,0)");
   addForceFlag(verb, options->force);
   addJobsOption(verb, options->jobs);
-  addReadingFlags(verb, options->input.standard, console);
-  verb.onRun([options, &console, &status] { status = remap(*options, console); });
+  verb.beginGroup("Colors");
+  verb.addAction({"--mode", "NAME", "maintain (the indexes), nearest (default) or dither",
+                  [options](const std::string& text) { options->remap.mode = parseMode(text); }, namesOf(kModes)});
+  addNumberOption(verb, "--protect-color", options->remap.protectedEntry, {0, kMaxUsedEntries - 1},
+                  "An entry whose exact color dithering keeps");
+  verb.addAction({"--protect-grid", "WxH", "Cells that dithering treats separately, as in 16x16",
+                  [options](const std::string& text) { options->remap.protectGrid = parseGrid(text); }});
+  addNumberOption(verb, "--transparent", options->transparent, {0, kMaxUsedEntries - 1},
+                  "The entry of pixels that are less than half opaque");
+  addColorOption(verb, "--blank", options->blank, "Color behind transparent pixels (default 0,0,0)");
+  verb.onRun([options, &console, &status] {
+    addOutput(options->out, options->outDir.has_value(), options->files);
+    status = remap(*options, console);
+  });
 }
 
 }  // namespace quillhue::cli

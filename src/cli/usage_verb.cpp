@@ -111,9 +111,9 @@ void showText(const std::string& file, const Usage& usage, Console& console) {
     duplicates += usage.isDuplicate(i) ? 1 : 0;
   }
   const std::uint64_t most = std::max<std::uint64_t>(1, *std::ranges::max_element(pixels));
-  console.out << file << ": " << usage.pixels << (usage.pixels == 1 ? " pixel, " : " pixels, ") << pixels.size()
-              << (pixels.size() == 1 ? " entry, " : " entries, ") << std::ranges::count(pixels, 0U) << " unused, "
-              << duplicates << " duplicate\n";
+  console.out << printableName(file) << ": " << usage.pixels << (usage.pixels == 1 ? " pixel, " : " pixels, ")
+              << pixels.size() << (pixels.size() == 1 ? " entry, " : " entries, ") << std::ranges::count(pixels, 0U)
+              << " unused, " << duplicates << " duplicate\n";
   for (std::size_t i = 0; i < pixels.size(); ++i) {
     console.out << std::setw(4) << i << "  " << hexOf(usage.color(i)) << std::setw(10) << pixels[i];
     if (console.isTerminal && pixels[i] > 0) {
@@ -148,7 +148,7 @@ ExitStatus showUsage(const UsageOptions& options, Console& console) try {
 }  // namespace
 
 void addUsageVerb(CommandLine& tool, Console& console, ExitStatus& status) {
-  Verb verb = tool.addVerb("usage", "Count the pixels of an image that use each entry of a palette");
+  Verb verb = tool.addVerb("usage", "Count the pixels of an image that use each entry");
   const auto options = std::make_shared<UsageOptions>();
   verb.addArgument(
       "FILE", options->files,

@@ -27,12 +27,16 @@ struct ValuesOptions {
 
 void showEntry(const ColorModel& model, const ColorMode& mode, bool json, Console& console) {
   if (json) {
-    writeJson(console, JsonObject()
-                           .add("index", mode.entryIndex())
-                           .add("model", model.name)
-                           .add("left", mode.getLeftValue())
-                           .add("middle", mode.getMiddleValue())
-                           .add("right", mode.getRightValue()));
+    JsonObject object;
+    object.add("index", mode.entryIndex())
+        .add("model", model.name)
+        .add("left", mode.getLeftValue())
+        .add("middle", mode.getMiddleValue())
+        .add("right", mode.getRightValue());
+    for (const Bar bar : kBars) {
+      object.add(model.channels[static_cast<std::size_t>(bar)].name, mode.getValue(bar));
+    }
+    writeJson(console, object);
     return;
   }
   console.out << std::right << std::setw(4) << mode.entryIndex() << "  " << std::left << std::setw(5) << model.name;
@@ -83,7 +87,7 @@ void addValuesVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   options->models.resize(colorModels().size());
   std::iota(options->models.begin(), options->models.end(), 0);
   verb.addArgument("FILE", options->file, "A palette or image file, or - for standard input");
-  verb.addOption("--name", options->input.name, "File name to assume for standard input");
+  verb.addOption("--name FILE", options->input.name, "File name to assume for standard input");
   verb.addAction({"--model", "NAME", "Show only this color model (default: all)", [options](const std::string& name) {
                     const auto model = placeOfAnyCase(namesOf(colorModels()), name);
                     if (!model) {

@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "cli/application.h"
+#include "cli/terminal_colors.h"
 #include "core/utf8.h"
 #include "pictures/picture_decoder.h"
 #include "support/bitmaps.h"
@@ -22,11 +23,11 @@ struct Answer {
   std::string err;
 };
 
-Answer call(std::vector<std::string> arguments, bool colors = false) {
+Answer call(std::vector<std::string> arguments, TerminalColors colors = TerminalColors::none) {
   std::istringstream in("1 2 3\n");
   std::ostringstream out;
   std::ostringstream err;
-  Console console{in, out, err, colors, 80};
+  Console console{in, out, err, colors, 80, colors != TerminalColors::none};
   const int status = run(std::move(arguments), console);
   return {status, out.str(), err.str()};
 }
@@ -67,11 +68,35 @@ TEST(Tool, AnswersEachCall) {
 }
 
 TEST(Tool, ShowsBlocksOfColorInATerminal) {
-  EXPECT_EQ(call({"info", "-", "--name", "x.map"}, true).out,
+  EXPECT_EQ(call({"info", "-", "--name", "x.map"}, TerminalColors::direct).out,
             "-: MAP palette, 1 entry\n    0 \x1b[48;2;1;2;3;38;2;255;255;255m #010203 \x1b[0m\n");
-  EXPECT_NE(call({"info", "samples/32.gif"}, true).out.find("48;2;159;208;252;38;2;0;0;0m"), std::string::npos);
+  EXPECT_NE(call({"info", "samples/32.gif"}, TerminalColors::direct).out.find("48;2;159;208;252;38;2;0;0;0m"),
+            std::string::npos);
   // Four cells of 15 characters fit into 80.
-  EXPECT_EQ(std::ranges::count(call({"info", "samples/32.gif"}, true).out, '\n'), 1 + 8);
+  EXPECT_EQ(std::ranges::count(call({"info", "samples/32.gif"}, TerminalColors::direct).out, '\n'), 1 + 8);
+}
+
+TEST(Tool, UsesTheColorsThatATerminalHas) {
+  EXPECT_EQ(call({"info", "-", "--name", "x.map"}, TerminalColors::indexed).out,
+            "-: MAP palette, 1 entry\n    0 \x1b[48;5;16;38;5;231m #010203 \x1b[0m\n");
+  EXPECT_EQ(call({"info", "-", "--name", "x.map", "--color", "never"}, TerminalColors::direct).out,
+            call({"info", "-", "--name", "x.map"}).out);
+  // Nearest in the cube, and a gray that is nearer than its cube.
+  EXPECT_EQ(indexedColorOf({255, 128, 0}), 16 + 36 * 5 + 6 * 2);
+  EXPECT_EQ(indexedColorOf({80, 81, 79}), 232 + 7);
+  EXPECT_EQ(terminalColorsOf("xterm-256color", ""), TerminalColors::indexed);
+  EXPECT_EQ(terminalColorsOf("xterm-256color", "truecolor"), TerminalColors::direct);
+  EXPECT_EQ(terminalColorsOf("dumb", "truecolor"), TerminalColors::none);
+}
+
+TEST(Tool, KeepsBinaryDataFromATerminal) {
+  const std::vector<std::string> act{"convert", "-", "-", "--name", "x.map", "--format", "act"};
+  EXPECT_EQ(call(act, TerminalColors::direct).err,
+            "-: This is binary data, which a terminal can't show. Write it anyway with --force.\n");
+  std::vector<std::string> forced = act;
+  forced.emplace_back("-f");
+  EXPECT_EQ(call(forced, TerminalColors::direct).out, call(act).out);
+  EXPECT_EQ(call({"convert", "-", "-", "--name", "x.map", "--format", "map"}, TerminalColors::direct).out, "1 2 3\r\n");
 }
 
 TEST(Tool, RemapsIntoPngAsTheTableSays) {

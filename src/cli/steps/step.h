@@ -64,12 +64,18 @@ struct StepKind {
   const char* modifies = nullptr;
 };
 
-/// Returns the steps by subject: selection, colors, order and number of entries, clipboard and history, single entries.
 [[nodiscard]] std::span<const StepKind> selectionSteps();
 [[nodiscard]] std::span<const StepKind> colorSteps();
+[[nodiscard]] std::span<const StepKind> entrySteps();
 [[nodiscard]] std::span<const StepKind> structureSteps();
 [[nodiscard]] std::span<const StepKind> documentSteps();
-[[nodiscard]] std::span<const StepKind> entrySteps();
+
+/// The steps on one subject.
+struct StepGroup {
+  const char* subject;
+  std::span<const StepKind> (*kinds)();
+};
+[[nodiscard]] std::span<const StepGroup> stepGroups();
 
 inline constexpr const char* kNothingToPaste =
     "The clipboard holds no palette. Put one there with --copy, --cut or --clipboard FILE.";
