@@ -136,6 +136,8 @@ void Verb::describe(OptionHelp option) {
   help_->options.push_back(std::move(option));
 }
 
+void Verb::setManual(const std::string& text) { help_->manual = text; }
+
 void Verb::onRun(const std::function<void()>& run) { parser_->callback(run); }
 
 CommandLine::CommandLine(const std::string& name, std::string version, const std::string& help)
@@ -148,7 +150,7 @@ CommandLine::CommandLine(const std::string& name, std::string version, const std
 CommandLine::~CommandLine() = default;
 
 Verb CommandLine::addVerb(const std::string& name, const std::string& help) {
-  help_.verbs.push_back({name, help, {}, {}});
+  help_.verbs.push_back({name, help, {}, {}, {}});
   CLI::App* const verb = parser_->add_subcommand(name, help);
   verb->set_version_flag("-V,--version", version_);
   return {*verb, help_.verbs.back()};

@@ -63,6 +63,10 @@ class Verb {
   /// only its option.
   void addOrderedAction(const Action& action);
 
+  /// Sets the paragraphs that only the manual page has, each ended by an empty line. A line that begins with four
+  /// blanks is an example.
+  void setManual(const std::string& text);
+
   /// Sets the function that runs the verb after all its options are known.
   void onRun(const std::function<void()>& run);
 

@@ -40,6 +40,8 @@ struct VerbHelp {
   std::string help;
   std::vector<ArgumentHelp> arguments;
   std::vector<OptionHelp> options;
+  /// Paragraphs that only the manual has. A line that begins with four blanks is an example.
+  std::string manual;
 
   /// Returns "edit [OPTIONS] IN OUT".
   [[nodiscard]] std::string usage() const;

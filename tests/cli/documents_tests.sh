@@ -1,0 +1,55 @@
+#!/usr/bin/env bash
+# documents_tests.sh SHARE PROGRAM: checks that the help of each verb fits a terminal of 80 by 24 characters, and that
+# manual pages and completions in the folder SHARE have the same options.
+set -euo pipefail
+share=$1 tool=$2
+bash=$share/bash-completion/completions/quillhue-cli
+zsh=$share/zsh/site-functions/_quillhue-cli
+fish=$share/fish/vendor_completions.d/quillhue-cli.fish
+
+fail() {
+  echo "$1" >&2
+  exit 1
+}
+
+# options TEXT...: the long options in it, each once.
+options() { grep -o -- '--[a-z][a-z-]*' | sort -u; }
+
+verbs=$("$tool" help | sed -n '/^Verbs:/,/^Options:/s/^  \([a-z]*\) .*/\1/p')
+[ "$(wc -w <<<"$verbs")" -ge 12 ] || fail "the verbs are: $verbs"
+for verb in $verbs; do
+  help=$("$tool" "$verb" --help)
+  [ "$(wc -l <<<"$help")" -le 24 ] && [ "$(wc -L <<<"$help")" -le 80 ] || fail "the help of $verb is too large: $help"
+  page=$share/man/man1/quillhue-cli-$verb.1
+  warnings=$(groff -man -Tutf8 -ww -z "$page" 2>&1)
+  [ -z "$warnings" ] || fail "$page: $warnings"
+  listed=$(sed '1,2d' <<<"$help" | options)
+  in_page=$(sed -n '/^\.SH OPTIONS/,/^\.SH SEE/p' "$page" | sed 's/\\-/-/g' | grep '^\.B' | options)
+  [ "$listed" = "$in_page" ] || fail "help and manual of $verb differ: $(diff <(echo "$listed") <(echo "$in_page"))"
+  for option in $listed; do
+    for script in "$bash" "$zsh"; do
+      grep "^ *$verb:\*)" "$script" | grep -q -- "$option\b" || fail "$script lacks $verb $option"
+    done
+    grep "seen_subcommand_from $verb'" "$fish" | grep -q -- "-l ${option#--}\b" || fail "$fish lacks $verb $option"
+  done
+done
+[ -z "$(groff -man -Tutf8 -ww -z "$share/man/man1/quillhue-cli.1" 2>&1)" ] || fail 'the manual page has faults'
+
+# shellcheck disable=SC1090
+source "$bash"
+# completes WANTED WORD...: what bash offers for the last word.
+completes() {
+  local wanted=$1
+  shift
+  COMP_WORDS=(quillhue-cli "$@") COMP_CWORD=$#
+  _quillhue_cli
+  [ "${COMPREPLY[*]}" = "$wanted" ] || fail "'$*' becomes '${COMPREPLY[*]}' instead of '$wanted'"
+}
+completes 'convert compact' co
+completes '--shift' edit a b --sh
+completes 'nearest' remap --mode n
+completes 'ega' new eg
+completes 'usage' help us
+for shell in zsh fish; do
+  ! command -v $shell >/dev/null || $shell -n "${!shell}" || fail "$shell does not understand its script"
+done
