@@ -1,6 +1,7 @@
-// The input is an image file, and what a clipboard may hold as a bitmap.
+// The input is an image file, or a bitmap of the clipboard if it begins with the size of its header.
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "formats/image_limits.h"
@@ -30,13 +31,17 @@ void check(const quillhue::ImageResult& image) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quillhue;
-  const std::vector content(data, data + size);
-  MemorySource source(content);
+  std::vector content(data, data + size);
+  // A bitmap of the clipboard has no signature.
+  if (size > 0 && data[0] == 40) {
+    check(loadClipboardImage(std::move(content)));
+    return 0;
+  }
+  MemorySource source(std::move(content));
   const ImageResult image = loadImage(source);
   check(image);
   const auto note = noteImageReading(source, image.has_value());
   require(!note || note->standardReads || !note->text.empty(), "a text or a way out in every note");
-  check(loadClipboardImage(content));
   check(loadStandardImage(source, {}));
   return 0;
 }

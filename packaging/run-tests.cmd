@@ -3,47 +3,40 @@ rem run-tests.cmd [NAME...]: runs the tests of Quillhue, or those named, and wri
 rem not use mouse, keyboard and clipboard meanwhile: the tests of the window use them, for about ten minutes.
 setlocal
 cd /d "%~dp0data"
-set report=%~dp0report.txt
+set report="%~dp0report.txt"
 set names=%*
 if "%names%"=="" set names=core formats pictures colormodes effects commands remap ui_logic cli ui_services replays ui
 set failed=
-ver >"%report%"
-rem The layout tests alone run at any resolution of the screen.
-set flags=
-reg query "HKCU\Control Panel\Desktop\WindowMetrics" /v AppliedDPI >>"%report%" 2>nul
-if not errorlevel 1 (
-  reg query "HKCU\Control Panel\Desktop\WindowMetrics" /v AppliedDPI | find "0x60" >nul
-  if errorlevel 1 set flags=--gtest_filter=*Layout*:Sizing.*:Handles.*:Soak.*
-)
-for %%n in (%names%) do call :%%n
-if "%failed%"=="" (echo All passed>>"%report%") else (echo Failed:%failed%>>"%report%")
-type "%report%" | find /v "[ "
-echo The report is in %report%
+ver >%report%
+for %%n in (%names%) do call :test %%n
+if "%failed%"=="" (echo All tests passed.>>%report%) else echo Failed:%failed%>>%report%
+type %report%
 pause
 exit /b
 
+:test
+if %1==replays goto :replays
+if %1==ui goto :window
+call :run ..\tests\%1_tests.exe --gtest_brief=1
+exit /b
+
 :replays
-for %%f in (..\tests\*_fuzz.exe) do call :run %%f samples findings
+for %%f in (..\tests\*_fuzz.exe) do call :run ..\tests\%%~nxf samples findings
 exit /b
-:ui
-call :run ..\tests\ui_tests.exe --gtest_brief=1 %flags% "%~dp0quillhue.exe"
-exit /b
-:core
-:formats
-:pictures
-:colormodes
-:effects
-:commands
-:remap
-:ui_logic
-:cli
-:ui_services
-call :run ..\tests\%name%_tests.exe --gtest_brief=1
+
+rem At another resolution than 96 dpi only the tests that do not count pixels run.
+:window
+set flags=
+set dpi=0x60
+for /f "tokens=2,3" %%t in ('reg query "HKCU\Control Panel\Desktop\WindowMetrics" /v AppliedDPI 2^>nul') do if %%t==REG_DWORD set dpi=%%u
+echo Resolution: %dpi% dpi>>%report%
+if not "%dpi%"=="0x60" set flags=--gtest_filter=*Layout*:Sizing.*:Handles.*:Soak.*
+call :run ..\tests\ui_tests.exe --gtest_brief=1 %flags% ..\quillhue.exe
 exit /b
 
 :run
 echo Running %1
-echo == %*>>"%report%"
-%* >>"%report%" 2>&1
+echo == %*>>%report%
+%* >>%report% 2>&1
 if errorlevel 1 set failed=%failed% %~n1
 exit /b

@@ -26,8 +26,12 @@ void ByteSource::read(std::uint64_t offset, std::span<std::uint8_t> out) {
     return;
   }
   while (!out.empty()) {
+    if (offset >= size_) {
+      std::ranges::fill(out, std::uint8_t{0});
+      return;
+    }
     loadBlock(offset);
-    const auto loaded = std::span(block_).subspan(static_cast<std::size_t>(offset - blockStart_));
+    const auto loaded = std::span(block_).first(blockLength_).subspan(static_cast<std::size_t>(offset - blockStart_));
     const auto part = loaded.first(std::min(loaded.size(), out.size()));
     std::ranges::copy(part, out.begin());
     offset += part.size();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -23,6 +24,9 @@ class ByteSource {
 
   /// Little-endian (le) or big-endian (be) unsigned values.
   [[nodiscard]] std::uint8_t u8(std::uint64_t offset) {
+    if (offset >= size_) {
+      return 0;
+    }
     loadBlock(offset);
     return block_[static_cast<std::size_t>(offset - blockStart_)];
   }
@@ -48,12 +52,12 @@ class ByteSource {
   virtual std::size_t readStored(std::uint64_t offset, std::span<std::uint8_t> out) = 0;
   // Fills `out` from the medium, with zeros past the end.
   void fetch(std::uint64_t offset, std::span<std::uint8_t> out);
-  // Makes sure that the block contains `offset`.
+  // Makes sure that the block contains `offset`, which lies within the size.
   void loadBlock(std::uint64_t offset) {
     if (offset - blockStart_ >= blockLength_) {
       blockStart_ = offset - offset % kBlockSize;
-      blockLength_ = kBlockSize;
-      fetch(blockStart_, block_);
+      blockLength_ = static_cast<std::size_t>(std::min<std::uint64_t>(kBlockSize, size_ - blockStart_));
+      fetch(blockStart_, std::span(block_).first(blockLength_));
     }
   }
 
@@ -65,7 +69,8 @@ class ByteSource {
   bool failed_ = false;
   std::uint64_t blockStart_ = 0;
   std::size_t blockLength_ = 0;
-  std::array<std::uint8_t, kBlockSize> block_{};
+  // Only the first blockLength_ bytes have a value.
+  std::array<std::uint8_t, kBlockSize> block_;
 };
 
 /// Bytes in memory.

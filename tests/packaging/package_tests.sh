@@ -117,6 +117,13 @@ expect 'the zip' "$(ls 'a folder')" "quillhue-$version"
 expect_files "$unpacked" 'quillhue-cli.exe quillhue.exe readme.txt'
 installed='quillhue-cli.exe quillhue.exe readme.txt uninstall.exe'
 
+# The tests, by nothing but their script.
+"$root/packaging/make-tests.sh" "$programs/.." "$version" .
+unzip -q "quillhue-$version-tests.zip" -d 'some tests'
+(cd "some tests/quillhue-$version-tests" && "$wine" cmd /c run-tests.cmd core cli </dev/null >shown 2>&1)
+expect 'the report of the tests' "$(tail -1 "some tests/quillhue-$version-tests/report.txt" | tr -d '\r')" \
+  'All tests passed.'
+
 # The manual.
 expect 'lines that Notepad would run together' "$(grep -vc $'\r$' "$unpacked/readme.txt")" 0
 expect 'lines that are too long or no ASCII' "$(LC_ALL=C grep -nvP '^[ -~]{0,78}\r$' "$unpacked/readme.txt")" ''

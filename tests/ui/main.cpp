@@ -6,6 +6,7 @@
 #include "core/utf8.h"
 #include "ui/support/program.h"
 #include "ui/support/registry.h"
+#include "ui/support/saved_clipboard.h"
 #include "ui/win32/system.h"
 
 /// ui_tests [FLAG...] PROGRAM: tests the editor, which is the file PROGRAM.
@@ -22,6 +23,7 @@ int main(int argumentCount, char** arguments) {
   quillhue::Program::setFile(quillhue::fromUtf8(arguments[1]));
   // The user gets the settings of before back.
   const quillhue::StoredSettings before = quillhue::storedSettings();
+  testing::AddGlobalTestEnvironment(new quillhue::SavedClipboard);
   const int result = RUN_ALL_TESTS();
   quillhue::store(before);
   return result;

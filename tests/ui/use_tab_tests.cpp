@@ -78,7 +78,7 @@ TEST_F(Use, OtherImagesComeInAndPngGoesOut) {
                     bytesOf({"GIF89a\1\0\1\0\x80\0\0\xC8\x64\x32\0\0\0,\0\0\0\0\1\0\1\0\0\2\2D\1\0;", 35})));
   awaitImage({200, 100, 50});
   {
-    ClipboardAccess clipboard(nullptr);
+    ClipboardAccess clipboard(editor().window());
     clipboard.empty();
     EXPECT_TRUE(clipboard.put(RegisterClipboardFormatW(L"PNG"), png));
   }

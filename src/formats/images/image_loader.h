@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <expected>
 #include <new>
@@ -12,6 +13,12 @@
 namespace quillhue {
 
 using ImageResult = std::expected<WorkImage, Failure>;
+
+/// Loading an image takes this much memory at most, apart from its pixels.
+inline constexpr std::size_t kMaxLoaderMemory = std::size_t{2} << 20;
+/// Pixels take up to 3 * kMaxImagePixels bytes of address space, whatever the size of the file. They take memory only
+/// where the file has pixels: at most this many bytes for each byte of the file, and one row more.
+inline constexpr std::uint64_t kMaxPixelBytesPerFileByte = 64;
 
 /// A layout of image files.
 struct ImageLoader {

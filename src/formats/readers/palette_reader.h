@@ -36,6 +36,11 @@ struct FilePalette {
 using FileContent = std::variant<FilePalette, TrueColorBitmap, WorkImage>;
 using ReadResult = std::expected<FileContent, Failure>;
 
+/// Reading a palette takes at most this much memory, whatever the file's size and the numbers in it, and reads each
+/// byte of the file at most this often. Time is therefore linear in the file's size.
+inline constexpr std::size_t kMaxReaderMemory = std::size_t{1} << 16;
+inline constexpr std::uint64_t kMaxReaderPasses = 4;
+
 /// One layout of palette files.
 struct PaletteReader {
   /// Identifier for scripts.

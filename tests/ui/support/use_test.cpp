@@ -88,7 +88,7 @@ std::string UseTest::clipboardBitmap() const {
 }
 
 void UseTest::putOnClipboard(std::string_view bitmap) const {
-  ClipboardAccess clipboard(nullptr);
+  ClipboardAccess clipboard(editor().window());
   clipboard.empty();
   EXPECT_TRUE(clipboard.put(CF_DIB, Bytes(bitmap.begin(), bitmap.end())));
 }

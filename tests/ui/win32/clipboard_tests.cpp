@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ui/services/halftone_palette.h"
+#include "ui/support/saved_clipboard.h"
 #include "ui/win32/clipboard.h"
 #include "ui/win32/logical_palette.h"
 #include "ui/win32/system.h"
@@ -27,6 +28,8 @@ std::vector<PaletteEntry> colors(std::int32_t count) {
   }
   return entries;
 }
+
+const auto* const kSavedClipboard = testing::AddGlobalTestEnvironment(new SavedClipboard);
 
 TEST(ClipboardAccess, GivesThePaletteThatItTook) {
   const Window owner = createOwner();

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <chrono>
 #include <functional>
 #include <new>
+#include <string_view>
 #include <thread>
 #include <utility>
 
@@ -44,16 +46,35 @@ class FailingControl final : public SubclassedControl {
   }
 };
 
+// The uppermost visible message box of the thread; null for none.
+HWND messageBox(DWORD thread) {
+  HWND found = nullptr;
+  EnumThreadWindows(
+      thread,
+      [](HWND window, LPARAM result) -> BOOL {
+        std::array<wchar_t, 16> name{};
+        GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+        if (IsWindowVisible(window) == 0 || std::wstring_view(name.data()) != L"#32770") {
+          return TRUE;
+        }
+        *reinterpret_cast<HWND*>(result) = window;
+        return FALSE;
+      },
+      reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
 // Runs an action that shows this number of message boxes, one after the other, and closes each. Another message to
 // `window` that fails while a box is open shows no second one.
 void expectBoxes(int expected, HWND window, const std::function<void()>& act) {
   int boxes = 0;
+  const DWORD thread = GetCurrentThreadId();
   std::thread user([&] {
     for (int tries = 0; tries < 1000 && boxes < expected; ++tries) {
-      if (HWND box = FindWindowW(L"#32770", L"Error"); box != nullptr && IsWindowVisible(box) != 0) {
+      if (HWND box = messageBox(thread); box != nullptr) {
         ++boxes;
         SendMessageTimeoutW(window, WM_APP, 0, 0, SMTO_NORMAL, 1000, nullptr);
-        EXPECT_EQ(FindWindowExW(nullptr, box, L"#32770", L"Error"), nullptr);
+        EXPECT_EQ(messageBox(thread), box);
         SendMessageTimeoutW(box, WM_COMMAND, IDOK, 0, SMTO_NORMAL, 1000, nullptr);
       }
       std::this_thread::sleep_for(std::chrono::milliseconds(5));
@@ -79,7 +100,7 @@ TEST(Guarded, PaintingWithoutMemoryEndsAndShowsNoBox) {
   InvalidateRect(window.handle(), nullptr, FALSE);
   expectBoxes(0, nullptr, [&] { UpdateWindow(window.handle()); });
   EXPECT_EQ(GetUpdateRect(window.handle(), nullptr, FALSE), 0);
-  EXPECT_EQ(FindWindowW(L"#32770", L"Error"), nullptr);
+  EXPECT_EQ(messageBox(GetCurrentThreadId()), nullptr);
 }
 
 }  // namespace
