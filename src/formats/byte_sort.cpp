@@ -3,10 +3,10 @@
 #include <emmintrin.h>
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <utility>
 
 namespace quillhue {
@@ -125,8 +125,8 @@ class ByteSort {
     const __m128i shift = _mm_cvtsi32_si128(static_cast<int>(shift_));
     const __m128i limits = _mm_set1_epi32(static_cast<int>(limit));
     const auto four = [&](std::size_t place) {
-      __m128i keys;
-      std::memcpy(&keys, &words[place], sizeof keys);
+      const auto keys =
+          std::bit_cast<__m128i>(std::array{words[place], words[place + 1], words[place + 2], words[place + 3]});
       return _mm_cmplt_epi32(_mm_and_si128(_mm_srl_epi32(keys, shift), _mm_set1_epi32(0xFF)), limits);
     };
     std::uint64_t bits = 0;
