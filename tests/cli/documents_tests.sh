@@ -12,7 +12,7 @@ fail() {
   exit 1
 }
 
-# options TEXT...: the long options in it, each once.
+# options <TEXT: the long options in it, each once.
 options() { grep -o -- '--[a-z][a-z-]*' | sort -u; }
 
 verbs=$("$tool" help | sed -n '/^Verbs:/,/^Options:/s/^  \([a-z]*\) .*/\1/p')
@@ -26,11 +26,12 @@ for verb in $verbs; do
   listed=$(sed '1,2d' <<<"$help" | options)
   in_page=$(sed -n '/^\.SH OPTIONS/,/^\.SH SEE/p' "$page" | sed 's/\\-/-/g' | grep '^\.B' | options)
   [ "$listed" = "$in_page" ] || fail "help and manual of $verb differ: $(diff <(echo "$listed") <(echo "$in_page"))"
+  of_bash=$(grep "^ *$verb:\*)" "$bash") of_zsh=$(grep "^ *$verb:\*)" "$zsh")
+  of_fish=$(grep "seen_subcommand_from $verb'" "$fish")
   for option in $listed; do
-    for script in "$bash" "$zsh"; do
-      grep "^ *$verb:\*)" "$script" | grep -q -- "$option\b" || fail "$script lacks $verb $option"
-    done
-    grep "seen_subcommand_from $verb'" "$fish" | grep -q -- "-l ${option#--}\b" || fail "$fish lacks $verb $option"
+    grep -q -- "$option\b" <<<"$of_bash" || fail "$bash lacks $verb $option"
+    grep -q -- "$option\b" <<<"$of_zsh" || fail "$zsh lacks $verb $option"
+    grep -q -- "-l ${option#--}\b" <<<"$of_fish" || fail "$fish lacks $verb $option"
   done
 done
 [ -z "$(groff -man -Tutf8 -ww -z "$share/man/man1/quillhue-cli.1" 2>&1)" ] || fail 'the manual page has faults'

@@ -13,7 +13,7 @@ fail() {
 (cd "$build" && cpack -B "$work/packages" >"$work/log" 2>&1) || fail "$(<"$work/log")"
 package=$(echo "$work"/packages/quillhue-cli_"$version"_*.deb)
 [ -f "$package" ] || fail "there is no package: $(ls "$work/packages")"
-dpkg-deb --field "$package" Depends | grep -q libc6 || fail 'the package depends on no library'
+[[ $(dpkg-deb --field "$package" Depends) == *libc6* ]] || fail 'the package depends on no library'
 
 root=$work/root
 mkdir -p "$root"/var/lib/dpkg/{info,updates,triggers}
