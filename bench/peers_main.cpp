@@ -61,14 +61,19 @@ std::vector<PaletteEntry> colorsOf(const WorkImage& image) {
   return colors;
 }
 
+void saveImage(const std::filesystem::path& folder, const std::string& name, const WorkImage& image) {
+  save(folder / (name + ".bmp"), bench::bitmapOf(image));
+  save(folder / (name + ".ppm"),
+       pixmapOf(static_cast<std::size_t>(image.width()), static_cast<std::size_t>(image.height()), colorsOf(image)));
+}
+
 void make(const std::filesystem::path& folder) {
   for (const bench::ImageSize size : {bench::kLarge, bench::kMedium}) {
-    const WorkImage& image = bench::photoLikeImage(size);
-    const std::string name = nameOf(size);
-    save(folder / (name + ".bmp"), bench::bitmapOf(image));
-    save(folder / (name + ".ppm"),
-         pixmapOf(static_cast<std::size_t>(size.width), static_cast<std::size_t>(size.height), colorsOf(image)));
+    saveImage(folder, nameOf(size), bench::photoLikeImage(size));
   }
+  saveImage(folder, "smooth", bench::smoothImage(bench::kLarge));
+  saveImage(folder, "pixel-art", bench::pixelArtImage(bench::kLarge));
+  saveImage(folder, "noise", bench::noiseImage(bench::kLarge));
   for (const bench::BenchPalette& row : bench::benchPalettes()) {
     const Palette palette = row.create(bench::kLarge);
     const std::string name(row.name);

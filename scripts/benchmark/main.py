@@ -1,10 +1,13 @@
 """main.py BUILD WORK OUT: runs all measurements and writes the report OUT. WORK is an empty folder."""
 
 import json
+import os
 import subprocess
 import sys
+import time
 from collections import defaultdict
 from pathlib import Path
+from statistics import median
 
 import report
 import sides
@@ -14,6 +17,16 @@ ROUNDS = 9
 ENOUGH_SECONDS = 5
 PALETTES = ["regular-216", "adaptive-256", "adaptive-16"]
 WORKS = [(mode, palette) for mode in ("nearest", "dither") for palette in PALETTES]
+# Images of other kinds. The adaptive palette is that of the photo-like image.
+OTHER_WORKS = [
+    (mode, palette, image)
+    for image in ("smooth", "pixel-art", "noise")
+    for palette in ("regular-216", "adaptive-256")
+    for mode in ("nearest", "dither")
+]
+OTHER_PEERS = ("ffmpeg", "Pillow")
+BATCH_IMAGES = 200
+BATCH_ROUNDS = 3
 
 
 def measure_sides(build, folder, product, peers):
@@ -37,6 +50,38 @@ def measure_sides(build, folder, product, peers):
             for side in [product, *peers]:
                 once(side.name, work, lambda side=side, work=work: side.remap(folder, work[1], work[0]))
     return runs
+
+
+def measure_others(folder, product, peers, runs):
+    """Adds lists of runs by (side, work) for the works of OTHER_WORKS."""
+    sides_compared = [product, *(peer for peer in peers if peer.name in OTHER_PEERS)]
+    for number in range(ROUNDS):
+        print(f"Other images, round {number + 1} of {ROUNDS}", file=sys.stderr)
+        for work in OTHER_WORKS:
+            for side in sides_compared:
+                done = runs[side.name, work]
+                if sum(one.cost for one in done) < ENOUGH_SECONDS:
+                    done.append(side.remap(folder, work[1], work[0], work[2]))
+
+
+def measure_batch(build, folder):
+    """Returns the seconds that quillhue-cli takes to remap many images, by the number of jobs."""
+    images = folder / "batch"
+    images.mkdir(exist_ok=True)
+    for number in range(BATCH_IMAGES):
+        link = images / f"{number}.bmp"
+        if not link.exists():
+            os.link(folder / f"{sides.MEDIUM}.bmp", link)
+    taken = defaultdict(list)
+    for number in range(BATCH_ROUNDS):
+        print(f"Many images, round {number + 1} of {BATCH_ROUNDS}", file=sys.stderr)
+        for jobs in (1, 2):
+            command = [build / "src/quillhue-cli", "remap", images, "--palette", folder / "regular-216.gpl"]
+            options = ["--out-dir", folder / "remapped", "--force", "--mode", "dither", "--jobs", str(jobs)]
+            start = time.monotonic()
+            sides.Run([*command, *options])
+            taken[jobs].append(time.monotonic() - start)
+    return {jobs: median(seconds) for jobs, seconds in taken.items()}
 
 
 def run_tool(build, folder, mode):
@@ -87,9 +132,11 @@ def main():
     subprocess.run([build / "bench/quillhue_bench_peers", "make", folder], check=True)
     faults = judge_answers(build, folder, peers)
     runs = measure_sides(build, folder, product, peers)
+    measure_others(folder, product, peers, runs)
+    batch = measure_batch(build, folder)
     print("Plain loops", file=sys.stderr)
     benchmarks = measure_benchmarks(build, "^(remap|noise|setup|plain-read|loader)/")
-    out.write_text(report.compose(candidates, PALETTES, runs, faults, benchmarks), encoding="utf-8")
+    out.write_text(report.compose(candidates, PALETTES, runs, faults, benchmarks, OTHER_WORKS, batch), encoding="utf-8")
 
 
 main()

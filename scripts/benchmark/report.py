@@ -84,6 +84,42 @@ def fault_table(peers, palettes, faults):
     return table([""] + palettes, rows)
 
 
+def other_table(works, medians):
+    """Makes a row for each image and palette."""
+    others = ["ffmpeg", "Pillow"]
+    rows = []
+    for _, palette, image in (work for work in works if work[0] == "nearest"):
+        cells = []
+        for mode in MODES:
+            work = (mode, palette, image)
+            own = medians.seconds("Quillhue", work)
+            cells.append(shown(1e3 * own))
+            # Decoding a bitmap takes the same time whatever its pixels are.
+            cells += [shown(ratio(medians.remapping(name, work), own)) for name in others]
+        rows.append([f"{image.replace('-', ' ')}, {palette}", *cells])
+    return table([""] + [f"{words}: {side}" for words in MODES.values() for side in ["ms", *others]], rows)
+
+
+def behind_line(works, medians):
+    """Says in words where a peer is faster."""
+    slower = [
+        f"{MODES[mode]} of {image.replace('-', ' ')} onto {palette} ({name}: {shown(factor)})"
+        for name in ("ffmpeg", "Pillow")
+        for mode, palette, image in works
+        if (factor := ratio(medians.remapping(name, (mode, palette, image)), medians.seconds("Quillhue", (mode, palette, image))))
+        and factor < 1
+    ]
+    return "Quillhue is slower here:\n" + ";\n".join(slower) + "." if slower else "Quillhue is the fastest in each row."
+
+
+def batch_line(batch):
+    return (
+        f"`quillhue-cli remap` dithers 200 images of {sides.MEDIUM} in {shown(batch[1])} s with `--jobs 1` and in\n"
+        f"{shown(batch[2])} s with `--jobs 2`: {shown(batch[1] / batch[2])} times the throughput. These are seconds of\n"
+        "the clock, so they depend on what else runs."
+    )
+
+
 def order(row):
     kind, mode, palette = row[0]
     return kind == "noise", mode != "nearest", mode, PALETTES.index(palette)
@@ -148,7 +184,23 @@ def absolute_table(palettes, medians, benchmarks):
     return table(["ms of CPU time", "Quillhue", "plain loops"], rows)
 
 
-def compose(peers, palettes, runs, faults, benchmarks):
+def other_sections(works, medians, batch):
+    return f"""## Other kinds of images
+
+Gradients without noise, a game screen in 48 colors, and uniform noise. The adaptive palette is that of the photo-like
+image, so it does not span the colors of these. The first number of each mode is Quillhue's time in milliseconds.
+
+{other_table(works, medians)}
+{behind_line(works, medians)}
+
+## Many images
+
+{batch_line(batch)}
+
+"""
+
+
+def compose(peers, palettes, runs, faults, benchmarks, other_works, batch):
     medians = Medians(runs)
     plain = benchmarks["plain-read/bitmap-24/4096/3072"]
     return f"""# Benchmarks
@@ -174,7 +226,7 @@ The next table lists the share of pixels, of 1024 x 768, that do not get a neare
 blue. A comparison with all entries finds the nearest ones; any of several equally near entries is correct.
 
 {fault_table(peers, palettes, faults)}
-## Against plain loops
+{other_sections(other_works, medians, batch)}## Against plain loops
 
 Loops over all pixels and all entries define Quillhue's result. They are in `tests/support/literal_remap.cpp`.
 

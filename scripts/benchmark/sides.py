@@ -50,8 +50,8 @@ class Library:
         self.name, self.package, self.command, self.extension = name, package, command, extension
         self.present = present
 
-    def remap(self, folder, palette, mode):
-        image = folder / f"{LARGE}.{'bmp' if self.extension == 'gpl' else 'ppm'}"
+    def remap(self, folder, palette, mode, image=LARGE):
+        image = folder / f"{image}.{'bmp' if self.extension == 'gpl' else 'ppm'}"
         printed = folder / "seconds"
         run = Run([*self.command, image, folder / f"{palette}.{self.extension}", mode], stdout=printed)
         run.seconds = float(printed.read_text())
@@ -79,9 +79,9 @@ class Program:
     def rest(self, folder):
         return self._run([*self.rest_command(folder / f"{LARGE}.bmp"), *self.to_nothing], folder, LARGE)
 
-    def remap(self, folder, palette, mode):
-        command = self.remap_command(folder / f"{LARGE}.bmp", f"{folder / palette}", mode == "dither")
-        return self._run([*command, *self.to_nothing], folder, LARGE)
+    def remap(self, folder, palette, mode, image=LARGE):
+        command = self.remap_command(folder / f"{image}.bmp", f"{folder / palette}", mode == "dither")
+        return self._run([*command, *self.to_nothing], folder, image)
 
     def answer(self, folder, palette):
         out = folder / "answer.ppm"
