@@ -350,14 +350,15 @@ struct ToolRun {
   std::string files;
 };
 
-// One message, and no file that is new or changed.
+// One message, apart from notes, and no file that is new or changed.
 TEST(Allocations, FailInTheTool) {
   const std::vector<std::vector<std::string>> calls{
-      {"info", "samples/lines.gpl", "--json"},
-      {"convert", "samples/lines.gpl", "OUT/new.pal", "--format", "riff"},
-      {"edit", "samples/lines.gpl", "OUT/own.gpl", "--force", "--sort", "red", "--effect", "gamma=120", "--undo"},
-      {"values", "samples/lines.gpl", "--model", "HSV"},
-      {"remap", "pictures/color.png", "samples/lines.gpl", "OUT/new.bmp", "--mode", "dither"},
+      {"info", "--quiet", "samples/lines.gpl", "--json"},
+      {"convert", "--quiet", "samples/lines.gpl", "OUT/new.pal", "--format", "riff"},
+      {"edit", "--quiet", "samples/lines.gpl", "OUT/own.gpl", "--force", "--sort", "red", "--effect", "gamma=120",
+       "--undo"},
+      {"values", "--quiet", "samples/lines.gpl", "--model", "HSV"},
+      {"remap", "--quiet", "pictures/color.png", "samples/lines.gpl", "OUT/new.bmp", "--mode", "dither"},
       {"new", "web-safe", "OUT/new.gpl"}};
   for (const auto& call : calls) {
     SCOPED_TRACE(call[0]);
