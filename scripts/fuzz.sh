@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # fuzz.sh [MINUTES [TARGET...]]: runs the fuzz targets for MINUTES in all (default 10), one on each processor at a time.
 # Inputs that reach new code are kept in build/fuzz/corpus/TARGET for the next run, and minimized at the end. Prints a
-# table; fails if an input ended a target, took 10 seconds or 2 GB. Such inputs are in build/fuzz/findings.
+# table; fails if an input ended a target, took a minute or 2 GB. Such inputs are in build/fuzz/findings.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
@@ -24,12 +24,12 @@ fuzz() {
   local corpus=$work/corpus/$1 program=$work/fuzz/$1
   mkdir -p "$corpus"
   # shellcheck disable=SC2086
-  "$program" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -max_len=2048 -print_final_stats=1 \
+  "$program" -max_total_time="$seconds" -timeout=60 -rss_limit_mb=2048 -max_len=2048 -print_final_stats=1 \
     -artifact_prefix="$work/findings/$1-" "$corpus" $seeds >"$work/logs/$1" 2>&1 || true
   rm -rf "$corpus.new"
   mkdir "$corpus.new"
   # shellcheck disable=SC2086
-  if "$program" -merge=1 -timeout=10 -max_len=2048 "$corpus.new" "$corpus" $seeds >"$work/logs/$1.merge" 2>&1; then
+  if "$program" -merge=1 -timeout=60 -max_len=2048 "$corpus.new" "$corpus" $seeds >"$work/logs/$1.merge" 2>&1; then
     rm -rf "$corpus"
     mv "$corpus.new" "$corpus"
   fi
