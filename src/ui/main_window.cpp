@@ -26,6 +26,10 @@ constexpr const wchar_t* kClassName = L"Quillhue4";
 constexpr int kStatusBarId = 1;
 // Posted at the end of a run if the user has closed the window meanwhile.
 constexpr UINT kRunEndedMessage = WM_APP;
+// Adding a recent document takes the system some time, in which the window could not answer right after a file was
+// opened. The delay is in milliseconds.
+constexpr UINT_PTR kUsedFileTimer = 1;
+constexpr UINT kUsedFileDelay = 500;
 
 // Returns true if a direct item of the menu has changed.
 bool updateItems(HMENU menu, const std::vector<MenuItem>& items, const CommandState& state) {
@@ -192,7 +196,20 @@ void MainWindow::openFile(const std::wstring& name) {
   readPaletteFile(name, parts_.slot, services_);
 }
 
-void MainWindow::documentSaved() { parts_.fileUsed(document()->getFileName()); }
+void MainWindow::documentSaved() { noteUsedFile(); }
+
+void MainWindow::noteUsedFile() {
+  addUsedFile();
+  usedFile_ = document()->getFileName();
+  SetTimer(handle(), kUsedFileTimer, kUsedFileDelay, nullptr);
+}
+
+void MainWindow::addUsedFile() {
+  KillTimer(handle(), kUsedFileTimer);
+  if (const std::wstring name = std::exchange(usedFile_, {}); !name.empty()) {
+    parts_.fileUsed(name);
+  }
+}
 
 void MainWindow::openContextMenu(std::int32_t menu, Point screenPoint) const {
   TrackPopupMenu(GetSubMenu(contextMenus_.get(), menu), TPM_RIGHTBUTTON, screenPoint.x, screenPoint.y, 0, handle(),
@@ -218,7 +235,7 @@ void MainWindow::documentReplaced() noexcept {
     screen_->documentReplaced();
     updateMenus();
     if (!document()->getFileName().empty()) {
-      parts_.fileUsed(document()->getFileName());
+      noteUsedFile();
     }
   });
 }
@@ -265,6 +282,9 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case kRunEndedMessage:
       runEnded();
+      return 0;
+    case WM_TIMER:
+      addUsedFile();
       return 0;
     default:
       return answerSystem(message, wParam, lParam);
@@ -325,6 +345,7 @@ void MainWindow::created() {
 void MainWindow::destroyed() {
   PostQuitMessage(0);
   RemoveClipboardFormatListener(handle());
+  addUsedFile();
   // Destroy the screen before the document, because its controls may send notifications while they are destroyed.
   screen_.reset();
   parts_.slot.closeDocument();

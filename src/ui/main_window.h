@@ -78,6 +78,9 @@ class MainWindow final : public CustomWindow, public DocumentObserver, private W
   [[nodiscard]] bool pumpMessages() override;
 
   [[nodiscard]] PaletteDocument* document() const { return parts_.slot.document(); }
+  /// Remembers the document's file until addUsedFile() hands it on.
+  void noteUsedFile();
+  void addUsedFile();
   void created();
   void destroyed();
   void sized();
@@ -104,6 +107,7 @@ class MainWindow final : public CustomWindow, public DocumentObserver, private W
   // Used by the screens. Set when the window is created.
   std::unique_ptr<WindowContext> context_;
   std::unique_ptr<MainUI> screen_;
+  std::wstring usedFile_;
   bool runIsOn_ = false;
   bool closesAfterRun_ = false;
 };
