@@ -122,6 +122,9 @@ void addDiffVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addOption("--name FILE", options->input.name, "File name to assume for standard input");
   addReadingFlags(verb, options->input.standard, console);
   verb.addFlag("--json", options->json, "Write JSON, one object a line for each such entry");
+  verb.setManual(
+      "The exit status is 0 if the palettes are the same, 1 if they differ, and 2 if a file can't be read.\n\n"
+      "    quillhue-cli diff old.gpl new.gpl\n\n");
   verb.onRun([options, &console, &status] { status = diff(*options, console); });
 }
 

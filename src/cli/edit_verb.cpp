@@ -118,6 +118,10 @@ void addEditVerb(CommandLine& tool, Console& console, ExitStatus& status) {
       addStep(verb, kind, options);
     }
   }
+  verb.setManual(
+      "The steps run in the order of the command line. --undo reverts the last one that changed the selection, colors "
+      "or size.\n\n"
+      "    quillhue-cli edit sea.gpl sorted.gpl --sort hue\n\n");
   verb.onRun([options, &console, &status] { status = edit(*options, console); });
 }
 

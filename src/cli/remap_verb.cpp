@@ -251,6 +251,13 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   addNumberOption(verb, "--transparent", options->transparent, {0, kMaxUsedEntries - 1},
                   "The entry of pixels that are less than half opaque");
   addColorOption(verb, "--blank", options->blank, "Color behind transparent pixels (default 0,0,0)");
+  verb.setManual(
+      "An image is a bitmap, PNG, JPEG, PNM, PCX, LBM or clipboard file. The result is a bitmap (.bmp, .dib) or a PNG "
+      "(.png).\n\n"
+      "Without --transparent, transparent pixels are blended with the color of --blank, which also fills unused "
+      "entries "
+      "of a bitmap.\n\n"
+      "    quillhue-cli remap photo.jpg sea.gpl photo.png --mode dither\n\n");
   verb.onRun([options, &console, &status] {
     addOutput(options->out, options->outDir.has_value(), options->files);
     status = remap(*options, console);

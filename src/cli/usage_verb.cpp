@@ -156,6 +156,9 @@ void addUsageVerb(CommandLine& tool, Console& console, ExitStatus& status) {
       "image uses the entry of its index, any other pixel the first entry of exactly its color");
   addReadingFlags(verb, options->standard, console);
   verb.addFlag("--json", options->json, "Write JSON: pixels of each entry, unused entries, duplicates");
+  verb.setManual(
+      "The pixels of an indexed image are counted by their indexes, those of any other image by their exact colors.\n\n"
+      "    quillhue-cli usage sprite.png\n\n");
   verb.onRun([options, &console, &status] { status = showUsage(*options, console); });
 }
 
