@@ -17,7 +17,7 @@ void addForceFlag(Verb& verb, bool& force);
 /// Makes the argument of -o, if there is one, the last of the files. Refuses the usage with --out-dir.
 void addOutput(const std::string& out, bool hasOutDir, std::vector<std::string>& files);
 
-/// Where and how a palette is written.
+/// The place and the form in which a palette is written.
 struct PaletteOutput {
   /// The input file, which is reported if the format can't hold the palette.
   const std::string& from;

@@ -25,7 +25,7 @@ std::span<const std::uint8_t> ColorCandidates::within(const ColorBox& box, std::
   scoreAtMiddle(box);
   const auto nearest = std::ranges::min_element(middleScores_);
   keepUnbeatenBy(static_cast<std::uint8_t>(nearest - middleScores_.begin()), box);
-  // Of more rivals than this, too many would be left.
+  // With more rivals than this, too many would be left.
   constexpr std::size_t kHopeless = 3;
   candidates_.clear();
   if (rivals_.size() <= kHopeless * most) {

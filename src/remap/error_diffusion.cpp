@@ -13,7 +13,7 @@ namespace quillhue {
 
 namespace {
 
-// What no pixel is.
+// A color that no pixel has.
 constexpr std::uint32_t kNoPixel = 0xFFFFFFFF;
 
 class DirectPixels {

@@ -14,7 +14,7 @@ namespace quillhue {
 /// are 32-bit numbers, never clamped, and wrap.
 class ErrorDiffusion {
  public:
-  /// What keeps errors back. The grid's sides are at least 1.
+  /// The bounds of errors: a protected color, the cells of a grid (whose sides are at least 1), transparent pixels.
   struct Limits {
     std::optional<std::uint8_t> protectedEntry;
     std::int32_t gridWidth;

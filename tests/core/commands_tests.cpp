@@ -9,7 +9,7 @@
 namespace quillhue {
 namespace {
 
-// What the commands do to colors and selection, and in how many steps, is tested through the tool, where a line is a
+// The effects of the commands on colors, selection and history are tested through the tool, where a line is a
 // test.
 class CommandsTest : public testing::Test {
  protected:

@@ -20,7 +20,7 @@ constexpr std::int32_t kRotate = 12;
 constexpr std::int32_t kPaste = 13;
 constexpr std::int32_t kTwist = 14;
 
-// What effects do to colors is tested through the tool, where a line is a test.
+// The colors that effects make are tested through the tool, where a line is a test.
 class EffectsTest : public testing::Test {
  protected:
   RecordingServices fakes;

@@ -1,4 +1,4 @@
-// What a run holds beside image and result. Only AddressSanitizer's allocator counts it.
+// The memory of a run beside image and result. Only AddressSanitizer's allocator counts it.
 
 #ifdef __SANITIZE_ADDRESS__
 

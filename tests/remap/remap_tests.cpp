@@ -85,7 +85,7 @@ TEST(Remap, WrapsWhereErrorsOverflow) {
   EXPECT_EQ(std::to_string(sum.value()), pinnedChecksum("errors that wrap"));
 }
 
-// Where else a run stops is compared with the literal rules.
+// Other points at which a run stops are compared with the literal rules.
 TEST(Remap, LeavesTheRowsOfAnEarlierRunWhenItStops) {
   const WorkImage image = imageOf(3, 50, {}, Bytes(3 * 3 * 50, 255));
   RemappedImage result;

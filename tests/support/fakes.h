@@ -24,7 +24,7 @@ class RecordingServices : public Messages,
   bool replaceFile = false;
   std::optional<SaveAsAnswer> saveAs;
   std::int32_t paletteFromImage = 0;
-  /// What the clipboard holds, if it is a palette.
+  /// The palette on the clipboard, if there is one.
   std::optional<std::vector<PaletteEntry>> clipboard;
   /// Another program keeps the clipboard open.
   bool clipboardIsBusy = false;
@@ -32,7 +32,7 @@ class RecordingServices : public Messages,
 
   /// The lines since the last call.
   std::string takeLines() { return std::exchange(lines_, {}); }
-  /// Of those, what follows `beginning` in the last line that has it; empty when none has.
+  /// Returns the text after `beginning` in the last message that has it; empty if none has.
   std::string takeLast(const std::string& beginning) {
     const std::string lines = takeLines();
     const auto at = lines.rfind(beginning);

@@ -136,7 +136,7 @@ std::string differenceOf(CaseBytes& bytes) {
   const Palette palette = paletteOf(size, bytes.anyOf(colorKinds()), bytes);
   Remapper remapper(palette);
   std::string difference;
-  // What the remapper learned from one image serves the next.
+  // The remapper keeps its tables from one image to the next.
   for (int images = 1 + bytes.upTo(2); images > 0 && difference.empty(); --images) {
     const RemapOptions options = optionsFrom(bytes);
     const int reports = bytes.upTo(3) == 0 ? 1 + bytes.upTo(5) : 1000;

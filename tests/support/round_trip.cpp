@@ -27,7 +27,7 @@ Palette asMsDrawHasIt(const Palette& palette) {
   return paletteOf(kept);
 }
 
-// What comes back of the palette that was written.
+// The palette that is read back.
 Palette asTheFormatHasIt(const Palette& palette, PaletteFormat format, PaletteEntry blank) {
   const std::int32_t size = palette.getSize();
   switch (format) {

@@ -7,7 +7,7 @@
 namespace quillhue {
 namespace {
 
-// What comes while an image is remapped.
+// Events while an image is remapped.
 class UseRuns : public UseTest {
  protected:
   static constexpr Size kBig{3000, 2000};
@@ -73,7 +73,7 @@ TEST_F(UseRuns, StopWhereAnotherPaletteIsOpened) {
   editor().drop({paletteFile("other.pal", brightPalette(20))});
   editor().awaitTitle(L"Quillhue - other.pal");
   editor().await("the end of the run", [&] { return isUsable(L"&Load..."); });
-  // What was done is kept.
+  // The finished rows are kept.
   EXPECT_TRUE(isUsable(L"&Save as..."));
   EXPECT_EQ(editor().chosenPage(), kUsePage);
   // A file begins with the last row. Of the first one, the tool's file has half a byte a pixel.

@@ -68,7 +68,7 @@ TEST_F(Use, OtherImagesComeInAndPngGoesOut) {
   editor().click(L"&Load...");
   chooseFile(editor(), L"Open", folder_.file("image.png", png));
   awaitImage(imageColors_.entry(7));
-  // What is transparent has the blank color.
+  // Transparent pixels have the blank color.
   awaitShown({1, 0}, {0, 0, 0});
   load(direct_);
   process();
@@ -121,7 +121,7 @@ TEST_F(Use, ResultIsWhatTheToolMakes) {
     const wchar_t* mode;
     std::wstring toolsMode;
     std::vector<std::wstring> options{};
-    // What is protected: color, width and height of the grid.
+    // The protected color, and width and height of the protected grid.
     std::vector<const char*> typed{};
   } kCases[] = {
       {100, true, L"&Maintain mapping", L"maintain"},

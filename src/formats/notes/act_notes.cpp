@@ -4,7 +4,7 @@ namespace quillhue {
 
 namespace {
 
-// Layout: "Adobe Photoshop File Formats Specification", "Color Table": behind the 256 colors a file may have their
+// Layout: "Photoshop File Formats" by Adobe, section "Color Table": after the 256 colors, a file may contain their
 // number and the index of the transparent color, or FFFF.
 std::string explain(const ReaderInput& input) {
   constexpr std::uint64_t kLengthWithCount = 772;

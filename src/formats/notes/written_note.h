@@ -7,7 +7,7 @@
 
 namespace quillhue {
 
-/// What a format has done to a palette.
+/// Describes how a format has changed a palette.
 struct WritingNote {
   /// A clause without a capital and a full stop.
   std::string text;

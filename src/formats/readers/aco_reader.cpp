@@ -3,7 +3,7 @@
 #include "formats/readers/palette_readers.h"
 #include "formats/swatch_color.h"
 
-// Layout: "Adobe Photoshop File Formats Specification", section "Color swatches": big-endian words. A color is its
+// Layout: "Photoshop File Formats" by Adobe, section "Color swatches": big-endian words. A color is its
 // model and four components; in version 2 a name follows each color.
 
 namespace quillhue {

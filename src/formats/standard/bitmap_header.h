@@ -24,13 +24,13 @@ struct BitmapHeader {
   /// Per pixel: 1, 2, 4, 8, 16, 24 or 32.
   unsigned bits = 0;
   Compression compression = Compression::none;
-  /// Of 16 bits and more: which bits of a pixel are red, green, blue and alpha; 0 for a channel that there is none of.
+  /// With 16 bits and more: the bits of a pixel that are red, green, blue and alpha; 0 for a missing channel.
   std::array<std::uint32_t, 4> masks{};
-  /// Of 8 bits and fewer: where the color table is, and how many entries of how many bytes it has.
+  /// With 8 bits and fewer: the offset of the color table, its number of entries, and the bytes of an entry.
   std::uint64_t table = 0;
   std::uint32_t entries = 0;
   std::uint32_t entrySize = 4;
-  /// Where the pixels are.
+  /// The offset of the pixels.
   std::uint64_t pixels = 0;
 };
 

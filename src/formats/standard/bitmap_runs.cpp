@@ -6,7 +6,7 @@ namespace quillhue {
 
 namespace {
 
-// What follows a zero instead of a run: one of these, or a number of literal pixels.
+// After a zero comes one of these, or a number of literal pixels.
 enum Escape : std::uint8_t { kEndOfRow = 0, kEndOfBitmap = 1, kDelta = 2 };
 
 class RunDecoder {
@@ -46,7 +46,7 @@ class RunDecoder {
   }
 
  private:
-  // Of two pixels in a byte, the left one is in the high half.
+  // The left one of two pixels in a byte is in the high half.
   [[nodiscard]] std::uint8_t indexIn(std::uint8_t value, std::uint32_t place) const {
     if (!isRle4_) {
       return value;

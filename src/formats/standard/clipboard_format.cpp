@@ -15,7 +15,7 @@ bool isClipboardFile(ByteSource& source) { return source.u16le(0) == kClipboardF
 
 ImageResult load(ByteSource& source, PaletteEntry blank) {
   const auto items = clipboardItems(source);
-  // Of several bitmaps, the last one is read, as without --standard.
+  // The last one of several bitmaps is read, as without --standard.
   const auto bitmap = std::ranges::find(items.rbegin(), items.rend(), kBitmapItem, &ClipboardItem::format);
   if (bitmap == items.rend()) {
     return std::unexpected(Failure::clipboardNoImages);

@@ -21,7 +21,7 @@ constexpr std::uint64_t kImageDescriptor = 10;
 
 std::int32_t tableEntries(std::uint8_t flags) { return (flags & 0x80) == 0 ? 0 : 2 << (flags & 7); }
 
-// Where the data blocks that begin at `offset` end: each is a length and as many bytes, the last one is empty.
+// Returns the end of the data blocks that begin at `offset`: each is a length and its bytes, and the last one is empty.
 std::uint64_t behindDataBlocks(ByteSource& source, std::uint64_t offset) {
   while (source.u8(offset) != 0) {
     offset += 1 + std::uint64_t{source.u8(offset)};

@@ -19,13 +19,13 @@ struct GifFrame {
   std::int32_t width = 0;
   std::int32_t height = 0;
   bool isInterlaced = false;
-  /// Where the file's palette and that of this image alone are, and how many entries they have; 0 for none.
+  /// The offsets of the file's palette and of this image's own, and their numbers of entries; 0 for none.
   std::uint64_t globalTable = 0;
   std::int32_t globalEntries = 0;
   std::uint64_t localTable = 0;
   std::int32_t localEntries = 0;
   std::optional<std::uint8_t> transparentIndex;
-  /// Where the compressed pixels are; 0 when the file has no image.
+  /// The offset of the compressed pixels; 0 if the file has no image.
   std::uint64_t pixels = 0;
 };
 

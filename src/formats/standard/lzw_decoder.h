@@ -24,7 +24,7 @@ class LzwDecoder {
   static constexpr unsigned kMaxPixelLength = 8;
   static constexpr std::uint16_t kNone = 0xFFFF;
 
-  // What a code stands for: that of `prefix`, if any, and behind it a last pixel.
+  // The pixels of a code: those of `prefix`, if any, and a last one.
   struct Entry {
     std::uint16_t prefix;
     std::uint8_t last;

@@ -5,7 +5,7 @@
 #include "formats/standard/color_field.h"
 #include "formats/standard/standard_formats.h"
 
-// Layout: "Truevision TGA File Format Specification 2.0" (1991): a header of 18 bytes, the image identifier, and the
+// Layout: "TGA File Format 2.0" by Truevision (1991): a header of 18 bytes, the image identifier, and the
 // color map, whose first entry is the color of the index at 3. Values are little-endian.
 
 namespace quillhue {

@@ -31,7 +31,7 @@ std::uint32_t versionOf(ByteSource& source) {
   return version;
 }
 
-// Where the data of the color map are.
+// Returns the offset of the color map's data.
 std::optional<std::uint64_t> findColorMap(ByteSource& source, std::uint64_t property) {
   while (property < source.size() && source.u32be(property) != kEndOfProperties) {
     if (source.u32be(property) == kColorMap) {

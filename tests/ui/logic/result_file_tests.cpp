@@ -19,7 +19,7 @@ TEST(ResultFile, HasTheFormatOfItsExtensionOrElseTheChosenOne) {
   }
   RemappedImage result;
   result.prepare(3, 2, {});
-  // Of a large palette the first 256 entries are used.
+  // A large palette gives its first 256 entries.
   for (const std::int32_t size : {2, 300}) {
     const Bytes file = composeResult(result, variedPalette(size), {}, png).value();
     EXPECT_EQ(file.at(24), size == 2 ? 1 : 8);

@@ -45,7 +45,7 @@ class Editor : public Program {
   std::wstring file_;
 };
 
-/// What a palette file holds.
+/// The content of a palette file.
 [[nodiscard]] Palette paletteIn(const std::wstring& file);
 
 }  // namespace quillhue

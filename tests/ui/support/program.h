@@ -98,7 +98,7 @@ class Program {
   [[nodiscard]] std::vector<HWND> windows() const;
   /// The uppermost of this class that is visible and can be used; null for none.
   [[nodiscard]] HWND topWindow(const wchar_t* className) const;
-  /// What the user would see now, in words, for messages of failed tests.
+  /// Describes the windows on the screen, for messages of failed tests.
   [[nodiscard]] std::string description() const;
 
  private:

@@ -41,9 +41,9 @@ class UseTest : public UiTest {
   void load(const std::wstring& file) const;
   /// Presses "Process", and waits until the run is over.
   void process() const;
-  /// What "Save as" writes, into a file of this type.
+  /// The file of this type that "Save as" writes.
   [[nodiscard]] std::string result(const std::wstring& extension = L".bmp") const;
-  /// What the tool makes of the image with the palette that was opened.
+  /// The result of the tool for the image and the palette that was opened.
   [[nodiscard]] std::string toolsResult(const std::wstring& image, const std::wstring& mode,
                                         const std::vector<std::wstring>& options = {},
                                         const std::wstring& extension = L".bmp") const;

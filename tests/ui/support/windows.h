@@ -43,9 +43,9 @@ BOOL CALLBACK addWindow(HWND window, LPARAM windows);
 [[nodiscard]] Point onScreen(HWND window, Point point);
 [[nodiscard]] Point middleOf(const Rect& box);
 
-/// What the user sees at a point of the window's client area.
+/// The color on the screen at a point of the window's client area.
 [[nodiscard]] PaletteEntry pixelOf(HWND window, Point point);
-/// What the user sees of the window's client area, row by row.
+/// The colors on the screen of the window's client area, row by row.
 [[nodiscard]] std::vector<std::uint32_t> pixelsOf(HWND window);
 /// One of the system's colors, COLOR_BTNFACE and so on.
 [[nodiscard]] PaletteEntry systemColor(int color);
