@@ -11,8 +11,8 @@
 namespace quillhue::cli {
 
 CommandLine emptyCommandLine() {
-  return CommandLine("quillhue-cli", "quillhue-cli " QUILLHUE_VERSION,
-                     "Makes, shows, edits and converts palettes of red-green-blue entries.");
+  return {"quillhue-cli", "quillhue-cli " QUILLHUE_VERSION,
+          "Makes, shows, edits and converts palettes of red-green-blue entries."};
 }
 
 void addVerbs(CommandLine& tool, Console& console, ExitStatus& status) {

@@ -16,7 +16,7 @@ std::string roff(const std::string& text) {
 }
 
 std::string heading(const std::string& page, const std::string& version) {
-  return ".TH " + page + " 1 \"\" \"" + page + ' ' + version + "\" \"User Commands\"\n";
+  return ".TH " + page + R"( 1 "" ")" + page + ' ' + version + R"(" "User Commands")" + '\n';
 }
 
 std::string entry(const std::string& term, const std::string& text) {

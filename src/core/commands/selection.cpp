@@ -72,6 +72,7 @@ void selectDarker(PaletteDocument& document, std::int32_t current) {
 void selectRedundant(PaletteDocument& document) {
   std::set<PaletteEntry> seen;
   std::vector<bool> isRedundant;
+  isRedundant.reserve(static_cast<std::size_t>(document.getSize()));
   for (std::int32_t index = 0; index < document.getSize(); ++index) {
     isRedundant.push_back(!seen.insert(document.getColor(index)).second);
   }

@@ -36,7 +36,7 @@ GlobalMemory globalCopy(std::span<const std::uint8_t> bytes) {
   GlobalMemory memory(GlobalAlloc(GMEM_MOVEABLE, bytes.size()));
   const LockedMemory locked(memory.get());
   if (bytes.empty() || locked.bytes().size() < bytes.size()) {
-    return GlobalMemory();
+    return {};
   }
   std::ranges::copy(bytes, locked.bytes().begin());
   return memory;
