@@ -7,6 +7,7 @@
 #include <memory>
 #include <numeric>
 #include <optional>
+#include <ranges>
 #include <spanstream>
 #include <sstream>
 #include <string>
@@ -128,8 +129,10 @@ struct Program final : RecordingServices, CommandTarget, ChannelView {
     text << "\nclipboard " << show(paletteOf(clipboard.value_or(std::vector<PaletteEntry>{})));
     text << "\nsettings " << int{settings.colorMode} << ' ' << int{settings.effect} << ' '
          << show(createPalette(1, settings.blank)) << ' ' << static_cast<int>(settings.selectionMode);
-    text << "\nimage " << image->width() << ' '
-         << hexOf(image->pixels().first(std::min<std::size_t>(64, image->pixels().size())));
+    if (image) {
+      text << "\nimage " << image->width() << ' '
+           << hexOf(image->pixels().first(std::min<std::size_t>(64, image->pixels().size())));
+    }
     text << "\nresult " << result.width() << ' '
          << hexOf(result.rows().first(std::min<std::size_t>(64, result.rows().size())));
     text << "\neditors " << effects.effect().getValue() << ' ' << effects.effect().getMaximum() << ' '
@@ -258,7 +261,7 @@ TEST(Allocations, FailInCommands) {
 }
 
 TEST(Allocations, FailInEffects) {
-  for (std::int32_t index = 0; index < static_cast<std::int32_t>(effects().size()); ++index) {
+  for (const std::int32_t index : std::views::iota(0, static_cast<std::int32_t>(effects().size()))) {
     const Action choose = [index](Program& program) { program.effects.choose(index); };
     expectSafe("choose " + std::to_string(index), choose);
     expectSafe(
@@ -271,7 +274,7 @@ TEST(Allocations, FailInEffects) {
 }
 
 TEST(Allocations, FailInColorModels) {
-  for (std::int32_t index = 0; index < static_cast<std::int32_t>(colorModels().size()); ++index) {
+  for (const std::int32_t index : std::views::iota(0, static_cast<std::int32_t>(colorModels().size()))) {
     const Action choose = [index](Program& program) { program.channels.chooseModel(index); };
     expectSafe("choose " + std::to_string(index), choose);
     expectSafe(
@@ -284,6 +287,7 @@ TEST(Allocations, FailInColorModels) {
 TEST(Allocations, FailInRemappingAndPastingOfImages) {
   const Bytes direct = bitmapOf(20, 24, std::vector<ColorWord>(400, 0x123456));
   const Bytes large = bitmapOf(1024, 24, std::vector<ColorWord>(std::size_t{1} << 20, 0x123456));
+  // NOLINTBEGIN(misc-const-correctness): it takes variables that change for constants here.
   Bytes indexed = bitmapOf(5, 24, std::vector<ColorWord>(400));
   indexed[28] = 8;
   const auto pasted = [](const Bytes& file) { return Bytes(file.begin() + 14, file.end()); };
@@ -315,6 +319,7 @@ TEST(Allocations, FailInRemappingAndPastingOfImages) {
           paste);
     }
   }
+  // NOLINTEND(misc-const-correctness)
 }
 
 /// One call of the tool, with "OUT" for a folder that has the file own.gpl.

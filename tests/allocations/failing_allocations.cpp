@@ -55,7 +55,7 @@ void operator delete(void* memory) noexcept { std::free(memory); }
 
 void operator delete(void* memory, std::size_t /*size*/) noexcept { operator delete(memory); }
 
-// NOLINTBEGIN(bugprone-reserved-identifier): the linker prescribes the names.
+// NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming): the linker prescribes the names.
 extern "C" {
 void* __real_calloc(std::size_t count, std::size_t size);
 void* __wrap_calloc(std::size_t count, std::size_t size) {
@@ -69,7 +69,7 @@ void __wrap_free(void* memory) {
   __real_free(memory);
 }
 }
-// NOLINTEND(bugprone-reserved-identifier)
+// NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
 
 namespace quillhue {
 

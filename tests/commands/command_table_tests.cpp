@@ -18,7 +18,7 @@ TEST(CommandTable, OffersWhatHasAnEffect) {
     const auto dash = row.at(0).find('-');
     const std::int32_t last = std::stoi(row[0].substr(dash == std::string::npos ? 0 : dash + 1));
     const std::string& offered = row.at(1);
-    for (std::int32_t id = std::stoi(row[0]); before < id - 1;) {
+    for (const std::int32_t id = std::stoi(row[0]); before < id - 1;) {
       EXPECT_EQ(findCommand(++before), nullptr) << before;
     }
     while (before < last) {

@@ -189,7 +189,7 @@ class Soak : public UiTest {
       constexpr std::uint8_t kDepths[] = {1, 4, 8, 16, 24, 32};
       Bytes bitmap = bitmapOf(3, 24, {1, 2, 3, 4, 5, 6});
       bitmap[28] = anyOf(kDepths);
-      const auto block = std::span(bitmap).subspan(14, static_cast<std::size_t>(20 + any(bitmap.size() - 33)));
+      const auto block = std::span(bitmap).subspan(14, 20 + static_cast<std::size_t>(any(bitmap.size() - 33)));
       if (content < 5) {
         static_cast<void>(clipboard.put(content == 4 ? CF_TEXT : CF_DIB, block));
       } else if (content < 7) {

@@ -39,7 +39,7 @@ class RegistrySettingsTest : public testing::Test {
 
 TEST_F(RegistrySettingsTest, ReadsOnlyTheWantedTypeAtItsWholeLength) {
   const RegistryKey key = createKey(kKey);
-  for (const DWORD type : {REG_DWORD, REG_BINARY, REG_QWORD, REG_SZ, REG_NONE}) {
+  for (const DWORD type : std::initializer_list<DWORD>{REG_DWORD, REG_BINARY, REG_QWORD, REG_SZ, REG_NONE}) {
     for (const std::size_t length : {std::size_t{4}, std::size_t{100'000}}) {
       if (type == REG_DWORD && length > 4) {
         continue;
