@@ -4,7 +4,7 @@ set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 cd "$root"
-echo "The first run takes about 6 minutes on two cores. Later runs build only what has changed."
+echo "The first run takes about ten minutes on two cores. Later runs build only what has changed."
 scripts/need.sh g++ cmake ninja-build googletest libcli11-dev nlohmann-json3-dev libpng-dev libjpeg-dev \
   g++-mingw-w64-x86-64-posix wine wine64 fonts-dejavu-core fonts-wine xvfb nsis zip unzip attr groff-base dpkg-dev file
 mkdir -p build
