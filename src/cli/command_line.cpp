@@ -19,7 +19,7 @@ std::string shortNameOf(const std::string& option) {
   return found == kShortNames.end() ? std::string() : (*found)[1];
 }
 
-// Splits "--size N" into the option and its placeholder.
+// Splits "--size N" into the option and its argument.
 OptionHelp optionHelpOf(const std::string& declaration, const std::string& help) {
   const auto blank = declaration.find(' ');
   const std::string name = declaration.substr(0, blank);

@@ -22,7 +22,7 @@ namespace quillhue::cli {
 /// An option that triggers an action and may be given more than once. The action may refuse its argument.
 struct Action {
   std::string option;
-  /// Placeholder for the argument in help. Empty for an option without an argument; `act` then gets an empty text.
+  /// Name of the argument in help. Empty for an option without an argument; `act` then gets an empty text.
   std::string argument;
   std::string help;
   std::function<void(const std::string& argument)> act;
@@ -50,7 +50,7 @@ class Verb {
 
   /// Makes help list the following options under this heading.
   void beginGroup(const std::string& group) { group_ = group; }
-  /// `declaration` is the option and the placeholder of its argument, such as "--name FILE".
+  /// `declaration` is the option and the name of its argument, such as "--name FILE".
   void addOption(const std::string& declaration, std::string& value, const std::string& help);
   void addOption(const std::string& declaration, std::optional<std::string>& value, const std::string& help);
   void addChoice(const std::string& name, std::string& value, const std::vector<std::string>& choices,

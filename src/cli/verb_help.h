@@ -22,7 +22,7 @@ struct OptionHelp {
   /// With one dash, such as "-f"; empty for most options.
   std::string shortName;
   std::string name;
-  /// Placeholder for the argument; empty for an option without one.
+  /// Name of the argument; empty for an option without one.
   std::string argument;
   std::string help;
   std::vector<std::string> choices;

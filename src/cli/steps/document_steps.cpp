@@ -1,6 +1,5 @@
 #include <array>
 
-#include "cli/input.h"
 #include "cli/steps/step.h"
 #include "core/commands/exchange.h"
 #include "core/commands/statistics.h"
@@ -38,17 +37,10 @@ ParsedStep parsePaste(const std::string& /*argument*/) {
 }
 
 ParsedStep parseClipboard(const std::string& argument) {
-  if (argument == "-") {
-    return Refusal("needs a file: standard input has no name");
-  }
-  return [argument](EditSession& session) -> StepResult {
-    const auto read = readFilePalette(argument, session.input, session.console);
-    if (!read) {
-      return Refusal(read.error());
-    }
-    static_cast<void>(clipboardOf(session).put(entriesOf(read->palette)));
+  return fileStepOf(argument, [](EditSession& session, const std::vector<PaletteEntry>& entries) -> StepResult {
+    static_cast<void>(clipboardOf(session).put(entries));
     return {};
-  };
+  });
 }
 
 ParsedStep parseResize(const std::string& argument) {

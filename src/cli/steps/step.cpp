@@ -11,6 +11,17 @@ EditSession::EditSession(Palette palette, const InputOptions& inputOptions, Cons
   slot.replaceDocument(std::move(palette), false, {}, palette_format::kNone, tool.services);
 }
 
+ParsedStep fileStepOf(const std::string& file,
+                      std::function<StepResult(EditSession&, const std::vector<PaletteEntry>&)> use) {
+  if (file == "-") {
+    return Refusal("needs a file: standard input has no name");
+  }
+  return [file, use = std::move(use)](EditSession& session) -> StepResult {
+    const auto read = readFilePalette(file, session.input, session.console);
+    return read ? use(session, entriesOf(read->palette)) : Refusal(read.error());
+  };
+}
+
 std::span<const StepGroup> stepGroups() {
   static constexpr std::array<StepGroup, 5> kGroups{{
       {"Choice", selectionSteps},

@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "cli/arguments.h"
 #include "cli/input.h"
@@ -54,7 +55,7 @@ using ParsedStep = std::expected<Step, std::string>;
 /// An option of the verb edit that adds a step.
 struct StepKind {
   const char* option;
-  /// Placeholder for the argument in help; null for an option without an argument.
+  /// Name of the argument in help; null for an option without an argument.
   const char* argument;
   const char* help;
   /// Converts the argument to a step, or refuses it with a message that says what is allowed.
@@ -118,5 +119,9 @@ ParsedStep entryStepOf(const std::string& number, Command command) {
   return entryStepOf(
       number, [&command](EditSession& session, std::int32_t entry) { command.change(session.commandInput(entry)); });
 }
+
+/// Makes a step from a function that takes the entries of another palette file. `file` can't be standard input.
+[[nodiscard]] ParsedStep fileStepOf(const std::string& file,
+                                    std::function<StepResult(EditSession&, const std::vector<PaletteEntry>&)> use);
 
 }  // namespace quillhue::cli

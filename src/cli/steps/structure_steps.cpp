@@ -2,7 +2,6 @@
 #include <array>
 #include <vector>
 
-#include "cli/input.h"
 #include "cli/steps/step.h"
 #include "core/commands/structure.h"
 
@@ -97,16 +96,9 @@ ParsedStep parseInsert(const std::string& argument) {
 }
 
 ParsedStep parseAppend(const std::string& argument) {
-  if (argument == "-") {
-    return Refusal("needs a file: standard input has no name");
-  }
-  return [argument](EditSession& session) -> StepResult {
-    const auto read = readFilePalette(argument, session.input, session.console);
-    if (!read) {
-      return Refusal(read.error());
-    }
-    return insert(session, session.document().getSize(), entriesOf(read->palette));
-  };
+  return fileStepOf(argument, [](EditSession& session, const std::vector<PaletteEntry>& entries) {
+    return insert(session, session.document().getSize(), entries);
+  });
 }
 
 ParsedStep parseMove(const std::string& argument) {
