@@ -127,12 +127,12 @@ void Verb::addOrderedAction(const Action& action) {
   added->disable_flag_override()->trigger_on_parse();
   OptionHelp option = optionHelpOf(action.option + (action.argument.empty() ? "" : ' ' + action.argument), action.help);
   option.choices = action.choices;
-  option.isBrief = true;
   describe(option);
 }
 
 void Verb::describe(OptionHelp option) {
   option.group = group_;
+  option.isBrief = isBrief_;
   help_->options.push_back(std::move(option));
 }
 

@@ -49,7 +49,11 @@ class Verb {
   void addOutputOption(std::string& value);
 
   /// Makes help list the following options under this heading.
-  void beginGroup(const std::string& group) { group_ = group; }
+  void beginGroup(const std::string& group) { group_ = group, isBrief_ = false; }
+  /// The same for a group whose options the verb's help only names, because it would not fit a screen otherwise. The
+  /// help of the option and the manual page explain them.
+  void beginBriefGroup(const std::string& group) { group_ = group, isBrief_ = true; }
+
   /// `declaration` is the option and the name of its argument, such as "--name FILE".
   void addOption(const std::string& declaration, std::string& value, const std::string& help);
   void addOption(const std::string& declaration, std::optional<std::string>& value, const std::string& help);
@@ -59,12 +63,11 @@ class Verb {
 
   /// Adds an option whose argument is converted to a value of another type.
   void addAction(const Action& action);
-  /// Adds an action that runs at its place in the command line, before or after other actions. The verb's help shows
-  /// only its option.
+  /// Adds an action that runs at its place in the command line, before or after other actions.
   void addOrderedAction(const Action& action);
 
   /// Sets the paragraphs that only the manual page has, each ended by an empty line. A line that begins with four
-  /// blanks is an example.
+  /// blanks is an example, which the tests run.
   void setManual(const std::string& text);
 
   /// Sets the function that runs the verb after all its options are known.
@@ -76,6 +79,7 @@ class Verb {
   CLI::App* parser_;
   VerbHelp* help_;
   std::string group_ = "Options";
+  bool isBrief_ = false;
 };
 
 /// The tool's command line.

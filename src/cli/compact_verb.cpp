@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "cli/file_log.h"
 #include "cli/image_format.h"
 #include "cli/image_input.h"
 #include "cli/input.h"
@@ -20,6 +21,14 @@
 namespace quillhue::cli {
 
 namespace {
+
+constexpr const char* kManual =
+    R"(The entries that no pixel uses go, and so do those that repeat the color of an earlier entry. The other entries keep their
+order. An image with partly transparent entries is refused.
+
+    quillhue-cli compact sprite.png small.png --palette-out small.gpl
+
+)";
 
 struct CompactOptions {
   std::string from;
@@ -114,7 +123,13 @@ std::expected<void, FileRefusal> compactFile(const CompactOptions& options, Cons
     }
   }
   const auto written = writeOutput(options.to, *content, options.force, console);
-  return written ? std::expected<void, FileRefusal>() : std::unexpected(FileRefusal{options.to, written.error()});
+  if (!written) {
+    return std::unexpected(FileRefusal{options.to, written.error()});
+  }
+  FileRecord record = recordOf(options.to, format.name, content->size(), file->image);
+  record.entries = static_cast<std::int32_t>(compaction.colors.size());
+  addWritten(console, std::move(record));
+  return {};
 } catch (const std::bad_alloc&) {
   return std::unexpected(FileRefusal{options.from, std::string(textOf(Failure::notEnoughMemory))});
 }
@@ -125,13 +140,13 @@ void addCompactVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   Verb verb = tool.addVerb("compact", "Remove unused and duplicate entries from an image");
   const auto options = std::make_shared<CompactOptions>();
   verb.addArgument("IMAGE", options->from, "An indexed image, or - for standard input");
-  verb.addArgument("OUT", options->to,
-                   "The image to write, which looks the same. It looks the same; the entries that "
-                   "are left keep their order");
+  verb.addArgument("OUT", options->to, "The image to write. It looks the same; the remaining entries keep their order");
   verb.addOption("--palette-out FILE", options->paletteOut, "Write the remaining entries to this palette file");
   verb.addChoice("--format", options->format, imageFormatNames(), kImageFormatHelp);
-  addReadingFlags(verb, options->standard, console);
+  addStandardFlag(verb, options->standard);
   addForceFlag(verb, options->force);
+  addMessageFlags(verb, console);
+  verb.setManual(kManual);
   verb.onRun([options, &console, &status] {
     const auto done = compactFile(*options, console);
     status = done ? kDone : refuseFile(done.error(), false, console);

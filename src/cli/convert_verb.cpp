@@ -7,9 +7,10 @@
 #include <vector>
 
 #include "cli/arguments.h"
+#include "cli/file_log.h"
 #include "cli/file_reason.h"
 #include "cli/input.h"
-#include "cli/jobs.h"
+#include "cli/json.h"
 #include "cli/notes.h"
 #include "cli/output.h"
 #include "cli/output_folder.h"
@@ -18,6 +19,26 @@
 namespace quillhue::cli {
 
 namespace {
+
+constexpr const char* kManual =
+    R"(The extension of OUT decides the format; .pal is a RIFF palette. If IN has the same extension, OUT gets the format of
+IN. For other names, and with --out-dir, --format is needed. The verb formats lists all formats.
+
+    quillhue-cli convert sea.gpl sea.act
+    quillhue-cli convert sea.gpl sea.pal --format jasc
+    quillhue-cli convert sea.gpl sea.png --columns 8 --cell 32
+    quillhue-cli convert art --recursive --skip-unknown --out-dir new --format gimp --colors reduce
+    cat sea.gpl | quillhue-cli convert - - --format hex
+
+With --recursive, the folder of --out-dir gets the subfolders of the input. Without it, the subfolders that are skipped are
+named.
+
+An image without a palette needs --colors. With exact, its colors become entries in the order in which they appear, as
+far as there is room. With reduce, median cut finds colors that represent all of them.
+
+    quillhue-cli convert photo.jpg photo.act --colors reduce --size 64
+
+)";
 
 struct ConvertOptions {
   std::vector<std::string> files;
@@ -28,7 +49,7 @@ struct ConvertOptions {
   std::string colors;
   std::optional<std::int32_t> size;
   PaletteEntry blank;
-  std::optional<std::int32_t> jobs;
+  FileListOptions list;
 };
 
 constexpr std::int32_t kReducedSize = 256;
@@ -82,15 +103,17 @@ bool convertFile(const std::string& from, const std::string& to, const FormatCho
                  const ConvertOptions& options, Console& console) {
   const auto input = readPaletteOf(from, options, console);
   if (!input) {
-    reportRefusal(console, from, input.error());
-    return false;
+    return refuseInput({from, input.error()}, options.list.skipsUnknown, options.list.json, console) == kDone;
   }
   const OutputFormat& format = choice.formatFor(input->format, input->palette.getSize());
   const auto written = writePalette({from, to, format, options.blank, options.output}, input->palette, console);
   if (!written) {
-    reportRefusal(console, written.error().file, written.error().text);
+    return refuseFile(written.error(), options.list.json, console) == kDone;
   }
-  return written.has_value();
+  if (options.list.json) {
+    writeJson(console, filesJson(from, console));
+  }
+  return true;
 }
 
 ExitStatus convertAll(const std::string& outDir, const ConvertOptions& options, Console& console) {
@@ -99,7 +122,7 @@ ExitStatus convertAll(const std::string& outDir, const ConvertOptions& options, 
   }
   const FormatChoice choice(options.output, options.input.standard, {});
   const FolderOutput output{outDir, choice.formatFor({}, 0).extension, options.input.name, options.output.force,
-                            options.jobs};
+                            options.list};
   return writeIntoFolder(output, options.files, console, [&]() -> WriteResult {
     return [&](const std::string& from, const std::string& to, Console& own) {
       return convertFile(from, to, choice, options, own);
@@ -114,14 +137,13 @@ ExitStatus convert(const ConvertOptions& options, Console& console) {
   if (options.outDir) {
     return convertAll(*options.outDir, options, console);
   }
-  if (options.jobs) {
-    refuseUsage("--jobs", "goes with --out-dir");
-  }
+  requireOutDir(options.list);
   if (options.files.size() != 2) {
     refuseUsage("convert", "takes IN and OUT, or any number of files with --out-dir");
   }
   const std::string& from = options.files[0];
   const std::string& to = options.files[1];
+  refuseJsonOnStandardOutput(options.list.json, to);
   const FormatChoice choice(options.output, options.input.standard, to, inputName(from, options.input));
   return convertFile(from, to, choice, options, console) ? kDone : kRefused;
 }
@@ -134,17 +156,21 @@ void addConvertVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addArgument("FILE", options->files, "IN and OUT, or files and folders with --out-dir");
   verb.beginGroup("Input");
   verb.addOption("--name FILE", options->input.name, "File name to assume for standard input");
-  addReadingFlags(verb, options->input.standard, console);
+  addStandardFlag(verb, options->input.standard);
   verb.beginGroup("Output");
   verb.addOutputOption(options->out);
   verb.addOption("--out-dir DIR", options->outDir, "Convert all files into this folder");
   addOutputOptions(verb, options->output);
   addColorOption(verb, "--blank", options->blank, "Color of unused entries (default 0,0,0)");
-  addJobsOption(verb, options->jobs);
+  verb.addFlag("--json", options->list.json, "Write JSON, one object a line for each file: what was read and written");
+  verb.beginBriefGroup("Many files");
+  addFileListOptions(verb, options->list);
   verb.beginGroup("Images without a palette");
   verb.addChoice("--colors", options->colors, {"exact", "reduce"}, "Make a palette of all colors, or of fewer");
   addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},
                   "Number of entries (default: all, or 256 for reduce)");
+  addMessageFlags(verb, console);
+  verb.setManual(kManual);
   verb.onRun([options, &console, &status] {
     addOutput(options->out, options->outDir.has_value(), options->files);
     status = convert(*options, console);

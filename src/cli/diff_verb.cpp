@@ -20,6 +20,17 @@ namespace quillhue::cli {
 
 namespace {
 
+constexpr const char* kManual =
+    R"(Each line shows an entry, its color in A and in B, and how far they are apart: the Euclidean distance in RGB, from 0 to
+442, and in Oklab, in which black and white have the distance 1. An entry that only one palette has differs too.
+
+The exit status is 0 if the palettes are the same, 1 if they differ, and 2 if a file can't be read.
+
+    quillhue-cli diff old.gpl new.gpl
+    quillhue-cli diff sea.gpl new.gpl --json
+
+)";
+
 struct DiffOptions {
   std::array<std::string, 2> files;
   InputOptions input;
@@ -120,11 +131,10 @@ void addDiffVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addArgument("A", options->files[0], "A palette or image file, or - for standard input");
   verb.addArgument("B", options->files[1], "The file to compare with");
   verb.addOption("--name FILE", options->input.name, "File name to assume for standard input");
-  addReadingFlags(verb, options->input.standard, console);
+  addStandardFlag(verb, options->input.standard);
   verb.addFlag("--json", options->json, "Write JSON, one object a line for each such entry");
-  verb.setManual(
-      "The exit status is 0 if the palettes are the same, 1 if they differ, and 2 if a file can't be read.\n\n"
-      "    quillhue-cli diff old.gpl new.gpl\n\n");
+  addMessageFlags(verb, console);
+  verb.setManual(kManual);
   verb.onRun([options, &console, &status] { status = diff(*options, console); });
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "cli/file_log.h"
 #include "cli/input.h"
 #include "cli/json.h"
 #include "cli/notes.h"
@@ -15,6 +16,51 @@
 namespace quillhue::cli {
 
 namespace {
+
+constexpr const char* kManual =
+    R"(The steps run in the order of the command line. OUT may be the same file as IN if --force is given. If a step is refused,
+nothing is written.
+
+Steps change the selected entries, at first all. --select chooses others by a list such as 0-15,20; redundant selects the
+entries that repeat an earlier color; matches:N, brighter:N and darker:N compare with entry N; used:IMAGE and unused:IMAGE
+ask which entries the pixels of an image use, as the verb usage counts them. A color is 255,128,0 or #FF8000 or #F80.
+
+    quillhue-cli edit sea.gpl day.gpl --select 8-15 --effect brightness=20
+    quillhue-cli edit sea.gpl clear.gpl --select unused:sprite.png --clear
+
+--channels restricts the steps after it to some of red, green and blue. --swap ignores it. --sort red sorts only if r is
+among the channels, and the same is true of green and blue: otherwise it moves the entries that have the value 255 in that
+channel to the end, and reverses the others.
+
+    quillhue-cli edit sea.gpl warm.gpl --channels r --effect brightness=20
+    quillhue-cli edit sea.gpl sorted.gpl --sort hue
+    quillhue-cli edit sea.gpl light-first.gpl --sort oklab-lightness --descending
+
+The effect negative=0 is the plain negative, and gamma with more than 100 darkens. The verb effects lists all effects.
+
+--ramp fills the entries between two entries, whether they are selected or not. --depth rounds to the colors that
+hardware shows: bits:R,G,B gives the bits of each channel.
+
+    quillhue-cli edit sea.gpl ramp.gpl --set 8=#281018 --set 15=#FFD6AA --ramp 8-15 --space oklab
+    quillhue-cli edit sea.gpl handheld.gpl --depth rgb555
+
+--channel sets one number of one entry in a color model; the verb models lists the models. Several such steps in sequence,
+for the same entry and model, keep the numbers exactly as set, although the color between them is rounded. --shift adds to
+a number of each selected entry.
+
+    quillhue-cli edit sea.gpl green.gpl --channel 3:HSV:hue=120 --channel 3:HSV:saturation=200
+    quillhue-cli edit sea.gpl turned.gpl --select 16-23 --shift HSV:hue=+30
+
+The other steps add, remove and move entries, and use a clipboard that --clipboard fills from a file.
+
+    quillhue-cli edit sea.gpl both.gpl --append old.gpl --dedupe
+    quillhue-cli edit sea.gpl order.gpl --move 8-15:0 --swap-entries 20,21
+    quillhue-cli edit sea.gpl mixed.gpl --clipboard old.gpl --select 0-7 --paste
+
+--undo reverts the last step that changed the selection, colors or size. It does not revert --channels, --blank,
+--use-as-blank and what is on the clipboard.
+
+)";
 
 struct WrittenStep {
   const StepKind* kind;
@@ -71,7 +117,8 @@ ExitStatus edit(const EditOptions& options, Console& console) {
     return refuseFile(written.error(), options.json, console);
   }
   if (options.json) {
-    writeJson(console, editedJson(options, format, document));
+    JsonObject json = editedJson(options, format, document);
+    writeJson(console, addFiles(json, console));
   }
   return kDone;
 }
@@ -110,18 +157,16 @@ void addEditVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addOutputArgument(options->to, "The file to write, or - for standard output");
   verb.addOption("--name FILE", options->input.name, "File name to assume for standard input");
   addOutputOptions(verb, options->output);
-  addReadingFlags(verb, options->input.standard, console);
+  addStandardFlag(verb, options->input.standard);
   verb.addFlag("--json", options->json, "Write JSON: the palette, selection and history");
+  addMessageFlags(verb, console);
   for (const StepGroup& group : stepGroups()) {
-    verb.beginGroup(group.subject);
+    verb.beginBriefGroup(group.subject);
     for (const StepKind& kind : group.kinds()) {
       addStep(verb, kind, options);
     }
   }
-  verb.setManual(
-      "The steps run in the order of the command line. --undo reverts the last one that changed the selection, colors "
-      "or size.\n\n"
-      "    quillhue-cli edit sea.gpl sorted.gpl --sort hue\n\n");
+  verb.setManual(kManual);
   verb.onRun([options, &console, &status] { status = edit(*options, console); });
 }
 

@@ -9,6 +9,13 @@ namespace quillhue::cli {
 
 namespace {
 
+constexpr const char* kManual = R"(Use an effect with the step --effect of the verb edit.
+
+    quillhue-cli effects
+    quillhue-cli edit sea.gpl day.gpl --effect brightness=20
+
+)";
+
 void showJson(Console& console) {
   for (const EffectDescription* effect : effects()) {
     const bool bySize = effect->followsPaletteSize;
@@ -42,6 +49,7 @@ void addEffectsVerb(CommandLine& tool, Console& console, ExitStatus& /*status*/)
                   .name = "effects",
                   .help = "List the effects: name, values, default",
                   .jsonHelp = "Write JSON, one object a line for each effect",
+                  .manual = kManual,
                   .showText = showText,
                   .showJson = showJson,
               });

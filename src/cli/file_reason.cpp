@@ -37,10 +37,15 @@ std::string whyNotOpened(const fs::path& path) {
   if (status.type() == fs::file_type::not_found) {
     return "there is no such file";
   }
-  if (fs::is_directory(status)) {
+  const bool isFolder = fs::is_directory(status);
+  if (isFolder) {
+    // A folder is only read by listing its files.
+    const fs::directory_iterator listing(path, error);
+  }
+  if (isFolder && !error) {
     return "it is a folder";
   }
-  const bool forbidden = error == std::errc::permission_denied || isForbidden(path, std::ios::in);
+  const bool forbidden = error == std::errc::permission_denied || (!isFolder && isForbidden(path, std::ios::in));
   return forbidden ? "you have no right to read it" : "";
 }
 

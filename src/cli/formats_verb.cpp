@@ -14,6 +14,14 @@ namespace quillhue::cli {
 
 namespace {
 
+constexpr const char* kManual =
+    R"(The first list has the formats that can be written, with their names for --format. A file of a format in the other lists
+is recognised by its content, or by its name if the list says so.
+
+    quillhue-cli formats
+
+)";
+
 JsonObject jsonOfReader(const PaletteReader& reader) {
   return JsonObject().add("name", reader.name).add("title", reader.title).add("recognisedBy", reader.recognisedBy);
 }
@@ -72,6 +80,7 @@ void addFormatsVerb(CommandLine& tool, Console& console, ExitStatus& /*status*/)
                   .name = "formats",
                   .help = "List the formats that can be written and read",
                   .jsonHelp = "Write JSON",
+                  .manual = kManual,
                   .showText = showText,
                   .showJson = showJson,
               });

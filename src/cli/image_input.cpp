@@ -6,12 +6,15 @@
 #include <utility>
 #include <variant>
 
+#include "cli/file_log.h"
 #include "cli/file_reason.h"
 #include "cli/input.h"
 #include "cli/notes.h"
 #include "cli/refusal.h"
+#include "core/utf8.h"
 #include "formats/images/image_loaders.h"
 #include "formats/notes/reading_note.h"
+#include "formats/readers/palette_readers.h"
 #include "formats/standard/standard_formats.h"
 #include "pictures/picture_file.h"
 #include "pictures/png_file.h"
@@ -19,6 +22,16 @@
 namespace quillhue::cli {
 
 namespace {
+
+// The name of an image's format, which is that of the palette reader for such files if there is one.
+std::string_view formatNameOf(ByteSource& source, const std::string& file) {
+  if (const PictureKind* const kind = findPictureKind(source)) {
+    return kind->name;
+  }
+  const std::wstring name = fromUtf8(file);
+  const PaletteReader* const reader = findPaletteReader({source, name});
+  return reader == nullptr ? "image" : reader->name;
+}
 
 std::expected<WorkImage, std::string> loadPixels(ByteSource& source, const std::string& file, bool standard,
                                                  PaletteEntry blank, Console& console) {
@@ -31,6 +44,7 @@ std::expected<WorkImage, std::string> loadPixels(ByteSource& source, const std::
   if (!image) {
     return refusalOf(image.error());
   }
+  addRead(console, recordOf(file, formatNameOf(source, file), source.size(), *image));
   return std::move(*image);
 }
 

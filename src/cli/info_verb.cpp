@@ -16,12 +16,24 @@ namespace quillhue::cli {
 
 namespace {
 
+constexpr const char* kManual =
+    R"(A palette is shown with the index, hexadecimal value and red, green and blue of each entry. For an image without a
+palette, the number of its different colors is shown.
+
+On a terminal, entries are blocks of color, unless the environment variable NO_COLOR is set. A terminal without 24-bit
+colors shows the nearest of its 256.
+
+    quillhue-cli info sea.gpl
+    quillhue-cli info sea.gpl --json
+    quillhue-cli info art --recursive --skip-unknown
+
+)";
+
 struct InfoOptions {
   std::vector<std::string> files;
   InputOptions input;
-  std::optional<std::int32_t> jobs;
+  FileListOptions list;
   std::string color = "auto";
-  bool json = false;
 };
 
 // Returns the console with the colors that --color asks for.
@@ -60,24 +72,27 @@ std::expected<void, Failure> show(const std::string& file, const InfoOptions& op
     return std::unexpected(input.error());
   }
   if (std::holds_alternative<FilePalette>(input->content)) {
-    showFilePalette(file, *input, options.json, console);
+    showFilePalette(file, *input, options.list.json, console);
     return {};
   }
   const ImageColors colors = colorsOf(input->content);
   if (input->source->failed()) {
     return std::unexpected(Failure::couldNotOpen);
   }
-  showImage(file, *input, colors.distinctCount(), options.json, console);
+  showImage(file, *input, colors.distinctCount(), options.list.json, console);
   return {};
 } catch (const std::bad_alloc&) {
   return std::unexpected(Failure::notEnoughMemory);
 }
 
 ExitStatus showAll(const InfoOptions& options, Console& console) {
-  return runJobs(expandFolders(options.files), options.jobs, console, [&]() -> Job {
-    return [&](const std::string& file, Console& own) {
-      const auto shown = show(file, options, own);
-      return shown ? kDone : refuseFile({file, openingFailure(shown.error(), file)}, options.json, own);
+  const FileListOptions& list = options.list;
+  return runJobs(listFiles(options.files, {}, list, console), list.jobs, console, [&]() -> Job {
+    return [&](const InputFile& file, Console& own) {
+      const auto shown = show(file.name, options, own);
+      return shown ? kDone
+                   : refuseInput({file.name, openingFailure(shown.error(), file.name)}, list.skipsUnknown, list.json,
+                                 own);
     };
   });
 }
@@ -89,11 +104,13 @@ void addInfoVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   const auto options = std::make_shared<InfoOptions>();
   verb.addArgument("FILE", options->files, "Palettes, images, folders, or - for standard input");
   verb.addOption("--name FILE", options->input.name, "File name to assume for standard input");
-  addReadingFlags(verb, options->input.standard, console);
-  addJobsOption(verb, options->jobs);
+  addStandardFlag(verb, options->input.standard);
+  addFileListOptions(verb, options->list);
   verb.addChoice("--color", options->color, {"auto", "always", "never"},
                  "Show blocks of color (default: auto, on a terminal)");
-  verb.addFlag("--json", options->json, "Write JSON, one object a line for each file");
+  verb.addFlag("--json", options->list.json, "Write JSON, one object a line for each file");
+  addMessageFlags(verb, console);
+  verb.setManual(kManual);
   verb.onRun([options, &console, &status] {
     Console chosen = consoleFor(options->color, console);
     status = showAll(*options, chosen);

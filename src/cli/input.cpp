@@ -1,12 +1,10 @@
 #include "cli/input.h"
 
-#include <algorithm>
-#include <filesystem>
 #include <new>
-#include <system_error>
 #include <utility>
 #include <variant>
 
+#include "cli/file_log.h"
 #include "cli/file_reason.h"
 #include "cli/notes.h"
 #include "cli/picture_input.h"
@@ -21,6 +19,18 @@ namespace {
 
 bool isWithoutPalette(Failure failure) {
   return failure == Failure::unrecognisedType || failure == Failure::pngNotIndexed;
+}
+
+FileRecord recordOfContent(const std::string& file, std::string_view format, ByteSource& source,
+                           const FileContent& content) {
+  if (const auto* const image = std::get_if<WorkImage>(&content)) {
+    return recordOf(file, format, source.size(), *image);
+  }
+  FileRecord record{.file = file, .format = std::string(format), .bytes = source.size()};
+  if (const auto* const stored = std::get_if<FilePalette>(&content)) {
+    record.entries = stored->palette.getSize();
+  }
+  return record;
 }
 
 }  // namespace
@@ -56,6 +66,9 @@ std::expected<Input, Failure> readInput(std::unique_ptr<ByteSource> source, cons
   if (!content) {
     return std::unexpected(content.error());
   }
+  if (notes != nullptr) {
+    addRead(*notes, recordOfContent(file, reader->name, *source, *content));
+  }
   const auto* const stored = std::get_if<FilePalette>(&*content);
   if (stored != nullptr && stored->isCut && notes != nullptr) {
     addNote(*notes, file, "only the first " + std::to_string(kMaxPaletteSize) + " entries are used.");
@@ -70,31 +83,6 @@ ImageColors colorsOf(const FileContent& image) {
 
 const std::string& inputName(const std::string& file, const InputOptions& options) {
   return file == "-" ? options.name : file;
-}
-
-std::vector<std::string> expandFolders(const std::vector<std::string>& files) {
-  std::vector<std::string> expanded;
-  for (const std::string& file : files) {
-    std::error_code error;
-    std::filesystem::directory_iterator entry(toPath(fromUtf8(file)), error);
-    if (file == "-" || error) {
-      expanded.push_back(file);
-      continue;
-    }
-    const auto first = static_cast<std::ptrdiff_t>(expanded.size());
-    for (; entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-      std::error_code unknown;
-      if (entry->is_regular_file(unknown)) {
-        expanded.push_back(toUtf8(toFileName(entry->path())));
-      }
-    }
-    std::sort(expanded.begin() + first, expanded.end());
-    if (error) {
-      // The folder could be listed only in part, so it is kept as an input and later refused like a file.
-      expanded.push_back(file);
-    }
-  }
-  return expanded;
 }
 
 std::expected<InputPalette, std::string> readFilePalette(const std::string& file, const InputOptions& options,

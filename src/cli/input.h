@@ -35,7 +35,7 @@ struct Input {
 /// Reads a file, or standard input for "-".
 [[nodiscard]] std::expected<Input, Failure> openInput(const std::string& file, const InputOptions& options,
                                                       Console& console);
-/// The same for an open file. Adds notes to `notes`, if it is not null.
+/// The same for an open file. Adds notes and the record of the file to `notes`, if it is not null.
 [[nodiscard]] std::expected<Input, Failure> readInput(std::unique_ptr<ByteSource> source, const std::string& file,
                                                       const InputOptions& options, Console* notes);
 
@@ -54,8 +54,5 @@ struct InputPalette {
 
 /// Returns the name of the file, or for "-" the name to assume for standard input.
 [[nodiscard]] const std::string& inputName(const std::string& file, const InputOptions& options);
-
-/// Replaces each folder among the files by its regular files, sorted by name.
-[[nodiscard]] std::vector<std::string> expandFolders(const std::vector<std::string>& files);
 
 }  // namespace quillhue::cli

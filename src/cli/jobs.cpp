@@ -1,6 +1,7 @@
 #include "cli/jobs.h"
 
 #include <algorithm>
+#include <chrono>
 #include <condition_variable>
 #include <exception>
 #include <mutex>
@@ -11,14 +12,12 @@
 #include <utility>
 #include <vector>
 
-#include "cli/arguments.h"
+#include "cli/progress_line.h"
 #include "system/interruption.h"
 
 namespace quillhue::cli {
 
 namespace {
-
-constexpr std::int32_t kMaxJobs = 64;
 
 // The texts of a job, or the exception that ended it.
 struct Outcome {
@@ -28,13 +27,15 @@ struct Outcome {
   std::exception_ptr exception;
 };
 
-Outcome outcomeOf(const Job& job, const std::string& file, const Console& console) {
+Outcome outcomeOf(const Job& job, const InputFile& file, const Console& console) {
   Outcome outcome;
   try {
     std::ostringstream out;
     std::ostringstream err;
     Console own{console.in, out, err, console.colors, console.columns, console.isTerminal};
-    own.notes.quiet = console.notes.quiet;
+    // With what was read and noted for all jobs together.
+    own.notes = console.notes;
+    own.files = console.files;
     outcome.status = job(file, own);
     if (!out || !err) {
       throw std::bad_alloc();
@@ -50,7 +51,7 @@ Outcome outcomeOf(const Job& job, const std::string& file, const Console& consol
 // Starts jobs in the order of the files and keeps their outcomes until they are taken.
 class Threads {
  public:
-  Threads(const std::vector<std::string>& files, std::size_t threads, const Console& console, const MakeJob& makeJob)
+  Threads(const std::vector<InputFile>& files, std::size_t threads, const Console& console, const MakeJob& makeJob)
       : files_(files), end_(files.size()), console_(console), running_(threads), outcomes_(files.size()) {
     for (std::size_t i = 0; i < threads; ++i) {
       threads_.emplace_back([this, job = makeJob()] { work(job); });
@@ -60,11 +61,17 @@ class Threads {
   Threads(const Threads&) = delete;
   Threads& operator=(const Threads&) = delete;
 
+  // Waits until take() needs no wait, at most until this time. Returns false if the time has come first.
+  bool waitUntil(std::chrono::steady_clock::time_point time) {
+    std::unique_lock lock(mutex_);
+    return changed_.wait_until(lock, time, [this] { return canTake(); });
+  }
+
   // Waits for the outcome of the next file. Returns nothing if there is none, because all files are done or no more are
   // started.
   std::optional<Outcome> take() {
     std::unique_lock lock(mutex_);
-    changed_.wait(lock, [this] { return taken_ == files_.size() || outcomes_[taken_] || running_ == 0; });
+    changed_.wait(lock, [this] { return canTake(); });
     if (taken_ == files_.size() || !outcomes_[taken_]) {
       return {};
     }
@@ -84,6 +91,9 @@ class Threads {
  private:
   // Limits the memory for texts that wait for an earlier file.
   static constexpr std::size_t kMostAhead = 64;
+
+  // Whether take() needs no wait.
+  [[nodiscard]] bool canTake() const { return taken_ == files_.size() || outcomes_[taken_] || running_ == 0; }
 
   void work(const Job& job) {
     while (const auto file = start()) {
@@ -108,7 +118,7 @@ class Threads {
 
   std::mutex mutex_;
   std::condition_variable changed_;
-  const std::vector<std::string>& files_;
+  const std::vector<InputFile>& files_;
   // The file before which to stop.
   std::size_t end_;
   const Console& console_;
@@ -122,55 +132,31 @@ class Threads {
   std::vector<std::jthread> threads_;
 };
 
-std::size_t threadCount(const std::vector<std::string>& files, std::optional<std::int32_t> wanted) {
-  const bool readsStream = std::ranges::find(files, "-") != files.end();
+std::size_t threadCount(const std::vector<InputFile>& files, std::optional<std::int32_t> wanted) {
+  const bool readsStream = std::ranges::find(files, "-", &InputFile::name) != files.end();
   const auto cores = static_cast<std::int32_t>(std::thread::hardware_concurrency());
   const std::int32_t threads = readsStream ? 1 : std::clamp(wanted.value_or(cores), 1, kMaxJobs);
   return std::min(static_cast<std::size_t>(threads), files.size());
 }
 
-// The last line of a terminal, until it is cleared for other texts.
-class ProgressLine {
- public:
-  ProgressLine(Console& console, std::size_t files) : console_(console), files_(files) {}
-  ProgressLine(const ProgressLine&) = delete;
-  ProgressLine& operator=(const ProgressLine&) = delete;
-  ~ProgressLine() { clear(); }
-
-  void clear() {
-    if (!line_.empty()) {
-      console_.err << '\r' << std::string(line_.size(), ' ') << '\r' << std::flush;
-      line_.clear();
-    }
-  }
-  void show(std::size_t done) {
-    if (console_.showsProgress && files_ > 1) {
-      line_ = std::to_string(done) + " of " + std::to_string(files_) + " files done";
-      console_.err << '\r' << line_ << std::flush;
-    }
-  }
-
- private:
-  Console& console_;
-  std::size_t files_;
-  std::string line_;
-};
-
 }  // namespace
 
-void addJobsOption(Verb& verb, std::optional<std::int32_t>& jobs) {
-  addNumberOption(verb, "--jobs", jobs, {1, kMaxJobs}, "Files to work on at once (default: one per core)");
-}
-
-ExitStatus runJobs(const std::vector<std::string>& files, std::optional<std::int32_t> threads, Console& console,
+ExitStatus runJobs(const std::vector<InputFile>& files, std::optional<std::int32_t> threads, Console& console,
                    const MakeJob& makeJob) {
   ExitStatus status = kDone;
   std::size_t done = 0;
   std::exception_ptr exception;
   Threads running(files, threadCount(files, threads), console, makeJob);
   {
-    ProgressLine line(console, files.size());
-    while (auto outcome = running.take()) {
+    ProgressLine line(console, "files", files.size());
+    for (;;) {
+      if (!running.waitUntil(line.due())) {
+        line.update(done);
+      }
+      auto outcome = running.take();
+      if (!outcome) {
+        break;
+      }
       if (exception) {
         continue;
       }
@@ -183,7 +169,7 @@ ExitStatus runJobs(const std::vector<std::string>& files, std::optional<std::int
         continue;
       }
       status = std::max(status, outcome->status);
-      line.show(++done);
+      line.update(++done);
     }
   }
   if (exception) {

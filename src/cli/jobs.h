@@ -3,30 +3,25 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <string>
 #include <vector>
 
-#include "cli/command_line.h"
 #include "cli/console.h"
+#include "cli/file_list.h"
 
 namespace quillhue::cli {
 
-/// Adds the option --jobs, the number of files to work on at the same time. Without it, that is the number of processor
-/// cores.
-void addJobsOption(Verb& verb, std::optional<std::int32_t>& jobs);
-
 /// Does the work for one file. Writes all data and messages to the console that it gets.
-using Job = std::function<ExitStatus(const std::string& file, Console& console)>;
+using Job = std::function<ExitStatus(const InputFile& file, Console& console)>;
 /// Makes the job of one thread. The jobs of different threads must not change anything that they share.
 using MakeJob = std::function<Job()>;
 
 /// Runs a job for each file on several threads, or on one if standard input ("-") is among the files. Without `threads`
 /// there are as many as processor cores. The texts of the jobs are written in the order of the files. On a terminal a
-/// line shows how many files are done. A refused file does not stop the others.
+/// line shows after a second how many files are done. A refused file does not stop the others.
 ///
 /// After an interrupt (Ctrl+C), finishes the files that are being worked on and refuses the rest. If a job throws, does
 /// the same and throws the first exception. Returns kRefused if any job did or the user interrupted.
-ExitStatus runJobs(const std::vector<std::string>& files, std::optional<std::int32_t> threads, Console& console,
+ExitStatus runJobs(const std::vector<InputFile>& files, std::optional<std::int32_t> threads, Console& console,
                    const MakeJob& makeJob);
 
 }  // namespace quillhue::cli

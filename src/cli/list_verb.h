@@ -13,6 +13,8 @@ struct ListVerb {
   std::string help;
   /// Help text of --json.
   std::string jsonHelp;
+  /// As for Verb::setManual.
+  const char* manual = "";
   void (*showText)(Console& console) = nullptr;
   void (*showJson)(Console& console) = nullptr;
 };

@@ -10,6 +10,14 @@ namespace quillhue::cli {
 
 namespace {
 
+constexpr const char* kManual =
+    R"(Use a model with the verb values and with the steps --channel and --shift of the verb edit.
+
+    quillhue-cli models
+    quillhue-cli edit sea.gpl green.gpl --shift HSV:hue=+30
+
+)";
+
 JsonObject channelJson(const ChannelDescription& channel) {
   return JsonObject()
       .add("name", channel.name)
@@ -50,6 +58,7 @@ void addModelsVerb(CommandLine& tool, Console& console, ExitStatus& /*status*/) 
                   .name = "models",
                   .help = "List the color models: left, middle and right channel",
                   .jsonHelp = "Write JSON, one object a line for each model",
+                  .manual = kManual,
                   .showText = showText,
                   .showJson = showJson,
               });

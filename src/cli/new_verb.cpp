@@ -15,6 +15,16 @@ namespace quillhue::cli {
 
 namespace {
 
+constexpr const char* kManual =
+    R"(The kind blank has entries of one color, greyscale has greys from black to white, rgb has all mixtures of the levels of
+red, green and blue. The other kinds are palettes of old hardware and of Windows; halftone has the Windows colors at both
+ends, a cube of 6 by 6 by 6 colors, and 20 greys.
+
+    quillhue-cli new vga vga.act
+    quillhue-cli new rgb cube.gpl --size 125 --levels 5,5,5
+
+)";
+
 struct NewOptions {
   std::string kind;
   std::string file;
@@ -118,8 +128,10 @@ void addNewVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.addFlag("--windows-colors", options->windowsColors, "Include the 20 Windows colors in blank or rgb");
   addColorOption(verb, "--blank", options->blank, "Color of unused entries (default 0,0,0)");
   addOutputOptions(verb, options->output);
-  addReadingFlags(verb, options->standard, console);
+  addStandardFlag(verb, options->standard);
   verb.addFlag("--json", options->json, "Write JSON: the palette that was written");
+  addMessageFlags(verb, console);
+  verb.setManual(kManual);
   verb.onRun([options, &console, &status] { status = makeNew(*options, console); });
 }
 

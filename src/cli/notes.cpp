@@ -6,9 +6,14 @@
 
 namespace quillhue::cli {
 
-void addReadingFlags(Verb& verb, bool& standard, Console& console) {
+void addStandardFlag(Verb& verb, bool& standard) {
   verb.addFlag("--standard", standard, "Follow the published descriptions of the formats");
-  verb.addFlag("--quiet", console.notes.quiet, "Don't note what is read or written differently");
+}
+
+void addMessageFlags(Verb& verb, Console& console) {
+  verb.beginBriefGroup("Messages");
+  verb.addFlag("--quiet", console.notes.quiet, "Don't note what is read or written differently, and show no progress");
+  verb.addFlag("--verbose", console.files.verbose, "Say which files are read and written: format, entries and size");
 }
 
 void addNote(Console& console, const std::string& file, std::string_view text) {

@@ -10,8 +10,10 @@
 
 namespace quillhue::cli {
 
-/// Adds --standard and --quiet, which mean the same for every verb that reads or writes palettes and images.
-void addReadingFlags(Verb& verb, bool& standard, Console& console);
+/// Add options that mean the same for every verb that reads or writes palettes and images: --standard; --quiet and
+/// --verbose in a group of their own, which should be the last.
+void addStandardFlag(Verb& verb, bool& standard);
+void addMessageFlags(Verb& verb, Console& console);
 
 /// Adds a note on a file. Unless the notes are quiet, writes it to standard error in one line.
 void addNote(Console& console, const std::string& file, std::string_view text);

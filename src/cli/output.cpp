@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "cli/file_log.h"
 #include "cli/file_reason.h"
 #include "cli/notes.h"
 #include "core/utf8.h"
@@ -53,6 +54,10 @@ std::expected<void, FileRefusal> writePalette(const PaletteOutput& output, const
   if (!written) {
     return std::unexpected(FileRefusal{output.to, written.error()});
   }
+  addWritten(console, {.file = output.to,
+                       .format = std::string(output.format.name),
+                       .bytes = content->size(),
+                       .entries = palette.getSize()});
   if (const PaletteReader* const reader = output.format.reader) {
     if (const auto note = noteWriting(palette, *reader, *content)) {
       addNote(console, output.to,

@@ -5,12 +5,13 @@
 #include <filesystem>
 #include <map>
 #include <mutex>
+#include <ranges>
 #include <set>
 #include <system_error>
 
 #include "cli/command_line.h"
-#include "cli/input.h"
 #include "cli/jobs.h"
+#include "cli/refusal.h"
 #include "core/utf8.h"
 #include "formats/files.h"
 
@@ -51,33 +52,41 @@ class FileSet {
 // Decides on the results of all files.
 class Results {
  public:
-  Results(const FolderOutput& output, const std::vector<std::string>& inputs) : output_(output) {
-    std::ranges::for_each(inputs, [this](const std::string& file) { read_.add(file); });
+  Results(const FolderOutput& output, const std::vector<InputFile>& inputs) : output_(output) {
+    std::ranges::for_each(inputs, [this](const InputFile& input) { read_.add(input.name); });
   }
 
-  [[nodiscard]] std::filesystem::path targetOf(const std::string& from) const {
+  [[nodiscard]] std::filesystem::path folderOf(const InputFile& input) const {
+    return toPath(fromUtf8(output_.folder)) / toPath(fromUtf8(input.subfolder));
+  }
+
+  [[nodiscard]] std::filesystem::path targetOf(const InputFile& input) const {
     std::filesystem::path target =
-        toPath(fromUtf8(output_.folder)) / toPath(fromUtf8(from == "-" ? output_.streamName : from)).stem();
+        folderOf(input) / toPath(fromUtf8(input.name == "-" ? output_.streamName : input.name)).stem();
     target += '.';
     target += output_.extension;
     return target;
   }
 
   // Any number of threads may call this if no two results have the same name.
-  ExitStatus write(const std::string& from, const WriteResult& writeResult, Console& console) {
+  ExitStatus write(const InputFile& input, const WriteResult& writeResult, Console& console) {
+    const std::string& from = input.name;
     FileSet own;
     own.add(from);
-    const std::string to = toUtf8(toFileName(targetOf(from)));
+    const std::string to = toUtf8(toFileName(targetOf(input)));
     if (isWritten(to)) {
-      reportRefusal(console, from, "Another file has already been converted to " + to + '.');
-    } else if (output_.force && !own.contains(to) && read_.contains(to)) {
-      reportRefusal(console, from, "Its result would replace " + to + ", which is also an input.");
-    } else if (writeResult(from, to, console)) {
-      const std::lock_guard lock(mutex_);
-      written_.add(to);
-      return kDone;
+      return refuseFile({from, "Another file has already been converted to " + to + '.'}, output_.list.json, console);
     }
-    return kRefused;
+    if (output_.force && !own.contains(to) && read_.contains(to)) {
+      return refuseFile({from, "Its result would replace " + to + ", which is also an input."}, output_.list.json,
+                        console);
+    }
+    if (!writeResult(from, to, console)) {
+      return kRefused;
+    }
+    const std::lock_guard lock(mutex_);
+    written_.add(to);
+    return kDone;
   }
 
  private:
@@ -93,15 +102,48 @@ class Results {
 };
 
 // Returns whether two results may be the same file, by name in any case or by a link.
-bool mayCollide(const Results& results, const std::vector<std::string>& inputs) {
+bool mayCollide(const Results& results, const std::vector<InputFile>& inputs) {
   std::set<std::string> names;
-  return std::ranges::any_of(inputs, [&](const std::string& from) {
-    const std::filesystem::path target = results.targetOf(from);
+  return std::ranges::any_of(inputs, [&](const InputFile& input) {
+    const std::filesystem::path target = results.targetOf(input);
     std::error_code unknown;
     return !names.insert(inLowerCase(toUtf8(toFileName(target)))).second ||
            std::filesystem::is_symlink(target, unknown);
   });
 }
+
+// Creates the folders of all results. Those that are still empty at the end go again, because all their files were
+// refused or skipped.
+class ResultFolders {
+ public:
+  ResultFolders(const Results& results, const std::vector<InputFile>& inputs) {
+    for (const InputFile& input : inputs) {
+      create(results.folderOf(input));
+    }
+  }
+  ResultFolders(const ResultFolders&) = delete;
+  ResultFolders& operator=(const ResultFolders&) = delete;
+  ~ResultFolders() {
+    std::error_code isNotEmpty;
+    std::ranges::for_each(std::views::reverse(created_),
+                          [&](const std::filesystem::path& folder) { std::filesystem::remove(folder, isNotEmpty); });
+  }
+
+ private:
+  // Creates missing parents first. A folder that can't be created makes the writing of its files fail, which says why.
+  void create(const std::filesystem::path& folder) {
+    std::error_code error;
+    if (std::filesystem::is_directory(folder, error) || !folder.has_relative_path()) {
+      return;
+    }
+    create(folder.parent_path());
+    if (std::filesystem::create_directory(folder, error)) {
+      created_.push_back(folder);
+    }
+  }
+
+  std::vector<std::filesystem::path> created_;
+};
 
 }  // namespace
 
@@ -117,16 +159,17 @@ ExitStatus writeIntoFolder(const FolderOutput& output, const std::vector<std::st
   std::error_code error;
   std::filesystem::create_directories(toPath(fromUtf8(output.folder)), error);
   if (error) {
-    reportRefusal(console, output.folder, "Could not create the folder: " + error.message() + '.');
-    return kRefused;
+    return refuseFile({output.folder, "Could not create the folder: " + error.message() + '.'}, output.list.json,
+                      console);
   }
-  const std::vector<std::string> inputs = expandFolders(files);
+  const std::vector<InputFile> inputs = listFiles(files, output.folder, output.list, console);
   Results results(output, inputs);
+  const ResultFolders folders(results, inputs);
   // Which of two results with the same name is refused depends on what became of the first.
-  const auto jobs = mayCollide(results, inputs) ? 1 : output.jobs;
+  const auto jobs = mayCollide(results, inputs) ? 1 : output.list.jobs;
   return runJobs(inputs, jobs, console, [&]() -> Job {
-    return [&results, write = makeWrite()](const std::string& from, Console& own) {
-      return results.write(from, write, own);
+    return [&results, write = makeWrite()](const InputFile& input, Console& own) {
+      return results.write(input, write, own);
     };
   });
 }

@@ -27,8 +27,11 @@ int main(int argumentCount, char** arguments) try {
   std::cin.tie(nullptr);
   quillhue::cli::Console console{std::cin, std::cout, std::cerr};
   console.isTerminal = isatty(STDOUT_FILENO) == 1;
-  console.showsProgress = isatty(STDERR_FILENO) == 1;
   const TerminalColors terminal = quillhue::cli::terminalColorsOf(variable("TERM"), variable("COLORTERM"));
+  // A terminal without colors may not be able to overwrite a line either.
+  if (isatty(STDERR_FILENO) == 1 && terminal != TerminalColors::none) {
+    console.progressDelay = quillhue::cli::kProgressDelay;
+  }
   if (console.isTerminal && variable("NO_COLOR").empty()) {
     console.colors = terminal;
   }

@@ -62,7 +62,9 @@ int wmain(int argumentCount, wchar_t** arguments) try {
   quillhue::cli::Console console{std::cin, std::cout, std::cerr};
   const char* const noColor = std::getenv("NO_COLOR");
   console.isTerminal = modes.isConsole();
-  console.showsProgress = _isatty(_fileno(stderr)) != 0;
+  if (_isatty(_fileno(stderr)) != 0) {
+    console.progressDelay = quillhue::cli::kProgressDelay;
+  }
   if (modes.showsColors() && (noColor == nullptr || *noColor == '\0')) {
     console.colors = quillhue::cli::TerminalColors::direct;
   }

@@ -7,12 +7,35 @@
 
 namespace quillhue::cli {
 
+namespace {
+
+void skipFile(const FileRefusal& skipped, bool isMentioned, bool json, Console& console) {
+  if (isMentioned && !console.notes.quiet) {
+    reportRefusal(console, skipped.file, skipped.text);
+  }
+  if (json) {
+    writeJson(console, JsonObject().add("file", skipped.file).add("skipped", skipped.text));
+  }
+}
+
+}  // namespace
+
 ExitStatus refuseFile(const FileRefusal& refused, bool json, Console& console) {
   reportRefusal(console, refused.file, refused.text);
   if (json) {
     writeJson(console, JsonObject().add("file", refused.file).add("error", refused.text));
   }
   return kRefused;
+}
+
+void reportSkipped(const FileRefusal& skipped, bool json, Console& console) { skipFile(skipped, true, json, console); }
+
+ExitStatus refuseInput(const FileRefusal& refused, bool skipsUnknown, bool json, Console& console) {
+  if (!skipsUnknown || refused.text != textOf(Failure::unrecognisedType)) {
+    return refuseFile(refused, json, console);
+  }
+  skipFile({refused.file, "this file is skipped, because its type is unknown."}, console.files.verbose, json, console);
+  return kDone;
 }
 
 std::string printable(std::string text) {

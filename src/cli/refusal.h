@@ -25,6 +25,14 @@ struct FileRefusal {
 /// Reports the refusal on standard error, and with `json` also on standard output.
 ExitStatus refuseFile(const FileRefusal& refused, bool json, Console& console);
 
+/// Reports why a file or folder is skipped, with `json` also on standard output. Unlike a refusal this is a note, which
+/// --quiet suppresses.
+void reportSkipped(const FileRefusal& skipped, bool json, Console& console);
+
+/// Refuses a file that could not be read. With `skipsUnknown`, skips it if no reader recognises its type, and mentions
+/// that only with --verbose.
+ExitStatus refuseInput(const FileRefusal& refused, bool skipsUnknown, bool json, Console& console);
+
 /// Replaces control characters in the text; line ends stay.
 [[nodiscard]] std::string printable(std::string text);
 

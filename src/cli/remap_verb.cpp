@@ -12,13 +12,15 @@
 #include <vector>
 
 #include "cli/arguments.h"
+#include "cli/file_log.h"
 #include "cli/image_format.h"
 #include "cli/image_input.h"
 #include "cli/input.h"
-#include "cli/jobs.h"
+#include "cli/json.h"
 #include "cli/notes.h"
 #include "cli/output.h"
 #include "cli/output_folder.h"
+#include "cli/progress_line.h"
 #include "cli/verbs.h"
 #include "remap/transparent_remap.h"
 
@@ -37,7 +39,7 @@ struct RemapVerbOptions {
   std::optional<std::int32_t> transparent;
   PaletteEntry blank;
   bool force = false;
-  std::optional<std::int32_t> jobs;
+  FileListOptions list;
 };
 
 struct ModeName {
@@ -47,12 +49,21 @@ struct ModeName {
 constexpr std::array<ModeName, 3> kModes{
     {{"maintain", RemapMode::maintain}, {"nearest", RemapMode::nearest}, {"dither", RemapMode::dither}}};
 
-// Reports to nobody, and never stops a run.
-class NoProgress final : public RemapProgress {
-  [[nodiscard]] bool rowsDone(std::int32_t /*rows*/, const RemappedImage& /*result*/) override { return true; }
+// Shows on a terminal how many rows are done, and never stops a run.
+class RowProgress final : public RemapProgress {
+ public:
+  RowProgress(Console& console, std::int32_t rows) : line_(console, "rows", static_cast<std::size_t>(rows)) {}
+
+ private:
+  [[nodiscard]] bool rowsDone(std::int32_t rows, const RemappedImage& /*result*/) override {
+    line_.update(static_cast<std::size_t>(rows));
+    return true;
+  }
+
+  ProgressLine line_;
 };
 
-using RemapImage = std::function<void(const WorkImage& image, RemappedImage& result)>;
+using RemapImage = std::function<void(const WorkImage& image, RemappedImage& result, Console& console)>;
 
 // The palette, format and method for all images of a thread. The remapper serves one image at a time.
 struct Target {
@@ -63,8 +74,8 @@ struct Target {
 
 RemapImage remapperFor(const Palette& palette, const RemapVerbOptions& options) {
   const auto remapBy = [&options](auto remapper) {
-    return [&options, remapper](const WorkImage& image, RemappedImage& result) {
-      NoProgress progress;
+    return [&options, remapper](const WorkImage& image, RemappedImage& result, Console& console) {
+      RowProgress progress(console, image.height());
       remapper->remap(image, options.remap, result, progress);
     };
   };
@@ -91,6 +102,12 @@ struct Remapped {
   std::bitset<256> transparent;
 };
 
+// The bytes of a result, and its description.
+struct Composed {
+  std::vector<std::uint8_t> content;
+  FileRecord record;
+};
+
 // Frees the image before the result is composed, so that they need not be in memory together.
 std::expected<Remapped, std::string> remapFile(const std::string& file, const Target& target,
                                                const RemapVerbOptions& options, Console& console) {
@@ -102,13 +119,12 @@ std::expected<Remapped, std::string> remapFile(const std::string& file, const Ta
     return Refusal("The image has no indexes to maintain. Use --mode nearest or --mode dither.");
   }
   Remapped remapped{{}, transparentEntries(*image, options)};
-  target.remap(*image, remapped.image);
+  target.remap(*image, remapped.image, console);
   return remapped;
 }
 
-std::expected<std::vector<std::uint8_t>, std::string> composeResult(const std::string& file, const Target& target,
-                                                                    const RemapVerbOptions& options,
-                                                                    Console& console) try {
+std::expected<Composed, std::string> composeResult(const std::string& file, const Target& target,
+                                                   const RemapVerbOptions& options, Console& console) try {
   const auto remapped = remapFile(file, target, options, console);
   if (!remapped) {
     return Refusal(remapped.error());
@@ -117,7 +133,12 @@ std::expected<std::vector<std::uint8_t>, std::string> composeResult(const std::s
   if (!content) {
     return refusalOf(content.error());
   }
-  return std::move(*content);
+  const RemappedImage& image = remapped->image;
+  return Composed{*std::move(content),
+                  {.format = std::string(target.format.name),
+                   .width = static_cast<std::uint64_t>(image.width()),
+                   .height = static_cast<std::uint64_t>(image.height()),
+                   .entries = static_cast<std::int32_t>(image.colors().size())}};
 } catch (const std::bad_alloc&) {
   return refusalOf(Failure::notEnoughMemory);
 }
@@ -125,16 +146,21 @@ std::expected<std::vector<std::uint8_t>, std::string> composeResult(const std::s
 // Reports a refusal and answers false.
 bool remapTo(const std::string& from, const std::string& to, const Target& target, const RemapVerbOptions& options,
              Console& console) {
-  const auto content = composeResult(from, target, options, console);
-  if (!content) {
-    reportRefusal(console, from, content.error());
-    return false;
+  auto composed = composeResult(from, target, options, console);
+  if (!composed) {
+    return refuseInput({from, composed.error()}, options.list.skipsUnknown, options.list.json, console) == kDone;
   }
-  const auto written = writeOutput(to, *content, options.force, console);
+  const auto written = writeOutput(to, composed->content, options.force, console);
   if (!written) {
-    reportRefusal(console, to, written.error());
+    return refuseFile({to, written.error()}, options.list.json, console) == kDone;
   }
-  return written.has_value();
+  composed->record.file = to;
+  composed->record.bytes = composed->content.size();
+  addWritten(console, std::move(composed->record));
+  if (options.list.json) {
+    writeJson(console, filesJson(from, console));
+  }
+  return true;
 }
 
 void checkUsage(const RemapVerbOptions& options) {
@@ -152,8 +178,8 @@ void checkUsage(const RemapVerbOptions& options) {
   if (options.transparent && options.transparent == options.remap.protectedEntry) {
     refuseUsage("--transparent", "names the entry of --protect-color, whose color is for opaque pixels");
   }
-  if (options.jobs && !options.outDir) {
-    refuseUsage("--jobs", "goes with --out-dir");
+  if (!options.outDir) {
+    requireOutDir(options.list);
   }
   if (options.outDir && options.palette.empty()) {
     refuseUsage("--palette", "is needed with --out-dir");
@@ -185,8 +211,7 @@ ExitStatus remap(const RemapVerbOptions& options, Console& console) {
   const auto read = readFilePalette(paletteFile, {{}, options.input.standard}, console);
   const auto usable = read ? checkEntries(read->palette, options) : Refusal(read.error());
   if (!usable) {
-    reportRefusal(console, paletteFile, usable.error());
-    return kRefused;
+    return refuseFile({paletteFile, usable.error()}, options.list.json, console);
   }
   if (read->palette.getSize() > kMaxUsedEntries) {
     addNote(console, paletteFile,
@@ -194,10 +219,11 @@ ExitStatus remap(const RemapVerbOptions& options, Console& console) {
                 " entries are used.");
   }
   if (!options.outDir) {
+    refuseJsonOnStandardOutput(options.list.json, options.files[2]);
     const Target target{read->palette, format, remapperFor(read->palette, options)};
     return remapTo(options.files[0], options.files[2], target, options, console) ? kDone : kRefused;
   }
-  return writeIntoFolder({*options.outDir, format.name, options.input.name, options.force, options.jobs}, options.files,
+  return writeIntoFolder({*options.outDir, format.name, options.input.name, options.force, options.list}, options.files,
                          console, [&]() -> WriteResult {
                            const Target target{read->palette, format, remapperFor(read->palette, options)};
                            return [target, &options](const std::string& from, const std::string& to, Console& own) {
@@ -234,13 +260,15 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.beginGroup("Input");
   verb.addOption("--palette FILE", options->palette, "The file whose colors are used, with --out-dir");
   verb.addOption("--name FILE", options->input.name, "The name of standard input, with --out-dir");
-  addReadingFlags(verb, options->input.standard, console);
+  addStandardFlag(verb, options->input.standard);
   verb.beginGroup("Output");
   verb.addOutputOption(options->out);
   verb.addOption("--out-dir DIR", options->outDir, "Write all results into this folder");
   verb.addChoice("--format", options->format, imageFormatNames(), kImageFormatHelp);
   addForceFlag(verb, options->force);
-  addJobsOption(verb, options->jobs);
+  verb.addFlag("--json", options->list.json, "Write JSON, one object a line for each image");
+  verb.beginBriefGroup("Many images");
+  addFileListOptions(verb, options->list);
   verb.beginGroup("Colors");
   verb.addAction({"--mode", "NAME", "maintain (the indexes), nearest (default) or dither",
                   [options](const std::string& text) { options->remap.mode = parseMode(text); }, namesOf(kModes)});
@@ -251,6 +279,7 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   addNumberOption(verb, "--transparent", options->transparent, {0, kMaxUsedEntries - 1},
                   "The entry of pixels that are less than half opaque");
   addColorOption(verb, "--blank", options->blank, "Color behind transparent pixels (default 0,0,0)");
+  addMessageFlags(verb, console);
   verb.setManual(
       "An image is a bitmap, PNG, JPEG, PNM, PCX, LBM or clipboard file. The result is a bitmap (.bmp, .dib) or a PNG "
       "(.png).\n\n"

@@ -19,6 +19,18 @@ namespace quillhue::cli {
 
 namespace {
 
+constexpr const char* kManual =
+    R"(A pixel of an indexed image uses the entry of its index. A pixel of any other image uses the first entry that has exactly
+its color. Pixels that no entry matches are counted at the end.
+
+    quillhue-cli usage sprite.png
+    quillhue-cli usage photo.jpg sea.gpl --json
+
+To remove unused entries from an image, use the verb compact. To change the used entries of a palette, use the step
+--select used:IMAGE of the verb edit.
+
+)";
+
 struct UsageOptions {
   std::vector<std::string> files;
   bool standard = false;
@@ -154,11 +166,10 @@ void addUsageVerb(CommandLine& tool, Console& console, ExitStatus& status) {
       "FILE", options->files,
       "IMAGE, or - for standard input; then PALETTE, if it is not that of the image. A pixel of an indexed "
       "image uses the entry of its index, any other pixel the first entry of exactly its color");
-  addReadingFlags(verb, options->standard, console);
+  addStandardFlag(verb, options->standard);
   verb.addFlag("--json", options->json, "Write JSON: pixels of each entry, unused entries, duplicates");
-  verb.setManual(
-      "The pixels of an indexed image are counted by their indexes, those of any other image by their exact colors.\n\n"
-      "    quillhue-cli usage sprite.png\n\n");
+  addMessageFlags(verb, console);
+  verb.setManual(kManual);
   verb.onRun([options, &console, &status] { status = showUsage(*options, console); });
 }
 

@@ -16,6 +16,16 @@ namespace quillhue::cli {
 
 namespace {
 
+constexpr const char* kManual =
+    R"(The verb models lists the color models with the names and ranges of their channels. The numbers are those that the steps
+--channel and --shift of the verb edit change. In JSON, left, middle and right are the channels in the order of the
+model, and each also appears by its name.
+
+    quillhue-cli values sea.gpl --model HSL --entry 8-15
+    quillhue-cli values sea.gpl --json
+
+)";
+
 struct ValuesOptions {
   std::string file;
   InputOptions input;
@@ -102,8 +112,10 @@ void addValuesVerb(CommandLine& tool, Console& console, ExitStatus& status) {
                     }
                     options->entries = std::move(*entries);
                   }});
-  addReadingFlags(verb, options->input.standard, console);
+  addStandardFlag(verb, options->input.standard);
   verb.addFlag("--json", options->json, "Write JSON, one object a line for each entry and model");
+  addMessageFlags(verb, console);
+  verb.setManual(kManual);
   verb.onRun([options, &console, &status] { status = showValues(*options, console); });
 }
 

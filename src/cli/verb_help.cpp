@@ -125,7 +125,7 @@ std::string helpOf(const ToolHelp& tool) {
   text += "\nOptions:\n";
   addEntry(text, "-h, --help", "Show this help; with a verb, the help of the verb");
   addEntry(text, "-V, --version", "Show the version");
-  text += '\n' + tool.name + " help VERB explains a verb.\n";
+  text += '\n' + tool.name + " help VERB explains a verb, and help VERB OPTION one of its options.\n";
   return text;
 }
 

@@ -78,8 +78,9 @@ TEST(Edit, TellsWhatIsLeft) {
   EXPECT_EQ(
       edited.json.substr(edited.json.find(",\"format\"")),
       R"(,"format":"gimp","code":6,"size":3,"entries":[[1,2,3],[1,2,3],[8,8,8]],"selected":[0,1],"modificationCount":1,)"
-      R"("canUndo":true,"canRedo":true,"different":{"palette":2,"selection":1},"average":[3,4,4]})"
-      "\n");
+      R"("canUndo":true,"canRedo":true,"different":{"palette":2,"selection":1},"average":[3,4,4],)"
+      R"("read":[{"file":"-","format":"csv","size":3,"bytes":18}],"written":[{"file":)" +
+          edited.json.substr(8, edited.json.find(',') - 8) + R"(,"format":"gimp","size":3,"bytes":66}]})" + '\n');
   EXPECT_EQ(edit("7,7,7", "--select none --count-colors", folder).err, "1 different entry found in the palette.\n");
 }
 
