@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# picture.sh: takes README's picture docs/terminal.png of the real tool in a real terminal, on a separate display.
+# picture.sh: takes README's picture docs/terminal.png of the real tool in a real terminal, on a separate display, and
+# makes the pictures in docs/tasks by README's own commands.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
@@ -31,4 +32,12 @@ while [ ! -e "$work/shown" ]; do
 done
 read -r -t 1 <> <(:) || true
 import -window root -trim +repage docs/terminal.png
+
+mkdir "$work/samples"
+cp -r samples/. "$work/samples"
+PATH=$PATH:$root/build/native/src
+(cd "$work/samples" && eval "$(sed -n 's/^    \$ //p' "$root/README.md")" >"$work/log" || true)
+for picture in $(grep -o 'docs/tasks/[a-z]*\.png' README.md); do
+  cp "$work/samples/${picture##*/}" "$picture"
+done
 echo "docs/terminal.png: $(identify -format '%wx%h' docs/terminal.png)"

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# readme_tests.sh README SAMPLES [RUNNER] PROGRAM: runs the examples of the README's section "In scripts" as they stand
-# there, and checks what they made.
+# readme_tests.sh README SAMPLES [RUNNER] PROGRAM: runs the commands of README, and checks what they write.
 set -euo pipefail
 readme=$1 samples=$2
 shift 2
 tool=("$@")
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-cp "$samples/harbour.gpl" "$work"
+docs=$(realpath "$(dirname "$readme")/docs")
+cp -r "$samples/." "$work"
 cd "$work"
 
 quillhue-cli() { "${tool[@]}" "$@"; }
@@ -18,6 +18,34 @@ expect() {
   [ "$2" = "$3" ] || { echo "$1: '$2' instead of '$3'" >&2; exit 1; }
 }
 
+# A command behind "$ " writes the lines below it, if there are any. The verb diff fails if palettes differ.
+command='' lines='' commands=0 compared=0
+# plain TEXT: with the same line ends, separators and sizes of compressed images on all systems.
+plain() { tr -d '\r' <<<"$1" | tr '\\' / | sed 's/\(written as png.*, \)[0-9]* bytes/\1some bytes/'; }
+finish() {
+  [ -n "$command" ] || return 0
+  local status=0 output
+  output=$(eval "$command" 2>&1) || status=$?
+  [ $status -eq 0 ] || [[ $status == 1 && $command == *' diff '* ]] || expect "$command" "ends with $status: $output" 0
+  commands=$((commands + 1))
+  [ -z "$lines" ] || expect "$command" "$(plain "$output")" "$(plain "${lines%$'\n'}")"
+  [ -z "$lines" ] || compared=$((compared + 1))
+  command='' lines=''
+}
+while IFS= read -r line; do
+  case $line in
+    '    $ '*) finish && command=${line#*\$ } ;;
+    '    '*) [ -z "$command" ] || lines+=${line#    }$'\n' ;;
+    *) finish ;;
+  esac
+done <"$readme"
+finish
+[ $commands -ge 20 ] && [ $compared -ge 6 ] || expect 'commands and outputs' "$commands $compared" 'at least 20 and 6'
+for picture in $(grep -o 'docs/tasks/[a-z]*\.png' "$readme"); do
+  quillhue-cli diff "$docs/tasks/${picture##*/}" "${picture##*/}" || expect "$picture" differs same
+done
+
+# The section "In scripts".
 examples=$(awk '/^## / { on = $0 == "## In scripts" } on && /^    / { print substr($0, 5) }' "$readme")
 expect 'examples' "$(grep -c '^quillhue-cli\|^for' <<<"$examples")" 10
 eval "$examples"
