@@ -18,7 +18,7 @@ done
 # A Windows program that waits for input until this script ends. Without it Wine's server ends whenever no program is
 # left, and fails what starts at that moment.
 coproc { timeout 1800 scripts/wine.sh cmd /q >/dev/null 2>&1; }
-# Runs the tests of both builds. The tests of the window mostly wait, so one more than the number of processors runs at a
+# Runs the tests of both builds. The tests of the window mostly wait, so two more than the number of processors run at a
 # time.
 echo 'subdirs(asan windows)' >build/CTestTestfile.cmake
-ctest --test-dir build --output-on-failure --parallel $(($(nproc) + 1)) "$@"
+ctest --test-dir build --output-on-failure --parallel $(($(nproc) + 2)) "$@"

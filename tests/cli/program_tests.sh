@@ -59,6 +59,10 @@ if [ -e /dev/full ] && [ $# -eq 1 ]; then
   reader=$!
   exec 3>slow.map
   kill -TERM $reader
+  # The reader sleeps in a read. It has handled the signal when none is pending.
+  until grep -q '^ShdPnd:\s*0*$' /proc/$reader/status; do
+    read -r -t 0.01 <> <(:) || true
+  done
   printf '1 2 3\r\n' >&3
   exec 3>&-
   status=0
