@@ -32,8 +32,8 @@ void check(const quillhue::ImageResult& image) {
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quillhue;
   std::vector content(data, data + size);
-  // A bitmap of the clipboard has no signature.
-  if (size > 0 && data[0] == 40) {
+  // A bitmap of the clipboard has no signature. It begins with the size of its header.
+  if (size > 0 && (data[0] == 40 || data[0] == 108 || data[0] == 124)) {
     check(loadClipboardImage(std::move(content)));
     return 0;
   }

@@ -1,9 +1,15 @@
 // The input is a file. Every reader that recognizes it, under one of the names that matter, reads it; the result is
-// compared with the standard reading. One more reader of the catalogues reads it whether it recognizes it or not.
+// compared with the standard reading. A standard reader that recognizes it reads it under one of the names. One more
+// reader of the catalogues reads it whether it recognizes it or not.
 
+#include <algorithm>
 #include <array>
+#include <span>
+#include <sstream>
+#include <string>
 #include <vector>
 
+#include "formats/files.h"
 #include "formats/notes/reading_note.h"
 #include "formats/readers/palette_readers.h"
 #include "formats/standard/standard_formats.h"
@@ -35,12 +41,25 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const ReaderInput input{source, name};
     const PaletteReader* const reader = findPaletteReader(input);
     if (reader != nullptr && reader != last) {
-      const ReadResult result = reader->read(input);
+      const ReadResult result = readPalette(input);
       check(result);
       const auto note = notePaletteReading(input, result);
       require(!note || note->standardReads || !note->text.empty(), "a text or a way out in every note");
       last = reader;
     }
+  }
+  const ReaderInput input{source, kNames[size % kNames.size()]};
+  if (const PaletteReader* const reader = findStandardReader(input)) {
+    check(reader->read(input));
+  }
+  // Reading a stream takes a buffer of 64 KiB, so only some inputs do.
+  if (size % 64 == 0) {
+    std::istringstream stream(std::string(data, data + size));
+    const auto streamed = readStream(stream);
+    std::vector<std::uint8_t> content(size);
+    require(streamed && (*streamed)->size() == size, "a stream as long as the input");
+    (*streamed)->read(0, content);
+    require(std::ranges::equal(content, std::span(data, size)), "the bytes of the stream");
   }
   // The input's last byte chooses a reader that gets the file whether it matches or not.
   const std::size_t choice = size == 0 ? 0 : data[size - 1];

@@ -7,6 +7,7 @@
 
 #include "formats/exports/export_formats.h"
 #include "formats/readers/palette_reader.h"
+#include "formats/standard/standard_formats.h"
 #include "formats/writers/palette_writers.h"
 #include "fuzz_target.h"
 #include "support/round_trip.h"
@@ -25,6 +26,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   for (const ExportFormat* format : exportFormats()) {
     const std::string fault = checkRoundTrip(palette, *format);
     require(fault.empty(), (std::string(format->name) + ": " + fault).c_str());
+  }
+  for (const ExportFormat* format : standardWriters()) {
+    const std::string fault = checkStandardRoundTrip(palette, *format);
+    require(fault.empty(), (std::string(format->name) + ", standard: " + fault).c_str());
   }
   return 0;
 }

@@ -16,7 +16,7 @@ cp "$build"/src/{quillhue,quillhue-cli}.exe "$build/src/readme.txt" "$packaging/
 cp "$build"/tests/*_tests.exe "$build"/tests/ui/{ui_tests.exe,menu_probe.dll} "$build"/fuzz/*_fuzz.exe "$folder/tests"
 x86_64-w64-mingw32-strip "$folder"/*.exe "$folder"/tests/*
 cp -r "$packaging/../tests/data" "$folder/data"
-cp -r "$packaging/../fuzz/findings" "$folder/data"
+cp -r "$packaging"/../fuzz/{seeds,findings} "$folder/data"
 rm -f "$folder"/data/*.py
 # Windows runs only batch files whose lines end with CR LF as they are meant.
 sed 's/$/\r/' "$packaging/run-tests.cmd" >"$folder/run-tests.cmd"

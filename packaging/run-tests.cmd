@@ -21,7 +21,7 @@ call :run ..\tests\%1_tests.exe --gtest_brief=1
 exit /b
 
 :replays
-for %%f in (..\tests\*_fuzz.exe) do call :run ..\tests\%%~nxf samples findings
+for %%f in (..\tests\*_fuzz.exe) do call :run ..\tests\%%~nxf samples standard seeds findings
 exit /b
 
 rem At another resolution than 96 dpi only the tests that do not count pixels run.

@@ -15,7 +15,7 @@ if [ ${#targets[@]} = 0 ]; then
     targets+=("$(basename "$source" .cpp)")
   done
 fi
-export work=$root/build/fuzz seeds="$root/tests/data/samples $root/tests/data/standard $root/tests/data/pictures $root/fuzz/findings"
+export work=$root/build/fuzz seeds="$root/tests/data/samples $root/tests/data/standard $root/tests/data/pictures $root/fuzz/seeds $root/fuzz/findings"
 export seconds=$((minutes * 60 * $(nproc) / ${#targets[@]}))
 mkdir -p "$work/findings" "$work/logs"
 

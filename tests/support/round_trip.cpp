@@ -4,6 +4,7 @@
 #include <bit>
 
 #include "formats/readers/palette_readers.h"
+#include "formats/standard/standard_formats.h"
 #include "formats/writers/palette_writers.h"
 #include "support/palettes.h"
 
@@ -81,6 +82,19 @@ std::string checkRoundTrip(const Palette& palette, const ExportFormat& format) {
     return hasNone ? "" : "not detected";
   }
   const ReadResult result = reader->read({source, name});
+  return result && show(std::get<FilePalette>(*result).palette) == show(palette) ? "" : "read as something else";
+}
+
+std::string checkStandardRoundTrip(const Palette& palette, const ExportFormat& format) {
+  ByteSink sink;
+  format.compose(palette, "a\nb", sink);
+  MemorySource source(sink.take());
+  const ReaderInput input{source, L"x"};
+  const PaletteReader* const reader = findStandardReader(input);
+  if (reader == nullptr) {
+    return "not detected";
+  }
+  const ReadResult result = reader->read(input);
   return result && show(std::get<FilePalette>(*result).palette) == show(palette) ? "" : "read as something else";
 }
 

@@ -15,4 +15,7 @@ namespace quillhue {
 /// The same for a format that only the tool writes. Nothing is wrong with one that has no reader.
 [[nodiscard]] std::string checkRoundTrip(const Palette& palette, const ExportFormat& format);
 
+/// Writes the palette by a standard writer and compares it with the standard reading.
+[[nodiscard]] std::string checkStandardRoundTrip(const Palette& palette, const ExportFormat& format);
+
 }  // namespace quillhue

@@ -32,8 +32,6 @@ std::span<const PaletteReader* const> standardReaders() { return kReaders; }
 
 const PaletteReader* findStandardReader(const ReaderInput& input) { return firstMatch(kReaders, input); }
 
-std::span<const StandardLoader* const> standardLoaders() { return kLoaders; }
-
 const StandardLoader* findStandardLoader(ByteSource& source) { return firstMatch(kLoaders, source); }
 
 ImageResult loadStandardImage(ByteSource& source, PaletteEntry blank) {

@@ -40,10 +40,7 @@ extern const StandardLoader kStandardGifLoader;
 /// The first of them that matches; null when none does.
 [[nodiscard]] const PaletteReader* findStandardReader(const ReaderInput& input);
 
-/// All loaders of images, of which at most one matches a file.
-[[nodiscard]] std::span<const StandardLoader* const> standardLoaders();
-
-/// Returns the one that matches, or null.
+/// Returns the loader of images that matches, or null. At most one matches a file.
 [[nodiscard]] const StandardLoader* findStandardLoader(ByteSource& source);
 
 /// Loads an image by the loader here that matches, and other files as loadImage does.
