@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "formats/bitmap_writer.h"
 #include "formats/image_limits.h"
 #include "formats/images/image_loaders.h"
 #include "formats/notes/reading_note.h"
@@ -11,6 +12,21 @@
 #include "fuzz_target.h"
 
 namespace {
+
+// An image with a palette comes back from a bitmap of it.
+void checkBitmap(const quillhue::WorkImage& image) {
+  using namespace quillhue;
+  const Palette& palette = *image.palette();
+  const std::size_t stride = paddedRowLength(image.width());
+  std::vector<std::uint8_t> rows(stride * static_cast<std::size_t>(image.height()));
+  for (std::int32_t y = 0; y < image.height(); ++y) {
+    std::ranges::copy(image.row(y), rows.begin() + y * static_cast<std::ptrdiff_t>(stride));
+  }
+  MemorySource bitmap(composeBitmap({image.width(), image.height(), rows}, palette, {}));
+  const ImageResult again = loadStandardImage(bitmap, {});
+  require(again && again->palette() == palette && std::ranges::equal(again->pixels(), image.pixels()),
+          "the image of its bitmap");
+}
 
 void check(const quillhue::ImageResult& image) {
   using namespace quillhue;
@@ -24,6 +40,9 @@ void check(const quillhue::ImageResult& image) {
   const auto& palette = image->palette();
   if (palette && palette->getSize() == 16 && pixels < 4096) {
     require(std::ranges::all_of(image->pixels(), [](std::uint8_t index) { return index < 16; }), "4-bit indexes");
+  }
+  if (palette && pixels < 4096) {
+    checkBitmap(*image);
   }
 }
 

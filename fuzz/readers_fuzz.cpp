@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "formats/color_list.h"
 #include "formats/files.h"
 #include "formats/notes/reading_note.h"
 #include "formats/readers/palette_readers.h"
@@ -52,9 +53,14 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (const PaletteReader* const reader = findStandardReader(input)) {
     check(reader->read(input));
   }
+  // Pasted text may be a list of colors.
+  const std::string text(data, data + size);
+  if (const auto colors = parseColorList(text)) {
+    require(parseColorList(colorListText(*colors)) == colors, "the colors of a list of them");
+  }
   // Reading a stream takes a buffer of 64 KiB, so only some inputs do.
   if (size % 64 == 0) {
-    std::istringstream stream(std::string(data, data + size));
+    std::istringstream stream(text);
     const auto streamed = readStream(stream);
     std::vector<std::uint8_t> content(size);
     require(streamed && (*streamed)->size() == size, "a stream as long as the input");

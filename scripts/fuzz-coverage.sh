@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # fuzz-coverage.sh [FOLDER]: runs the fuzz targets once over their seeds and the corpus that fuzz.sh has kept. Prints the
-# share of lines of src/FOLDER (default formats) that they reach, and each line that none of them reaches.
+# share of lines of src/FOLDER (default formats) that they reach, and each line and file that none of them reaches.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
@@ -35,5 +35,9 @@ awk -F '[:,]' -v start="$root/$folder/" '
 # Each unreached line with its text.
 grep -v ' lines reached, ' "$work/lines" | sort -t : -k 1,1 -k 2,2n | while IFS=: read -r file line; do
   printf '%s:%s: %s\n' "$file" "$line" "$(sed -n "${line}{s/^ *//;p}" "$folder/$file")"
+done
+# A file that no target links has no lines above.
+find "$folder" -name '*.cpp' ! -path '*/windows/*' | sort | while read -r file; do
+  grep -qxF "SF:$root/$file" "${reports[@]}" || echo "$file: in no target"
 done
 grep ' lines reached, ' "$work/lines"
