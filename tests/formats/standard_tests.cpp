@@ -5,6 +5,7 @@
 #include "formats/standard/standard_formats.h"
 #include "support/checksum.h"
 #include "support/palettes.h"
+#include "support/round_trip.h"
 #include "support/table.h"
 
 namespace quillhue {
