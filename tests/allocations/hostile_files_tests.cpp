@@ -12,9 +12,11 @@
 #include <vector>
 
 #include "allocations/failing_allocations.h"
+#include "formats/files.h"
 #include "formats/image_limits.h"
 #include "formats/images/image_loaders.h"
 #include "formats/readers/palette_readers.h"
+#include "formats/standard/standard_formats.h"
 #include "support/palettes.h"
 
 namespace quillhue {
@@ -38,39 +40,53 @@ class CountingSource final : public ByteSource {
   std::uint64_t read_ = 0;
 };
 
-// Each sample with numbers of its header replaced by the largest ones and by small ones, and bytes behind it that claim
-// as much again.
+// Calls `check` with each sample's name and its content, with numbers of the header replaced by the largest ones and by
+// small ones, and bytes behind it that claim as much again.
 template <typename Check>
 void forEachHostileFile(Check check) {
   constexpr std::size_t kHeader = 72;
   constexpr std::size_t kLength = 40'000;
-  for (const auto& file : std::filesystem::directory_iterator("samples")) {
-    std::ifstream stream(file.path(), std::ios::binary);
-    const std::string stored{std::istreambuf_iterator(stream), std::istreambuf_iterator<char>()};
-    const Bytes sample = bytesOf(stored);
-    for (const std::uint8_t value : std::to_array<std::uint8_t>({0, 1, 0x7F, 0xFF})) {
-      for (std::size_t at = 0; at < std::min(kHeader, sample.size()); ++at) {
-        Bytes hostile = sample;
-        std::fill_n(hostile.begin() + static_cast<std::ptrdiff_t>(at),
-                    std::min<std::size_t>(at % 4 == 0 ? 4 : 2, sample.size() - at), value);
-        hostile.resize(std::max(kLength, sample.size()), value);
-        SCOPED_TRACE(file.path().string() + ", " + std::to_string(value) + " at " + std::to_string(at));
-        check(hostile);
+  for (const char* folder : {"samples", "standard"}) {
+    for (const auto& file : std::filesystem::directory_iterator(folder)) {
+      std::ifstream stream(file.path(), std::ios::binary);
+      const std::string stored{std::istreambuf_iterator(stream), std::istreambuf_iterator<char>()};
+      const Bytes sample = bytesOf(stored);
+      const std::wstring name = toFileName(file.path());
+      for (const std::uint8_t value : std::to_array<std::uint8_t>({0, 1, 0x7F, 0xFF})) {
+        for (std::size_t at = 0; at < std::min(kHeader, sample.size()); ++at) {
+          Bytes hostile = sample;
+          std::fill_n(hostile.begin() + static_cast<std::ptrdiff_t>(at),
+                      std::min<std::size_t>(at % 4 == 0 ? 4 : 2, sample.size() - at), value);
+          hostile.resize(std::max(kLength, sample.size()), value);
+          SCOPED_TRACE(file.path().string() + ", " + std::to_string(value) + " at " + std::to_string(at));
+          check(name, hostile);
+        }
       }
     }
   }
 }
 
+void readWithinBounds(const PaletteReader* reader, std::size_t mostMemory, const std::wstring& name,
+                      const Bytes& file) {
+  CountingSource source(file);
+  if (reader != nullptr) {
+    const PeakMemory memory;
+    static_cast<void>(reader->read({source, name}));
+    EXPECT_LE(memory.bytes(), mostMemory) << reader->name;
+    EXPECT_LE(source.read(), kMaxReaderPasses * file.size()) << reader->name;
+  }
+}
+
 TEST(HostileFiles, StayWithinTheBoundsOfReaders) {
-  forEachHostileFile([](const Bytes& file) {
+  forEachHostileFile([](const std::wstring& name, const Bytes& file) {
     CountingSource source(file);
-    const ReaderInput input{source, L"x.pal"};
-    if (const PaletteReader* const reader = findPaletteReader(input)) {
-      const PeakMemory memory;
-      static_cast<void>(reader->read(input));
-      EXPECT_LE(memory.bytes(), kMaxReaderMemory) << reader->name;
-      EXPECT_LE(source.read(), kMaxReaderPasses * file.size()) << reader->name;
-    }
+    const ReaderInput input{source, name};
+    readWithinBounds(findPaletteReader(input), kMaxReaderMemory, name, file);
+    // Images are loaded before a palette is made of them.
+    const bool isImage = findStandardLoader(source) != nullptr;
+    readWithinBounds(findStandardReader(input),
+                     isImage ? kMaxStandardPixelBytes * kMaxImagePixels + kMaxLoaderMemory : kMaxReaderMemory, name,
+                     file);
   });
 }
 
@@ -101,8 +117,24 @@ std::uint64_t loadWithinBounds(const Bytes& file) {
   return touched / file.size();
 }
 
+void loadStandardWithinBounds(const Bytes& file) {
+  CountingSource source(file);
+  if (findStandardLoader(source) == nullptr) {
+    return;
+  }
+  const PeakMemory memory;
+  const auto image = loadStandardImage(source, {});
+  const std::size_t pixels =
+      image ? static_cast<std::size_t>(image->width()) * static_cast<std::size_t>(image->height()) : kMaxImagePixels;
+  EXPECT_LE(memory.bytes(), kMaxStandardPixelBytes * pixels + kMaxLoaderMemory);
+  EXPECT_LE(source.read(), kMaxReaderPasses * file.size());
+}
+
 TEST(HostileFiles, StayWithinTheBoundsOfLoaders) {
-  forEachHostileFile([](const Bytes& file) { loadWithinBounds(file); });
+  forEachHostileFile([](const std::wstring& /*name*/, const Bytes& file) {
+    loadWithinBounds(file);
+    loadStandardWithinBounds(file);
+  });
   // The largest image of nothing but the longest runs, in bytes and in planes.
   for (const char* form : {"PBM ", "ILBM"}) {
     Bytes file = bytesOf("FORM....");

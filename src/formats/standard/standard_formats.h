@@ -21,6 +21,10 @@ extern const PaletteReader kStandardPcxReader;
 extern const PaletteReader kStandardCsvReader;
 extern const PaletteReader kStandardTgaReader;
 
+/// Loading takes at most this many bytes of memory per pixel, plus kMaxLoaderMemory, and reads each byte of the file at
+/// most kMaxReaderPasses times. The time is proportional to the pixels and the length of the file.
+inline constexpr std::size_t kMaxStandardPixelBytes = 4;
+
 /// One layout of image files.
 struct StandardLoader {
   bool (*matches)(ByteSource& source);
