@@ -1,3 +1,7 @@
+#include <string>
+#include <string_view>
+#include <utility>
+
 #include "commands/command_ids.h"
 #include "ui/support/input.h"
 #include "ui/support/ui_test.h"
@@ -7,6 +11,48 @@ namespace quillhue {
 namespace {
 
 class Ends : public UiTest {};
+
+// A file that ends only when the test says so: a pipe that the editor reads.
+class SlowFile {
+ public:
+  explicit SlowFile(const Program& reader) : reader_(reader) {}
+  SlowFile(const SlowFile&) = delete;
+  SlowFile& operator=(const SlowFile&) = delete;
+  ~SlowFile() { finish(""); }
+
+  [[nodiscard]] const std::wstring& name() const { return name_; }
+  void awaitReader() const {
+    reader_.await("the file to be opened",
+                  [&] { return ConnectNamedPipe(pipe_, nullptr) != 0 || GetLastError() == ERROR_PIPE_CONNECTED; });
+  }
+  void finish(std::string_view content) {
+    DWORD written = 0;
+    EXPECT_TRUE(pipe_ == INVALID_HANDLE_VALUE || content.empty() ||
+                WriteFile(pipe_, content.data(), static_cast<DWORD>(content.size()), &written, nullptr) != 0);
+    CloseHandle(std::exchange(pipe_, INVALID_HANDLE_VALUE));
+  }
+
+ private:
+  const Program& reader_;
+  std::wstring name_ = LR"(\\.\pipe\quillhue-)" + std::to_wstring(GetCurrentProcessId());
+  HANDLE pipe_ =
+      CreateNamedPipeW(name_.c_str(), PIPE_ACCESS_OUTBOUND, PIPE_TYPE_BYTE | PIPE_NOWAIT, 1, 4096, 4096, 0, nullptr);
+};
+
+TEST_F(Ends, AWindowClosedWhileAFileIsOpenedWaitsForTheFile) {
+  const Editor& editor = open(brightPalette(4), kEffectsPage);
+  SlowFile file(editor);
+  editor.drop({file.name()});
+  file.awaitReader();
+  editor.start(command_id::kSelectAll);
+  editor.start(command_id::kClear);
+  editor.post(editor.window(), WM_CLOSE);
+  EXPECT_EQ(WaitForSingleObject(editor.process(), 300), DWORD{WAIT_TIMEOUT});
+  file.finish("JASC-PAL\r\n0100\r\n2\r\n1 2 3\r\n4 5 6\r\n");
+  // The file is complete, and its palette was cleared before the window closes.
+  EXPECT_EQ(answerMessage(editor, L"Warning", IDNO), L"Do you want to save the current palette?");
+  EXPECT_EQ(editor.awaitEnd(), 0U);
+}
 
 TEST_F(Ends, AWindowClosedDuringADragAsksAndKeepsWhatWasDragged) {
   const Editor& editor = open(brightPalette(16), kEffectsPage);

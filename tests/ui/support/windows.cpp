@@ -8,7 +8,7 @@ namespace quillhue {
 
 namespace {
 
-constexpr UINT kTextPatience = 2000;
+constexpr UINT kTextPatience = 10'000;
 
 }  // namespace
 
