@@ -14,9 +14,8 @@
 namespace {
 
 // An image with a palette comes back from a bitmap of it.
-void checkBitmap(const quillhue::WorkImage& image) {
+void checkBitmap(const quillhue::WorkImage& image, const quillhue::Palette& palette) {
   using namespace quillhue;
-  const Palette& palette = *image.palette();
   const std::size_t stride = paddedRowLength(image.width());
   std::vector<std::uint8_t> rows(stride * static_cast<std::size_t>(image.height()));
   for (std::int32_t y = 0; y < image.height(); ++y) {
@@ -42,7 +41,7 @@ void check(const quillhue::ImageResult& image) {
     require(std::ranges::all_of(image->pixels(), [](std::uint8_t index) { return index < 16; }), "4-bit indexes");
   }
   if (palette && pixels < 4096) {
-    checkBitmap(*image);
+    checkBitmap(*image, *palette);
   }
 }
 
