@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "cli/arguments.h"
+#include "cli/dither_arguments.h"
 #include "cli/file_log.h"
 #include "cli/image_format.h"
 #include "cli/image_input.h"
@@ -28,6 +29,25 @@ namespace quillhue::cli {
 
 namespace {
 
+constexpr const char* kManual =
+    R"(An image is a bitmap, PNG, JPEG, PNM, PCX, LBM or clipboard file. The result is a bitmap (.bmp, .dib) or a PNG (.png).
+
+--mode maintain keeps the indexes of an image, so that only their colors change. --mode nearest gives each pixel the
+nearest color. --mode dither passes the error of each pixel on to its neighbors. --mode ordered adds a Bayer matrix before
+it takes the nearest color; the amplitude is the mean distance between neighboring colors of the palette.
+
+    quillhue-cli remap photo.jpg sea.gpl photo.png --mode dither
+    quillhue-cli remap photo.jpg sea.gpl serpentine.png --mode dither --kernel atkinson --serpentine
+    quillhue-cli remap photo.jpg sea.gpl ordered.png --mode ordered --matrix 4 --strength 80
+
+Without --clamp, errors that no color of the palette can make up for grow, and appear as ghosts where one can. The kernel
+floyd-steinberg without --serpentine, --strength and --clamp calculates in whole numbers, and is the fastest.
+
+Without --transparent, transparent pixels are blended with the color of --blank, which also fills unused entries of a
+bitmap.
+
+)";
+
 struct RemapVerbOptions {
   std::vector<std::string> files;
   std::string out;
@@ -36,6 +56,7 @@ struct RemapVerbOptions {
   InputOptions input;
   std::string format;
   RemapOptions remap;
+  DitherArguments dither;
   std::optional<std::int32_t> transparent;
   PaletteEntry blank;
   bool force = false;
@@ -46,8 +67,10 @@ struct ModeName {
   std::string_view name;
   RemapMode mode;
 };
-constexpr std::array<ModeName, 3> kModes{
-    {{"maintain", RemapMode::maintain}, {"nearest", RemapMode::nearest}, {"dither", RemapMode::dither}}};
+constexpr std::array<ModeName, 4> kModes{{{"maintain", RemapMode::maintain},
+                                          {"nearest", RemapMode::nearest},
+                                          {"dither", RemapMode::dither},
+                                          {"ordered", RemapMode::ordered}}};
 
 // Shows on a terminal how many rows are done, and never stops a run.
 class RowProgress final : public RemapProgress {
@@ -164,16 +187,9 @@ bool remapTo(const std::string& from, const std::string& to, const Target& targe
 }
 
 void checkUsage(const RemapVerbOptions& options) {
-  const bool dithers = options.remap.mode == RemapMode::dither;
-  if (options.remap.protectedEntry && !dithers) {
-    refuseUsage("--protect-color", "goes with --mode dither");
-  }
-  if (options.remap.protectGrid && !dithers) {
-    refuseUsage("--protect-grid", "goes with --mode dither");
-  }
   if (options.transparent && options.remap.mode == RemapMode::maintain) {
     refuseUsage("--transparent",
-                "goes with --mode nearest or dither; maintained indexes stay as transparent as they are");
+                "goes with --mode nearest, dither or ordered; maintained indexes stay as transparent as they are");
   }
   if (options.transparent && options.transparent == options.remap.protectedEntry) {
     refuseUsage("--transparent", "names the entry of --protect-color, whose color is for opaque pixels");
@@ -240,21 +256,10 @@ RemapMode parseMode(const std::string& text) {
   return kModes[*place].mode;
 }
 
-ProtectGrid parseGrid(const std::string& text) {
-  constexpr ValueRange kSide{1, ProtectGrid::kMaxSide};
-  const std::vector<std::string> sides = split(text, 'x');
-  const auto width = parseNumber(sides.front());
-  const auto height = parseNumber(sides.back());
-  if (sides.size() != 2 || !width || !height || !kSide.contains(*width) || !kSide.contains(*height)) {
-    refuseUsage("--protect-grid", text + " is not a width and a height from 1 to 1000 like 16x16");
-  }
-  return {*width, *height};
-}
-
 }  // namespace
 
 void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
-  Verb verb = tool.addVerb("remap", "Give images the colors of a palette");
+  Verb verb = tool.addVerb("remap", "Give images a palette's colors; see help remap OPTION");
   const auto options = std::make_shared<RemapVerbOptions>();
   verb.addArgument("FILE", options->files, "IMAGE, PALETTE and OUT, or files with --out-dir");
   verb.beginGroup("Input");
@@ -270,25 +275,17 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.beginBriefGroup("Many images");
   addFileListOptions(verb, options->list);
   verb.beginGroup("Colors");
-  verb.addAction({"--mode", "NAME", "maintain (the indexes), nearest (default) or dither",
+  verb.addAction({"--mode", "NAME", "maintain, nearest (default), dither or ordered",
                   [options](const std::string& text) { options->remap.mode = parseMode(text); }, namesOf(kModes)});
-  addNumberOption(verb, "--protect-color", options->remap.protectedEntry, {0, kMaxUsedEntries - 1},
-                  "An entry whose exact color dithering keeps");
-  verb.addAction({"--protect-grid", "WxH", "Cells that dithering treats separately, as in 16x16",
-                  [options](const std::string& text) { options->remap.protectGrid = parseGrid(text); }});
   addNumberOption(verb, "--transparent", options->transparent, {0, kMaxUsedEntries - 1},
                   "The entry of pixels that are less than half opaque");
   addColorOption(verb, "--blank", options->blank, "Color behind transparent pixels (default 0,0,0)");
+  addDitherOptions(verb, options->dither);
   addMessageFlags(verb, console);
-  verb.setManual(
-      "An image is a bitmap, PNG, JPEG, PNM, PCX, LBM or clipboard file. The result is a bitmap (.bmp, .dib) or a PNG "
-      "(.png).\n\n"
-      "Without --transparent, transparent pixels are blended with the color of --blank, which also fills unused "
-      "entries "
-      "of a bitmap.\n\n"
-      "    quillhue-cli remap photo.jpg sea.gpl photo.png --mode dither\n\n");
+  verb.setManual(kManual);
   verb.onRun([options, &console, &status] {
     addOutput(options->out, options->outDir.has_value(), options->files);
+    applyDitherArguments(options->dither, options->remap);
     status = remap(*options, console);
   });
 }

@@ -5,9 +5,12 @@
 #include <bit>
 #include <vector>
 
+#include "remap/dither_input.h"
 #include "remap/error_diffusion.h"
+#include "remap/kernel_diffusion.h"
 #include "remap/nearest_entry.h"
 #include "remap/nearest_table.h"
+#include "remap/ordered_dithering.h"
 
 namespace quillhue {
 
@@ -20,7 +23,7 @@ constexpr std::int64_t kPixelsForTable = 1 << 20;
 
 // The memory for lists of candidates. Without dithering all targets are colors of pixels, which need fewer lists.
 constexpr std::size_t listBytesFor(RemapMode mode) {
-  return mode == RemapMode::dither ? std::size_t{8} << 17 : std::size_t{6} << 17;
+  return mode == RemapMode::nearest ? std::size_t{6} << 17 : std::size_t{8} << 17;
 }
 
 // A table for every index that a pixel can have.
@@ -52,6 +55,18 @@ void mapIndexes(const WorkImage& image, const IndexTable& table, RemappedImage& 
 }
 
 bool isReportDue(std::int32_t y) { return y % kRowsBetweenReports == 0; }
+
+// Calls `remapRow(y)` for each row, until the progress stops the run.
+template <typename RemapRow>
+bool forEachRow(const RemappedImage& result, RemapProgress& progress, RemapRow remapRow) {
+  for (std::int32_t y = 0; y < result.height(); ++y) {
+    remapRow(y);
+    if (isReportDue(y) && !progress.rowsDone(y + 1, result)) {
+      return false;
+    }
+  }
+  return true;
+}
 
 // Searches for eight pixels at once, except for pixels like the one before or like the last eight.
 void nearestRow(NearestEntry& nearest, std::span<const std::uint8_t> pixels, std::span<std::uint8_t> indexes) {
@@ -129,6 +144,7 @@ bool Remapper::remap(const WorkImage& image, const RemapOptions& options, Remapp
       }
       return takeNearest(image, result, progress);
     case RemapMode::dither:
+    case RemapMode::ordered:
       return dither(image, options, result, progress);
   }
   return true;
@@ -139,7 +155,7 @@ bool Remapper::takeNearest(const WorkImage& image, RemappedImage& result, RemapP
   if (!table_ && pixels >= kPixelsForTable) {
     table_ = std::make_unique<NearestTable>(colors_);
   }
-  for (std::int32_t y = 0; y < image.height(); ++y) {
+  return forEachRow(result, progress, [&](std::int32_t y) {
     if (table_ && !table_->paysOff()) {
       table_.reset();
     }
@@ -148,16 +164,28 @@ bool Remapper::takeNearest(const WorkImage& image, RemappedImage& result, RemapP
     } else {
       nearestRow(nearest(RemapMode::nearest), image.row(y), result.row(y));
     }
-    if (isReportDue(y) && !progress.rowsDone(y + 1, result)) {
-      return false;
-    }
+  });
+}
+
+bool Remapper::dither(const WorkImage& image, const RemapOptions& options, RemappedImage& result,
+                      RemapProgress& progress) {
+  if (options.mode == RemapMode::dither && options.dither.isPlainDiffusion()) {
+    return ditherPlainly(image, options, result, progress);
   }
-  return true;
+  const ErrorDiffusion::Limits none{{}, image.width(), image.height()};
+  const DitherInput input{
+      image, colors_, [&entries = nearest(options.mode)](const EightColors& targets) { return entries.find(targets); },
+      limitsOf(options, image, colors_.size()).value_or(none)};
+  const auto run = [&](auto dithering) {
+    return forEachRow(result, progress, [&](std::int32_t y) { dithering.remapRow(y); });
+  };
+  return options.mode == RemapMode::ordered ? run(OrderedDithering(input, options.dither, result))
+                                            : run(KernelDiffusion(input, options.dither, result));
 }
 
 // The first row is reported alone. After it the rows that run together end where a report is due.
-bool Remapper::dither(const WorkImage& image, const RemapOptions& options, RemappedImage& result,
-                      RemapProgress& progress) {
+bool Remapper::ditherPlainly(const WorkImage& image, const RemapOptions& options, RemappedImage& result,
+                             RemapProgress& progress) {
   static_assert(kRowsBetweenReports % ErrorDiffusion::kRowsTogether == 0);
   const auto diffusion = diffuseErrors(image, nearest(options.mode), limitsOf(options, image, colors_.size()), result);
   for (std::int32_t done = 0; done < image.height();) {

@@ -7,6 +7,7 @@
 
 #include "core/palette.h"
 #include "formats/work_image.h"
+#include "remap/dither_options.h"
 #include "remap/remapped_image.h"
 
 namespace quillhue {
@@ -21,6 +22,8 @@ enum class RemapMode : std::uint8_t {
   nearest,
   /// The same, with error diffusion.
   dither,
+  /// The same, with ordered dithering.
+  ordered,
 };
 
 /// Size of the cells, in pixels, whose right and lower borders errors do not cross.
@@ -33,13 +36,14 @@ struct ProtectGrid {
 
 struct RemapOptions {
   RemapMode mode = RemapMode::nearest;
-  /// Error diffusion leaves pixels that have exactly the color of this entry unchanged. An index past the colors in use
-  /// protects nothing.
+  /// Both kinds of dithering leave pixels that have exactly the color of this entry unchanged. An index past the colors
+  /// in use protects nothing.
   std::optional<std::int32_t> protectedEntry;
   /// Sides are clamped to 1 .. ProtectGrid::kMaxSide.
   std::optional<ProtectGrid> protectGrid;
   /// Error diffusion skips transparent pixels: they get any index, and no error passes through them.
   bool skipsTransparent = false;
+  DitherOptions dither{};
 };
 
 /// Is told about the progress of a run after rows 0, 16, 32 and so on. Runs that only look up the indexes of an indexed
@@ -56,8 +60,8 @@ class RemapProgress {
 /// images; the mode of the first image decides how large they may become.
 ///
 /// Distances are squared Euclidean distances of red, green and blue; of equally near entries the first one is used.
-/// Arithmetic is 32-bit two's complement. Errors are never clamped: if the palette is far from the image's colors, they
-/// grow until they wrap.
+/// Arithmetic is 32-bit two's complement. Plain error diffusion never clamps errors: if the palette is far from the
+/// image's colors, they grow until they wrap.
 class Remapper {
  public:
   explicit Remapper(const Palette& palette);
@@ -73,6 +77,8 @@ class Remapper {
   NearestEntry& nearest(RemapMode mode);
   bool takeNearest(const WorkImage& image, RemappedImage& result, RemapProgress& progress);
   bool dither(const WorkImage& image, const RemapOptions& options, RemappedImage& result, RemapProgress& progress);
+  bool ditherPlainly(const WorkImage& image, const RemapOptions& options, RemappedImage& result,
+                     RemapProgress& progress);
 
   std::vector<PaletteEntry> colors_;
   std::unique_ptr<NearestEntry> nearest_;

@@ -303,8 +303,8 @@ TEST(Allocations, FailInRemappingAndPastingOfImages) {
     expectSafe(
         "copy", [](Program& program) { program.output = hexOf(clipboardBitmap(*program.image, {})).substr(0, 99); },
         file == &large ? [](Program&) {} : paste);
-    for (const RemapMode mode : {RemapMode::maintain, RemapMode::nearest, RemapMode::dither}) {
-      if (file == &large && mode == RemapMode::dither) {
+    for (const RemapMode mode : {RemapMode::maintain, RemapMode::nearest, RemapMode::dither, RemapMode::ordered}) {
+      if (file == &large && (mode == RemapMode::dither || mode == RemapMode::ordered)) {
         continue;
       }
       expectSafe(

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <random>
 
 #include "remap/transparent_remap.h"
@@ -36,6 +37,11 @@ WorkImage imageOf(std::int32_t width, bool isIndexed, unsigned transparency, std
   return image;
 }
 
+const std::array<std::pair<RemapMode, DitherOptions>, 4> kMethods{{{RemapMode::nearest, {}},
+                                                                   {RemapMode::dither, {}},
+                                                                   {RemapMode::dither, {nullptr, true}},
+                                                                   {RemapMode::ordered, {}}}};
+
 // By the rules: the palette without the entry, whose place the indexes above it make up for.
 TEST(TransparentRemap, EqualsTheLiteralRules) {
   std::minstd_rand random(3);
@@ -47,12 +53,11 @@ TEST(TransparentRemap, EqualsTheLiteralRules) {
           std::vector<PaletteEntry> colors = colorsOf(size, random);
           TransparentRemapper remapper(paletteOf(colors), entry);
           colors.erase(colors.begin() + entry);
-          for (const RemapMode mode : {RemapMode::nearest, RemapMode::dither}) {
+          for (const auto& [mode, details] : kMethods) {
             const std::optional<std::int32_t> shielded = size > 2 ? std::optional(2) : std::nullopt;
             const std::optional<std::int32_t> shifted = size > 2 && entry < 2 ? std::optional(1) : shielded;
-            const RemapOptions options{mode, shielded, {}};
-            RemapOptions literal{mode, shielded == entry ? std::nullopt : shifted, {}};
-            literal.skipsTransparent = true;
+            const RemapOptions options{mode, shielded, {}, false, details};
+            const RemapOptions literal{mode, shielded == entry ? std::nullopt : shifted, {}, true, details};
             RemappedImage result;
             RemappedImage expected;
             StoppingProgress progress;

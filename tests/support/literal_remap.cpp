@@ -5,6 +5,8 @@
 #include <iterator>
 #include <vector>
 
+#include "support/literal_dithering.h"
+
 namespace quillhue {
 
 namespace {
@@ -148,10 +150,17 @@ bool literalRemap(const WorkImage& image, const Palette& palette, const RemapOpt
   const std::vector<Color> colors = colorsOf(entries);
   result.prepare(image.width(), image.height(), entries);
   const bool keepsIndexes = options.mode == RemapMode::maintain;
+  const bool isPlain = options.mode == RemapMode::dither && options.dither.isPlainDiffusion();
+  const bool isDetailed = options.mode == RemapMode::ordered || (options.mode == RemapMode::dither && !isPlain);
+  const std::vector<std::uint8_t> dithered =
+      isDetailed ? literalDithering(image, entries, options) : std::vector<std::uint8_t>();
   Ditherer ditherer(image, colors, options);
   for (std::int32_t y = 0; y < image.height(); ++y) {
     const auto indexes = result.row(y);
-    if (options.mode == RemapMode::dither) {
+    if (isDetailed) {
+      std::ranges::copy(std::span(dithered).subspan(static_cast<std::size_t>(y) * indexes.size(), indexes.size()),
+                        indexes.begin());
+    } else if (isPlain) {
       ditherer.remapRow(y, indexes);
     } else if (!keepsIndexes) {
       for (std::int32_t x = 0; x < image.width(); ++x) {
@@ -164,7 +173,7 @@ bool literalRemap(const WorkImage& image, const Palette& palette, const RemapOpt
     } else {
       std::ranges::fill(indexes, std::uint8_t{0});
     }
-    const bool isReported = options.mode == RemapMode::dither || (!keepsIndexes && !image.palette());
+    const bool isReported = isPlain || isDetailed || (!keepsIndexes && !image.palette());
     if (isReported && y % 16 == 0 && !progress.rowsDone(y + 1, result)) {
       return false;
     }

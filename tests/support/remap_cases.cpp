@@ -15,8 +15,21 @@ std::uint8_t atBorder(CaseBytes& bytes) {
   return static_cast<std::uint8_t>(std::clamp(16 * bytes.upTo(16) + bytes.upTo(2) - 1, 0, 255));
 }
 
+DitherOptions ditherOptionsFrom(CaseBytes& bytes) {
+  constexpr std::array kSides{2, 4, 8, 16};
+  constexpr std::array kStrengths{0, 1, 50, 99, 100, 100, 100};
+  DitherOptions options;
+  options.kernel = bytes.upTo(7) == 7 ? nullptr : &diffusionKernels()[bytes.upTo(6)];
+  options.isSerpentine = bytes.upTo(1) != 0;
+  options.clampsErrors = bytes.upTo(1) != 0;
+  options.strength = bytes.anyOf(kStrengths);
+  options.matrixSide = bytes.anyOf(kSides);
+  return options;
+}
+
 RemapOptions optionsFrom(CaseBytes& bytes) {
-  constexpr std::array kModes{RemapMode::dither, RemapMode::dither, RemapMode::nearest, RemapMode::maintain};
+  constexpr std::array kModes{RemapMode::dither, RemapMode::dither, RemapMode::nearest, RemapMode::maintain,
+                              RemapMode::ordered};
   // Sides out of range count as the nearest ones inside.
   constexpr std::array kSides{1, 2, 3, 4, 5, 7, 64, 1000, 5000, -5, 0};
   RemapOptions options;
@@ -27,6 +40,9 @@ RemapOptions optionsFrom(CaseBytes& bytes) {
   if (bytes.upTo(2) == 0) {
     const std::int32_t width = bytes.anyOf(kSides);
     options.protectGrid = {width, bytes.anyOf(kSides)};
+  }
+  if (bytes.upTo(1) != 0) {
+    options.dither = ditherOptionsFrom(bytes);
   }
   return options;
 }
