@@ -15,6 +15,7 @@
 #include "cli/output.h"
 #include "cli/output_folder.h"
 #include "cli/verbs.h"
+#include "remap/best_palette.h"
 
 namespace quillhue::cli {
 
@@ -34,9 +35,11 @@ With --recursive, the folder of --out-dir gets the subfolders of the input. With
 named.
 
 An image without a palette needs --colors. With exact, its colors become entries in the order in which they appear, as
-far as there is room. With reduce, median cut finds colors that represent all of them.
+far as there is room. With reduce, median cut finds colors that represent all of them. With best, k-means finds those
+whose mean squared error is least; the same image always gets the same palette, sorted from dark to bright.
 
     quillhue-cli convert photo.jpg photo.act --colors reduce --size 64
+    quillhue-cli convert photo.jpg best.gpl --colors best --size 32
 
 )";
 
@@ -57,11 +60,14 @@ constexpr std::int32_t kReducedSize = 256;
 std::expected<Palette, std::string> paletteOfImage(const std::string& file, const FileContent& image,
                                                    const ConvertOptions& options, Console& console) {
   if (options.colors.empty()) {
-    return Refusal("The image has no palette. Make one from its colors with --colors exact or --colors reduce.");
+    return Refusal("The image has no palette. Make one from its colors with --colors exact, reduce or best.");
   }
   const ImageColors colors = colorsOf(image);
   if (options.colors == "reduce") {
     return colors.reducedPalette(options.size.value_or(kReducedSize), options.blank);
+  }
+  if (options.colors == "best") {
+    return bestPalette(colors.counts(), options.size.value_or(kReducedSize), options.blank);
   }
   const std::uint64_t count = colors.distinctCount();
   const auto all = static_cast<std::int32_t>(std::min<std::uint64_t>(count, kMaxPaletteSize));
@@ -69,7 +75,7 @@ std::expected<Palette, std::string> paletteOfImage(const std::string& file, cons
   if (count > static_cast<std::uint64_t>(size)) {
     addNote(console, file,
             std::to_string(count - static_cast<std::uint64_t>(size)) + " of " + std::to_string(count) +
-                " different colors are left out. Use --colors reduce to represent all of them.");
+                " different colors are left out. Use --colors reduce or best to represent all of them.");
   }
   return colors.exactPalette(size, options.blank);
 }
@@ -166,9 +172,10 @@ void addConvertVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.beginBriefGroup("Many files");
   addFileListOptions(verb, options->list);
   verb.beginGroup("Images without a palette");
-  verb.addChoice("--colors", options->colors, {"exact", "reduce"}, "Make a palette of all colors, or of fewer");
+  verb.addChoice("--colors", options->colors, {"exact", "reduce", "best"},
+                 "All colors, a median cut, or the palette of least error");
   addNumberOption(verb, "--size", options->size, {1, kMaxPaletteSize},
-                  "Number of entries (default: all, or 256 for reduce)");
+                  "Number of entries (default: all with exact, otherwise 256)");
   addMessageFlags(verb, console);
   verb.setManual(kManual);
   verb.onRun([options, &console, &status] {

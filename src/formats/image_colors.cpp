@@ -80,6 +80,17 @@ ImageColors::ImageColors(ForEachBlock forEachBlock) : forEachBlock_(std::move(fo
   }
 }
 
+std::vector<CountedColor> ImageColors::counts() const {
+  const auto pixels = pixelsOfEachColor();
+  std::vector<CountedColor> counts;
+  counts.reserve(static_cast<std::size_t>(occurring_.size()));
+  occurring_.forEach([&](std::uint32_t order) {
+    counts.push_back({colorOf(wordAt(order)), pixels[counts.size()]});
+    return true;
+  });
+  return counts;
+}
+
 Palette ImageColors::exactPalette(std::int32_t size, PaletteEntry blank) const {
   Palette palette = createPalette(size, blank);
   std::int32_t filled = 0;

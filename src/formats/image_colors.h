@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include "core/counted_color.h"
 #include "core/palette.h"
 #include "formats/color_set.h"
 #include "formats/true_color_bitmap.h"
@@ -26,6 +27,9 @@ class ImageColors {
   explicit ImageColors(const WorkImage& image);
 
   [[nodiscard]] std::uint64_t distinctCount() const { return distinctCount_; }
+
+  /// Returns the colors with their numbers of pixels, in order. Colors that differ only in the fourth byte are one.
+  [[nodiscard]] std::vector<CountedColor> counts() const;
 
   /// Returns `size` entries: the first colors in order, then the blank color.
   [[nodiscard]] Palette exactPalette(std::int32_t size, PaletteEntry blank) const;
