@@ -37,7 +37,7 @@ Palette randomPalette() {
   return palette;
 }
 
-Bench::Bench() { slot.replaceDocument(randomPalette(), false, {}, 0, tool.services); }
+Bench::Bench() { slot.replaceDocument({.palette = randomPalette()}, tool.services); }
 
 void command(benchmark::State& state, void (*run)(PaletteDocument& document)) {
   const Bench bench;

@@ -62,7 +62,7 @@ class Documents {
   void create() {
     const auto palette = variedPalette(1 + bytes_.upTo(255));
     if (slot_.document() == nullptr || askToSave(document(), fakes_.services)) {
-      slot_.replaceDocument(palette, false, {}, palette_format::kNone, fakes_.services);
+      slot_.replaceDocument({.palette = palette}, fakes_.services);
     }
   }
 

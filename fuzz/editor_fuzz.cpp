@@ -31,7 +31,7 @@ class Editor {
  public:
   explicit Editor(std::span<const std::uint8_t> input) : input_(input) {
     fakes_.clipboard = entriesOf(variedPalette(3));
-    slot_.replaceDocument(first_, false, {}, 0, fakes_.services);
+    slot_.replaceDocument({.palette = first_}, fakes_.services);
   }
 
   void run() {
@@ -136,7 +136,7 @@ class Editor {
   RecordingServices fakes_;
   DocumentSlot slot_;
   View view_;
-  const bool hasDocument_ = (slot_.replaceDocument(first_, false, {}, 0, fakes_.services), true);
+  const bool hasDocument_ = (slot_.replaceDocument({.palette = first_}, fakes_.services), true);
   GridSelection selection_{slot_, fakes_.settings};
   ChannelEditor channels_{slot_, fakes_.settings, view_};
   EffectEditor effects_{slot_, fakes_.settings, fakes_};

@@ -75,7 +75,7 @@ ExitStatus showValues(const ValuesOptions& options, Console& console) {
   }
   ToolServices tool(console);
   DocumentSlot slot;
-  slot.replaceDocument(std::move(read->palette), false, {}, palette_format::kNone, tool.services);
+  slot.replaceDocument({.palette = std::move(read->palette)}, tool.services);
   std::vector<std::unique_ptr<ColorMode>> modes(options.models.size());
   for (std::size_t i = 0; i < modes.size(); ++i) {
     createColorMode(options.models[i], 0, slot, modes[i]);

@@ -13,19 +13,17 @@ DocumentName::DocumentName(std::wstring fileName)
   title_.append(fileName_, fileName_.rfind(L'\\') + 1);
 }
 
-PaletteDocument::PaletteDocument(Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
-                                 const AppSettings& settings, DocumentObserver& observer)
-    : PaletteDocument(Silent{}, std::move(palette), initiallyModified, std::move(fileName), format, settings,
-                      observer) {
+PaletteDocument::PaletteDocument(DocumentContent content, const AppSettings& settings, DocumentObserver& observer)
+    : PaletteDocument(Silent{}, std::move(content), settings, observer) {
   announce();
 }
 
-PaletteDocument::PaletteDocument(Silent /*silent*/, Palette palette, bool initiallyModified, std::wstring fileName,
-                                 PaletteFormat format, const AppSettings& settings, DocumentObserver& observer)
-    : palette_(std::move(palette)),
-      modificationCount_(initiallyModified ? 1 : 0),
-      format_(format),
-      name_(std::move(fileName)),
+PaletteDocument::PaletteDocument(Silent /*silent*/, DocumentContent content, const AppSettings& settings,
+                                 DocumentObserver& observer)
+    : palette_(std::move(content.palette)),
+      modificationCount_(content.isModified ? 1 : 0),
+      format_(content.format),
+      name_(std::move(content.fileName)),
       settings_(settings),
       observer_(observer) {}
 
@@ -152,11 +150,9 @@ void PaletteDocument::announceSize() const noexcept {
   observer_.statusChanged({text.begin(), std::ranges::copy(getSize() == 1 ? kOne : kMany, end).out});
 }
 
-void DocumentSlot::replaceDocument(Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
-                                   Services& services) {
-  std::unique_ptr<PaletteDocument> next(new PaletteDocument(PaletteDocument::Silent{}, std::move(palette),
-                                                            initiallyModified, std::move(fileName), format,
-                                                            services.settings, services.observer));
+void DocumentSlot::replaceDocument(DocumentContent content, Services& services) {
+  std::unique_ptr<PaletteDocument> next(
+      new PaletteDocument(PaletteDocument::Silent{}, std::move(content), services.settings, services.observer));
   document_.reset();
   next->announce();
   document_ = std::move(next);

@@ -31,16 +31,24 @@ class DocumentName {
   std::wstring title_;
 };
 
+/// The content of a new document.
+struct DocumentContent {
+  Palette palette;
+  bool isModified = false;
+  /// Empty if there is no file.
+  std::wstring fileName{};
+  PaletteFormat format = palette_format::kNone;
+};
+
 /// The open palette: its colors and selection, its file, whether it is modified, and its edit history.
 ///
 /// An undoable change takes two steps: a record operation saves the state that is about to change, then the setters
 /// change it. A change without a record can't be undone.
 class PaletteDocument {
  public:
-  /// `settings` (read for the blank color) and `observer` must outlive the document. An empty file name means that
-  /// there is no file. Announces title, status text and Undo/Redo state.
-  PaletteDocument(Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
-                  const AppSettings& settings, DocumentObserver& observer);
+  /// `settings` (read for the blank color) and `observer` must outlive the document. Announces title, status text and
+  /// Undo/Redo state.
+  PaletteDocument(DocumentContent content, const AppSettings& settings, DocumentObserver& observer);
 
   [[nodiscard]] std::int32_t getSize() const { return palette_.getSize(); }
   [[nodiscard]] bool contains(std::int32_t index) const { return index >= 0 && index < getSize(); }
@@ -110,8 +118,7 @@ class PaletteDocument {
   friend class DocumentSlot;
   // Announces nothing yet.
   struct Silent {};
-  PaletteDocument(Silent silent, Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
-                  const AppSettings& settings, DocumentObserver& observer);
+  PaletteDocument(Silent silent, DocumentContent content, const AppSettings& settings, DocumentObserver& observer);
 
   void announce() const noexcept;
   void announceHistory() const noexcept;
@@ -135,8 +142,7 @@ class DocumentSlot {
 
   /// Creates a new document, destroys the previous one and its history, and notifies the observer. Throws
   /// std::bad_alloc and keeps the previous document if there is no memory for the new one.
-  void replaceDocument(Palette palette, bool initiallyModified, std::wstring fileName, PaletteFormat format,
-                       Services& services);
+  void replaceDocument(DocumentContent content, Services& services);
   /// Destroys the document without notifying the observer.
   void closeDocument() { document_.reset(); }
 

@@ -13,15 +13,9 @@ namespace quillhue {
 
 namespace {
 
-// The document that a file becomes.
-struct Opened {
-  Palette palette;
-  bool modified;
-  std::wstring fileName;
-  PaletteFormat format;
-};
+using Opened = std::expected<std::optional<DocumentContent>, Failure>;
 
-std::expected<std::optional<Opened>, Failure> makeFromImage(const TrueColorBitmap& bitmap, Services& services) try {
+Opened makeFromImage(const TrueColorBitmap& bitmap, Services& services) try {
   const ImageColors colors(bitmap);
   if (bitmap.source().failed()) {
     return std::unexpected(Failure::couldNotOpen);
@@ -35,12 +29,12 @@ std::expected<std::optional<Opened>, Failure> makeFromImage(const TrueColorBitma
   if (bitmap.source().failed()) {
     return std::unexpected(Failure::couldNotOpen);
   }
-  return Opened{std::move(palette), true, {}, palette_format::kNone};
+  return DocumentContent{.palette = std::move(palette), .isModified = true};
 } catch (const std::bad_alloc&) {
   return std::unexpected(Failure::notEnoughMemory);
 }
 
-std::expected<std::optional<Opened>, Failure> open(const std::wstring& fileName, Services& services) {
+Opened open(const std::wstring& fileName, Services& services) {
   const auto source = openFile(fileName);
   if (!source) {
     return std::unexpected(source.error());
@@ -53,7 +47,7 @@ std::expected<std::optional<Opened>, Failure> open(const std::wstring& fileName,
     return makeFromImage(*bitmap, services);
   }
   auto& file = std::get<FilePalette>(*content);
-  return Opened{std::move(file.palette), false, fileName, file.format};
+  return DocumentContent{.palette = std::move(file.palette), .fileName = fileName, .format = file.format};
 }
 
 }  // namespace
@@ -62,9 +56,8 @@ void readPaletteFile(const std::wstring& fileName, DocumentSlot& slot, Services&
   auto opened = open(fileName, services);
   if (!opened) {
     services.messages.error(textOf(opened.error()));
-  } else if (std::optional<Opened>& result = *opened; result) {
-    slot.replaceDocument(std::move(result->palette), result->modified, std::move(result->fileName), result->format,
-                         services);
+  } else if (std::optional<DocumentContent>& content = *opened; content) {
+    slot.replaceDocument(*std::move(content), services);
   }
 }
 

@@ -91,7 +91,9 @@ struct Program final : RecordingServices, CommandTarget, ChannelView {
     saveAs = {folder.name("saved.gpl"), palette_format::kGimp};
     screenColors = FixedHalftone().halftone();
     clipboard.emplace(entriesOf(variedPalette(5)));
-    slot.replaceDocument(variedPalette(16), false, folder.file("own.gpl", bytesOf("before")), palette_format::kGimp,
+    slot.replaceDocument({.palette = variedPalette(16),
+                          .fileName = folder.file("own.gpl", bytesOf("before")),
+                          .format = palette_format::kGimp},
                          services);
     for (const std::int32_t index : {2, 3, 7}) {
       document().select(index);
@@ -106,7 +108,7 @@ struct Program final : RecordingServices, CommandTarget, ChannelView {
 
   [[nodiscard]] PaletteDocument& document() const { return *slot.document(); }
   void swap() const { findStep("swap", "rg")->change({.document = document(), .settings = services.settings}); }
-  void open(Palette palette) { slot.replaceDocument(std::move(palette), true, {}, palette_format::kNone, services); }
+  void open(Palette palette) { slot.replaceDocument({.palette = std::move(palette), .isModified = true}, services); }
 
   // Everything, with all palettes of the history.
   std::string state() {

@@ -40,7 +40,7 @@ class ChannelEditorTest : public testing::Test, public ColorChooser {
   std::string offered;
 
   void open(const Palette& palette, std::size_t model, bool doReport) {
-    slot.replaceDocument(palette, false, {}, 0, fakes.services);
+    slot.replaceDocument({.palette = palette}, fakes.services);
     fakes.clipboard.reset();
     fakes.settings.blank = {9, 9, 9};
     fakes.settings.colorMode = static_cast<std::uint8_t>(model);
@@ -88,7 +88,7 @@ class ChannelEditorTest : public testing::Test, public ColorChooser {
         {"resize", [this](auto& n) { slot.document()->resize(n[0]), editor->paletteChanged(); }},
         {"open",
          [this](auto&) {
-           slot.replaceDocument(createPalette(1, {7, 8, 9}), false, {}, 0, fakes.services);
+           slot.replaceDocument({.palette = createPalette(1, {7, 8, 9})}, fakes.services);
            editor->documentReplaced();
          }},
     };

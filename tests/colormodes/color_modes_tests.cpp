@@ -19,7 +19,7 @@ class ColorModesTest : public testing::Test {
   DocumentSlot slot;
   std::unique_ptr<ColorMode> mode;
 
-  void SetUp() override { slot.replaceDocument(createPalette(2), false, {}, 0, fakes.services); }
+  void SetUp() override { slot.replaceDocument({.palette = createPalette(2)}, fakes.services); }
 
   void open(std::int32_t index, PaletteEntry color) {
     slot.document()->setColor(1, color);

@@ -52,7 +52,7 @@ TEST(CommandTable, OffersWhatHasAnEffect) {
 TEST(CommandTable, ChoosesSelectionModesWithoutAStep) {
   RecordingServices fakes;
   DocumentSlot slot;
-  slot.replaceDocument(createPalette(2), false, {}, 0, fakes.services);
+  slot.replaceDocument({.palette = createPalette(2)}, fakes.services);
   for (const std::int32_t command : {32, 31, 30}) {
     findCommand(command)->change({*slot.document(), fakes.settings});
     EXPECT_EQ(static_cast<std::int32_t>(fakes.settings.selectionMode), command - 30);

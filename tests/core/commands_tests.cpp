@@ -17,7 +17,7 @@ class CommandsTest : public testing::Test {
   DocumentSlot slot;
 
   PaletteDocument& open(std::int32_t size, std::initializer_list<std::int32_t> selected = {}) {
-    slot.replaceDocument(variedPalette(size), false, {}, 0, fakes.services);
+    slot.replaceDocument({.palette = variedPalette(size)}, fakes.services);
     for (const std::int32_t index : selected) {
       slot.document()->select(index);
     }

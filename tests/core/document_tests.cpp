@@ -28,7 +28,7 @@ class PaletteDocumentTest : public testing::Test {
   DocumentSlot slot;
 
   PaletteDocument& replace(Palette palette, bool modified = false, const wchar_t* name = L"") {
-    slot.replaceDocument(std::move(palette), modified, name, 0, fakes.services);
+    slot.replaceDocument({.palette = std::move(palette), .isModified = modified, .fileName = name}, fakes.services);
     return *slot.document();
   }
 };

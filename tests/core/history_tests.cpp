@@ -15,7 +15,7 @@ namespace {
 TEST(EditHistory, WalksAndCountsAsTheTableSays) {
   for (const auto& row : readTable("history.txt")) {
     RecordingServices fakes;
-    PaletteDocument document{createPalette(8), false, L"", 0, fakes.settings, fakes};
+    PaletteDocument document({.palette = createPalette(8)}, fakes.settings, fakes);
     const ScriptActs acts{{"set", [&](auto& n) { document.recordColor(0), document.setRed(0, clampToByte(n[0])); }},
                           {"record", [&](auto& n) { document.recordColor(n[0]); }},
                           {"undo", [&](auto&) { document.undo(); }},
@@ -31,7 +31,7 @@ TEST(EditHistory, WalksAndCountsAsTheTableSays) {
 
 TEST(EditHistory, RestoresWholePalettes) {
   RecordingServices fakes;
-  PaletteDocument document{createPalette(8), false, L"", 0, fakes.settings, fakes};
+  PaletteDocument document({.palette = createPalette(8)}, fakes.settings, fakes);
   fakes.settings.blank = {1, 2, 3};
   document.recordColors();
   document.setColor(7, {5, 6, 7});

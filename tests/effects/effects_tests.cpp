@@ -28,7 +28,7 @@ class EffectsTest : public testing::Test {
 
   PaletteDocument& open(Palette palette) {
     std::ranges::fill(palette.selected(), 1);
-    slot.replaceDocument(std::move(palette), false, {}, 0, fakes.services);
+    slot.replaceDocument({.palette = std::move(palette)}, fakes.services);
     return *slot.document();
   }
 };

@@ -29,7 +29,9 @@ using Save = std::function<bool(const std::wstring& name, FileSystem& files)>;
 bool savePalette(const std::wstring& name, PaletteFormat format, FileSystem& files) {
   RecordingServices fakes;
   DocumentSlot slot;
-  slot.replaceDocument(variedPalette(16), true, name, palette_format::kRiff, fakes.services);
+  slot.replaceDocument(
+      {.palette = variedPalette(16), .isModified = true, .fileName = name, .format = palette_format::kRiff},
+      fakes.services);
   fakes.takeLines();
   const PaletteDocument& document = *slot.document();
   const bool saved = writePaletteFile(*slot.document(), name, format, fakes.services, files);

@@ -90,7 +90,7 @@ TEST_F(PaletteFileTest, LeavesDocumentAndFileAloneWhenSavingIsRefused) {
 }
 
 TEST_F(PaletteFileTest, SaveAsAppendsExtensionsAndAsksBeforeReplacing) {
-  slot.replaceDocument(createPalette(1), true, L"", kNone, fakes.services);
+  slot.replaceDocument({.palette = createPalette(1), .isModified = true}, fakes.services);
   PaletteDocument& document = *slot.document();
   fakes.takeLines();
   EXPECT_FALSE(save(document, fakes.services));
@@ -148,7 +148,7 @@ TEST_F(PaletteFileTest, AsksBeforeAModifiedDocumentIsDiscarded) {
   EXPECT_FALSE(document.isModified());
   EXPECT_EQ(folder.contentOf("a.map"), "99 2 3\r\n");
   // Yes, and then Cancel in Save As.
-  slot.replaceDocument(createPalette(1), true, L"", kNone, fakes.services);
+  slot.replaceDocument({.palette = createPalette(1), .isModified = true}, fakes.services);
   EXPECT_FALSE(askToSave(*slot.document(), fakes.services));
 }
 

@@ -22,7 +22,7 @@ INT_PTR openByShell(HWND owner, const wchar_t* file, const wchar_t* arguments, c
 }  // namespace
 
 void SharedCommands::openUntitled(Palette palette, bool initiallyModified) {
-  context_.slot.replaceDocument(std::move(palette), initiallyModified, {}, palette_format::kNone, context_.services);
+  context_.slot.replaceDocument({.palette = std::move(palette), .isModified = initiallyModified}, context_.services);
 }
 
 void SharedCommands::newPalette(NewPaletteKind kind) {

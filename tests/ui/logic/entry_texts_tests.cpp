@@ -30,7 +30,7 @@ TEST(EntryTexts, DescribeAnEntry) {
 
   RecordingServices recording;
   DocumentSlot slot;
-  slot.replaceDocument(palette, false, {}, palette_format::kNone, recording.services);
+  slot.replaceDocument({.palette = palette}, recording.services);
   std::unique_ptr<ColorMode> mode;
   // HSV.
   constexpr std::int32_t kModel = 3;

@@ -23,7 +23,7 @@ class GridSelectionTest : public testing::Test {
 
   PaletteDocument& open(SelectionMode mode) {
     fakes.settings.selectionMode = mode;
-    slot.replaceDocument(variedPalette(10), false, {}, 0, fakes.services);
+    slot.replaceDocument({.palette = variedPalette(10)}, fakes.services);
     selection = std::make_unique<GridSelection>(slot, fakes.settings);
     return *slot.document();
   }
@@ -113,7 +113,7 @@ TEST_F(GridSelectionTest, KeepsTheCurrentEntryInThePalette) {
   perform(acts_, "press=0");
   document.resize(2);
   EXPECT_FALSE(selection->drag(grid, middleOf(3)));
-  slot.replaceDocument(variedPalette(3), false, {}, 0, fakes.services);
+  slot.replaceDocument({.palette = variedPalette(3)}, fakes.services);
   selection->documentReplaced();
   EXPECT_EQ(state(), "... 0 none");
 }
