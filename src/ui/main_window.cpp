@@ -1,17 +1,15 @@
 #include "ui/main_window.h"
 
-#include <algorithm>
-#include <array>
 #include <utility>
-#include <vector>
 
 #include "commands/command_table.h"
 #include "core/utf8.h"
 #include "formats/palette_file.h"
 #include "ui/logic/frame_layout.h"
-#include "ui/logic/menus.h"
 #include "ui/logic/window_size.h"
 #include "ui/logic/window_texts.h"
+#include "ui/message_dispatch.h"
+#include "ui/shown_menus.h"
 #include "ui/win32/controls.h"
 #include "ui/win32/drawing.h"
 #include "ui/win32/guarded.h"
@@ -24,29 +22,6 @@ namespace {
 
 constexpr const wchar_t* kClassName = L"Quillhue4";
 constexpr int kStatusBarId = 1;
-// Posted at the end of a run if the user has closed the window meanwhile.
-constexpr UINT kRunEndedMessage = WM_APP;
-// Adding a recent document takes the system some time, in which the window could not answer right after a file was
-// opened. The delay is in milliseconds.
-constexpr UINT_PTR kUsedFileTimer = 1;
-constexpr UINT kUsedFileDelay = 500;
-
-// Returns true if a direct item of the menu has changed.
-bool updateItems(HMENU menu, const std::vector<MenuItem>& items, const CommandState& state) {
-  bool changed = false;
-  for (std::size_t i = 0; i < items.size(); ++i) {
-    if (items[i].isSeparator()) {
-      continue;
-    }
-    const UINT wanted = isEnabled(items[i], state) ? MF_ENABLED : MF_GRAYED;
-    const int before = EnableMenuItem(menu, static_cast<UINT>(i), MF_BYPOSITION | wanted);
-    changed = changed || static_cast<UINT>(before) != wanted;
-    if (!items[i].items.empty()) {
-      updateItems(GetSubMenu(menu, static_cast<int>(i)), items[i].items, state);
-    }
-  }
-  return changed;
-}
 
 // Returns the window's size, or its restored size if it is minimised or maximised.
 Size outerSize(HWND window) {
@@ -61,41 +36,6 @@ Size outerSize(HWND window) {
   return {box.right - box.left, box.bottom - box.top};
 }
 
-// Returns whether the key means OK or Cancel in a dialog. The keyboard navigation would send these keys as commands 1
-// and 2, which are menu commands here.
-bool isDialogAnswer(const MSG& message) {
-  constexpr std::array<WPARAM, 4> kKeys{VK_RETURN, VK_EXECUTE, VK_ESCAPE, VK_CANCEL};
-  return message.message == WM_KEYDOWN && std::ranges::find(kKeys, message.wParam) != kKeys.end();
-}
-
-// Returns whether the focused text field handles the key.
-bool editsFocusedText(const MSG& message) {
-  const Accelerator key{.control = GetKeyState(VK_CONTROL) < 0,
-                        .shift = GetKeyState(VK_SHIFT) < 0,
-                        .key = static_cast<std::int32_t>(message.wParam)};
-  return message.message == WM_KEYDOWN && editsText(key) && isControl(message.hwnd, WC_EDITW);
-}
-
-// Returns the target of a wheel message: the window under the pointer, regardless of the focus. Returns null for a
-// combo box without the focus, because its choice would change by accident.
-HWND wheelTarget(HWND window, const MSG& message) {
-  const HWND under = WindowFromPoint(toSystem(pointOf(message.lParam)));
-  if (under != window && IsChild(window, under) == 0) {
-    return message.hwnd;
-  }
-  return isControl(under, WC_COMBOBOXW) && GetFocus() != under ? nullptr : under;
-}
-
-// Presses the focused button on Enter. The keyboard navigation does this only if the button was reached by Tab.
-bool pressesButton(const MSG& message) {
-  if (message.message != WM_KEYDOWN || message.wParam != VK_RETURN ||
-      (SendMessageW(message.hwnd, WM_GETDLGCODE, 0, 0) & DLGC_UNDEFPUSHBUTTON) == 0) {
-    return false;
-  }
-  SendMessageW(message.hwnd, BM_CLICK, 0, 0);
-  return true;
-}
-
 }  // namespace
 
 MainWindow::MainWindow(WindowParts parts)
@@ -105,7 +45,9 @@ MainWindow::MainWindow(WindowParts parts)
                 .observer = *this,
                 .fileQuestions = parts_.fileQuestions,
                 .clipboard = parts_.clipboard,
-                .screen = parts_.screen} {}
+                .screen = parts_.screen},
+      usedFile_(*this, parts_.fileUsed),
+      closing_(*this, *this, parts_.slot) {}
 
 MainWindow::~MainWindow() = default;
 
@@ -137,29 +79,7 @@ std::string_view MainWindow::open(int showCommand) {
 
 void MainWindow::dispatch(MSG& message) {
   focus_.note();
-  if (message.message == WM_MOUSEWHEEL || message.message == WM_MOUSEHWHEEL) {
-    message.hwnd = wheelTarget(handle(), message);
-    if (message.hwnd == nullptr) {
-      return;
-    }
-  }
-  if (editsFocusedText(message)) {
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-    return;
-  }
-  if (TranslateAcceleratorW(handle(), accelerators_.get(), &message) != 0 || pressesButton(message)) {
-    return;
-  }
-  if (isDialogAnswer(message)) {
-    // These keys close a drop-down list. Translated to characters, they would make a text field beep.
-    DispatchMessageW(&message);
-    return;
-  }
-  if (!IsDialogMessageW(handle(), &message)) {
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-  }
+  dispatchMessage(handle(), accelerators_.get(), message);
 }
 
 Rect MainWindow::screenArea() const {
@@ -177,16 +97,8 @@ void MainWindow::showEditor() {
 }
 
 void MainWindow::updateMenus() {
-  const CommandState state = screen_ != nullptr ? screen_->commandState() : CommandState{};
-  const HMENU bar = GetMenu(handle());
-  if (updateItems(bar, mainMenu(), state)) {
-    DrawMenuBar(handle());
-  }
-  updateItems(contextMenus_.get(), contextMenus(), state);
-  for (const HMENU menu : {bar, contextMenus_.get()}) {
-    CheckMenuRadioItem(menu, commandOf(SelectionMode::free), commandOf(SelectionMode::range),
-                       static_cast<UINT>(commandOf(parts_.settings.app.selectionMode)), MF_BYCOMMAND);
-  }
+  showInMenus(handle(), contextMenus_.get(), screen_ != nullptr ? screen_->commandState() : CommandState{},
+              parts_.settings.app.selectionMode);
 }
 
 void MainWindow::showEntryText(const std::string& text) { statusBar_->setText(kCurrentEntryPart, text); }
@@ -196,20 +108,7 @@ void MainWindow::openFile(const std::wstring& name) {
   readPaletteFile(name, parts_.slot, services_);
 }
 
-void MainWindow::documentSaved() { noteUsedFile(); }
-
-void MainWindow::noteUsedFile() {
-  addUsedFile();
-  usedFile_ = document()->getFileName();
-  SetTimer(handle(), kUsedFileTimer, kUsedFileDelay, nullptr);
-}
-
-void MainWindow::addUsedFile() {
-  KillTimer(handle(), kUsedFileTimer);
-  if (const std::wstring name = std::exchange(usedFile_, {}); !name.empty()) {
-    parts_.fileUsed(name);
-  }
-}
+void MainWindow::documentSaved() { usedFile_.note(document()->getFileName()); }
 
 void MainWindow::openContextMenu(std::int32_t menu, Point screenPoint) const {
   TrackPopupMenu(GetSubMenu(contextMenus_.get(), menu), TPM_RIGHTBUTTON, screenPoint.x, screenPoint.y, 0, handle(),
@@ -235,7 +134,7 @@ void MainWindow::documentReplaced() noexcept {
     screen_->documentReplaced();
     updateMenus();
     if (!document()->getFileName().empty()) {
-      noteUsedFile();
+      usedFile_.note(document()->getFileName());
     }
   });
 }
@@ -278,13 +177,13 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       filesDropped(wParam);
       return 0;
     case WM_CLOSE:
-      closeAsked();
+      closing_.close();
       return 0;
-    case kRunEndedMessage:
-      runEnded();
+    case WindowClosing::kRunEnded:
+      closing_.runEnded();
       return 0;
     case WM_TIMER:
-      addUsedFile();
+      usedFile_.passOn();
       return 0;
     default:
       return answerSystem(message, wParam, lParam);
@@ -294,7 +193,7 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
 LRESULT MainWindow::answerSystem(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_QUERYENDSESSION:
-      return maySessionEnd() ? TRUE : FALSE;
+      return closing_.maySessionEnd() ? TRUE : FALSE;
     case WM_ENDSESSION:
       sessionEnds(wParam != FALSE);
       return 0;
@@ -345,7 +244,7 @@ void MainWindow::created() {
 void MainWindow::destroyed() {
   PostQuitMessage(0);
   RemoveClipboardFormatListener(handle());
-  addUsedFile();
+  usedFile_.passOn();
   // Destroy the screen before the document, because its controls may send notifications while they are destroyed.
   screen_.reset();
   parts_.slot.closeDocument();
@@ -417,44 +316,12 @@ void MainWindow::filesDropped(WPARAM wParam) {
   openFile(firstFile(drop));
 }
 
-// An open dialog has to be answered first.
-bool MainWindow::mayClose() { return IsWindowEnabled(handle()) && confirmDiscard(); }
-
-bool MainWindow::maySessionEnd() {
-  if (closesAfterRun_ || document() == nullptr || !document()->isModified()) {
-    return true;
-  }
-  if (IsWindowEnabled(handle()) != 0) {
-    return confirmDiscard();
-  }
-  ShutdownBlockReasonCreate(handle(), L"The palette is not saved. Close the open dialog first.");
-  return false;
-}
-
 // If the session ends, the process ends without further messages.
 void MainWindow::sessionEnds(bool ends) {
   if (ends) {
     saveSettings();
   } else {
-    ShutdownBlockReasonDestroy(handle());
-  }
-}
-
-void MainWindow::closeAsked() {
-  if (closesAfterRun_ || !mayClose()) {
-    return;
-  }
-  if (runIsOn_) {
-    closesAfterRun_ = true;
-  } else {
-    DestroyWindow(handle());
-  }
-}
-
-// Checks the state, because any program may post this message.
-void MainWindow::runEnded() const {
-  if (closesAfterRun_ && !runIsOn_) {
-    DestroyWindow(handle());
+    closing_.sessionGoesOn();
   }
 }
 
@@ -470,16 +337,9 @@ bool MainWindow::confirmDiscard() {
   return confirmed;
 }
 
-void MainWindow::endRun() {
-  runIsOn_ = false;
-  if (closesAfterRun_) {
-    PostMessageW(handle(), kRunEndedMessage, 0, 0);
-  }
-}
-
 bool MainWindow::pumpMessages() {
   MSG message{};
-  while (!closesAfterRun_ && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+  while (!closing_.isWaiting() && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
     if (message.message == WM_QUIT) {
       // Leaves the message to the main loop.
       PostQuitMessage(static_cast<int>(message.wParam));
@@ -487,7 +347,7 @@ bool MainWindow::pumpMessages() {
     }
     dispatch(message);
   }
-  return !closesAfterRun_;
+  return !closing_.isWaiting();
 }
 
 }  // namespace quillhue

@@ -11,12 +11,14 @@
 #include "ui/logic/geometry.h"
 #include "ui/logic/settings_store.h"
 #include "ui/main_ui.h"
+#include "ui/used_file.h"
 #include "ui/win32/custom_window.h"
 #include "ui/win32/dialog_owner.h"
 #include "ui/win32/focus_keeper.h"
 #include "ui/win32/handle.h"
 #include "ui/win32/status_bar.h"
 #include "ui/win32/system.h"
+#include "ui/window_closing.h"
 #include "ui/window_context.h"
 
 namespace quillhue {
@@ -34,7 +36,7 @@ struct WindowParts {
   DialogOwner& dialogOwner;
   WindowServices services;
   /// Called with the name of each palette file that was opened or saved.
-  std::function<void(const std::wstring& name)> fileUsed;
+  UsedFile::Use fileUsed;
 
   using MakeScreen = std::function<std::unique_ptr<MainUI>(WindowContext& context)>;
   MakeScreen makeIntro;
@@ -73,14 +75,11 @@ class MainWindow final : public CustomWindow, public DocumentObserver, private W
   void openContextMenu(std::int32_t menu, Point screenPoint) const override;
   void showEditor() override;
   [[nodiscard]] bool confirmDiscard() override;
-  void beginRun() override { runIsOn_ = true; }
-  void endRun() override;
+  void beginRun() override { closing_.beginRun(); }
+  void endRun() override { closing_.endRun(); }
   [[nodiscard]] bool pumpMessages() override;
 
   [[nodiscard]] PaletteDocument* document() const { return parts_.slot.document(); }
-  /// Remembers the document's file until addUsedFile() hands it on.
-  void noteUsedFile();
-  void addUsedFile();
   void created();
   void destroyed();
   void sized();
@@ -90,11 +89,7 @@ class MainWindow final : public CustomWindow, public DocumentObserver, private W
   void controlNotification(WPARAM wParam, LPARAM lParam);
   [[nodiscard]] static LRESULT staticColors(HDC dc);
   void filesDropped(WPARAM wParam);
-  [[nodiscard]] bool mayClose();
-  [[nodiscard]] bool maySessionEnd();
   void sessionEnds(bool ends);
-  void closeAsked();
-  void runEnded() const;
   void saveSettings();
 
   WindowParts parts_;
@@ -107,9 +102,8 @@ class MainWindow final : public CustomWindow, public DocumentObserver, private W
   // Used by the screens. Set when the window is created.
   std::unique_ptr<WindowContext> context_;
   std::unique_ptr<MainUI> screen_;
-  std::wstring usedFile_;
-  bool runIsOn_ = false;
-  bool closesAfterRun_ = false;
+  UsedFile usedFile_;
+  WindowClosing closing_;
 };
 
 }  // namespace quillhue
