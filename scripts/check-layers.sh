@@ -61,11 +61,21 @@ while IFS=: read -r file line include; do
   [ $fine = yes ] || complain "$file:$line: $layer may not include $path"
 done < <(grep -rnE '^[[:space:]]*#[[:space:]]*include' src --include='*.h' --include='*.cpp')
 
+# forbid HEADERS TEXT FILE...: complains about each of these files that includes a header of ui/ matching HEADERS.
+forbid() {
+  local headers=$1 text=$2 hit
+  shift 2
+  while IFS= read -r hit; do
+    complain "$hit: $text"
+  done < <(grep -rnE "include \"ui/($headers)" --include='*.h' --include='*.cpp' "$@" 2>/dev/null || true)
+}
 # The window is made last, from complete parts. It knows none of its parts, and only the application knows it.
-while IFS= read -r hit; do
-  complain "$hit: the main window takes its parts from the application"
-done < <(grep -nE 'include "ui/(screens|tabs|services|dialogs)/' src/ui/main_window.* src/ui/window_context.h 2>/dev/null || true
-         grep -rn 'include "ui/main_window.h"' src | grep -v '^src/ui/\(application\.h\|main_window\.cpp\):' || true)
+mapfile -t window < <(find src/ui -maxdepth 1 -name '*.*' ! -name 'application.*' ! -name program.cpp 2>/dev/null)
+[ ${#window[@]} = 0 ] || forbid '(screens|tabs|services|dialogs)/' 'the main window takes its parts from the application' "${window[@]}"
+mapfile -t others < <(find src -type f ! -path src/ui/application.h ! -path src/ui/main_window.cpp)
+forbid 'main_window\.h' 'only the application knows the main window' "${others[@]}"
+forbid '(screens|tabs)/|main_ui\.h|window_context\.h' 'dialogs and services take what they need' src/ui/dialogs src/ui/services
+forbid 'screens/|main_ui\.h' 'a tab knows only its context' src/ui/tabs
 while IFS= read -r hit; do
   complain "$hit: the system's headers come by ui/win32/system.h"
 done < <(grep -rnE '#include <.*\.h>' src --include='*.h' --include='*.cpp' | grep '^src/ui/' | grep -v '^src/ui/win32/system.h:' || true)
