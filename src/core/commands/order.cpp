@@ -100,16 +100,16 @@ std::vector<double> deviations(const std::vector<PaletteEntry>& colors, ChannelM
 using Color = const PaletteEntry&;
 
 constexpr std::array<SortKey, 10> kSortKeys{{
-    {"intensity", false, keysBy<[](Color color, ChannelMask mask) { return channelSum(color, mask); }>},
-    {"red", false, keysBy<[](Color color, ChannelMask) { return color.red; }>},
-    {"green", false, keysBy<[](Color color, ChannelMask) { return color.green; }>},
-    {"blue", false, keysBy<[](Color color, ChannelMask) { return color.blue; }>},
-    {"deviation", false, deviations},
-    {"hue", true, keysBy<[](Color color, ChannelMask) { return hsvOf(color).hue; }>},
-    {"saturation", false, keysBy<[](Color color, ChannelMask) { return hsvOf(color).saturation; }>},
-    {"value", false, keysBy<[](Color color, ChannelMask) { return hsvOf(color).value; }>},
-    {"luma", false, keysBy<[](Color color, ChannelMask) { return lumaOf(color); }>},
-    {"oklab-lightness", false, keysBy<[](Color color, ChannelMask) { return oklabOf(color).lightness; }>},
+    {.name = "intensity", .keysOf = keysBy<[](Color color, ChannelMask mask) { return channelSum(color, mask); }>},
+    {.name = "red", .keysOf = keysBy<[](Color color, ChannelMask) { return color.red; }>},
+    {.name = "green", .keysOf = keysBy<[](Color color, ChannelMask) { return color.green; }>},
+    {.name = "blue", .keysOf = keysBy<[](Color color, ChannelMask) { return color.blue; }>},
+    {.name = "deviation", .keysOf = deviations},
+    {.name = "hue", .graysFirst = true, .keysOf = keysBy<[](Color color, ChannelMask) { return hsvOf(color).hue; }>},
+    {.name = "saturation", .keysOf = keysBy<[](Color color, ChannelMask) { return hsvOf(color).saturation; }>},
+    {.name = "value", .keysOf = keysBy<[](Color color, ChannelMask) { return hsvOf(color).value; }>},
+    {.name = "luma", .keysOf = keysBy<[](Color color, ChannelMask) { return lumaOf(color); }>},
+    {.name = "oklab-lightness", .keysOf = keysBy<[](Color color, ChannelMask) { return oklabOf(color).lightness; }>},
 }};
 
 }  // namespace

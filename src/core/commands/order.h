@@ -25,7 +25,7 @@ void sortByChannel(PaletteDocument& document, Channel key, ChannelMask mask);
 struct SortKey {
   std::string_view name;
   /// Whether grays, which have no hue, come first.
-  bool graysFirst;
+  bool graysFirst = false;
   /// Returns the key of each color. `mask` is that of the command.
   std::vector<double> (*keysOf)(const std::vector<PaletteEntry>& colors, ChannelMask mask);
 };
