@@ -15,6 +15,8 @@ from make_samples import blue_first, color, colors, quads, triples
 HERE = pathlib.Path(__file__).parent
 FOLDER = HERE / "standard"
 WIDTH, HEIGHT = 13, 5
+POINTS = [(x, y) for y in range(HEIGHT) for x in range(WIDTH)]
+UPWARD, DOWNWARD = range(HEIGHT - 1, -1, -1), range(HEIGHT)
 lines = []
 
 
@@ -39,26 +41,25 @@ def save(name, content, palette, pixels=None, size=(WIDTH, HEIGHT)):
 
 
 def indexed(palette, count):
-    return [(*palette[index(x, y, count)], 255) for y in range(HEIGHT) for x in range(WIDTH)]
+    return [(*palette[index(x, y, count)], 255) for x, y in POINTS]
+
+
+def packed(values, bits, length):
+    """Returns values of `bits` bits each in `length` bytes, the first value in the highest bits."""
+    return int("".join(f"{value:0{bits}b}" for value in values).ljust(8 * length, "0"), 2).to_bytes(length, "big")
 
 
 def rows(bits, pixel, order):
     """Rows of pixels of up to 32 bits, padded to 4 bytes."""
     result = b""
     for y in order:
+        pixels = [pixel(x, y) for x in range(WIDTH)]
         if bits < 8:
-            stored = 0
-            for x in range(WIDTH):
-                stored = stored << bits | pixel(x, y)
-            length = -(-WIDTH * bits // 8)
-            row = (stored << length * 8 - WIDTH * bits).to_bytes(length, "big")
+            row = packed(pixels, bits, -(-WIDTH * bits // 8))
         else:
-            row = b"".join(pixel(x, y).to_bytes(bits // 8, "little") for x in range(WIDTH))
+            row = b"".join(value.to_bytes(bits // 8, "little") for value in pixels)
         result += row + bytes(-len(row) % 4)
     return result
-
-
-UPWARD, DOWNWARD = range(HEIGHT - 1, -1, -1), range(HEIGHT)
 
 
 def bitmap(bits, pixels, header=40, table=b"", compression=0, used=0, top_down=False, gap=0, masks=()):
@@ -89,15 +90,12 @@ def bitmaps():
         table = quads(blue_first(palette))
         content = bitmap(bits, runs(bits), table=table, used=16, compression=compression)
         save(f"runs-{bits}.bmp", content, palette, indexed(palette, 14))
-    for name, bits, header, masks in (
-        ("555", 16, 40, None),
-        ("565", 16, 52, (0xF800, 0x7E0, 0x1F)),
-        ("24-bit", 24, 108, None),
-        ("32-bit", 32, 40, None),
-        ("4444", 16, 56, (0xF00, 0xF0, 0xF, 0xF000)),
-        ("8888", 32, 124, (0xFF, 0xFF00, 0xFF0000, 0xFF000000)),
-    ):
-        true_color_bitmap(name, bits, header, masks)
+    true_color_bitmap("555", 16, 40)
+    true_color_bitmap("565", 16, 52, (0xF800, 0x7E0, 0x1F))
+    true_color_bitmap("24-bit", 24, 108)
+    true_color_bitmap("32-bit", 32, 40)
+    true_color_bitmap("4444", 16, 56, (0xF00, 0xF0, 0xF, 0xF000))
+    true_color_bitmap("8888", 32, 124, (0xFF, 0xFF00, 0xFF0000, 0xFF000000))
 
 
 def runs(bits):
@@ -116,7 +114,7 @@ def runs(bits):
     return code + b"\0\1"
 
 
-def true_color_bitmap(name, bits, header, masks):
+def true_color_bitmap(name, bits, header, masks=()):
     """Stores each channel in the bits of its mask. A channel of fewer than 8 bits is widened by repeating its bits."""
     fields = masks or ((0x7C00, 0x3E0, 0x1F) if bits == 16 else (0xFF0000, 0xFF00, 0xFF))
     fields = [(mask, (mask & -mask).bit_length() - 1, mask.bit_count()) for mask in fields]
@@ -139,8 +137,8 @@ def true_color_bitmap(name, bits, header, masks):
         # Over black.
         return (*((value * alpha + 127) // 255 for value in values[:3]), 0)
 
-    content = bitmap(bits, rows(bits, pixel, UPWARD), header, compression=3 if masks else 0, masks=masks or ())
-    save(f"{name}.bmp", content, None, [shown(x, y) for y in range(HEIGHT) for x in range(WIDTH)])
+    content = bitmap(bits, rows(bits, pixel, UPWARD), header, compression=3 if masks else 0, masks=masks)
+    save(f"{name}.bmp", content, None, [shown(x, y) for x, y in POINTS])
 
 
 def clipboard():
@@ -161,10 +159,7 @@ def pcx(bits, planes, pixel, header_palette=b"", trailer=b"", version=5):
     content += header_palette.ljust(48, b"\0") + struct.pack("<BBH60x", 0, planes, stride)
     for y in range(HEIGHT):
         for plane in range(planes):
-            row = 0
-            for x in range(WIDTH):
-                row = row << bits | pixel(x, y, plane)
-            for byte in (row << 8 * stride - WIDTH * bits).to_bytes(stride, "big"):
+            for byte in packed([pixel(x, y, plane) for x in range(WIDTH)], bits, stride):
                 content += bytes((0xC1, byte)) if byte >= 0xC0 or byte == 1 else bytes((byte,))
     return content + trailer
 
@@ -180,39 +175,29 @@ def pcx_files():
         content = pcx(bits, planes, lambda x, y, plane: index(x, y, used) >> plane * bits & mask, header, trailer)
         save(f"{bits}x{planes}.pcx", content, palette, indexed(palette, used))
     content = pcx(8, 3, lambda x, y, plane: true_color(x, y)[plane])
-    save("8x3.pcx", content, None, [(*true_color(x, y), 255) for y in range(HEIGHT) for x in range(WIDTH)])
+    save("8x3.pcx", content, None, [(*true_color(x, y), 255) for x, y in POINTS])
     black_and_white = [(0, 0, 0), (255, 255, 255)]
-    content = pcx(1, 1, lambda x, y, plane: index(x, y, 2), version=3)
-    save("mono.pcx", content, black_and_white, indexed(black_and_white, 2))
+    mono = pcx(1, 1, lambda x, y, plane: index(x, y, 2), version=3)
+    save("mono.pcx", mono, black_and_white, indexed(black_and_white, 2))
 
 
 def lzw(pixels, bits):
     """The codes of GIF, with a table that is cleared when it has 60 entries more than pixels."""
     clear = 1 << bits
-    stored, length, table, prefix = [], bits + 1, {}, None
-
-    def put(code):
-        stored.append(f"{code:0{length}b}")
-
-    put(clear)
-    for pixel in pixels:
-        if prefix is None:
-            prefix = pixel
-        elif (prefix, pixel) in table:
+    stored, length, table, prefix = f"{clear:0{bits + 1}b}", bits + 1, {}, pixels[0]
+    for pixel in pixels[1:]:
+        if (prefix, pixel) in table:
             prefix = table[prefix, pixel]
-        else:
-            put(prefix)
-            table[prefix, pixel] = clear + 2 + len(table)
-            if len(table) + clear + 2 > 1 << length:
-                length += 1
-            if len(table) == 60:
-                put(clear)
-                table, length = {}, bits + 1
-            prefix = pixel
-    put(prefix)
-    put(clear + 1)
-    whole = "".join(reversed(stored))
-    data = int(whole, 2).to_bytes(-(-len(whole) // 8), "little")
+            continue
+        stored = f"{prefix:0{length}b}" + stored
+        table[prefix, pixel] = clear + 2 + len(table)
+        length += len(table) + clear + 2 > 1 << length
+        if len(table) == 60:
+            stored = f"{clear:0{length}b}" + stored
+            table, length = {}, bits + 1
+        prefix = pixel
+    stored = f"{clear + 1:0{length}b}{prefix:0{length}b}{stored}"
+    data = int(stored, 2).to_bytes(-(-len(stored) // 8), "little")
     blocks = b"".join(bytes((len(data[at : at + 50]),)) + data[at : at + 50] for at in range(0, len(data), 50))
     return bytes((bits,)) + blocks + b"\0"
 
@@ -220,13 +205,16 @@ def lzw(pixels, bits):
 def gif(name, globals_, locals_, count, bits, place, interlaced=False, transparent=None):
     left, top = place
     canvas = (WIDTH + left + 1, HEIGHT + top + 1)
-    content = b"GIF89a" + struct.pack("<HHBBB", *canvas, (0x80 | globals_.bit_length() - 2) if globals_ else 0, 0, 0)
-    content += triples(colors(globals_))
-    content += b"!\xfe\3abc\0"
+
+    def table_flags(entries):
+        return 0x80 | entries.bit_length() - 2 if entries else 0
+
+    content = b"GIF89a" + struct.pack("<HHBBB", *canvas, table_flags(globals_), 0, 0)
+    content += triples(colors(globals_)) + b"!\xfe\3abc\0"
     if transparent is not None:
         content += struct.pack("<BBBBHBB", 0x21, 0xF9, 4, 1, 0, transparent, 0)
-    flags = (0x80 | locals_.bit_length() - 2 if locals_ else 0) | (0x40 if interlaced else 0)
     local = colors(locals_)[::-1]
+    flags = table_flags(locals_) | (0x40 if interlaced else 0)
     content += struct.pack("<BHHHHB", 0x2C, left, top, WIDTH, HEIGHT, flags) + triples(local)
     order = [0, 4, 2, 1, 3] if interlaced else DOWNWARD
     content += lzw([index(x, y, count) for y in order for x in range(WIDTH)], bits) + b";"
