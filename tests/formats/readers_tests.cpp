@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cctype>
 #include <set>
-#include <sstream>
 
 #include "core/utf8.h"
 #include "formats/image_colors.h"
@@ -73,62 +71,61 @@ std::vector<ColorWord> colorsOf(Bytes content, const std::string& name) {
   return colors;
 }
 
-// The number of lines without title and comments; 0 where a line is refused.
-std::size_t colorsInLines(const std::string& reader, const Bytes& file) {
-  const bool isStrict = reader == "hex" || reader == "paint-net";
-  std::ptrdiff_t count = reader == "gimp" ? -1 : 0;
-  std::istringstream text(std::string(file.begin(), file.end()));
-  for (std::string line; std::getline(text, line);) {
-    // A comment is no longer than this. What follows is a line of its own.
-    constexpr std::size_t kLongestComment = 257;
-    if (reader == "gimp"
-            ? line.starts_with('#') && line.size() <= kLongestComment
-            : reader == "paint-net" && (line.starts_with(';') || line.find_first_not_of(" \r") == std::string::npos)) {
-      continue;
-    }
-    const auto digits = std::ranges::count_if(line, [](unsigned char letter) { return std::isxdigit(letter) != 0; });
-    if (isStrict && digits != 6 && (digits != 8 || reader == "hex")) {
-      return 0;
-    }
-    ++count;
+std::vector<Bytes> cutAtEveryByte(const Bytes& whole) {
+  std::vector<Bytes> cuts;
+  for (std::size_t length = 4; length < whole.size(); ++length) {
+    cuts.emplace_back(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
   }
-  return static_cast<std::size_t>(isStrict ? count : std::max<std::ptrdiff_t>(count, 1));
+  return cuts;
 }
 
-// A file that ends early reads as if zeros followed, or a line end. Where the size counts it gives the first of those
-// colors, as many as cut.txt or the lines say.
+// A file that ends early reads as if zeros followed. If the size counts, the file gives the first of those colors, as
+// many as cut.txt says.
 TEST(Samples, CutAtEveryByteReadAsIfZerosFollowed) {
-  const std::set<std::string> texts{"map", "csv", "gimp", "hex", "paint-net"};
   const auto rules = readTable("cut.txt");
   for (const auto& row : readTable("samples.txt")) {
     const std::string& file = row.at(0);
-    const std::string& reader = row.at(1);
     const Bytes whole = sample(file);
-    for (std::size_t length = 4; length < whole.size(); ++length) {
-      const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
+    for (const Bytes& cut : isText(whole) ? std::vector<Bytes>() : cutAtEveryByte(whole)) {
       std::optional<std::size_t> count;
-      if (texts.contains(reader)) {
-        count = colorsInLines(reader, cut);
-      }
       for (const auto& rule : rules) {
-        if (rule.at(0) == file && length >= std::stoul(rule.at(1))) {
-          count =
-              std::stoul(rule.at(2)) + (length - std::stoul(rule[1])) / std::stoul(rule.at(3)) * std::stoul(rule.at(4));
+        const std::size_t from = std::stoul(rule.at(1));
+        if (rule.at(0) == file && cut.size() >= from) {
+          count = std::stoul(rule.at(2)) + (cut.size() - from) / std::stoul(rule.at(3)) * std::stoul(rule.at(4));
         }
       }
       Bytes padded = cut;
       padded.resize(whole.size() + 1000);
-      if (reader == "hex" || reader == "paint-net") {
-        padded = cut;
-        padded.resize(cut.back() == '\n' ? length : length + 1, '\n');
-      }
       // The black that MS Draw implies comes first only while the file has none.
-      std::vector<ColorWord> expected = colorsOf(reader == "ms-draw" ? whole : padded, file);
+      std::vector<ColorWord> expected = colorsOf(row.at(1) == "ms-draw" ? whole : padded, file);
       expected.resize(std::min(expected.size(), count.value_or(expected.size())));
       const std::vector<ColorWord> colors = colorsOf(cut, file);
-      ASSERT_EQ(colors, expected) << file << ' ' << length;
+      ASSERT_EQ(colors, expected) << file << ' ' << cut.size();
       ASSERT_TRUE(count ? colors.size() == *count : read(cut, file, withChecksum) == read(padded, file, withChecksum))
-          << file << ' ' << length;
+          << file << ' ' << cut.size();
+    }
+  }
+}
+
+// A text that ends early reads as if its last line ended there, or as if the line went on with a zero. The lines before
+// give the same colors as in the whole file, unless the file's header has a count: it gives the missing colors too.
+TEST(Samples, TextsCutAtEveryByteLoseOnlyTheirLastLine) {
+  for (const auto& row : readTable("samples.txt")) {
+    const std::string& file = row.at(0);
+    const Bytes whole = sample(file);
+    const std::vector<ColorWord> all = colorsOf(whole, file);
+    for (const Bytes& cut : isText(whole) ? cutAtEveryByte(whole) : std::vector<Bytes>()) {
+      const std::vector<ColorWord> colors = colorsOf(cut, file);
+      const auto endedBy = [&](char last) {
+        Bytes ended = cut;
+        ended.push_back(static_cast<std::uint8_t>(last));
+        return colorsOf(ended, file);
+      };
+      // The comment of 258 bytes in lines.gpl ends here without a line feed.
+      const bool isLineEnd = cut.back() == '\n' || (file == "lines.gpl" && cut.size() == 360);
+      ASSERT_TRUE(isLineEnd || colors == endedBy('\n') || colors == endedBy('\0')) << file << ' ' << cut.size();
+      const bool isComplete = colors.empty() || colors.size() == all.size();
+      ASSERT_TRUE(isComplete || std::equal(colors.begin(), colors.end() - 1, all.begin())) << file << ' ' << cut.size();
     }
   }
 }

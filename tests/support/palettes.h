@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <span>
 #include <sstream>
@@ -22,6 +23,13 @@ inline std::string hexOf(std::span<const std::uint8_t> bytes) {
     text += "0123456789ABCDEF"[byte % 16];
   }
   return text;
+}
+
+/// Whether the bytes are lines of ASCII text.
+inline bool isText(const Bytes& bytes) {
+  return std::ranges::all_of(bytes, [](std::uint8_t byte) {
+    return (byte >= ' ' && byte <= '~') || byte == '\t' || byte == '\r' || byte == '\n';
+  });
 }
 
 /// "1,2,3 4,5,6" for two entries.

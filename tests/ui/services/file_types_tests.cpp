@@ -8,6 +8,7 @@
 #include "formats/images/image_loaders.h"
 #include "formats/readers/palette_readers.h"
 #include "formats/writers/palette_writers.h"
+#include "pictures/picture_decoder.h"
 #include "ui/services/file_types.h"
 
 namespace quillhue {
@@ -22,9 +23,10 @@ void add(Patterns& patterns, std::string_view list) {
   }
 }
 
-// All patterns of a catalogue, in alphabetical order.
-std::string patternsOf(const auto& catalogue) {
+// Returns all patterns of a catalogue and of a list, in alphabetical order.
+std::string patternsOf(const auto& catalogue, std::string_view others = "") {
   Patterns patterns;
+  add(patterns, others);
   for (const auto* const member : catalogue) {
     add(patterns, member->patterns);
   }
@@ -38,7 +40,8 @@ std::string patternsOf(const auto& catalogue) {
 TEST(FileTypes, AreThoseOfTheCatalogues) {
   EXPECT_EQ(openPaletteTypes().at(0).patterns, patternsOf(paletteReaders()));
   EXPECT_EQ(openImageTypes().at(0).patterns, patternsOf(imageLoaders()));
-  EXPECT_TRUE(openImageTypes().at(1).patterns.starts_with("*.gif;*.heic;*.ico;*.jpeg;*.jpg;*.jxr;*.pam;"));
+  EXPECT_EQ(openImageTypes().at(1).patterns,
+            patternsOf(pictureKinds(), "*.gif;*.heic;*.ico;*.jxr;*.tif;*.tiff;*.webp"));
   const auto saved = savePaletteTypes();
   for (const PaletteWriter* const writer : paletteWriters()) {
     EXPECT_EQ(saved.at(writer->format - 1).text, writer->fileType);
