@@ -15,8 +15,8 @@ fi
 for preset in asan windows; do
   scripts/build.sh "$preset"
 done
-# A Windows program that waits for input until this script ends. Without it Wine's server ends whenever no program is
-# left, and fails what starts at that moment.
+# A Windows program that waits for input until this script ends. Without it, Wine's server ends as soon as no program
+# runs, and a program that starts at that moment fails.
 coproc { timeout 1800 scripts/wine.sh cmd /q >/dev/null 2>&1; }
 # Runs the tests of both builds. The tests of the window mostly wait, so two more than the number of processors run at a
 # time.

@@ -1,5 +1,5 @@
-// Commands and effects over a palette of 1024 selected entries, records included. A record is undone each time, so
-// that the history stays short.
+// Commands and effects on a palette of 1024 selected entries, with their undo records. Each record is undone, so that
+// the history stays short.
 
 #include <benchmark/benchmark.h>
 

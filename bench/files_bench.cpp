@@ -1,5 +1,5 @@
-// Loading images, against a plain read of the same bitmap in blocks of 1 MiB; writing bitmaps; reading palettes. Files
-// are in the system's cache.
+// Loading images, compared with a plain read of the same bitmap in blocks of 1 MiB; writing bitmaps; reading palettes.
+// Files are in the system's cache.
 
 #include <benchmark/benchmark.h>
 
@@ -26,7 +26,8 @@ using namespace quillhue;
 using bench::ImageSize;
 using Bytes = std::vector<std::uint8_t>;
 
-// The indexes of an image, as the low bits of its greens: they change from pixel to pixel as a remapped photo's do.
+// Returns indexes for an image: the low bits of its greens. They change from pixel to pixel like those of a remapped
+// photo.
 Bytes indexesOf(const WorkImage& image) {
   Bytes indexes(image.pixels().size() / 3);
   for (std::size_t i = 0; i < indexes.size(); ++i) {
@@ -36,7 +37,7 @@ Bytes indexesOf(const WorkImage& image) {
 }
 
 Bytes indexedBitmap(ImageSize size, std::int32_t colors) {
-  // The widths used here are multiples of 4: rows need no padding.
+  // The widths used here are multiples of 4, so rows need no padding.
   return composeBitmap({size.width, size.height, indexesOf(bench::photoLikeImage(size))},
                        createGreyscalePalette(colors), {});
 }
@@ -44,7 +45,7 @@ Bytes indexedBitmap(ImageSize size, std::int32_t colors) {
 Bytes bitmap8(ImageSize size) { return indexedBitmap(size, 256); }
 Bytes bitmap4(ImageSize size) { return indexedBitmap(size, 16); }
 
-// Runs as image editors write them, of 8 bits or in three planes of them.
+// Returns a PCX file with runs as image editors write them, with 8 bits or three planes of 8 bits.
 Bytes pcx(ImageSize size, std::size_t planes) {
   const WorkImage& image = bench::photoLikeImage(size);
   const auto width = static_cast<std::size_t>(size.width);
@@ -82,7 +83,7 @@ Bytes pcx(ImageSize size, std::size_t planes) {
 Bytes pcx8(ImageSize size) { return pcx(size, 1); }
 Bytes pcx24(ImageSize size) { return pcx(size, 3); }
 
-// Chunky or in planes, uncompressed. Its size in the form is one of those that are known.
+// Returns an uncompressed LBM file of bytes or planes. Its size in the form is one that the loader accepts.
 Bytes lbm(ImageSize size, std::string_view form) {
   ByteSink sink;
   const auto u16be = [&sink](std::size_t offset, std::int32_t value) {
@@ -117,7 +118,7 @@ struct ImageFile {
   }
 };
 
-// The least that reading pixels costs: into fresh memory of their size.
+// The minimum cost of reading pixels: into new memory of their size.
 void plainRead(benchmark::State& state, const ImageFile& image) {
   constexpr std::size_t kBlock = std::size_t{1} << 20;
   const std::filesystem::path path = toPath(image.write(state));

@@ -1,5 +1,5 @@
-// The distinct colors of a true-color bitmap: the product against the sorted list of all pixels that defines them. Both
-// read the same file. Compare the medians of one run with both sides interleaved:
+// The distinct colors of a true-color bitmap: the product compared with the reference, a sorted list of all pixels.
+// Both read the same file. Compare the medians of one run with both sides interleaved:
 //   --benchmark_repetitions=5 --benchmark_enable_random_interleaving=true --benchmark_report_aggregates_only=true
 
 #include <benchmark/benchmark.h>

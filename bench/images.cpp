@@ -35,7 +35,7 @@ Color scaled(const Color& color, float factor) {
   return {color.red * factor, color.green * factor, color.blue * factor};
 }
 
-// A number from 0 to 1 for each point with whole coordinates, by the finalizer of MurmurHash3 (A. Appleby).
+// Returns a number from 0 to 1 for each point with whole coordinates, with the finalizer of MurmurHash3 (A. Appleby).
 float latticeValue(std::int32_t x, std::int32_t y, std::uint32_t seed) {
   std::uint32_t hash =
       static_cast<std::uint32_t>(x) * 0x9E3779B1U ^ static_cast<std::uint32_t>(y) * 0x85EBCA77U ^ seed * 0xC2B2AE3DU;
@@ -55,8 +55,8 @@ float smoothNoise(float x, float y, std::uint32_t seed) {
              mix(latticeValue(column, row + 1, seed), latticeValue(column + 1, row + 1, seed), across), ease(y - top));
 }
 
-// Octaves that are each twice as fine and half as strong: the roughness of clouds, rock and leaves. From 0 to 1, mostly
-// near the middle.
+// Adds octaves, each twice as fine and half as strong as the one before, like the roughness of clouds, rock and leaves.
+// Returns 0 to 1, mostly near the middle.
 float roughness(float x, float y, int octaves, std::uint32_t seed) {
   float sum = 0;
   float strength = 0.5F;
@@ -68,12 +68,12 @@ float roughness(float x, float y, int octaves, std::uint32_t seed) {
   return sum + strength;
 }
 
-// The same with its extremes more often.
+// The same, but extremes are more frequent.
 float texture(float x, float y, int octaves, std::uint32_t seed) {
   return std::clamp(2 * roughness(x, y, octaves, seed) - 0.5F, 0.0F, 1.0F);
 }
 
-// Coordinates are in heights of the image, from its top left.
+// Coordinates count from the image's top left; 1 is the height of the image.
 Color skyAt(float x, float y) {
   const Color sky = mix({74, 122, 190}, {226, 214, 196}, std::min(1.0F, y * 1.7F));
   const float cloud = std::clamp(3.2F * roughness(2 * x, 5 * y, 6, 10) - 1.5F, 0.0F, 1.0F);
@@ -138,7 +138,7 @@ Color sceneAt(float x, float y) {
 WorkImage makePhotoLike(ImageSize size) {
   WorkImage image(size.width, size.height, std::nullopt);
   std::minstd_rand random(1);
-  // Two dice: small differences are likelier than large ones.
+  // The sum of two dice: small differences are more likely than large ones.
   const auto noise = [&random](std::uint32_t sides) {
     return static_cast<float>(random() / 8 % sides + random() / 8 % sides) - static_cast<float>(sides - 1);
   };
@@ -164,7 +164,7 @@ void store(const Color& color, std::span<std::uint8_t> pixel) {
   }
 }
 
-// Makes an image of the colors that `colorAt` gives for each column and row.
+// Makes an image of the colors that `colorAt` returns for each column and row.
 template <typename ColorAt>
 WorkImage imageOf(ImageSize size, ColorAt colorAt) {
   WorkImage image(size.width, size.height, std::nullopt);

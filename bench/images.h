@@ -23,9 +23,9 @@ inline constexpr ImageSize kSmall{64, 48};
 [[nodiscard]] std::string nameOf(ImageSize size);
 
 /// A landscape, always the same: a sky in a smooth gradient with soft clouds, two ranges of hills with sharp outlines,
-/// a meadow of fine texture with shaded balls of strong colors in it, and over all of it the mild noise of a camera.
-/// Its features grow with the image. At 12.6 megapixels it has about 300,000 different colors, and about one pixel in
-/// 260 equals its left neighbor. Each size is made once.
+/// a meadow of fine texture with shaded balls of strong colors in it, and the mild noise of a camera. Its features grow
+/// with the image. At 12.6 megapixels it has about 300,000 different colors, and about one pixel in 260 equals its left
+/// neighbor. Each size is made once.
 [[nodiscard]] const WorkImage& photoLikeImage(ImageSize size);
 
 /// Gradients without noise. Neighboring pixels differ by little.

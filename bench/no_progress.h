@@ -4,7 +4,7 @@
 
 namespace quillhue::bench {
 
-/// Nobody watches.
+/// Ignores the progress.
 class NoProgress final : public RemapProgress {
   [[nodiscard]] bool rowsDone(std::int32_t /*rows*/, const RemappedImage& /*result*/) override { return true; }
 };

@@ -14,8 +14,8 @@ struct BenchPalette {
   Palette (*create)(ImageSize size);
 };
 
-/// The regular 216 colors; 256 and 16 made of the photo-like image of that size by median cut; and 256 greys, onto
-/// which no color can be dithered, so that errors leave the color cube for good.
+/// The regular 216 colors; 256 and 16 colors made from the photo-like image of this size by median cut; and 256 greys.
+/// No color can be dithered onto the greys, so errors leave the color cube for good.
 [[nodiscard]] const std::array<BenchPalette, 4>& benchPalettes();
 
 }  // namespace quillhue::bench

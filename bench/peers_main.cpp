@@ -1,4 +1,4 @@
-// What scripts/benchmark.sh needs of the product beside its tool:
+// Parts of the product that scripts/benchmark.sh needs in addition to the tool:
 //   quillhue_bench_peers make FOLDER                     images and palettes for all programs
 //   quillhue_bench_peers time IMAGE.bmp PALETTE MODE     CPU seconds of the remapping alone
 //   quillhue_bench_peers judge IMAGE.bmp PALETTE [ANSWER.ppm]
@@ -41,7 +41,7 @@ void save(const std::filesystem::path& file, const Bytes& content) {
   }
 }
 
-// A binary portable pixmap of colors from top left to bottom right.
+// Returns a binary portable pixmap of the colors, from top left to bottom right.
 Bytes pixmapOf(std::size_t width, std::size_t height, const std::vector<PaletteEntry>& colors) {
   const std::string header = "P6\n" + std::to_string(width) + ' ' + std::to_string(height) + "\n255\n";
   Bytes file(header.begin(), header.end());
@@ -80,7 +80,7 @@ void make(const std::filesystem::path& folder) {
     save(folder / (name + ".gpl"), composePaletteFile(palette, kGimpWriter.format, {}).value());
     std::vector<PaletteEntry> colors = entriesOf(palette);
     save(folder / (name + ".ppm"), pixmapOf(colors.size(), 1, colors));
-    // For programs that want 256 entries in a square: the last color repeated is no other color.
+    // For programs that need 256 entries in a square. Repeating the last color adds no color.
     colors.resize(256, colors.back());
     save(folder / (name + "-square.ppm"), pixmapOf(16, 16, colors));
   }
@@ -126,7 +126,7 @@ std::vector<PaletteEntry> ownAnswer(const WorkImage& image, const Palette& palet
   return colors;
 }
 
-// The pixels are the last bytes of a pixmap: its header may be of any length.
+// The pixels are the last bytes of a pixmap, because its header may have any length.
 std::vector<PaletteEntry> loadAnswer(const std::string& file, std::size_t pixels) {
   const auto source = openFile(fromUtf8(file)).value();
   if (source->size() < 3 * pixels) {
@@ -145,8 +145,8 @@ std::int32_t distance(const PaletteEntry& a, const PaletteEntry& b) {
   return square(a.red - b.red) + square(a.green - b.green) + square(a.blue - b.blue);
 }
 
-// An entry that is as near as the nearest is right, whatever its index. A color that the palette has not is wrong,
-// however near.
+// An entry is right if it is as near as the nearest one, whatever its index. A color that is not in the palette is
+// wrong, however near.
 void printFaults(const std::string& imageFile, const std::string& paletteFile, const std::string* answerFile) {
   const WorkImage image = loadFile(imageFile);
   const Palette palette = loadPalette(paletteFile);

@@ -1,5 +1,5 @@
-// Images onto palettes: the product against the literal loops that define the result, both on the same pixels. Names
-// are KIND/SIDE/MODE/PALETTE/SIZE. Compare medians of CPU time with both sides interleaved:
+// Remapping images onto palettes: the product compared with the plain loops that define the result, on the same pixels.
+// Names are KIND/SIDE/MODE/PALETTE/SIZE. Compare medians of CPU time with both sides interleaved:
 //   --benchmark_repetitions=5 --benchmark_enable_random_interleaving=true --benchmark_report_aggregates_only=true
 
 #include <benchmark/benchmark.h>
@@ -54,7 +54,7 @@ void add(const std::string& prefix, const Side& side, const Work& work, const be
         }
       });
   registered->Unit(benchmark::kMillisecond);
-  // Seconds long.
+  // Takes seconds.
   if (&side == &kSides.front() && size.width == bench::kLarge.width) {
     registered->Iterations(1);
   }
@@ -79,7 +79,7 @@ void add(const std::string& prefix, const Side& side, const Work& work, const be
       }
     }
   }
-  // What a run costs before its first pixel.
+  // The cost of a run before its first pixel.
   for (const bench::BenchPalette& palette : palettes) {
     for (const Work& work : {kNearest, kDither}) {
       add("setup", kSides[1], work, palette, bench::noiseImage, kOnePixel);

@@ -1,6 +1,6 @@
-// The input is a sequence of actions on a document and its files: new, open, edit, undo, save, Save As, the question
-// before a palette is discarded, with every answer and with calls that fail. After each one the file has the old or the
-// new palette, and a palette that is not saved is modified.
+// The input is a sequence of actions on a document and its files: new, open, edit, undo, save, Save As and the question
+// before a palette is discarded, with every answer and with failing calls. After each action the file must contain the
+// old or the new palette, and an unsaved palette must be modified.
 
 #include <algorithm>
 #include <array>
@@ -66,7 +66,7 @@ class Documents {
     }
   }
 
-  // The bytes that follow, or an image of true colors made of them.
+  // Returns the next bytes, or a true-color image made from them.
   Bytes anyContent() {
     if (bytes_.upTo(1) == 0) {
       Bytes content(bytes_.next());
@@ -78,7 +78,7 @@ class Documents {
     return bitmapOf(1, 24, colors);
   }
 
-  // Opens a new file, or one that was saved before.
+  // Opens a new file or a file that was saved before.
   void open() {
     const std::wstring name = bytes_.upTo(1) == 0 ? folder_.file("given.pal", anyContent()) : anyName();
     const Palette before = document().getPalette();

@@ -1,6 +1,6 @@
-// The input is the number of entries and their colors, and then steps of the verb edit. A literal model does the same
-// steps on copies of the whole palette; of steps that it does not compute it checks what they may change, and that
-// undoing gives the palette of before.
+// The input is the number of entries, their colors, and steps of the verb edit. A simple model does the same steps on
+// copies of the whole palette. For steps that the model does not compute, it checks that they change only what they
+// may, and that undo restores the previous palette.
 
 #include <algorithm>
 #include <array>
@@ -20,7 +20,7 @@ using namespace quillhue;
 struct Input {
   std::span<const std::uint8_t> bytes;
 
-  // 0 .. count - 1; 0 when no bytes are left.
+  // Returns a number from 0 to count - 1, or 0 if no bytes are left.
   std::int32_t any(std::int32_t count) {
     const std::int32_t value = bytes.empty() ? 0 : bytes.front() % count;
     bytes = bytes.subspan(bytes.empty() ? 0 : 1);
@@ -113,7 +113,7 @@ class Model {
  private:
   static std::size_t at(std::int32_t index) { return static_cast<std::size_t>(index); }
 
-  // False if the step was refused.
+  // Returns false if the step was refused.
   bool run(const std::string& option, const std::string& argument = "") {
     for (const auto& kinds : {cli::selectionSteps(), cli::colorSteps(), cli::documentSteps(), cli::entrySteps()}) {
       const auto kind =
@@ -142,7 +142,7 @@ class Model {
     change(std::move(next));
   }
 
-  // `color` gives the new color of the k-th selected entry.
+  // `color` returns the new color of the k-th selected entry.
   template <typename Color>
   void recolor(const std::string& option, const std::string& argument, Color color,
                std::optional<ChannelMask> mask = {}) {

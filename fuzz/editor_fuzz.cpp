@@ -1,5 +1,5 @@
 // The input is a sequence of gestures in the editor: presses and drags on the grid and on the bars, keys, effects, undo
-// and redo. After each one the state is consistent, and undoing all of them gives the first palette.
+// and redo. After each gesture the state must be consistent, and undoing all of them must restore the first palette.
 
 #include <algorithm>
 #include <array>

@@ -5,12 +5,12 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// The entry that the fuzzer and the replaying main call with one input.
+/// Called by the fuzzer, or by the main that replays files, with one input.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace quillhue {
 
-/// Ends the program when something does not hold, so that the fuzzer keeps the input.
+/// Ends the program if a condition does not hold, so that the fuzzer keeps the input.
 inline void require(bool holds, const char* what) {
   if (!holds) {
     std::fputs(what, stderr);

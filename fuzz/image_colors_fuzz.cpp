@@ -1,4 +1,4 @@
-// The input describes an image of true colors, of which palettes are made. They must be those of the plain method.
+// The input describes a true-color image. Palettes made from it must equal those of the plain method.
 
 #include <vector>
 

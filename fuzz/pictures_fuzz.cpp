@@ -30,7 +30,7 @@ void correctChecksums(std::vector<std::uint8_t>& file) {
   }
 }
 
-// A large image takes its time, whatever is in the file.
+// A large image takes long, whatever the file contains.
 template <typename Header>
 bool isLarge(const Header& header) {
   return header && std::int64_t{header->width} * header->height > kMostPixels;

@@ -1,4 +1,4 @@
-// The input describes a palette and images that are remapped onto it. The results must be those of the literal rules.
+// The input describes a palette and images that are remapped onto it. The results must be those of the reference.
 
 #include <vector>
 

@@ -18,7 +18,7 @@ x86_64-w64-mingw32-strip "$folder"/*.exe "$folder"/tests/*
 cp -r "$packaging/../tests/data" "$folder/data"
 cp -r "$packaging"/../fuzz/{seeds,findings} "$folder/data"
 rm -f "$folder"/data/*.py
-# Windows runs only batch files whose lines end with CR LF as they are meant.
+# Windows runs batch files correctly only if their lines end with CR LF.
 sed 's/$/\r/' "$packaging/run-tests.cmd" >"$folder/run-tests.cmd"
 rm -f "$out/quillhue-$version-tests.zip"
 (cd "$stage" && zip -9 -X -q -r "$out/quillhue-$version-tests.zip" "quillhue-$version-tests")

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# check-format.sh: fails when clang-format would change a file; with --fix it changes them.
+# check-format.sh: fails if clang-format would change a file. With --fix it changes the files.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 mode=(--dry-run --Werror)

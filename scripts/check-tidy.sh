@@ -15,7 +15,7 @@ mkdir -p "$clean"
 common=$({ find src tests fuzz bench -name '*.h' -o -name .clang-tidy | sort | xargs cat .clang-tidy scripts/check-tidy.sh
            cat CMakeLists.txt cmake/house.cmake; clang-tidy-19 --version; } | sha256sum | cut -d' ' -f1)
 
-# check BUILD<tab>FILE: the last line of its output is "done".
+# check BUILD<tab>FILE: checks a file. The last line of its output is "done".
 check() {
   local build file key
   IFS=$'\t' read -r build file <<<"$1"

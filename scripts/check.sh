@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# check.sh: runs all checks that are no tests: format, icons, layers, headers, clang-tidy, and some seconds of fuzzing. A
-# failure does not stop it; its last line counts the failures.
+# check.sh: runs all checks other than tests: format, icons, layers, headers, clang-tidy, and some seconds of fuzzing.
+# It continues after a failure; its last line counts the failures.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"

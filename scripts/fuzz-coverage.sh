@@ -36,7 +36,7 @@ awk -F '[:,]' -v start="$root/$folder/" '
 grep -v ' lines reached, ' "$work/lines" | sort -t : -k 1,1 -k 2,2n | while IFS=: read -r file line; do
   printf '%s:%s: %s\n' "$file" "$line" "$(sed -n "${line}{s/^ *//;p}" "$folder/$file")"
 done
-# A file that no target links has no lines above.
+# A file that no target links has no lines in the output above.
 find "$folder" -name '*.cpp' ! -path '*/windows/*' | sort | while read -r file; do
   grep -qxF "SF:$root/$file" "${reports[@]}" || echo "$file: in no target"
 done

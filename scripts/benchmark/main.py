@@ -13,7 +13,7 @@ import report
 import sides
 
 ROUNDS = 9
-# A side that has used this much CPU time for one work needs no more runs.
+# Once a side has used this much CPU time for a work, it needs no more runs of it.
 ENOUGH_SECONDS = 5
 PALETTES = ["regular-216", "adaptive-256", "adaptive-16"]
 WORKS = [(mode, palette) for mode in ("nearest", "dither") for palette in PALETTES]

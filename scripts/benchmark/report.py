@@ -30,7 +30,7 @@ def ratio(of, to):
 
 
 class Medians:
-    """Medians of the runs of each side."""
+    """The medians of the runs of each side."""
 
     def __init__(self, runs):
         self.runs = {key: found for key, found in runs.items() if found}

@@ -37,7 +37,7 @@ struct DiffOptions {
   bool json = false;
 };
 
-// An entry that is in one palette only, or has another color in the other.
+// An entry that is in only one palette, or has different colors in the two.
 struct Difference {
   std::int32_t index;
   std::array<std::optional<PaletteEntry>, 2> colors;

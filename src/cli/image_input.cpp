@@ -48,7 +48,7 @@ std::expected<WorkImage, std::string> loadPixels(ByteSource& source, const std::
   return std::move(*image);
 }
 
-// Pictures that are no PNG have no partly transparent entries.
+// Only PNG files can have partly transparent entries.
 bool hasPartCoverage(ByteSource& source) {
   if (findPictureKind(source) != &kPngPicture) {
     return false;

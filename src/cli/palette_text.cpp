@@ -10,7 +10,7 @@ namespace quillhue::cli {
 
 namespace {
 
-// The width of " 1023 " and " #RRGGBB ".
+// The width of " 1023 " and " #RRGGBB " together.
 constexpr int kCellWidth = 15;
 
 void showBlocks(const Palette& palette, Console& console) {

@@ -18,8 +18,8 @@ namespace quillhue {
 struct HueAngle {
   explicit HueAngle(std::int32_t hue) : fromStart(hue % 120), toEnd(120 - fromStart) {}
 
-  /// True in the first half of the third. The strongest channel is the primary color at the start of the third in the
-  /// first half, and the one at its end in the second half.
+  /// True in the first half of the third, where the primary color at its start is the strongest channel. In the second
+  /// half, the one at its end is.
   [[nodiscard]] bool isFirstHalf() const { return fromStart < 60; }
 
   /// Degrees from the third's start, 0..119, and to its end, 120..1.

@@ -27,7 +27,7 @@ enum class CommandScope : std::uint8_t {
   paletteTabs,
 };
 
-/// The requirement of a command, in addition to its scope, for having an effect.
+/// The condition under which menus enable a command, in addition to its scope.
 enum class CommandNeed : std::uint8_t {
   nothing,
   undoStep,
@@ -89,7 +89,8 @@ struct Command {
 /// Returns null if no command has the id.
 [[nodiscard]] const Command* findCommand(std::int32_t id);
 
-/// Returns the command of a step of the tool and its argument, if it takes one. Returns null if there is none.
+/// Returns the command of a step of the tool with this argument, or null. `argument` is empty for a step that takes
+/// none.
 [[nodiscard]] const Command* findStep(std::string_view step, std::string_view argument = {});
 /// Returns the possible arguments of a step of the tool, in the order of the table.
 [[nodiscard]] std::vector<std::string> stepArguments(std::string_view step);

@@ -4,8 +4,8 @@
 
 namespace quillhue {
 
-/// Conversions in floating point, for sorting and mixing colors. The color models of the editor are integer ones and
-/// belong to `colormodes`.
+/// Conversions in floating point, for sorting and mixing colors. The editor's color models, in `colormodes`, compute
+/// with integers.
 
 /// The hexcone model of A. R. Smith, "Color Gamut Transform Pairs" (1978).
 struct Hsv {

@@ -93,8 +93,8 @@ class PaletteDocument {
   void recordColor(std::int32_t index);
   void recordColors();
   void recordSelection();
-  /// recordColors in two parts, for a change that has to prepare more before it begins. The palette must have the same
-  /// size in both.
+  /// recordColors in two steps, for a change that prepares more in between. The size of the palette must not change in
+  /// between.
   [[nodiscard]] std::unique_ptr<PaletteDifference> saveColors() const;
   void record(std::unique_ptr<PaletteDifference> saved) noexcept;
   /// Records the palette, then replaces it with its resizedCopy. A size below 1 counts as 1.
@@ -116,7 +116,7 @@ class PaletteDocument {
   void setChannel(std::int32_t index, Channel channel, std::uint8_t value);
   void setSelected(std::int32_t index, std::uint8_t flag);
   friend class DocumentSlot;
-  // Announces nothing yet.
+  // Chooses the constructor that announces nothing.
   struct Silent {};
   PaletteDocument(Silent silent, DocumentContent content, const AppSettings& settings, DocumentObserver& observer);
 

@@ -32,7 +32,7 @@ class ByteSort {
   [[nodiscard]] std::uint32_t keyOf(ColorWord word) const { return word >> shift_ & 0xFF; }
 
   // Leaves each word at most kShort places away from where it belongs. `depth` is how deep quicksort may go.
-  // `areEqual` says that all keys are known to be equal.
+  // If `areEqual`, all keys are known to be equal.
   void sortRoughly(std::span<ColorWord> words, int depth, bool areEqual) const {
     if (words.size() <= kShort) {
       return;
@@ -56,8 +56,8 @@ class ByteSort {
     sortRoughly(words.first(cut), depth - 1, areEqual);
   }
 
-  // Exchanges the first word with the median of the second, the middle and the last one. Which one that is if they are
-  // equal matters.
+  // Exchanges the first word with the median of the second, the middle and the last one. The choice among equal words
+  // affects the result.
   void moveMedianToFront(std::span<ColorWord> words) const {
     ColorWord& second = words[1];
     ColorWord& middle = words[words.size() / 2];
@@ -85,15 +85,15 @@ class ByteSort {
     return differences;
   }
 
-  // The partition of words with equal keys.
+  // Partitions words whose keys are all equal.
   static std::size_t reverse(std::span<ColorWord> words) {
     std::ranges::reverse(words);
     return words.size() / 2;
   }
 
-  // Moves smaller keys than the pivot to the front and greater ones to the back, and returns where the back begins.
-  // Exchanges the first word from the left that is not smaller with the first one from the right that is not greater,
-  // then the next ones, until they meet. Some key on each side stops the search.
+  // Moves keys less than the pivot to the front and greater ones to the back, and returns the start of the back.
+  // Searches from the left for a word that is not less and from the right for one that is not greater, exchanges the
+  // two, and goes on until the searches meet. A key on each side stops the search.
   [[nodiscard]] std::size_t partition(std::span<ColorWord> words, std::uint32_t pivot) const {
     std::size_t left = 0;
     std::size_t right = words.size();
@@ -120,7 +120,7 @@ class ByteSort {
     return meet(words, left, right, pivot);
   }
 
-  // Returns a bit for each word, the lowest for the first: whether its key is less than `limit`.
+  // Returns a bit for each word, the lowest for the first: 1 if its key is less than `limit`.
   [[nodiscard]] std::uint64_t lessThan(std::span<const ColorWord, kBlock> words, std::uint32_t limit) const {
     const __m128i shift = _mm_cvtsi32_si128(static_cast<int>(shift_));
     const __m128i limits = _mm_set1_epi32(static_cast<int>(limit));

@@ -7,10 +7,11 @@
 namespace quillhue {
 
 /// Sorts words by one of their bytes, 0 for the lowest. Leaves words with equal bytes in the same order as std::sort of
-/// libstdc++ does, on which palettes depend, and is faster: few of its branches depend on the words.
+/// libstdc++, because palettes depend on it. It is faster than std::sort, because few of its branches depend on the
+/// words.
 ///
 /// The algorithm is introsort (D. Musser, 1997): quicksort with the median of three words as the pivot down to 16
-/// words, heapsort where that is too deep, and an insertion sort at the end. Words are compared in blocks as in
+/// words, heapsort if that goes too deep, and an insertion sort at the end. Words are compared in blocks as in
 /// BlockQuicksort (S. Edelkamp, A. Weiss, 2016), which exchanges the same pairs as C. A. R. Hoare's partition.
 void sortByByte(std::span<ColorWord> words, unsigned byte);
 

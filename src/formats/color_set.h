@@ -36,7 +36,7 @@ class ColorSet {
     }
   }
 
-  /// Finds the position of a number of the set among all in ascending order. The set must not change meanwhile.
+  /// Finds the position of a number in the set, in ascending order. The set must not change meanwhile.
   class Ranks {
    public:
     explicit Ranks(const ColorSet& set);
@@ -49,7 +49,7 @@ class ColorSet {
 
    private:
     const ColorSet* set_;
-    // How many numbers of the set are lower than those of each word.
+    // For each word, how many numbers of the set are lower than all numbers of the word.
     std::vector<std::uint32_t> before_;
   };
 
@@ -63,7 +63,8 @@ class ColorSet {
     return blockOf_[number / kBlock] * kWords + number / 64 % kWords;
   }
 
-  // For each block of numbers its index among the blocks of words. The first of those stays empty, for all others.
+  // For each block of numbers, the index of its block of words. Blocks without numbers share index 0, whose words stay
+  // empty.
   std::vector<std::uint16_t> blockOf_ = std::vector<std::uint16_t>(kBlocks);
   std::vector<std::uint64_t> words_ = std::vector<std::uint64_t>(kWords);
 };

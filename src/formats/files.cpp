@@ -104,8 +104,7 @@ std::expected<std::unique_ptr<ByteSource>, Failure> readStream(std::istream& str
 
 bool writeFile(std::wstring_view name, std::span<const std::uint8_t> content, FileSystem& files) {
   const std::wstring file(name);
-  // A new file replaces nothing that a power cut could destroy, and flushing each of a thousand new files takes
-  // seconds.
+  // A new file need not be flushed: a power cut can't destroy an old one, and flushing a thousand files takes seconds.
   const bool replaces = files.exists(file);
   auto written = writeInto(files.createReplacement(file), content, replaces);
   if (!written && written.error() == SaveError::notReplaceable) {

@@ -38,7 +38,7 @@ namespace quillhue {
 [[nodiscard]] bool writeFile(std::wstring_view name, std::span<const std::uint8_t> content,
                              FileSystem& files = systemFiles());
 
-/// Returns false only when there is certainly no such file: true also in a folder that can't be searched.
+/// Returns false only if there is certainly no such file. A file in a folder that can't be searched counts as existing.
 [[nodiscard]] bool fileExists(std::wstring_view name);
 
 }  // namespace quillhue

@@ -146,7 +146,7 @@ std::vector<std::uint32_t> ImageColors::sortedPixels() const {
   return pixels;
 }
 
-// Returns the number of pixels of each color that occurs, in order.
+// Returns how many pixels each occurring color has, in the order of the colors.
 std::vector<std::uint32_t> ImageColors::pixelsOfEachColor() const {
   const ColorSet::Ranks ranks(occurring_);
   // One more than needed, in case the file gained a color after the first pass.

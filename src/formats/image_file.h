@@ -12,8 +12,8 @@ namespace quillhue {
 /// Loads images of formats that loadImage does not recognise. Refuses all others with unrecognisedType.
 using LoadOtherImage = std::function<ImageResult(ByteSource& source)>;
 
-/// Replaces `image` with an image file, which `loadOther` is asked for if its format is not recognised. If the file
-/// can't be loaded, shows one error message, keeps the image and returns false.
+/// Loads an image file into `image`. If loadImage does not recognise the format, calls `loadOther`. If the file can't
+/// be loaded, shows one error message, keeps the image and returns false.
 [[nodiscard]] bool loadImageFile(const std::wstring& fileName, std::optional<WorkImage>& image, Messages& messages,
                                  const LoadOtherImage& loadOther = {});
 

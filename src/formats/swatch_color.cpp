@@ -6,7 +6,7 @@ namespace quillhue::swatch {
 
 namespace {
 
-// Also turns NaN into 0.
+// Limits the value to 0..1. NaN becomes 0.
 double clampToUnit(double value) {
   if (!(value > 0)) {
     return 0;

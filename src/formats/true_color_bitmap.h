@@ -25,8 +25,8 @@ using ColorWord = std::uint32_t;
 /// source, which must outlive this object.
 class TrueColorBitmap {
  public:
-  /// Reads the header of a bitmap with one of these three depths. Refuses with imageTooSmall an image that has no pixel
-  /// in the file, and with imageTooLarge one of more than 262144 pixels a side or 268435456 in all.
+  /// Reads the header of a bitmap with one of these three depths. Refuses an image without a pixel in the file with
+  /// imageTooSmall, and one of more than 262144 pixels a side or 268435456 in all with imageTooLarge.
   [[nodiscard]] static std::expected<TrueColorBitmap, Failure> open(ByteSource& source);
 
   /// Counts the pixels of all rows that are at least partly in the file.

@@ -146,7 +146,7 @@ bool matches(PictureBytes start) {
   return start.size() >= 3 && start[0] == 'P' && start[1] >= '1' && start[1] <= '7' && isSpace(start[2]);
 }
 
-// The format that the digit after the P stands for, and the header that follows.
+// The format that the digit after the P means, and the header that follows.
 struct Variant {
   bool isPlain;
   // In a bitmap 1 is black.

@@ -14,7 +14,8 @@ namespace quillhue {
 
 namespace {
 
-// Boxes of so many colors are not worth dividing: their colors are compared with the candidates one by one.
+// Boxes of at most this number of colors are not worth dividing: their colors are compared with the candidates one by
+// one.
 constexpr std::size_t kColorsInLeaf = 8;
 
 PaletteEntry rounded(const Channels<float>& color) {

@@ -15,7 +15,7 @@ namespace quillhue {
 /// Returns the index of the palette entry for each target. Targets may be any numbers up to 2^15.
 using FindEntries = std::function<Lanes(const EightColors& targets)>;
 
-/// What all kinds of dithering are made of: the image, the palette, and the bounds of errors.
+/// The input of all kinds of dithering: the image, the palette, and the bounds of errors.
 struct DitherInput {
   const WorkImage& image;
   std::span<const PaletteEntry> colors;

@@ -15,10 +15,10 @@ struct DitherOptions {
   /// Error diffusion: every second row runs from right to left, with the kernel mirrored.
   bool isSerpentine = false;
   /// Error diffusion: the sum of a pixel and the errors that it gets is clamped to colors, 0 to 255 a channel. Errors
-  /// that no color of the palette can make up for then don't grow, and leave no ghosts.
+  /// that no color of the palette can compensate then don't grow and leave no ghosts.
   bool clampsErrors = false;
-  /// The percentage of errors that is passed on, or of the full amplitude of the matrix: 0 to kFullStrength. 0 makes
-  /// the result that of the mode nearest.
+  /// The percentage of the errors that is passed on, or of the matrix's full amplitude: 0 to kFullStrength. 0 gives the
+  /// same result as the mode nearest.
   std::int32_t strength = kFullStrength;
   /// Ordered dithering: the number of rows and columns of the matrix, 2, 4, 8 or 16.
   std::int32_t matrixSide = 8;

@@ -37,7 +37,7 @@ class ErrorDiffusion {
   ErrorDiffusion() = default;
 };
 
-/// From the first row of `image` on into `result`, which are of the same size.
+/// Remaps from the first row of `image` on into `result`, which has the same size.
 [[nodiscard]] std::unique_ptr<ErrorDiffusion> diffuseErrors(const WorkImage& image, NearestEntry& nearest,
                                                             const std::optional<ErrorDiffusion::Limits>& limits,
                                                             RemappedImage& result);

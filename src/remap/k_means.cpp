@@ -55,7 +55,7 @@ class Clusters {
       if (count-- == 0) {
         break;
       }
-      // Along the channel in which the colors differ most, by their standard deviation.
+      // Moves along the channel in which the colors differ most, by their standard deviation.
       const Channels<double> variances = sums_[place].variances();
       const auto channel = static_cast<std::size_t>(std::ranges::max_element(variances) - variances.begin());
       const auto step = static_cast<float>(std::sqrt(variances[channel]));
@@ -165,7 +165,7 @@ class Clusters {
 
   const ColorTree* tree_;
   std::vector<Channels<float>> centers_;
-  // Of the colors that were nearest to each center in the last round.
+  // The sums over the colors that were nearest to each center in the last round.
   std::vector<ColorSums> sums_;
   // A stack of lists, one for each node on the way from the root.
   std::vector<std::uint32_t> candidates_;

@@ -71,7 +71,7 @@ void KernelDiffusion::remapRow(std::int32_t y) {
   std::ranges::rotate(errors_, errors_.begin() + 1);
 }
 
-// Passes an error on to those neighbors that are inside the image and in the same cell of the grid.
+// Passes an error on to the neighbors that are inside the image and in the same cell of the grid.
 void KernelDiffusion::spread(const Error& error, std::size_t x, std::span<const Share> shares, std::ptrdiff_t step) {
   const auto width = static_cast<std::ptrdiff_t>(errors_[0].size());
   const auto column = static_cast<std::ptrdiff_t>(x);

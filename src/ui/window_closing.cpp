@@ -2,7 +2,7 @@
 
 namespace quillhue {
 
-// An open dialog has to be answered first.
+// The user must answer an open dialog first.
 bool WindowClosing::mayClose() { return IsWindowEnabled(window_.handle()) && frame_.confirmDiscard(); }
 
 void WindowClosing::close() {

@@ -54,10 +54,10 @@ std::string contentsOf(const ScratchFolder& folder) {
   return std::accumulate(files.begin(), files.end(), std::string());
 }
 
-/// What the user has: the open palette with a history, the clipboard, the settings, an image, a file; and the editors
-/// of the tabs. The commands act on it as the editor's screen does.
+/// The user's data: the open palette with a history, the clipboard, the settings, an image, a file. Also the editors of
+/// the tabs. Carries out commands as the editor's screen does.
 struct Program final : RecordingServices, CommandTarget, ChannelView {
-  // The program's window does not throw here either.
+  // Does not throw, like the program's window.
   void titleChanged(const std::wstring& /*title*/) noexcept override {}
   void statusChanged(std::string_view /*text*/) noexcept override {}
   void undoRedoChanged(bool /*canUndo*/, bool /*canRedo*/) noexcept override {}
@@ -110,7 +110,7 @@ struct Program final : RecordingServices, CommandTarget, ChannelView {
   void swap() const { findStep("swap", "rg")->change({.document = document(), .settings = services.settings}); }
   void open(Palette palette) { slot.replaceDocument({.palette = std::move(palette), .isModified = true}, services); }
 
-  // Everything, with all palettes of the history.
+  // Returns all data as text, with all palettes of the history.
   std::string state() {
     std::ostringstream text;
     text << document().modificationCount() << ' ' << document().saveCount() << ' ' << document().getFormat() << ' '
@@ -149,7 +149,7 @@ struct Program final : RecordingServices, CommandTarget, ChannelView {
   std::optional<WorkImage> image;
   RemappedImage result;
   std::string output;
-  // They need a document.
+  // The editors need a document.
   const bool hasDocument = (open(variedPalette(1)), true);
   EffectEditor effects{slot, settings, *this};
   ChannelEditor channels{slot, settings, *this};
@@ -158,7 +158,7 @@ struct Program final : RecordingServices, CommandTarget, ChannelView {
 
 using Action = std::function<void(Program& program)>;
 
-// Lets each allocation of the action fail, one after the other: alone, and with all that follow.
+// Lets each allocation of the action fail in turn: that one alone, and that one with all later ones.
 void expectSafe(const std::string& name, const Action& act, const Action& prepare = [](Program&) {}) {
   SCOPED_TRACE(name);
   const auto prepared = [&] {
@@ -357,7 +357,7 @@ struct ToolRun {
   std::string files;
 };
 
-// One message, apart from notes, and no file that is new or changed.
+// Expects one message, apart from notes, and no new or changed file.
 TEST(Allocations, FailInTheTool) {
   const std::vector<std::vector<std::string>> calls{
       {"info", "--quiet", "samples/lines.gpl", "--json"},

@@ -7,7 +7,7 @@ namespace quillhue {
 /// Lets allocations of this program fail, from its construction to its destruction.
 class FailingAllocations {
  public:
-  /// The allocation with the number `at` fails, counting from 0. If `lasting`, all later ones fail too.
+  /// Lets allocation number `at` fail, counting from 0. If `lasting`, all later ones fail too.
   FailingAllocations(int at, bool lasting);
   FailingAllocations(const FailingAllocations&) = delete;
   FailingAllocations& operator=(const FailingAllocations&) = delete;
@@ -16,7 +16,7 @@ class FailingAllocations {
   [[nodiscard]] static bool hasFailed();
 };
 
-/// Measures the memory that the program allocates beyond what it had at the construction.
+/// Measures how much memory the program allocates after the construction.
 class PeakMemory {
  public:
   PeakMemory();

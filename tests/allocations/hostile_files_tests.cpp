@@ -22,7 +22,7 @@
 namespace quillhue {
 namespace {
 
-/// A file in memory that counts the bytes read from it, which stand for the time.
+/// A file in memory that counts the bytes read from it, as a measure of time.
 class CountingSource final : public ByteSource {
  public:
   explicit CountingSource(const Bytes& content) : ByteSource(content.size()), content_(content) {}
@@ -40,8 +40,8 @@ class CountingSource final : public ByteSource {
   std::uint64_t read_ = 0;
 };
 
-// Calls `check` with each sample's name and its content, with numbers of the header replaced by the largest ones and by
-// small ones, and bytes behind it that claim as much again.
+// Calls `check` with each sample's name and content. Replaces numbers of the header by the largest and by small ones,
+// and appends bytes that claim the same sizes.
 template <typename Check>
 void forEachHostileFile(Check check) {
   constexpr std::size_t kHeader = 72;
@@ -82,7 +82,7 @@ TEST(HostileFiles, StayWithinTheBoundsOfReaders) {
     CountingSource source(file);
     const ReaderInput input{source, name};
     readWithinBounds(findPaletteReader(input), kMaxReaderMemory, name, file);
-    // Images are loaded before a palette is made of them.
+    // An image is loaded before a palette is made from it.
     const bool isImage = findStandardLoader(source) != nullptr;
     readWithinBounds(findStandardReader(input),
                      isImage ? kMaxStandardPixelBytes * kMaxImagePixels + kMaxLoaderMemory : kMaxReaderMemory, name,
@@ -90,7 +90,7 @@ TEST(HostileFiles, StayWithinTheBoundsOfReaders) {
   });
 }
 
-// The memory of an image's pixels that was written, and not only promised by the system.
+// Returns how much of the pixels' memory was written and not only promised by the system.
 std::size_t touchedBytes(std::span<const std::uint8_t> pixels) {
   const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
   const auto first = reinterpret_cast<std::uintptr_t>(pixels.data()) / page * page;
@@ -101,7 +101,7 @@ std::size_t touchedBytes(std::span<const std::uint8_t> pixels) {
          page;
 }
 
-// Returns how many bytes of pixels each byte of the file has made.
+// Returns how many bytes of pixels result from each byte of the file.
 std::uint64_t loadWithinBounds(const Bytes& file) {
   CountingSource source(file);
   const PeakMemory memory;
@@ -135,7 +135,7 @@ TEST(HostileFiles, StayWithinTheBoundsOfLoaders) {
     loadWithinBounds(file);
     loadStandardWithinBounds(file);
   });
-  // The largest image of nothing but the longest runs, in bytes and in planes.
+  // The largest image, made of the longest runs only, in bytes and in planes.
   for (const char* form : {"PBM ", "ILBM"}) {
     Bytes file = bytesOf("FORM....");
     for (const std::string& part :

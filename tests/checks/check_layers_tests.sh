@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# Puts lines of each kind into a tree of accepted and one of rejected files, a line a file, and expects the check to name
-# all rejected files and nothing else.
+# Makes a tree of files to be accepted and one of files to be rejected, each with one line. Expects the check to name
+# all files of the second tree and none of the first.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 check=$here/../../scripts/check-layers.sh
 tree=$(mktemp -d)
 trap 'rm -rf "$tree"' EXIT
 
-# add VERDICT FILE LINE: numbers a file that is named a.
+# add VERDICT FILE LINE: adds a file. Files named a get a number.
 count=0
 add() {
   local file=$tree/$1/${2/\/a./\/a$((count += 1)).}

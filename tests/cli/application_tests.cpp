@@ -66,7 +66,7 @@ TEST(Tool, AnswersEachCall) {
     EXPECT_EQ(answer.status, std::stoi(row.at(1))) << row[0];
     EXPECT_EQ(withSlashes(answer.out).substr(0, out.size()), out) << row[0];
     EXPECT_EQ(withSlashes(answer.err).substr(0, err.size()), err) << row[0];
-    // Nothing is said where nothing is expected.
+    // If no message is expected, there must be none.
     EXPECT_EQ(err.empty() && answer.status != 2, answer.err.empty()) << row[0] << ": " << answer.err;
     EXPECT_TRUE(answer.status != 2 || answer.out.empty()) << row[0] << ": " << answer.out;
   }
@@ -91,7 +91,7 @@ TEST(Tool, UsesTheColorsThatATerminalHas) {
             "-: MAP palette, 1 entry\n    0 \x1b[48;5;16;38;5;231m #010203 \x1b[0m\n");
   EXPECT_EQ(call({"info", "-", "--name", "x.map", "--color", "never"}, TerminalColors::direct).out,
             call({"info", "-", "--name", "x.map"}).out);
-  // Nearest in the cube, and a gray that is nearer than its cube.
+  // The nearest color of the cube, and a gray that is nearer than any color of the cube.
   EXPECT_EQ(indexedColorOf({255, 128, 0}), 16 + 36 * 5 + 6 * 2);
   EXPECT_EQ(indexedColorOf({80, 81, 79}), 232 + 7);
   EXPECT_EQ(terminalColorsOf("xterm-256color", ""), TerminalColors::indexed);

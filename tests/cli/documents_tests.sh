@@ -65,7 +65,7 @@ done
 
 # shellcheck disable=SC1090
 source "$bash"
-# completes WANTED WORD...: what bash offers for the last word.
+# completes WANTED WORD...: expects bash to offer WANTED for the last word.
 completes() {
   local wanted=$1
   shift

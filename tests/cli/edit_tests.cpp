@@ -10,7 +10,7 @@
 namespace quillhue::cli {
 namespace {
 
-// The edited palette as JSON, or what was refused.
+// The edited palette as JSON, or the refusal.
 struct Edited {
   int status;
   std::string json;
@@ -33,7 +33,7 @@ Edited edit(std::string palette, const std::string& steps, const ScratchFolder& 
   return {status, data.str(), err.str()};
 }
 
-// "[1,2,3],[4,5,6]" for "1,2,3 4,5,6".
+// Returns "[1,2,3],[4,5,6]" for "1,2,3 4,5,6".
 std::string arraysOf(std::string palette) {
   for (auto at = palette.find(' '); at != std::string::npos; at = palette.find(' ', at)) {
     palette.replace(at, 1, "],[");

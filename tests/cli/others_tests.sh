@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# others_tests.sh PROGRAM: reads images that other programs write, as far as they are installed, with --standard, and
-# compares the pixels with what ImageMagick reads.
+# others_tests.sh PROGRAM: reads images that other programs write with --standard, and compares the pixels with those
+# that ImageMagick reads. Skips programs that are not installed.
 set -euo pipefail
 tool=$1
 convert -version 2>/dev/null | grep -q ImageMagick && command -v compare >/dev/null || exit 77
@@ -9,7 +9,7 @@ trap 'rm -rf "$work"' EXIT
 cd "$work"
 
 checked=0
-# check FILE: an image of at most 256 colors.
+# check FILE: checks an image of at most 256 colors.
 check() {
   "$tool" convert --standard --quiet --force --colors exact "$1" colors.gpl
   "$tool" remap --standard --force "$1" colors.gpl out.png

@@ -12,7 +12,7 @@ cd "$work"
 
 quillhue-cli() { "${tool[@]}" "$@"; }
 
-# entry FILE N: its color, as info shows it.
+# entry FILE N: prints the entry's color as info shows it.
 entry() { quillhue-cli info "$1" | tr -d '\r' | awk -v n="$2" '$1 == n && NF == 5 { print $3, $4, $5 }'; }
 expect() {
   [ "$2" = "$3" ] || { echo "$1: '$2' instead of '$3'" >&2; exit 1; }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# saving_tests.sh PROGRAM: lets quillhue-cli save over files and in folders with all kinds of rights, by links and on a
-# full disk. Root may do everything, so nobody takes its place.
+# saving_tests.sh PROGRAM: lets quillhue-cli save over files and in folders with different rights, through links and on
+# a full disk. Root may do everything, so the user nobody runs the tool.
 set -euo pipefail
 nobody=65534:65534
 as_nobody=(setpriv --reuid=65534 --regid=65534 --clear-groups)
@@ -16,7 +16,8 @@ fail() {
   exit 1
 }
 
-# The greatest file in KiB; mode of the folder, mode and owner of the file; how it is saved, and its mode then.
+# Maximum file size in KiB; mode of the folder; mode and owner of the file; the expected way of saving, and the mode
+# afterwards.
 while read -r limit folder_mode mode owner wanted; do
   [ "$(id -u)" -eq 0 ] || [ "$owner" = "$nobody" ] || continue
   mkdir folder
@@ -49,7 +50,7 @@ done <<END
 1 555 644 $nobody refused 644
 END
 
-# By links of each kind; in the deepest folder that the system takes.
+# Through links of each kind, and in the deepest folder that the system allows.
 mkdir folder
 echo old >file
 [ "$(id -u)" -ne 0 ] || chown 1234:1235 file

@@ -12,12 +12,12 @@
 namespace quillhue {
 namespace {
 
-// Controls that show what they are told. Edit fields also report that like a change by the user.
+// Controls that show the numbers they get. Edit fields also report this as a change by the user.
 class Controls : public ChannelView {
  public:
   ChannelEditor* reportTo = nullptr;
   std::array<std::int32_t, 3> shown{};
-  // The last one.
+  // The entry repainted last.
   std::string repainted;
 
   void showChannel(Bar bar, const ValueRange& range, std::int32_t value) override {
@@ -50,7 +50,7 @@ class ChannelEditorTest : public testing::Test, public ColorChooser {
     editor->refreshValues();
   }
 
-  // Performs the words one by one. After each, bars and controls have to agree with the numbers.
+  // Performs the words one by one. After each, bars and controls must agree with the numbers.
   void perform(const std::string& script) {
     std::istringstream words(script);
     for (std::string word; words >> word;) {
@@ -145,7 +145,7 @@ TEST_F(ChannelEditorTest, TheChooserOffersTheGroupOfSixteen) {
   EXPECT_EQ(offered,
             "18,200,119: 17,200,112 18,200,119 9,9,9 9,9,9 9,9,9 9,9,9 9,9,9 9,9,9 9,9,9 9,9,9 9,9,9 9,9,9 "
             "9,9,9 9,9,9 9,9,9 9,9,9");
-  // Cancelled, but a step.
+  // Canceled, but still a step.
   EXPECT_EQ(slot.document()->modificationCount(), 1);
   EXPECT_EQ(controls.repainted, "17");
   chosen = {1, 1, 1};

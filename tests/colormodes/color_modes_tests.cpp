@@ -88,7 +88,7 @@ TEST_F(ColorModesTest, SettersBuildTheOtherBars) {
       const auto before = mode->bar(set);
       mode->setValue(set, 77);
       EXPECT_EQ(mode->bar(set), before) << index;
-      // A bar tells what its channel would make of the entry.
+      // A bar shows the colors that its channel would give the entry.
       for (const Bar other : kBars) {
         const auto [minimum, maximum] = mode->channelRange(other);
         const PaletteEntry shown = mode->bar(other)[201];
@@ -122,7 +122,7 @@ TEST_F(ColorModesTest, SettersWriteNothingIntoALockedDocumentOrPastItsEnd) {
   EXPECT_EQ(mode->bar(Bar::right)[7], (PaletteEntry{9, 2, 7}));
 }
 
-// The exact models have no numbers of their own.
+// The exact models keep no numbers.
 TEST_F(ColorModesTest, RgbAndCmyReadTheEntryAsItIs) {
   for (const auto& [index, expected] : {std::pair{4, "7 50 60"}, {0, "7 205 195"}}) {
     open(index, {1, 2, 3});

@@ -9,8 +9,7 @@
 namespace quillhue {
 namespace {
 
-// The effects of the commands on colors, selection and history are tested through the tool, where a line is a
-// test.
+// edit.txt tests what the commands do with colors, selection and history.
 class CommandsTest : public testing::Test {
  protected:
   RecordingServices fakes;

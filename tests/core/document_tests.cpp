@@ -38,7 +38,7 @@ TEST_F(PaletteDocumentTest, ReplacingAnnouncesEverythingInOrder) {
   EXPECT_FALSE(replace(createPalette(1)).isModified());
   EXPECT_EQ(fakes.takeLines(), "title: Quillhue - Untitled\nstatus: 1 entry\nundo/redo: no/no\ndocument replaced\n");
   EXPECT_EQ(slot.document()->getFileName(), L"\\Untitled");
-  // The same title again: every document sets it.
+  // The title is the same, but every document announces it.
   EXPECT_TRUE(replace(createPalette(2), true).isModified());
   EXPECT_EQ(fakes.takeLines(), "title: Quillhue - Untitled\nstatus: 2 entries\nundo/redo: no/no\ndocument replaced\n");
 }
@@ -91,7 +91,8 @@ TEST(Utf8, ConvertsTextAndCarriesOtherBytesThrough) {
   EXPECT_EQ(fromUtf8("a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x8E\xA8!"), L"a\u00E9\u20AC\U0001F3A8!");
   EXPECT_EQ(fromUtf8("\xFFy"), L"\xDCFFy");
   EXPECT_NE(toUtf8(L"\xDC2F"), "/");
-  // The same, lone continuation and lead bytes, a cut sequence, overlong forms, a surrogate, past the last code.
+  // Valid text; lone continuation and lead bytes; a truncated sequence; overlong forms; a surrogate; a code above the
+  // last one.
   for (const std::string bytes : {"a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x8E\xA8!", "\x80", "x\xFFy", "\xE2\x82", "\xC0\x80",
                                   "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF8\x88", "\xC3\xC3\xA9"}) {
     EXPECT_EQ(toUtf8(fromUtf8(bytes)), bytes);

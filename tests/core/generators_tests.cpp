@@ -13,7 +13,7 @@
 namespace quillhue {
 namespace {
 
-// Entries `first` to `last` as text.
+// Returns entries `first` to `last` as text.
 std::string part(const Palette& palette, std::size_t first, std::size_t last) {
   const std::vector<PaletteEntry> entries = entriesOf(palette);
   return show(paletteOf(std::span(entries).subspan(first, last - first + 1)));

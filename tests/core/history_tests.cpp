@@ -55,7 +55,7 @@ TEST(EditHistory, RestoresWholePalettes) {
     document.redo();
   }
   EXPECT_EQ(document.getPalette(), edited);
-  // Steps of several sizes are discarded, and the palette does not notice.
+  // Discarding steps of several sizes does not change the palette.
   for (int i = 0; i < 4; ++i) {
     document.undo();
   }
@@ -65,7 +65,8 @@ TEST(EditHistory, RestoresWholePalettes) {
   EXPECT_EQ(document.getPalette(), createPalette(8));
 }
 
-// Depth must cost neither stack nor quadratic time; recursion over a million records overflows any stack.
+// A deep history must need neither a deep stack nor quadratic time. Recursion over a million records would overflow any
+// stack.
 TEST(EditHistory, HoldsAMillionSteps) {
   constexpr std::int32_t kSteps = 1'000'000;
   const auto stateOf = [](std::int32_t step) { return PaletteEntry{static_cast<std::uint8_t>(step % 251), 0, 0}; };
@@ -85,7 +86,7 @@ TEST(EditHistory, HoldsAMillionSteps) {
     ASSERT_EQ(palette.entry(0), stateOf(step));
   }
   EXPECT_FALSE(history->canRedo());
-  // A third of them is discarded by a new step, and at the end a third on either stack.
+  // A new step discards a third of them. At the end, each stack has a third.
   const auto undoThird = [&] {
     for (std::int32_t step = 0; step < kSteps / 3; ++step) {
       history->undo(palette);

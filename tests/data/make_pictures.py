@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the files of pictures/: one small image of each kind that differs for a decoder. Needs python3-pil for JPEG."""
+"""Makes the files of pictures/: one small image of each kind that a decoder treats differently. Needs python3-pil for JPEG."""
 
 import pathlib
 import struct

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Makes one small file of every layout in samples/, and samples.txt, which tells what each of them holds.
+"""Makes one small file of every layout in samples/, and samples.txt, which lists their content.
 
-A line of samples.txt: file, reader, then format code, number of entries and the Adler-32 checksum of their red, green and
-blue bytes, or for an image of true colors the number of different colors, and the bytes of the signature.
+A line of samples.txt: file; reader; format code, number of entries and the Adler-32 checksum of their red, green and blue
+bytes or, for a true-color image, the number of different colors; indexes of the signature's bytes among the first four.
 """
 
 import pathlib
@@ -11,14 +11,14 @@ import zlib
 
 HERE = pathlib.Path(__file__).parent
 SAMPLES = HERE / "samples"
-# The bytes among the first four that a file of these readers needs. The others need all four.
+# For these readers, the bytes among the first four that decide. For all others, all four decide.
 SIGNATURES = {"bmp": "01", "clp": "01", "ms-draw": "023", "pcx": "012", "map": "", "csv": "", "act": "", "raw": "",
               "tga": "0", "hex": "", "aco": "01"}
 lines = []
 
 
 def color(i):
-    """Neither black nor ever twice among 256."""
+    """Returns color `i`. The first 256 differ, and none is black."""
     return ((i * 37 + 11) % 256, (i * 101 + 60) % 256, (i * 13 + 200) % 256)
 
 
@@ -61,7 +61,7 @@ def text_formats():
         head = end.join(["JASC-PAL", "0100", str(len(few)), ""]).encode()
         save(name, head + numbers(few, " ", end), "jasc", 7, few)
     lines_of_gimp = b"#\n" + numbers(few[:6], "\t ", "\n") + b"# " + b"x" * 256 + b"\n  7   8 9  Name\n"
-    # The comment's line feed is out of sight, so that its last character begins an entry.
+    # The comment's line feed is past the searched part, so its last character begins an entry.
     gimp = few[:6] + [(0, 0, 0), (7, 8, 9)]
     save("lines.gpl", b"GIMP Palette\nName: sample\n" + lines_of_gimp, "gimp", 22, [(0, 0, 0)] + gimp)
     save("lines.map", numbers(few, " ", "\r\n"), "map", 8, few)
@@ -71,7 +71,7 @@ def text_formats():
 def fixed_formats():
     full = colors(256)
     few = colors(20)
-    # The data size as our own writer has it: 8 more than the entries take.
+    # The data size as our own writer stores it: 8 more than the size of the entries.
     riff = b"RIFF" + struct.pack("<I8sIHH", 4 * 20 + 20, b"PAL data", 4 * 20 + 8, 0x300, 20)
     save("counts-8.pal", riff + quads(few) + bytes(5), "riff", 10, few)
     save("small-table.pal", b"\0\3\0\1" + quads(full[:16]), "color-table", 3, full[:16])
@@ -134,7 +134,7 @@ def clipboard_formats():
     palette = struct.pack("<HH", 0x300, len(few)) + quads(few, 1)
     bitmap = struct.pack("<IiiHH24x", 40, 1, 1, 1, 4) + quads(blue_first(few))
     after = 4 + 2 * 89
-    # A bitmap stands first in both, and in the second a palette of no entries that is passed over.
+    # Both begin with a bitmap. The second also has a palette without entries, which the reader skips.
     save("palette.clp", directory((8, after), (9, after + len(bitmap))) + bitmap + palette, "clp", 27, few)
     save("bitmap.clp", directory((8, after), (9, after + len(bitmap))) + bitmap + bytes(4), "clp", 0, few)
 
@@ -147,13 +147,13 @@ def true_color_images():
 
     distinct = len({(x * y) % 23 for x in range(13) for y in range(11)})
     rgb = pixels(13, 11, lambda i: bytes(color(i)))
-    # Only the low byte of the pixels' offset (0x136) counts, and the first row may be the upper one.
+    # Only the low byte of the pixels' offset (0x136) counts. The rows run from top to bottom.
     save_image("24-bit.bmp", bitmap_info(13, -11, 24, 54)[:11] + b"\1" + bitmap_info(13, -11, 24, 54)[12:] + rgb, distinct)
     words = pixels(13, 11, lambda i: struct.pack("<H", i * 1321))
     save_image("16-bit.bmp", bitmap_info(13, 11, 16, 54) + words, distinct)
     opaque = pixels(13, 11, lambda i: bytes(color(i)) + b"\xff")
     save_image("opaque.bmp", bitmap_info(13, 11, 32, 54) + opaque, distinct)
-    # Half of the colors occur with two fourth bytes.
+    # Half of the colors occur with two different fourth bytes.
     alpha = pixels(13, 11, lambda i: bytes(color(i // 2)) + bytes([i % 2]))
     save_image("alpha.bmp", bitmap_info(13, 11, 32, 54) + alpha, distinct)
 
@@ -164,7 +164,7 @@ def web_formats():
     save("lines.hex", ("\r\n".join(digits[:6]) + "\n#" + "\n#".join(digits[6:]).upper()).encode(), "hex", 0, few)
     paint = ["; Paint.NET Palette File", "; x", "", *("7f" + line.upper() for line in digits[:11]), " " + digits[11]]
     save("lines.txt", "\r\n".join(paint).encode(), "paint-net", 0, few)
-    # Swatches of one color in every model, with the colors that they are by the formulas of each.
+    # One swatch in each model, and the colors that result from its formula.
     models = [(255, 128, 0), (64, 64, 64), (0, 128, 255), (60, 38, 30), (255, 0, 0), (255, 255, 255)]
     lab = [(54.2917, 80.8125, 69.8851), (100, 0, 0)]
 

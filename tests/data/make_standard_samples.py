@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Makes small files in standard/ that follow the published descriptions of their formats where the samples in samples/
-do not, and standard.txt, which says what they hold.
+"""Makes small files in standard/ that use features of the published descriptions which the samples in samples/ lack, and
+standard.txt, which lists their content.
 
-A line of standard.txt: file; the number of entries of its palette and their Adler-32 checksum, or "image"; and for a file
-that remap reads its width, height and the checksum of its pixels: red, green, blue, and 0 for a transparent one or 255.
+A line of standard.txt: file; number of entries of its palette and their Adler-32 checksum, or "image"; and for a file that
+remap reads, its width, height and the checksum of its pixels: red, green, blue, and 0 for transparent, otherwise 255.
 """
 
 import pathlib
@@ -21,7 +21,7 @@ lines = []
 
 
 def index(x, y, count):
-    """The picture in all indexed files, with runs, single pixels and a row of zeros."""
+    """Returns a pixel of the picture in all indexed files. It has runs, single pixels and a row of zeros."""
     return 0 if y == 2 else (x // 4 + 3 * y + (x == 7)) % count
 
 
@@ -50,7 +50,7 @@ def packed(values, bits, length):
 
 
 def rows(bits, pixel, order):
-    """Rows of pixels of up to 32 bits, padded to 4 bytes."""
+    """Returns rows of pixels of up to 32 bits, padded to 4 bytes."""
     result = b""
     for y in order:
         pixels = [pixel(x, y) for x in range(WIDTH)]
@@ -99,7 +99,7 @@ def bitmaps():
 
 
 def runs(bits):
-    """The picture compressed: runs, literals with padding, and a skipped row."""
+    """Returns the picture compressed, with runs, literals with padding, and a skipped row."""
     code = b""
     for y in UPWARD:
         row = [index(x, y, 14) for x in range(WIDTH)]
@@ -134,7 +134,7 @@ def true_color_bitmap(name, bits, header, masks=()):
         alpha = values[3] if len(fields) == 4 else 255
         if alpha >= 128:
             return (*values[:3], 255)
-        # Over black.
+        # Blended with black.
         return (*((value * alpha + 127) // 255 for value in values[:3]), 0)
 
     content = bitmap(bits, rows(bits, pixel, UPWARD), header, compression=3 if masks else 0, masks=masks)
@@ -145,7 +145,7 @@ def clipboard():
     few = colors(20)
     pixels = rows(8, lambda x, y: index(x, y, 20), UPWARD)
     item = bitmap(8, pixels, table=quads(blue_first(few)), used=20)[14:]
-    # The palette is read as from any clipboard file: 256 entries of 40 bytes behind the header's start.
+    # The palette is read as from any clipboard file: 256 entries, 40 bytes after the start of the header.
     content = struct.pack("<HHHII79x", 0xC350, 1, 8, len(item), 93) + item
     content += bytes(max(0, 133 + 1024 - len(content)))
     entries = [(content[at + 2], content[at + 1], content[at]) for at in range(133, 133 + 1024, 4)]
@@ -153,7 +153,7 @@ def clipboard():
 
 
 def pcx(bits, planes, pixel, header_palette=b"", trailer=b"", version=5):
-    """Rows padded to 6 bytes more than they need; the corner is not at 0."""
+    """Returns a file whose rows have 6 bytes more than they need, and whose corner is not at 0."""
     stride = -(-WIDTH * bits // 8) + 6
     content = struct.pack("<4B6H", 10, version, 1, bits, 3, 4, 3 + WIDTH - 1, 4 + HEIGHT - 1, 72, 72)
     content += header_palette.ljust(48, b"\0") + struct.pack("<BBH60x", 0, planes, stride)
@@ -182,7 +182,7 @@ def pcx_files():
 
 
 def lzw(pixels, bits):
-    """The codes of GIF, with a table that is cleared when it has 60 entries more than pixels."""
+    """Returns pixels compressed as in GIF. Clears the table whenever it has 60 entries of its own."""
     clear = 1 << bits
     stored, length, table, prefix = f"{clear:0{bits + 1}b}", bits + 1, {}, pixels[0]
     for pixel in pixels[1:]:

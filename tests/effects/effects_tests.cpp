@@ -20,7 +20,7 @@ constexpr std::int32_t kRotate = 12;
 constexpr std::int32_t kPaste = 13;
 constexpr std::int32_t kTwist = 14;
 
-// The colors that effects make are tested through the tool, where a line is a test.
+// edit.txt tests the colors that effects give.
 class EffectsTest : public testing::Test {
  protected:
   RecordingServices fakes;
@@ -63,7 +63,7 @@ TEST_F(EffectsTest, ThoseWithoutEffectWriteNothing) {
     std::unique_ptr<Effect> effect;
     createEffect(index, 3, effect).setValue(1);
     Palette output = createPalette(3, {1, 1, 1});
-    // No channel; one selected entry; no palette on the clipboard.
+    // Without channels; with one selected entry; without a palette on the clipboard.
     Palette input = palette;
     input.selected()[1] = input.selected()[2] = 0;
     effect->apply({.palette = input}, index == kNegative ? 0 : kAllChannels, output);

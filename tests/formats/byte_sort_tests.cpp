@@ -11,7 +11,7 @@ namespace quillhue {
 namespace {
 
 // Palettes depend on the order in which std::sort of libstdc++ leaves words with equal bytes. The other bytes number
-// the words, so that none are the same.
+// the words, so that all words differ.
 TEST(ByteSort, LeavesWordsInTheOrderOfTheStandardLibrary) {
   std::mt19937 engine(1);
   const auto random = [&] { return static_cast<std::uint32_t>(engine()); };

@@ -59,7 +59,7 @@ TEST(ByteSource, FindsTags) {
   EXPECT_EQ(findTag(source, 99999, "PLTE"), content.size());
 }
 
-// Gives ones, but ends before its time.
+// Returns bytes of 1, but ends before its announced size.
 class HalfSource : public ByteSource {
  public:
   HalfSource() : ByteSource(80'000) {}

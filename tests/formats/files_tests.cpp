@@ -65,7 +65,7 @@ TEST(Files, AreTheOldOrTheNewOnesWhicheverCallFailsOrIsTheLast) {
         FaultyFiles files(fault, at);
         const bool saved = save(name, files);
         isReached = files.calls() > at;
-        // A file that can't be replaced is written over.
+        // A file that can't be replaced is overwritten.
         EXPECT_EQ(saved, !isReached || (fault == Fault::notReplaceable && files.calls() > at + 1)) << at;
         EXPECT_EQ(folder.contentOf(file), saved ? content : old) << at;
         EXPECT_TRUE(fault == Fault::powerCut || folder.count() == 1) << at;

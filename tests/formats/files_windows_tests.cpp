@@ -12,7 +12,7 @@ constexpr DWORD kAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 using OpenFile = std::unique_ptr<void, decltype(&CloseHandle)>;
 
-// As another program opens a file; null when it can't.
+// Opens a file like another program. Returns null if that is refused.
 OpenFile openElsewhere(const std::wstring& name, DWORD access, DWORD sharing) {
   const HANDLE file = CreateFileW(name.c_str(), access, sharing, nullptr, OPEN_EXISTING, 0, nullptr);
   return {file == INVALID_HANDLE_VALUE ? nullptr : file, CloseHandle};

@@ -14,7 +14,7 @@ TEST(ImageColors, EqualThePlainMethod) {
   }
 }
 
-// Rows are decoded some at a time; none may be lost or doubled between two blocks.
+// Rows are decoded in blocks. No row may be lost or counted twice between two blocks.
 TEST(ImageColors, CountAcrossBlocks) {
   for (const std::uint32_t width : {1U, 333U, 100'000U}) {
     std::vector<ColorWord> words(width * (200'000 / width));

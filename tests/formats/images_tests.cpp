@@ -13,7 +13,7 @@
 namespace quillhue {
 namespace {
 
-// "offset:bytes ..." put into zeros.
+// Returns zeros with "offset:bytes ..." written over them.
 Bytes contentOf(std::size_t size, const std::string& patches) {
   Bytes content(size);
   patch(content, patches);
@@ -34,7 +34,7 @@ TEST(Images, LoadFromTheClipboard) {
   EXPECT_EQ(shown(loadClipboardImage(contentOf(0, "4:01 8:01 14:01"))),
             "Clipboard must contain a 4-bit, 8-bit, 24-bit, or 32-bit bitmap.");
   EXPECT_EQ(shown(loadClipboardImage({})), "The image is too small.");
-  // With masks the pixels begin behind them, or behind a longer header that holds them.
+  // With masks, the pixels follow the masks, or a longer header that contains them.
   const std::string masked = " 4:01 8:01 14:20 16:03 ";
   EXPECT_EQ(shown(loadClipboardImage(contentOf(0, "0:28" + masked + "40:0000FF0000FF0000FF000000 52:01020304"))),
             "1x1: 010203");
@@ -59,7 +59,7 @@ TEST(Images, AFileThatCannotBeLoadedLeavesTheImage) {
   EXPECT_EQ(image ? hexOf(image->pixels()) : "", "010203");
 }
 
-// Every way a file can end early, in rows that are read straight into the image and in others.
+// Ends files at every byte, both in rows that are read directly into the image and in others.
 TEST(Images, LoadAtEveryLength) {
   for (const auto& row : readTable("images.txt")) {
     Bytes content = contentOf(std::stoul(row.at(0)), row.at(1));
@@ -72,7 +72,7 @@ TEST(Images, LoadAtEveryLength) {
   }
 }
 
-// The loader takes the palette of such a file from where its pixels are, so it is no test of the writer.
+// The loader can't test the writer here, because it reads the palette of such a file from the offset of its pixels.
 TEST(BitmapWriter, WritesFourBitsUpToSixteenEntries) {
   const Bytes rows = contentOf(24, "0:0102030405 8:F60708090A 16:0B");
   const Bytes file = composeBitmap({5, 3, rows}, variedPalette(2), {7, 8, 9});

@@ -17,7 +17,7 @@
 namespace quillhue {
 namespace {
 
-// The text, and whether the standard reading helps.
+// Returns the text, and + if the standard reading reads the file, otherwise -.
 std::string shown(const std::optional<ReadingNote>& note) {
   if (!note) {
     return "";
@@ -25,7 +25,7 @@ std::string shown(const std::optional<ReadingNote>& note) {
   return note->text + (note->text.empty() ? "" : " ") + (note->standardReads ? '+' : '-');
 }
 
-// A sample with patches, or a text.
+// Returns a sample with patches, or the bytes of a text.
 Bytes contentOf(const std::string& file, const std::string& patchesOrText) {
   if (file.find('/') == std::string::npos) {
     return bytesOf(patchesOrText);

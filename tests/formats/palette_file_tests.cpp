@@ -79,7 +79,7 @@ TEST_F(PaletteFileTest, LeavesDocumentAndFileAloneWhenSavingIsRefused) {
             "error: The palette is too large for the selected format.\n"
             "Use the Gimp, RIFF, or Windows Clipboard format instead.\n"
             "error: Could not create the file.\n");
-  // No dialog offers such a format; its file stays empty.
+  // No dialog offers this format. Its file stays empty.
   document.resize(256);
   EXPECT_FALSE(writePaletteFile(document, folder.name("empty"), PaletteFormat{15}, fakes.services));
   EXPECT_EQ(folder.contentOf("empty"), "");

@@ -21,7 +21,7 @@ std::string readerOf(Bytes content, const std::string& name) {
   return reader == nullptr ? "none" : std::string(reader->name);
 }
 
-// The failure's text, the number of an image's colors, or what `showPalette` says of the palette.
+// Returns the failure's text, the number of an image's colors, or the palette as `showPalette` shows it.
 template <typename ShowPalette>
 std::string read(Bytes content, const std::string& name, ShowPalette showPalette) {
   MemorySource source(std::move(content));
@@ -37,7 +37,7 @@ std::string read(Bytes content, const std::string& name, ShowPalette showPalette
 
 std::string withAllEntries(const FilePalette& file) { return show(file.palette); }
 
-// Code, size and the checksum of the entries.
+// Returns the code, the size and the checksum of the entries.
 std::string withChecksum(const FilePalette& file) {
   return std::to_string(file.format) + ' ' + std::to_string(file.palette.getSize()) + ' ' +
          std::to_string(checksumOf(file.palette));
@@ -55,7 +55,7 @@ TEST(Samples, HoldWhatTheirListTells) {
   EXPECT_EQ(readers.size(), paletteReaders().size());
 }
 
-// In the file's order; none where it is refused.
+// Returns the colors in the file's order, or none if the file is refused.
 std::vector<ColorWord> colorsOf(Bytes content, const std::string& name) {
   std::vector<ColorWord> colors;
   MemorySource source(std::move(content));

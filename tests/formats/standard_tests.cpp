@@ -22,7 +22,7 @@ ReadResult readStandard(ByteSource& source, const std::string& name) {
   return reader == nullptr ? readPalette(input) : reader->read(input);
 }
 
-// The failure's text, "image", or what `showPalette` says of the palette.
+// Returns the failure's text, "image", or the palette as `showPalette` shows it.
 template <typename ShowPalette>
 std::string paletteIn(Bytes content, const std::string& name, ShowPalette showPalette) {
   MemorySource source(std::move(content));
@@ -38,7 +38,7 @@ std::string withChecksum(const Palette& palette) {
   return std::to_string(palette.getSize()) + ' ' + std::to_string(checksumOf(palette));
 }
 
-// Size and checksum of the pixels, each with 0 behind it where it is transparent and 255 otherwise.
+// Returns the size and the checksum of the pixels. Each pixel is followed by 0 if it is transparent, otherwise by 255.
 std::string shown(const WorkImage& image) {
   Checksum sum;
   for (std::int32_t y = 0; y < image.height(); ++y) {
@@ -69,7 +69,7 @@ TEST(StandardFormats, HoldWhatTheirListSays) {
   }
 }
 
-// A file that ends early is refused, or nothing that counts is missing.
+// A file that ends early is refused, unless the missing bytes don't matter.
 TEST(StandardFormats, RefuseFilesThatEndEarly) {
   for (const auto& row : readTable("standard.txt")) {
     const Bytes whole = contentOf(row.at(0));

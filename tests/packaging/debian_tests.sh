@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# debian_tests.sh BUILD VERSION: makes the Debian package, installs it in a folder of its own, runs it and removes it.
+# debian_tests.sh BUILD VERSION: makes the Debian package, installs it in a folder, runs the tool and removes the
+# package.
 set -euo pipefail
 build=$1 version=$2
 work=$(mktemp -d)
@@ -18,7 +19,7 @@ package=$(echo "$work"/packages/quillhue-cli_"$version"_*.deb)
 root=$work/root
 mkdir -p "$root"/var/lib/dpkg/{info,updates,triggers}
 touch "$root/var/lib/dpkg/status"
-# The folder has no libraries: those of the system serve.
+# The folder has no libraries, so the tool uses those of the system.
 in_root() { dpkg --root="$root" --force-depends --force-not-root --log=/dev/null "$@" >"$work/log" 2>&1 || fail "$(<"$work/log")"; }
 in_root --install "$package"
 installed=$(cd "$root" && find usr -type f | sort)

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# package_tests.sh PROGRAMS VERSION: makes the packages of the programs in a folder, unpacks the zip and runs the tool
-# there; installs silently in several ways and removes it, and compares registry and folders before and after.
+# package_tests.sh PROGRAMS VERSION: makes the packages from the programs in a folder. Unpacks the zip and runs the
+# tool. Installs and removes the program silently in several ways, and compares the registry and the folders before and
+# after.
 set -euo pipefail
 programs=$(cd "$1" && pwd) version=$2
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -9,7 +10,7 @@ wine=$root/scripts/wine.sh
 work=$(mktemp -d)
 cd "$work"
 
-# A user of its own, with the Windows of the prefix that there is: a prefix takes long to make and much room.
+# A new user with the Windows folder of the existing prefix, because a whole prefix takes long to make and much room.
 original=${QUILLHUE_WINEPREFIX:-$root/build/wine}
 [ -f "$original/system.reg" ] || "$wine" wineboot --init
 export QUILLHUE_WINEPREFIX=$work/prefix
@@ -19,8 +20,8 @@ cp -a "$original"/{*.reg,.update-timestamp,dosdevices} "$QUILLHUE_WINEPREFIX"
 tar -C "$original/drive_c" --exclude=Recent -c users | tar -C "$QUILLHUE_WINEPREFIX/drive_c" -x
 ln -s "$(cd "$original" && pwd)"/drive_c/{windows,Program*} "$QUILLHUE_WINEPREFIX/drive_c"
 trap 'rm -rf "$work"' EXIT
-# A program that waits for input until this script ends. Without it Wine's server ends whenever no program is left, and
-# fails what starts at that moment.
+# A program that waits for input until this script ends. Without it, Wine's server ends as soon as no program runs, and
+# a program that starts at that moment fails.
 coproc { exec "$wine" cmd /q 2>/dev/null; }
 echo 'echo ready' >&"${COPROC[1]}"
 until [[ ${line:-} == *ready* ]]; do
@@ -45,14 +46,14 @@ wait_until() {
   done
 }
 
-# What the user has under HKCU\Software: a line for each key and value, without what belongs to Wine.
+# Prints a line for each key and value under HKCU\Software, except those of Wine.
 snapshot() {
   "$wine" reg export 'HKCU\Software' exported.reg /y >/dev/null
   iconv -f UTF-16 -t UTF-8 exported.reg | tr -d '\r' |
     awk '/^\[/ { key = substr($0, 29, length($0) - 29); print key; next } NF && key { print key ": " $0 }' |
     grep -v '^Wine' | LC_ALL=C sort
 }
-# expect_registry NAME [FOLDER]: its changes are those of the name in registry.txt, for an installation in the folder.
+# expect_registry NAME [FOLDER]: expects the changes that registry.txt lists under NAME, for an installation in FOLDER.
 expect_registry() {
   local found folder=${2-none} size
   size=$(stat -c %s "$unpacked"/* | awk '{ kib += int(($1 + 1023) / 1024) } END { printf "%08x", kib }')
@@ -61,20 +62,20 @@ expect_registry() {
   found=${found//\"$version\"/\"VERSION\"}
   expect "registry, $1" "${found//dword:$size/dword:SIZE}" "$(awk -v name="= $1" '/^=/ { on = $0 == name; next } on' "$here/registry.txt")"
 }
-# import LINE...: puts them into the registry.
+# import LINE...: imports lines of a .reg file.
 import() {
   { echo REGEDIT4 && printf '%s\n' "$@"; } >imported.reg
   "$wine" reg import imported.reg 2>/dev/null
 }
 
-# windows_folder VARIABLE and system_folder PATH: a folder of the user's, and how this system names it.
+# windows_folder VARIABLE prints a folder of the user, and system_folder PATH its name on this system.
 windows_folder() { "$wine" cmd /c "echo %$1%" | tr -d '\r'; }
 system_folder() { "$wine" winepath -u "$1"; }
 windows_default=$(windows_folder LOCALAPPDATA)\\Programs\\Quillhue
 default=$(system_folder "$windows_default")
 shortcut="$(system_folder "$(windows_folder APPDATA)")/Microsoft/Windows/Start Menu/Programs/Quillhue.lnk"
 
-# run STATUS COMMAND: by a batch file, which passes the arguments as they are: /D and _? take no quotes.
+# run STATUS COMMAND: uses a batch file, which passes the arguments unchanged, because /D and _? allow no quotes.
 run() {
   local status=0
   printf '@%s\r\n' "$2" 'exit %ERRORLEVEL%' >run.bat
@@ -83,14 +84,14 @@ run() {
 }
 # install STATUS ARGUMENTS: silently.
 install() { run "$1" "quillhue-$version-setup.exe /S $2"; }
-# uninstall FOLDER: silently, as the system's list of programs does it, and waits for its last deed.
+# uninstall FOLDER: uninstalls silently, like the system's list of programs, and waits for the end.
 uninstall() {
   "$wine" "$1/uninstall.exe" /S
   wait_until 'the uninstaller is done' is_unregistered
 }
 uninstaller='Microsoft\Windows\CurrentVersion\Uninstall'
 is_unregistered() { ! "$wine" reg query "HKCU\\Software\\$uninstaller\\Quillhue" >/dev/null 2>&1; }
-# expect_files FOLDER FILES: no others, those of the package as they are there, and the tool runs.
+# expect_files FOLDER FILES: expects these files and no others, equal to those of the package, and a tool that runs.
 expect_files() {
   local each
   expect "files in $1" "$(cd "$1" && echo *)" "$2"
@@ -103,7 +104,7 @@ expect_gone() {
   [ ! -e "$1" ] || fail "$1 is there"
 }
 
-# The packages: the same at any time, whoever builds them.
+# The packages are the same at any time, whoever builds them.
 mkdir later again
 cp "$programs"/{quillhue,quillhue-cli}.exe "$programs/readme.txt" later
 (umask 077 && exec "$root/packaging/make.sh" later "$version" again) &
@@ -118,7 +119,7 @@ expect 'the zip' "$(ls 'a folder')" "quillhue-$version"
 expect_files "$unpacked" 'quillhue-cli.exe quillhue.exe readme.txt'
 installed='quillhue-cli.exe quillhue.exe readme.txt uninstall.exe'
 
-# The tests, by nothing but their script.
+# The package of the tests, which needs only its script.
 "$root/packaging/make-tests.sh" "$programs/.." "$version" .
 unzip -q "quillhue-$version-tests.zip" -d 'some tests'
 (cd "some tests/quillhue-$version-tests" && "$wine" cmd /c run-tests.cmd core cli </dev/null >shown 2>&1)
@@ -131,8 +132,8 @@ expect 'lines that are too long or no ASCII' "$(LC_ALL=C grep -nvP '^[ -~]{0,78}
 expect 'its title' "$(head -1 "$unpacked/readme.txt" | tr -d '\r')" "Quillhue $version"
 expect 'what was not filled in' "$(grep -n '@' "$unpacked/readme.txt")" ''
 
-# What the user has had: .gpl opens in another program, .clp is known, .act and .cmp are not. The keys of the system
-# are there anyway.
+# Before the installation, .gpl opens in another program, .clp is known, and .act and .cmp are not. The keys of the
+# system exist anyway.
 software='HKEY_CURRENT_USER\Software'
 lines=("[-$software\\$uninstaller\\Quillhue]" "[-$software\\Quillhue]")
 for each in act cmp gpl clp; do
@@ -144,8 +145,8 @@ import "[$software\\Classes]" "[$software\\$uninstaller]" \
   "[$software\\Classes\\.clp]" '"PerceivedType"="image"'
 snapshot >before
 
-# In the default place, with nothing but itself. It takes its settings along, but no file of the user and no settings of
-# another version.
+# Installs in the default folder without associations. Removing it also removes its settings, but no file of the user
+# and no settings of another version.
 install 0 ''
 expect_files "$default" "$installed"
 tr -d '\0' <"$shortcut" | grep -aqF 'Programs\Quillhue\quillhue.exe' || fail 'the shortcut leads elsewhere'
@@ -159,7 +160,7 @@ expect_registry removed
 rm -r "$default"
 import "[-$software\\Quillhue]"
 
-# In a place of the user's choice, with associations.
+# Installs in a folder that the user chose, with associations.
 chosen=$work/another\ place
 other=$work/moved
 windows_chosen=$("$wine" winepath -w "$chosen" | tr -d '\r')
@@ -174,7 +175,7 @@ expect_files "$chosen" "$installed"
 install 0 ''
 expect_registry 'three associations' "$windows_chosen"
 
-# Nothing changes while a program runs: one that has shown much already, and waits for its standard input.
+# Nothing changes while a program runs. This one waits for its standard input.
 "$wine" "$chosen/quillhue-cli.exe" new vga vga.act
 mkfifo silence
 "$wine" "$chosen/quillhue-cli.exe" info vga.act - <>silence >shown 2>/dev/null &
@@ -188,11 +189,12 @@ expect_registry 'three associations' "$windows_chosen"
 kill $running
 wait $running 2>/dev/null || true
 
-# Other associations give the first ones back; another place leaves none behind.
+# An installation with other associations gives the first ones back. One in another folder leaves nothing in the old
+# one.
 install 0 "/ASSOCIATE=cmp /D=$windows_other"
 expect_gone "$chosen"
 expect_registry 'one association' "$windows_other"
-# What another program has taken since stays with it.
+# Associations that another program has taken meanwhile stay with it.
 import "[$software\\Classes\\.cmp]" '@="Other.cmp"' "[$software\\Quillhue\\4]" '"Effect"=hex:02'
 uninstall "$other"
 expect_gone "$other"

@@ -48,7 +48,7 @@ TEST(Pictures, CutShortAreRefused) {
   }
 }
 
-// The checksums of a PNG file leave only damage that does not matter, unless it hides what is transparent.
+// The checksums of a PNG file detect all damage that matters, except damage that hides transparency.
 TEST(Pictures, DamagedByAByteAreRefusedOrDecode) {
   for (const auto& row : readTable("pictures.txt")) {
     const Bytes whole = contentOf(row);

@@ -15,7 +15,7 @@ namespace {
 
 using Colors = std::vector<CountedColor>;
 
-// Clouds of colors around some places.
+// Returns clouds of colors around a few places.
 Colors clouds(std::size_t count, std::uint32_t seed) {
   CaseBytes random(10 * count, seed);
   std::map<PaletteEntry, std::uint32_t> pixels;
@@ -57,14 +57,15 @@ TEST(BestPalette, TakesFewColorsAsTheyAre) {
   EXPECT_EQ(entriesOf(bestPalette({}, 2, {7, 7, 7})), std::vector<PaletteEntry>(2, {7, 7, 7}));
 }
 
-// One entry is the mean, two split the colors where that leaves least, sorted by brightness.
+// A single entry is the mean. Two entries split the colors with the least remaining error, and are sorted by
+// brightness.
 TEST(BestPalette, FindsTheOptimumOfFewClusters) {
   const Colors colors{{{200, 100, 0}, 3}, {{204, 100, 0}, 1}, {{10, 20, 30}, 1}, {{12, 20, 30}, 1}};
   EXPECT_EQ(entriesOf(bestPalette(colors, 2, {})), (std::vector<PaletteEntry>{{11, 20, 30}, {201, 100, 0}}));
   EXPECT_EQ(entriesOf(bestPalette(colors, 1, {})), (std::vector<PaletteEntry>{{138, 73, 10}}));
 }
 
-// Bad first centers: all in one of five clusters.
+// Starts with bad centers: all in one of five clusters.
 TEST(KMeans, LeavesLocalMinima) {
   Colors colors;
   for (std::uint8_t place = 0; place < 250; place += 50) {
@@ -79,7 +80,7 @@ TEST(KMeans, LeavesLocalMinima) {
   EXPECT_NEAR(assign(colors, centers).error, 5 * (12 * 1.25 + 12 * 2 / 3.0), 0.01);
 }
 
-// Another round, by a scan of all centers for each color, gains next to nothing.
+// Another round, with a scan of all centers for each color, gains almost nothing.
 TEST(KMeans, Converges) {
   for (const std::size_t count : {5U, 40U, 200U}) {
     const Colors colors = clouds(6000, 21);
@@ -115,7 +116,7 @@ TEST(BestPalette, MergesManyColors) {
   EXPECT_NEAR(kept.spread() / all.spread(), 1, 0.01);
 }
 
-// The same on all systems, and no entry twice.
+// The palette is the same on all systems and has no duplicates.
 TEST(BestPalette, IsPinned) {
   const Colors colors = clouds(3000, 23);
   Checksum sum;

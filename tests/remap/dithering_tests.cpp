@@ -1,5 +1,5 @@
-// Random cases of all options are compared with the literal rules by the tests of identity. These are properties that
-// the rules have in common with the product.
+// identity_tests.cpp compares random cases of all options with the reference. These tests check properties that the
+// reference shares with the product.
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ std::vector<PaletteEntry> greys(std::initializer_list<int> levels) {
   return colors;
 }
 
-// The indexes of an image in one color.
+// Returns the indexes of a dithered image in one color.
 std::vector<std::uint8_t> dithered(const PaletteEntry& color, std::int32_t side,
                                    const std::vector<PaletteEntry>& colors, const RemapOptions& options) {
   CaseBytes none({});
@@ -54,7 +54,7 @@ TEST(DiffusionKernels, PassOnTheWholeErrorToLaterPixels) {
   }
 }
 
-// A grey in black and white keeps its brightness. Atkinson's gets more contrast on purpose.
+// A grey dithered to black and white keeps its brightness. Atkinson's kernel gives more contrast on purpose.
 TEST(KernelDiffusion, KeepsTheMeanColor) {
   for (const DiffusionKernel& kernel : diffusionKernels()) {
     for (const bool isSerpentine : {false, true}) {
@@ -69,7 +69,7 @@ TEST(KernelDiffusion, KeepsTheMeanColor) {
   }
 }
 
-// A color that the palette can't make up for piles up errors, which white below it has to pay for.
+// A color that the palette can't mix accumulates errors, which appear in the white below it.
 TEST(KernelDiffusion, LeavesNoGhostsWhenItClamps) {
   WorkImage image(30, 60, {});
   std::ranges::fill(image.pixels(), std::uint8_t{128});

@@ -1,4 +1,4 @@
-// The memory of a run beside image and result. Only AddressSanitizer's allocator counts it.
+// Measures the memory of a run apart from image and result. Only AddressSanitizer's allocator counts memory.
 
 #ifdef __SANITIZE_ADDRESS__
 
@@ -12,7 +12,7 @@
 #include "remap/nearest_entry.h"
 #include "support/stopping_progress.h"
 
-// Declared in a header of the sanitizers that not every compiler brings.
+// Declared here, because not every compiler has the header of the sanitizers.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // NOLINT
 
 namespace quillhue {
@@ -25,7 +25,8 @@ WorkImage noise(std::int32_t width, std::int32_t height) {
   return image;
 }
 
-// Colors near a curve, onto which few can be dithered: errors leave the color cube, and lists are made there too.
+// Colors near a curve. Few colors can be dithered onto them, so errors leave the color cube, and lists are also made
+// outside it.
 Palette sepia() {
   Palette palette = createGreyscalePalette(256);
   for (std::uint8_t& blue : palette.channel(Channel::blue)) {

@@ -46,7 +46,7 @@ TEST(Remap, KeepsIndexesUpToTheNumberOfColors) {
   const WorkImage image = imageOf(5, 1, createPalette(256), {0, 2, 3, 4, 255});
   EXPECT_EQ(remapped(image, createPalette(3), {RemapMode::maintain, {}, {}}), "0 2 3 0 0 ");
   EXPECT_EQ(remapped(image, createPalette(300), {RemapMode::maintain, {}, {}}), "0 2 3 4 255 ");
-  // Direct colors have none to keep, and a result of an earlier run does not shine through.
+  // An image of direct colors has no mapping to keep. The result of an earlier run must not remain visible.
   RemappedImage result;
   StoppingProgress progress;
   const WorkImage direct = imageOf(1, 1, {}, {9, 9, 9});
@@ -61,7 +61,7 @@ TEST(Remap, TakesTheFirstOfTheNearest) {
   const Palette palette = paletteWith({{10, 0, 0}, {0, 10, 0}, {20, 0, 0}, {0, 10, 0}});
   const Bytes colors{0, 10, 0, 15, 0, 0, 0, 0, 0, 255, 255, 255, 255, 255, 254};
   EXPECT_EQ(remapped(imageOf(5, 1, {}, colors), palette, {}), "1 0 0 2 2 ");
-  // Nothing stands before a row's first pixel, not even black.
+  // There is no color before a row's first pixel, not even black.
   EXPECT_EQ(remapped(imageOf(1, 1, {}, {0, 0, 0}), paletteWith({{9, 9, 9}, {0, 0, 0}}), {}), "1 ");
   const Palette own = paletteWith({{0, 10, 0}, {15, 0, 0}, {0, 0, 0}, {255, 255, 255}});
   EXPECT_EQ(remapped(imageOf(4, 1, resizedCopy(own, 16, {}), {3, 2, 1, 0}), palette, {}), "2 0 0 1 ");
@@ -71,7 +71,7 @@ TEST(Remap, TakesTheFirstOfTheNearest) {
   EXPECT_EQ(remapped(imageOf(1, 1, {}, {1, 2, 3}), large, {}), "0 ");
 }
 
-// Errors that nothing can make up for grow until they wrap.
+// Errors that no color can compensate grow until they wrap.
 TEST(Remap, WrapsWhereErrorsOverflow) {
   const WorkImage white = imageOf(40, 70, {}, Bytes(3 * 40 * 70, 255));
   const Palette dark = paletteWith({{0, 0, 0}, {0, 0, 1}, {2, 0, 0}});
@@ -85,7 +85,7 @@ TEST(Remap, WrapsWhereErrorsOverflow) {
   EXPECT_EQ(std::to_string(sum.value()), pinnedChecksum("errors that wrap"));
 }
 
-// Other points at which a run stops are compared with the literal rules.
+// identity_tests.cpp compares other points at which a run stops with the reference.
 TEST(Remap, LeavesTheRowsOfAnEarlierRunWhenItStops) {
   const WorkImage image = imageOf(3, 50, {}, Bytes(3 * 3 * 50, 255));
   RemappedImage result;

@@ -11,7 +11,7 @@
 namespace quillhue {
 namespace {
 
-// From few values, so that colors repeat.
+// Returns one of few values, so that colors repeat.
 std::uint8_t anyOf(std::minstd_rand& random) { return static_cast<std::uint8_t>(random() >> 8 & 0xC0); }
 
 std::vector<PaletteEntry> colorsOf(std::int32_t size, std::minstd_rand& random) {
@@ -42,7 +42,7 @@ const std::array<std::pair<RemapMode, DitherOptions>, 4> kMethods{{{RemapMode::n
                                                                    {RemapMode::dither, {nullptr, true}},
                                                                    {RemapMode::ordered, {}}}};
 
-// By the rules: the palette without the entry, whose place the indexes above it make up for.
+// The reference uses the palette without the transparent entry, and then raises the indexes from that entry on by one.
 TEST(TransparentRemap, EqualsTheLiteralRules) {
   std::minstd_rand random(3);
   for (const std::int32_t size : {2, 3, 20, 60, 256}) {

@@ -9,7 +9,7 @@
 
 namespace quillhue {
 
-/// A Windows Bitmap of 16, 24 or 32 bits a pixel; of each word the low bits that the depth has are stored.
+/// Returns a Windows Bitmap of 16, 24 or 32 bits a pixel. Stores that many low bits of each word.
 inline Bytes bitmapOf(std::uint32_t width, std::uint8_t bits, const std::vector<ColorWord>& words) {
   const std::size_t bytesPerPixel = bits / 8;
   const std::size_t stride = (width * bytesPerPixel + 3) / 4 * 4;

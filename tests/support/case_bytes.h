@@ -11,7 +11,7 @@
 
 namespace quillhue {
 
-/// The bytes that a test case is made of, followed by zeros: the input of a fuzzer, or random ones.
+/// The bytes that describe a test case, followed by zeros: the input of a fuzzer, or random bytes.
 class CaseBytes {
  public:
   explicit CaseBytes(std::vector<std::uint8_t> bytes) : bytes_(std::move(bytes)) {}

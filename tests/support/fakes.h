@@ -11,7 +11,7 @@
 
 namespace quillhue {
 
-/// Services that note what is asked of them, a line each, and answer as the test has told them to.
+/// Services that record each call as a line of text, and answer as the test sets them.
 class RecordingServices : public Messages,
                           public DocumentObserver,
                           public FileQuestions,
@@ -32,7 +32,7 @@ class RecordingServices : public Messages,
 
   /// The lines since the last call.
   std::string takeLines() { return std::exchange(lines_, {}); }
-  /// Returns the text after `beginning` in the last message that has it; empty if none has.
+  /// Returns the rest of the last message that starts with `beginning`, or an empty text.
   std::string takeLast(const std::string& beginning) {
     const std::string lines = takeLines();
     const auto at = lines.rfind(beginning);

@@ -9,12 +9,12 @@
 
 namespace quillhue {
 
-/// What becomes of one of the calls that save a file. A power cut ends all: later calls fail, nothing is removed, and
-/// what was not flushed never reaches the disk.
+/// The fault of one of the calls that save a file. After a power cut all later calls fail, nothing is removed, and
+/// bytes that were not flushed never reach the disk.
 enum class Fault { failed, notReplaceable, powerCut };
 
-/// The system's files with a fault in the call with the number `at`: 0 creates or opens a file, and then each write,
-/// flush and finish counts.
+/// The system's files, with a fault in call number `at`. Call 0 creates or opens a file; each write, flush and finish
+/// then counts as a call.
 class FaultyFiles final : public FileSystem {
  public:
   FaultyFiles(Fault fault, int at) : fault_(fault), at_(at) {}

@@ -12,7 +12,7 @@ namespace quillhue {
 
 namespace {
 
-// The method in its plain form: all pixels in one sorted list.
+// The plain form of the method: all pixels in one sorted list.
 class SortedImage {
  public:
   explicit SortedImage(std::vector<ColorWord> words) : words_(std::move(words)) {
@@ -98,7 +98,7 @@ class SortedImage {
   std::vector<ColorWord> words_;
 };
 
-// Pixels from a single color to nearly all different, with fourth bytes that are constant or not.
+// Returns pixels of one color up to almost all different, with constant or varying fourth bytes.
 std::vector<ColorWord> wordsFrom(CaseBytes& bytes) {
   constexpr std::size_t kMostPixels = 1600;
   constexpr std::array<ColorWord, 3> kSpreads{0xFFFFFF, 0x00F0F0FF, 0xFF0F07FF};

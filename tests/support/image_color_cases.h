@@ -6,8 +6,8 @@
 
 namespace quillhue {
 
-/// Compares the colors of an image that the bytes describe, and palettes made of them, with those of a plain method
-/// that sorts all pixels. Returns a text that says what differs; empty if nothing does.
+/// Compares the colors of an image that the bytes describe, and palettes made from them, with those of a plain method
+/// that sorts all pixels. Returns a description of the first difference, or an empty text.
 std::string differenceOfColors(CaseBytes& bytes);
 
 }  // namespace quillhue

@@ -8,12 +8,12 @@
 
 namespace quillhue {
 
-/// The index of the first entry with the least squared distance to a target of any blue, green and red, by a scan of
-/// all. Distances wrap.
+/// Returns the index of the first entry with the least squared distance to a target of any blue, green and red. Scans
+/// all entries. Distances wrap.
 std::uint8_t literalNearest(std::span<const PaletteEntry> entries, const std::array<std::int32_t, 3>& target);
 
-/// What remapImage does, by the rules as one would write them down: a scan of the palette for every pixel and one row
-/// after the other. Slow; the product has to give the same bytes and to report at the same rows.
+/// The reference for remapImage: scans the palette for every pixel, one row after the other. It is slow. The product
+/// must give the same bytes and report progress at the same rows.
 bool literalRemap(const WorkImage& image, const Palette& palette, const RemapOptions& options, RemappedImage& result,
                   RemapProgress& progress);
 

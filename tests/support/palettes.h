@@ -32,7 +32,7 @@ inline bool isText(const Bytes& bytes) {
   });
 }
 
-/// "1,2,3 4,5,6" for two entries.
+/// Returns "1,2,3 4,5,6" for two entries.
 inline std::string show(const Palette& palette) {
   std::ostringstream text;
   for (std::int32_t i = 0; i < palette.getSize(); ++i) {
@@ -42,7 +42,7 @@ inline std::string show(const Palette& palette) {
   return text.str();
 }
 
-/// The palette that `show` shows like this.
+/// Returns the palette for which `show` gives this text.
 inline Palette shownPalette(const std::string& text) {
   std::vector<PaletteEntry> entries;
   std::istringstream numbers(text);
@@ -57,7 +57,7 @@ inline Palette shownPalette(const std::string& text) {
   return paletteOf(entries);
 }
 
-/// `size` different colors (up to 2^16), none of them black.
+/// Returns `size` different colors (up to 2^16), none of them black.
 inline Palette variedPalette(std::int32_t size) {
   Palette palette = createPalette(size);
   for (std::int32_t i = 0; i < palette.getSize(); ++i) {

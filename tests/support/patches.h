@@ -8,7 +8,7 @@
 
 namespace quillhue {
 
-/// Puts "offset:bytes ..." into the content, which is lengthened where it is too short.
+/// Writes "offset:bytes ..." into the content. Lengthens the content if it is too short.
 inline void patch(Bytes& content, const std::string& patches) {
   std::istringstream words(patches);
   for (std::string word; words >> word;) {

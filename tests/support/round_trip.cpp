@@ -14,7 +14,7 @@ namespace {
 
 using namespace palette_format;
 
-// Every color once, with a black first one implied and black put in front where no record has it.
+// Returns every color once. A black first entry is implied. If no record is black, black is added in front.
 Palette asMsDrawHasIt(const Palette& palette) {
   std::vector<PaletteEntry> kept;
   for (std::int32_t i = palette.entry(0) == PaletteEntry{} ? 1 : 0; i < palette.getSize(); ++i) {
@@ -28,7 +28,7 @@ Palette asMsDrawHasIt(const Palette& palette) {
   return paletteOf(kept);
 }
 
-// The palette that is read back.
+// Returns the palette that the reader must return.
 Palette asTheFormatHasIt(const Palette& palette, PaletteFormat format, PaletteEntry blank) {
   const std::int32_t size = palette.getSize();
   switch (format) {

@@ -8,11 +8,11 @@
 
 namespace quillhue {
 
-/// Writes the palette, reads it with the reader of the same name and compares as far as the format goes. Empty when all
-/// is as it should be, and otherwise what is not.
+/// Writes the palette, reads it with the reader of the same name, and compares as much as the format keeps. Returns a
+/// description of the fault, or an empty text.
 [[nodiscard]] std::string checkRoundTrip(const Palette& palette, const PaletteWriter& writer, PaletteEntry blank);
 
-/// The same for a format that only the tool writes. Nothing is wrong with one that has no reader.
+/// Does the same for a format that only the tool writes. A format without a reader has no fault.
 [[nodiscard]] std::string checkRoundTrip(const Palette& palette, const ExportFormat& format);
 
 /// Writes the palette by a standard writer and compares it with the standard reading.

@@ -13,7 +13,7 @@
 
 namespace quillhue {
 
-/// A folder for the files of one test, removed with all that is in it.
+/// A folder for the files of one test. It is removed with all its content.
 class ScratchFolder {
  public:
   ScratchFolder()
@@ -27,7 +27,7 @@ class ScratchFolder {
     std::filesystem::remove_all(path_, ignored);
   }
 
-  /// The full name of a file in the folder; of the folder itself without a name.
+  /// Returns the full name of a file in the folder or, without a name, of the folder.
   [[nodiscard]] std::wstring name(const std::filesystem::path& file = {}) const {
     return toFileName(file.empty() ? path_ : path_ / file);
   }

@@ -9,7 +9,7 @@
 
 namespace quillhue {
 
-/// The actions that the words of a table stand for. An action gets the word's numbers, such as 3 and 4 of "drag=3,4".
+/// The action for each word of a table. An action gets the word's numbers, such as 3 and 4 in "drag=3,4".
 using ScriptNumbers = std::array<std::int32_t, 3>;
 using ScriptActs = std::map<std::string, std::function<void(const ScriptNumbers& numbers)>>;
 

@@ -9,8 +9,8 @@
 
 namespace quillhue {
 
-/// "3x2, 256 (4,5,6): 000102 010000 (1 is transparent)": size, palette with its color 1, the rows in hexadecimal; of an
-/// image without a palette the transparent pixels of each row as digits 1. Or the failure's text.
+/// "3x2, 256 (4,5,6): 000102 010000 (1 is transparent)": size, palette with its color 1, the rows in hexadecimal. For
+/// an image without a palette, digits 1 show the transparent pixels of each row. Or the failure's text.
 inline std::string shown(const std::expected<WorkImage, Failure>& image) {
   if (!image) {
     return std::string(textOf(image.error()));

@@ -7,7 +7,7 @@
 
 namespace quillhue {
 
-/// Stops a run after so many reports, and notes the rows of each.
+/// Stops a run after a number of reports, and records the rows of each.
 class StoppingProgress final : public RemapProgress {
  public:
   explicit StoppingProgress(int reports = 1000) : left_(reports) {}

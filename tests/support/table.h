@@ -6,14 +6,14 @@
 
 namespace quillhue {
 
-/// The rows of a table in the folder data, in which tests run: the cells of a line stand between vertical bars, with
-/// \n, \r, \t, \s (a blank), \0 and \xHH for bytes, and lines that begin with # are remarks.
+/// Returns the rows of a table in the folder data, in which the tests run. Vertical bars separate the cells of a line.
+/// \n, \r, \t, \s (a blank), \0 and \xHH are bytes. Lines that begin with # are comments.
 [[nodiscard]] std::vector<std::vector<std::string>> readTable(const std::string& file);
 
-/// The bytes of a file in the folder of the tests' data; none if it does not exist.
+/// Returns the bytes of a file in the folder data, or none if it does not exist.
 [[nodiscard]] std::vector<std::uint8_t> dataFile(const std::string& file);
 
-/// The checksum of a result in checksums.txt; "none" if it is not there.
+/// Returns the checksum of a result in checksums.txt, or "none".
 [[nodiscard]] std::string pinnedChecksum(const std::string& result);
 
 }  // namespace quillhue

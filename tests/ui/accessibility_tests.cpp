@@ -10,7 +10,7 @@
 namespace quillhue {
 namespace {
 
-/// One element of the window's tree, by the system's interface to it.
+/// One element of the window's tree, with the system's interface to it.
 struct Element {
   ComReference<IAccessible> object;
   LONG part = CHILDID_SELF;
@@ -42,7 +42,7 @@ struct Element {
   [[nodiscard]] HRESULT press() const { return object.get()->accDoDefaultAction(id()); }
 };
 
-// The part that has last got the focus, as the program announces it.
+// The part that got the focus last, as the program announced it.
 LONG announcedFocus = 0;
 void CALLBACK noteFocus(HWINEVENTHOOK, DWORD, HWND, LONG, LONG part, DWORD, DWORD) { announcedFocus = part; }
 
@@ -81,7 +81,7 @@ class AccessibleTree : public UseTest {
         void* object = nullptr;
         dispatch.get()->QueryInterface(IID_IAccessible, &object);
         const ComReference<IAccessible> frame(static_cast<IAccessible*>(object));
-        // A child is the frame of a window, which holds nothing else under Wine.
+        // A child may be the frame of a window, which has no other content under Wine.
         HWND window = nullptr;
         WindowFromAccessibleObject(frame.get(), &window);
         walk({contentOf(window)}, tree);
@@ -174,12 +174,12 @@ TEST_F(AccessibleTree, PressesCellsAndBars) {
     SysFreeString(value);
   }
   EXPECT_EQ(editor.saved().entry(7), (PaletteEntry{47, 200, palette.entry(7).blue}));
-  // There are no such parts.
+  // Parts with these ids do not exist.
   for (const LONG none : {-1, 4, 1000}) {
     EXPECT_EQ(part(bars(), none).press(), E_INVALIDARG) << none;
   }
 
-  // On the other tab pressing selects by the mode.
+  // On the other tab, a press selects according to the mode.
   editor.choosePage(kEffectsPage);
   for (const LONG id : {2, 3, 3}) {
     EXPECT_EQ(part(editor.gridWindow(), id).press(), S_OK);

@@ -24,7 +24,7 @@ TEST_F(Documents, AreNotDiscardedWithoutTheQuestion) {
   const struct {
     std::string place;
     std::function<void(const Program&)> go;
-    // The dialog that comes once it is allowed, if any.
+    // The dialog that opens after the answer, if any.
     std::wstring asks{};
     int answer = IDNO;
   } kPlaces[] = {
@@ -42,7 +42,7 @@ TEST_F(Documents, AreNotDiscardedWithoutTheQuestion) {
     Palette expected = brightPalette(4);
     const Editor& editor = open(expected);
     editor.run(command_id::kClear);
-    // Canceled, it is as before, and asks again.
+    // After Cancel nothing has changed, and the question comes again.
     for (const int button : {IDCANCEL, answer}) {
       EXPECT_EQ(textOf(editor.window()) + statusText(editor), L"Quillhue - own.pal4 entries");
       go(editor);
@@ -83,7 +83,7 @@ TEST_F(Documents, AreAskedForWhenTheSessionEnds) {
   const Editor& editor = open(brightPalette(4));
   const auto maySessionEnd = [&] { return editor.ask(editor.window(), WM_QUERYENDSESSION); };
   EXPECT_EQ(maySessionEnd(), TRUE);
-  // A dialog can't be asked over, and holds the session only where something would be lost.
+  // The program can't ask while a dialog is open. It then refuses to end the session only if changes would be lost.
   const auto mayEndOverADialog = [&] {
     editor.start(command_id::kAbout);
     const Dialog about(editor, L"About Quillhue");
@@ -100,7 +100,7 @@ TEST_F(Documents, AreAskedForWhenTheSessionEnds) {
     EXPECT_EQ(asked.get(), mayEnd) << answer;
   }
   EXPECT_EQ(paletteIn(editor.file()).entry(0), PaletteEntry{});
-  // Another program may have refused. Otherwise it ends without a further message.
+  // Another program may have refused. Otherwise the program ends without a further message.
   editor.ask(editor.window(), WM_ENDSESSION, FALSE);
   EXPECT_TRUE(storedSettings().empty());
   editor.ask(editor.window(), WM_ENDSESSION, TRUE);
@@ -118,7 +118,7 @@ TEST_F(Documents, OfADialogAreModified) {
   }
   program.awaitTitle(L"Quillhue - Untitled");
   EXPECT_EQ(statusText(program), L"3 entries");
-  // Saving an untitled document that is about to be discarded asks for a name; without one it stays.
+  // Before an untitled document is discarded, saving it asks for a name. Without a name it stays open.
   program.post(program.window(), WM_CLOSE);
   answerMessage(program, L"Warning", IDYES);
   Dialog(program, L"Save As").answer(IDCANCEL);
@@ -139,14 +139,14 @@ TEST_F(Documents, AreSavedUnderANameWithItsExtension) {
   };
   saveAs("plain", palette_format::kJasc);
   editor.awaitTitle(L"Quillhue - plain.pal");
-  // The dialog's own question does not come, because the name with its extension counts.
+  // The dialog itself does not ask, because only the name with the extension exists.
   saveAs("own", palette_format::kJasc);
   EXPECT_EQ(answerMessage(editor, L"Save As", IDNO), L"This file already exists.\nDo you want to replace it?");
   EXPECT_EQ(textOf(editor.window()), L"Quillhue - plain.pal");
   saveAs("own", palette_format::kJasc);
   answerMessage(editor, L"Save As", IDYES);
   editor.awaitTitle(L"Quillhue - own.pal");
-  // Longer by one than the dialog has room for; Wine's own has none for more than 259 characters.
+  // One character longer than the dialog allows. Wine's dialog allows at most 259 characters.
   saveAs(std::string(256 - folder_.name("").size(), 'n'), palette_format::kCsv);
   EXPECT_EQ(answerMessage(editor, L"Error", IDOK), L"The name of the file is too long.");
 }

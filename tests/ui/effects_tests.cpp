@@ -27,13 +27,13 @@ TEST_F(Effects, AreShownBeforeTheyAreApplied) {
   const auto awaitShown = [&](PaletteEntry expected) {
     editor.awaitEqual(expected, [&] { return pixelOf(editor.gridWindow(), middleOf(editor.grid().cellBox(0))); });
   };
-  // The effect's own value changes nothing, and one out of its range counts as the nearest.
+  // The effect's default value changes nothing. A value outside the range counts as the nearest one inside.
   enter(L"0");
   awaitShown(preview);
   enter(L"9999");
   awaitShown(color);
   enter(L"0");
-  // The document is as it was.
+  // The document is unchanged.
   EXPECT_EQ(show(editor.saved()), show(palette));
   press(L"Pre&view");
   awaitShown(color);

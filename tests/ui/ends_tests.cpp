@@ -69,7 +69,7 @@ TEST_F(Ends, AWindowClosedDuringADragAsksAndKeepsWhatWasDragged) {
   editor.close();
 }
 
-// One has ended without a word after it copied; the other one goes on.
+// The first program is killed after it copied. The second one goes on.
 TEST_F(Ends, APasteSurvivesTheCrashOfTheClipboardsOwner) {
   const Editor& editor = open(brightPalette(4), kEffectsPage);
   {

@@ -11,8 +11,8 @@ namespace {
 
 class Frame : public UiTest {
  protected:
-  // What the Tab key is to reach: of radio buttons the chosen one stands for all. Each has a name, which is its own
-  // text or that of the static text before it.
+  // Returns the controls that the Tab key must reach; of a group of radio buttons, the chosen one. Each must have a
+  // name: its own text or the static text before it.
   static std::set<HWND> namedTabStops(const Program& program) {
     std::set<HWND> stops;
     std::wstring textBefore;
@@ -23,7 +23,7 @@ class Frame : public UiTest {
       const bool isRadio = kind == L"Button" && (type == BS_RADIOBUTTON || type == BS_AUTORADIOBUTTON);
       if ((style & WS_TABSTOP) != 0 && !isRadio && IsWindowEnabled(control) != 0) {
         stops.insert(control);
-        // A tab control goes by the names of its tabs.
+        // A tab control needs no name, because its tabs have names.
         EXPECT_TRUE(!textBefore.empty() || !textOf(control).empty() || control == tabControl(program))
             << "a " << narrow(kind) << " without a name";
       }
@@ -74,7 +74,7 @@ TEST_F(Frame, ShowsAbout) {
   program.start(command_id::kAbout);
   const Dialog dialog(program, L"About Quillhue");
   EXPECT_NE(dialog.text().find(L"Version 4.2"), std::wstring::npos);
-  // Meanwhile the window can't be used.
+  // The open dialog disables the window.
   EXPECT_FALSE(IsWindowEnabled(program.window()));
   program.run(command_id::kNewWindows);
   EXPECT_EQ(textOf(program.window()), L"Quillhue - Welcome");

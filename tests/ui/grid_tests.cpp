@@ -11,7 +11,7 @@ namespace {
 /// The palette's grid on the page that is shown.
 class GridTest : public UiTest {
  protected:
-  // What the user sees: the entries that have the outline of selected ones, or that of the current one.
+  // Returns the entries that the user sees outlined as selected, or as current.
   [[nodiscard]] std::string outlined(bool asCurrent) const {
     const GridLayout grid = editor().grid();
     HWND window = editor().gridWindow();
@@ -33,7 +33,7 @@ class GridTest : public UiTest {
   }
 };
 
-// Each cell shows its color, and a cell without an entry the background.
+// Each cell shows its color. A cell without an entry shows the background.
 TEST_F(GridTest, LayoutShowsTheColors) {
   const Editor& editor = open(brightPalette(2), kEffectsPage);
   HWND window = editor.gridWindow();
@@ -99,13 +99,13 @@ TEST_F(GridTest, IsUsedByTheKeyboard) {
     pressKey(key);
     expectCurrent(current);
   }
-  // Held down, Space is one click on the current entry.
+  // Holding Space down is a single click on the current entry.
   {
     const HeldKeys held({VK_SPACE});
     pressKey(VK_SPACE);
   }
   expectSelected("11");
-  // With Shift, all moves are one step.
+  // With Shift held, all moves are one step.
   {
     const HeldKeys shift({VK_SHIFT});
     pressKey(VK_LEFT);
@@ -123,7 +123,7 @@ TEST_F(GridTest, OpensTheContextMenuOnAnEntry) {
   for (const int page : {kValuesPage, kEffectsPage}) {
     SCOPED_TRACE(page);
     const Editor& editor = open(brightPalette(3), page);
-    // Neither on the empty cell nor beside the grid.
+    // No menu opens on the empty cell or beside the grid.
     clickAt(editor, editor.entryPoint(3), Button::right);
     expectCurrent("");
     clickAt(editor, editor.entryPoint(2), Button::right);

@@ -30,7 +30,7 @@ TEST_F(Intro, OffersSystemPalettesOnTheSixteenAlone) {
   const Program program;
   HWND sixteen = program.button(L"16");
   const Rect box = boxOnScreen(sixteen);
-  // Beside it nothing opens: the menu of the click on its corner would not be the first one.
+  // A click beside the button opens nothing. Otherwise the menu of the next click would not be the first one.
   clickAt(program, middleOf(boxOnScreen(program.button(L"Blank"))), Button::right);
   clickAt(program, {box.left - 1, box.top}, Button::right);
   clickAt(program, {box.right - 1, box.bottom - 1}, Button::right);
@@ -42,7 +42,7 @@ TEST_F(Intro, OffersSystemPalettesOnTheSixteenAlone) {
     EXPECT_TRUE(items[i].isEnabled);
   }
   closeMenu(program);
-  // By the keyboard, on the second item, with the pointer out of the way.
+  // Opens the menu by keyboard and chooses the second item. The pointer is moved away before.
   moveTo(program, middleOf(boxOnScreen(program.button(L"Blank"))));
   tabTo(program, sixteen);
   pressKey(VK_APPS);

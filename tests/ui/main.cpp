@@ -9,7 +9,7 @@
 #include "ui/support/saved_clipboard.h"
 #include "ui/win32/system.h"
 
-/// ui_tests [FLAG...] PROGRAM: tests the editor, which is the file PROGRAM.
+/// ui_tests [FLAG...] PROGRAM: tests the editor PROGRAM.
 int main(int argumentCount, char** arguments) {
   testing::InitGoogleTest(&argumentCount, arguments);
   if (argumentCount != 2) {
@@ -18,10 +18,10 @@ int main(int argumentCount, char** arguments) {
   }
   // Sizes and points are those of the screen, as in the program.
   SetProcessDPIAware();
-  // A program that crashes ends at once.
+  // A program that crashes ends at once, without a dialog.
   SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
   quillhue::Program::setFile(quillhue::fromUtf8(arguments[1]));
-  // The user gets the settings of before back.
+  // Restores the user's settings at the end.
   const quillhue::StoredSettings before = quillhue::storedSettings();
   testing::AddGlobalTestEnvironment(new quillhue::SavedClipboard);
   const int result = RUN_ALL_TESTS();

@@ -33,7 +33,7 @@ TEST_F(MenuBar, HasTheCommandsOfTheTable) {
   EXPECT_EQ(shown, expected);
 }
 
-// A table of the commands tests all rules; here, that the menu bar asks them anew each time.
+// commands.txt tests all rules. This test shows that the menu bar applies them anew each time.
 TEST_F(MenuBar, OffersWhatHasAnEffect) {
   const auto greyed = [](const Program& program) {
     std::string commands;
@@ -51,7 +51,7 @@ TEST_F(MenuBar, OffersWhatHasAnEffect) {
   editor.run(command_id::kSelectAll);
   EXPECT_EQ(greyed(editor), "21 36 37 38 ");
   editor.choosePage(kValuesPage);
-  // Only a right click on the grid itself takes the current entry away.
+  // Only a right click on the grid itself clears the current entry.
   clickAt(editor, middleOf(boxOnScreen(editor.control(L"ComboBox"))), Button::right);
   editor.awaitInput();
   EXPECT_EQ(greyed(editor), "21 " + effects);

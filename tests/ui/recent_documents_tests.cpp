@@ -11,7 +11,7 @@ using RecentDocuments = UiTest;
 TEST_F(RecentDocuments, ArePalettesThatWereOpenedOrSaved) {
   std::array<wchar_t, MAX_PATH> folder{};
   ASSERT_EQ(SHGetFolderPathW(nullptr, CSIDL_RECENT, nullptr, SHGFP_TYPE_CURRENT, folder.data()), S_OK);
-  // A name that no other test has.
+  // A name that no other test uses.
   const std::wstring name = L"recent" + std::to_wstring(GetCurrentProcessId());
   const auto isListed = [&](const std::wstring& file) {
     return std::filesystem::exists(std::filesystem::path(folder.data()) / (file + L".lnk"));

@@ -63,7 +63,7 @@ TEST_F(Settings, FillTheDialogForANewPalette) {
     EXPECT_EQ(dialog.typed(NEW_RED) + dialog.typed(NEW_GREEN) + dialog.typed(NEW_BLUE), L"234");
     EXPECT_EQ(program.ask(dialog.control(NEW_WINDOWS_COLORS), BM_GETCHECK), BST_CHECKED);
     EXPECT_EQ(dialog.typed(NEW_MINIMUM), L"(min. 44)");
-    // Even a size that is refused is stored.
+    // Even a refused size is stored.
     dialog.type(NEW_SIZE, L"43");
     dialog.press(IDOK);
     EXPECT_EQ(answerMessage(program, L"Error", IDOK),

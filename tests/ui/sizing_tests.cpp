@@ -16,7 +16,7 @@ class Sizing : public UiTest {
   const Scale scale_ = Scale{screenDpi()};
   const Size least_ = minimumWindowSize(scale_);
 
-  // What the window shows once it stays the same: the display has it some time after it is painted.
+  // Returns the window's pixels once they no longer change. The display shows them some time after they are painted.
   static std::vector<std::uint32_t> settledPixels(const Program& program) {
     constexpr int kLooks = 12;
     program.awaitInput();
@@ -35,7 +35,7 @@ class Sizing : public UiTest {
 
 TEST_F(Sizing, StopsAtTheLeastSize) {
   const Program program;
-  // The system carries the box of this message from one process to the other and back.
+  // The system copies the box of this message between the processes.
   RECT box{300, 200, 310, 220};
   program.ask(program.window(), WM_SIZING, WMSZ_TOPLEFT, reinterpret_cast<LPARAM>(&box));
   EXPECT_EQ(fromSystem(box), (Rect{310 - least_.width, 220 - least_.height, 310, 220}));
@@ -78,7 +78,7 @@ TEST_F(Sizing, LayoutOfTheEditorFollowsTheWindow) {
   }
 }
 
-// However a window got its size, it looks as if it were painted anew.
+// After any change of its size, the window looks as if painted anew.
 TEST_F(Sizing, LayoutLeavesNothingBehind) {
   const Editor& editor = open(brightPalette(256));
   for (const int page : {kValuesPage, kEffectsPage, kUsePage}) {

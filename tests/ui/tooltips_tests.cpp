@@ -7,7 +7,7 @@ namespace {
 /// The tooltips of the grid's cells and of the image.
 class Tooltips : public UseTest {
  protected:
-  // The visible tooltip; empty for none.
+  // Returns the text of the visible tooltip, or an empty text.
   [[nodiscard]] static std::wstring shown(const Program& program) {
     HWND tip = program.topWindow(TOOLTIPS_CLASSW);
     return tip == nullptr ? L"" : textOf(tip);
@@ -26,7 +26,7 @@ TEST_F(Tooltips, FollowThePointerOverTheCells) {
   moveTo(editor, editor.entryPoint(4));
   expectTooltip(L"4: #2C3C26\nred 44, green 60, blue 38");
   EXPECT_EQ(focusOf(editor), focused);
-  // There is no entry, and a press goes to the grid.
+  // There is no entry at this point, and a press goes to the grid.
   moveTo(editor, editor.entryPoint(15));
   expectTooltip(L"");
   moveTo(editor, editor.entryPoint(5));

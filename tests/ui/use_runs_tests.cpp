@@ -12,7 +12,7 @@ class UseRuns : public UseTest {
  protected:
   static constexpr Size kBig{3000, 2000};
 
-  // Opens a palette and an image that is to be dithered; the document is modified if that is wanted.
+  // Opens a palette and loads an image to be dithered. Modifies the document if `isModified`.
   void prepare(bool isModified) {
     open(twoColors_);
     if (isModified) {
@@ -24,7 +24,7 @@ class UseRuns : public UseTest {
     editor().click(L"&Dither");
     activate(editor());
   }
-  // Starts the run. What is posted next is found by it after the first row.
+  // Starts the run. It handles the messages posted next after the first row.
   void startRun() { editor().post(editor().button(L"&Process"), BM_CLICK); }
 
   // Two colors far from those of the image, so that a result looks different.
@@ -48,7 +48,7 @@ TEST_F(UseRuns, WaitForTheQuestionBeforeTheWindowCloses) {
     {
       const Dialog question(editor(), L"Warning");
       EXPECT_EQ(controls(), "---x-------");
-      // The first row is there, and below it the image that was loaded.
+      // The view shows the first row, and below it the loaded image.
       editor().await("the first row", [&] {
         const PaletteEntry shown = pixelOf(view(), {2, 0});
         return shown == PaletteEntry{} || shown == twoColors_.entry(1);
@@ -76,7 +76,7 @@ TEST_F(UseRuns, StopWhereAnotherPaletteIsOpened) {
   // The finished rows are kept.
   EXPECT_TRUE(isUsable(L"&Save as..."));
   EXPECT_EQ(editor().chosenPage(), kUsePage);
-  // A file begins with the last row. Of the first one, the tool's file has half a byte a pixel.
+  // A file begins with the last row. In the tool's file, a pixel has half a byte.
   const std::string partial = result();
   const std::string first = partial.substr(partial.size() - kBig.width);
   EXPECT_NE(first, std::string(kBig.width, '\0'));

@@ -13,7 +13,7 @@ namespace {
 
 class Use : public UseTest {};
 
-// A bitmap as the clipboard has it: without the file's own header.
+// Returns the bitmap as it is on the clipboard: without the file header.
 std::string withoutFileHeader(const std::string& file) { return file.substr(14); }
 
 TEST_F(Use, ImagesComeFromDialogDropAndClipboard) {
@@ -31,7 +31,7 @@ TEST_F(Use, ImagesComeFromDialogDropAndClipboard) {
   editor().click(L"&Load...");
   chooseFile(editor(), L"Open", indexed_);
   awaitImage();
-  // It is there still when another can't be loaded.
+  // The image stays if another one can't be loaded.
   editor().drop({folder_.file("none.bmp", bytesOf("BM nothing of the kind"))}, view());
   EXPECT_EQ(answerMessage(editor(), L"Error", IDOK), L"The image is too small.");
   awaitImage();
@@ -43,18 +43,18 @@ TEST_F(Use, ImagesComeFromDialogDropAndClipboard) {
   tabTo(editor(), view());
   pressKey('V', {VK_CONTROL});
   awaitImage();
-  // A palette is no image, and changes nothing.
+  // A palette is not an image. Pasting it changes nothing.
   editor().choosePage(kValuesPage);
   editor().run(command_id::kCopy);
   editor().choosePage(kUsePage);
   editor().run(command_id::kPaste);
   EXPECT_TRUE(showsImage());
-  // The document is the same, and so are its name and its steps.
+  // The document, its name and its undo steps are unchanged.
   EXPECT_EQ(show(editor().saved()), show(brightPalette(16)));
   EXPECT_FALSE(isOffered(editor(), command_id::kUndo));
 }
 
-// By the system's decoders and encoder, in place of a refusal.
+// The system's decoders and encoder handle other formats.
 TEST_F(Use, OtherImagesComeInAndPngGoesOut) {
   open(brightPalette(20));
   Bytes rows(paddedRowLength(9) * 4, 7);
@@ -156,7 +156,7 @@ TEST_F(Use, CopyGivesTheBitmap) {
   process();
   editor().run(command_id::kCopy);
   EXPECT_EQ(clipboardBitmap(), withoutFileHeader(result()));
-  // And back: the result is an image like any other.
+  // The copied result can be pasted as an image.
   editor().run(command_id::kPaste);
   editor().await("no result", [&] { return !isUsable(L"&Save as..."); });
   // Without an image there is nothing to copy.
@@ -177,21 +177,21 @@ TEST_F(Use, WhatCantBeCopiedIsNotCut) {
   EXPECT_FALSE(isOffered(editor(), command_id::kUndo));
   editor().choosePage(kUsePage);
   EXPECT_TRUE(showsImage());
-  // In a field, Del is for its text.
+  // In a field, Del edits the text.
   editor().click(L"&Dither");
   editor().click(L"Protect gr&id:");
   editor().typeInto(field(Field::width), "5");
   pressKey(VK_DELETE);
   editor().awaitInput();
   EXPECT_TRUE(showsImage());
-  // "Scroll Here" of a scroll bar.
+  // Tests "Scroll Here" of a scroll bar.
   editor().resize({600, 376});
   HWND bar = findControls(editor().window(), L"ScrollBar")[0];
   editor().ask(editor().window(), WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 3), reinterpret_cast<LPARAM>(bar));
   editor().awaitInput();
 }
 
-// An index one past the palette is kept, and has the blank color in the file.
+// An index one past the palette's end is kept. It has the blank color in the file.
 TEST_F(Use, MaintainedIndexesLookAsTheyAreSaved) {
   store({{"Blank", {250, 20, 90}}});
   open(brightPalette(20));
@@ -199,7 +199,7 @@ TEST_F(Use, MaintainedIndexesLookAsTheyAreSaved) {
   process();
   ASSERT_EQ(indexAt({20, 0}), 20);
   awaitShown({20, 0}, {250, 20, 90});
-  // In the file's table of blue, green, red.
+  // The color in the file's table of blue, green, red.
   EXPECT_EQ(result().substr(54 + 4 * 20, 3), "\x5A\x14\xFA");
 }
 

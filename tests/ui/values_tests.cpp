@@ -24,7 +24,7 @@ class Values : public UiTest {
     return result;
   }
 
-  // A point on a bar: where its greatest value is, its least, or between.
+  // Returns a point on a bar, at this fraction of its height.
   [[nodiscard]] Point onBar(Bar bar, std::int32_t parts, std::int32_t ofParts) const {
     for (HWND surface : findControls(editor().window(), L"Static")) {
       if ((GetWindowLongPtrW(surface, GWL_STYLE) & SS_TYPEMASK) == SS_OWNERDRAW) {
@@ -46,7 +46,7 @@ class Values : public UiTest {
     editor().awaitEqual(expected, [this] { return numbers(); });
   }
   void expectSaved(const PaletteEntry& first) const { EXPECT_EQ(show(editor().saved()), show(palette(first))); }
-  // One step leads back to the file's color, and there is no other.
+  // Expects one undo step, which restores the file's color.
   void expectOneStep() const {
     editor().run(command_id::kUndo);
     expectSaved(kColor);
@@ -94,7 +94,7 @@ TEST_F(Values, FollowWhatIsTyped) {
   awaitNumbers("100 78 200");
   expectSaved({100, 78, 200});
   expectOneStep();
-  // Arrows go on from the number that counts.
+  // The arrows continue from the clamped number.
   editor().typeInto(field, "300");
   pressKey(VK_DOWN);
   awaitNumbers("100 254 200");
@@ -114,7 +114,7 @@ TEST_F(Values, LeaveTheKeysOfATextToTheField) {
   pressKey('Z', {VK_CONTROL});
   awaitNumbers("100 123 200");
   expectSaved({100, 123, 200});
-  // None of the keys of a dialog is a command: the numbers of OK and Cancel are those of new palettes.
+  // The keys of a dialog must not act as commands, because the ids of OK and Cancel are those of new palettes.
   for (const int key : {VK_CANCEL, VK_ESCAPE, VK_RETURN, VK_EXECUTE}) {
     for (HWND control : {field, tabControl(editor())}) {
       tabTo(editor(), control);
@@ -158,9 +158,9 @@ TEST_F(Values, GoToTheOtherPageAndBackByTheClipboard) {
   editor().choosePage(kEffectsPage);
   editor().run(command_id::kSelectAll);
   editor().run(command_id::kPaste);
-  // One color was cut, so the selection's other entries stay.
+  // Only one color was cut, so the other selected entries are unchanged.
   expectSaved(kColor);
-  // Another program takes the first color of the selection.
+  // Another editor pastes the first color of the copied selection.
   editor().run(command_id::kCopy);
   const Editor other(paletteFile("other.pal", brightPalette(3)));
   other.run(command_id::kPaste);

@@ -19,7 +19,7 @@
 
 namespace quillhue::cli {
 
-/// How one step is carried out, as far as the options after it say so.
+/// How one step is carried out. Options after the step set this.
 struct StepModifiers {
   bool descending = false;
   const RampSpace* space = &rampSpaces().front();

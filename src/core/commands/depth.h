@@ -21,8 +21,8 @@ struct ColorDepth {
 };
 [[nodiscard]] std::span<const ColorDepth> colorDepths();
 
-/// Rounds the channels in `mask` of every selected entry to the nearest of the values that so many bits can hold, as
-/// one undo step. The value is then expanded to 8 bits by repeating its bits.
+/// Rounds the channels in `mask` of every selected entry to the nearest value that this number of bits can hold, as one
+/// undo step. The value is then expanded to 8 bits by repeating its bits.
 void reduceDepth(PaletteDocument& document, ChannelMask mask, const ChannelBits& bits);
 
 }  // namespace quillhue

@@ -67,9 +67,9 @@ void sortBySum(PaletteDocument& document, ChannelMask keyMask, ChannelMask mask)
   if (colors.empty()) {
     return;
   }
-  // kept on purpose: the list's colors are white outside the mask, and its keys come from them. The key searched for
-  // comes from the original color. The list's keys are therefore either sorted or all equal, so bisection finds the
-  // position.
+  // kept on purpose: the colors in the list are white outside the mask, and the list's keys come from these colors. But
+  // the position is searched for with the key of the original color. The list's keys are either sorted or all equal, so
+  // bisection works.
   WorkList list;
   for (const PaletteEntry& color : colors) {
     const PaletteEntry moved = withChannels(kWhite, mask, color);

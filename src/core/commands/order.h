@@ -29,7 +29,7 @@ struct SortKey {
   /// Returns the key of each color. `mask` is that of the command.
   std::vector<double> (*keysOf)(const std::vector<PaletteEntry>& colors, ChannelMask mask);
 };
-/// Returns all keys; those of the commands above and below are among them.
+/// Returns all keys, including those of the other commands in this file.
 [[nodiscard]] std::span<const SortKey> sortKeys();
 
 /// Sorts by any key. Entries with equal keys keep their order.

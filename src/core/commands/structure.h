@@ -7,7 +7,7 @@
 
 namespace quillhue {
 
-/// Commands that add, remove and move whole entries. Each is one undo step. An entry takes its selected flag along.
+/// Commands that add, remove and move whole entries. Each is one undo step. A moved entry keeps its selected flag.
 /// Added entries are selected if all others are. The caller checks the indexes and that 1 to kMaxPaletteSize entries
 /// result.
 
@@ -17,7 +17,7 @@ void arrangeEntries(PaletteDocument& document, std::span<const std::int32_t> ord
 /// Removes these entries, but not all of them.
 void deleteEntries(PaletteDocument& document, std::span<const std::int32_t> indexes);
 
-/// Adds entries before the entry `position`, or at the end if that is the palette's size.
+/// Adds entries before the entry `position`. If `position` is the palette's size, adds them at the end.
 void insertEntries(PaletteDocument& document, std::int32_t position, std::span<const PaletteEntry> colors);
 
 /// Moves these entries, each listed once, so that they follow each other and the first becomes the entry `position`.

@@ -77,8 +77,8 @@ std::expected<Palette, Failure> readColorMap(ByteSource& source) {
   return palette;
 }
 
-// The bytes of the body in order, either stored directly or packed with ByteRun1: a count n from 0 to 127 is followed
-// by n + 1 bytes, a count n from -1 to -127 by one byte that is repeated 1 - n times.
+// Reads the bytes of the body in order. They are stored directly or packed with ByteRun1: n + 1 bytes follow a count n
+// of 0 to 127. After a count n of -1 to -127, one byte follows, which occurs 1 - n times.
 class Body {
  public:
   Body(ByteSource& source, std::uint64_t offset, bool isCompressed)
@@ -136,7 +136,7 @@ class Body {
   std::uint8_t value_ = 0;
 };
 
-// For each byte of a plane its bits as the lowest bits of eight pixels. The left pixel is the highest bit.
+// For each byte of a plane, its bits as the lowest bits of eight pixels. The left pixel is the highest bit.
 constexpr auto kPixelsOfByte = [] {
   std::array<std::array<std::uint8_t, 8>, 256> pixels{};
   for (std::size_t byte = 0; byte < pixels.size(); ++byte) {

@@ -15,7 +15,7 @@ namespace {
 
 using namespace bitmap_layout;
 
-// The places of a bitmap without its file header, as the default reading finds them.
+// The parts of a bitmap behind its file header, as the default reading finds them.
 struct Place {
   std::uint64_t header = 0;
   // The color table, or the pixels of a bitmap without one.
@@ -39,7 +39,7 @@ std::optional<Place> placeInClipboardFile(ByteSource& source) {
   return place;
 }
 
-// Explains a header that the standard reading may refuse. The default reading takes each for one of 40 bytes.
+// Explains a header that the standard reading may refuse. The default reading treats every header as one of 40 bytes.
 std::string explainHeader(ByteSource& source, std::uint64_t header) {
   const std::uint32_t size = source.u32le(header + kHeaderSize);
   if (size != kInfoHeader) {

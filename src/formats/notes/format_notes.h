@@ -16,7 +16,7 @@ template <typename... Parts>
   return text.str();
 }
 
-/// Explains why the default reading of a palette format differs.
+/// Explains why the default reading of a palette format differs from the standard one.
 struct PaletteNotes {
   /// The name of the default reader.
   std::string_view reader;

@@ -9,7 +9,7 @@
 /// here changes how files are read.
 namespace quillhue {
 
-/// How the default reading of a file differs from what the file says.
+/// A difference between the default reading of a file and what the file says.
 struct ReadingNote {
   /// Clauses without a capital and a full stop. Empty if the default reading refuses the file and no reason is known.
   std::string text;

@@ -44,7 +44,7 @@ constexpr std::array kModels{
 };
 
 std::expected<PaletteEntry, Failure> readColor(ByteSource& source, std::uint64_t data, std::uint64_t end) {
-  // The name is a count of UTF-16 units, including the closing zero, and then the units.
+  // The name is stored as the number of its UTF-16 units, including the closing zero, and the units.
   const std::uint64_t tag = data + 2 + 2 * std::uint64_t{source.u16be(data)};
   for (const Model& model : kModels) {
     if (matchTag(source, tag, model.tag)) {

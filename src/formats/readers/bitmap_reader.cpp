@@ -12,7 +12,8 @@ bool matches(const ReaderInput& input) { return matchTag(input.source, 0, "BM");
 ReadResult read(const ReaderInput& input) {
   const std::uint8_t bits = input.source.u8(kFileHeader + kBitCount);
   if (bits <= 8) {
-    // kept on purpose: ignores header size and colors used. The table is taken to be full and to start at offset 54.
+    // kept on purpose: ignores the size of the header and the number of colors used. The table counts as full and
+    // starts at offset 54.
     return FilePalette{blueFirst(readQuads(input.source, kFileHeader + kInfoHeader, 1 << bits)), palette_format::kNone};
   }
   if (bits != 16 && bits != 24 && bits != 32) {

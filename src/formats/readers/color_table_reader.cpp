@@ -7,7 +7,7 @@ namespace {
 bool matches(const ReaderInput& input) { return input.source.u32be(0) == 0x00030001; }
 
 ReadResult read(const ReaderInput& input) {
-  // Between the file sizes of a table of 16 and a table of 256 records.
+  // A size between those of files with 16 and with 256 records.
   constexpr std::uint64_t kSmallestLargeFile = 701;
   const std::int32_t count = input.source.size() < kSmallestLargeFile ? 16 : 256;
   return FilePalette{readQuads(input.source, 4, count), palette_format::kColorTable};

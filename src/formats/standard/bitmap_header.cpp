@@ -23,7 +23,7 @@ constexpr std::array<std::uint32_t, 8> kHeaderSizes{kCoreHeader, 16, 40, 52, kAl
 // BI_RGB, BI_RLE8, BI_RLE4, BI_BITFIELDS and BI_ALPHABITFIELDS.
 enum StoredCompression : std::uint32_t { kPlain = 0, kRle8 = 1, kRle4 = 2, kBitFields = 3, kAlphaBitFields = 6 };
 
-// The fields of a header of a given size; those that it does not have are 0.
+// The fields of a header of a given size. Missing fields are 0.
 class Fields {
  public:
   Fields(ByteSource& source, std::uint64_t offset) : source_(source), offset_(offset), size_(source.u32le(offset)) {}
@@ -53,7 +53,7 @@ std::optional<Failure> readSize(const Fields& fields, BitmapHeader& header) {
   return std::nullopt;
 }
 
-// False for a combination of depth and compression that there is none of.
+// Returns false for a combination of depth and compression that does not exist.
 bool readDepth(const Fields& fields, BitmapHeader& header) {
   constexpr std::array<unsigned, 7> kDepths{1, 2, 4, 8, 16, 24, 32};
   header.bits = fields.isCore() ? fields.u16(10) : fields.u16(kBitCount);
@@ -77,7 +77,8 @@ bool readDepth(const Fields& fields, BitmapHeader& header) {
   }
 }
 
-// The masks of bit fields follow the first 40 bytes, whether they belong to the header or not. Gives their number.
+// Reads the masks of bit fields, which follow the first 40 bytes whether they belong to the header or not. Returns
+// their number.
 std::size_t readMasks(const Fields& fields, ByteSource& source, std::uint64_t offset, BitmapHeader& header) {
   const std::uint32_t compression = fields.u32(kCompression);
   if (compression != kBitFields && compression != kAlphaBitFields) {
@@ -110,7 +111,7 @@ std::expected<BitmapHeader, Failure> readBitmapHeader(ByteSource& source, std::u
   const std::uint32_t used = fields.u32(kColorsUsed);
   header.entries = header.bits > 8 ? 0 : used == 0 ? 1U << header.bits : used;
   if (pixels && *pixels >= header.table) {
-    // The table of some files ends before all of its entries, where the pixels begin.
+    // In some files the pixels begin before the end of the table.
     const std::uint64_t room = (*pixels - header.table) / header.entrySize;
     header.entries = static_cast<std::uint32_t>(std::min<std::uint64_t>(header.entries, room));
   }

@@ -34,17 +34,17 @@ struct BitmapHeader {
   std::uint64_t pixels = 0;
 };
 
-/// Reads the info header at `offset`. `pixels` is where the file says that the pixels are; without it they follow the
-/// color table. Refuses with bitmapUnsupported other sizes of the header, depths and compressions, with imageTooSmall
-/// or imageTooLarge a size outside image_limits.h.
+/// Reads the info header at `offset`. `pixels` is the offset of the pixels that the file contains; without it the
+/// pixels follow the color table. Refuses other header sizes, depths and compressions with bitmapUnsupported, and an
+/// image size outside image_limits.h with imageTooSmall or imageTooLarge.
 [[nodiscard]] std::expected<BitmapHeader, Failure> readBitmapHeader(ByteSource& source, std::uint64_t offset,
                                                                     std::optional<std::uint64_t> pixels);
 
-/// The header of a file, which a file header precedes.
+/// Reads the file header and the info header of a file.
 [[nodiscard]] std::expected<BitmapHeader, Failure> readBitmapFileHeader(ByteSource& source);
 
-/// The color table, as far as a palette holds it. Refuses with bitmapUnsupported a bitmap without one, with
-/// pictureDamaged one that the file does not hold.
+/// Reads the color table, as far as a palette can hold it. Refuses a bitmap without one with bitmapUnsupported, and a
+/// truncated table with pictureDamaged.
 [[nodiscard]] std::expected<Palette, Failure> readColorTable(ByteSource& source, const BitmapHeader& header);
 
 }  // namespace quillhue

@@ -14,7 +14,7 @@ namespace {
 
 using Bytes = std::span<const std::uint8_t>;
 
-// A row of indexes of 1, 2, 4 or 8 bits, the left pixel in a byte's highest bits.
+// Decodes a row of indexes of 1, 2, 4 or 8 bits. The left pixel is in a byte's highest bits.
 void decodeIndexes(Bytes stored, unsigned bits, std::span<std::uint8_t> row) {
   const std::size_t perByte = 8 / bits;
   for (std::size_t x = 0; x < row.size(); ++x) {
@@ -23,7 +23,7 @@ void decodeIndexes(Bytes stored, unsigned bits, std::span<std::uint8_t> row) {
   }
 }
 
-// Rows of little-endian pixels of 16, 24 or 32 bits.
+// Decodes rows of little-endian pixels of 16, 24 or 32 bits.
 class ColorRows {
  public:
   ColorRows(const BitmapHeader& header, PaletteEntry blank)

@@ -5,10 +5,10 @@
 
 namespace quillhue {
 
-/// Decodes the pixels of a bitmap. An image of 8 bits a pixel or fewer has a palette, of 16 entries up to 4 bits and of
-/// 256 otherwise; those that the color table lacks are black. Pixels that a compressed image skips have index 0.
-/// A pixel with an alpha of less than a half is transparent and blended with `blank`. Refuses with pictureDamaged a
-/// file that ends before its pixels. Throws std::bad_alloc.
+/// Decodes the pixels of a bitmap. An image of up to 8 bits a pixel has a palette: 16 entries up to 4 bits, otherwise
+/// 256. Entries missing from the color table are black. Pixels that a compressed image skips have index 0.
+/// A pixel that is less than half opaque is transparent and blended with `blank`. Refuses a file that ends before its
+/// pixels do with pictureDamaged. Throws std::bad_alloc.
 [[nodiscard]] ImageResult readBitmapPixels(ByteSource& source, const BitmapHeader& header, PaletteEntry blank);
 
 }  // namespace quillhue

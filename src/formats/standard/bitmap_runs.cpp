@@ -6,7 +6,7 @@ namespace quillhue {
 
 namespace {
 
-// After a zero comes one of these, or a number of literal pixels.
+// A zero is followed by one of these, or by a number of literal pixels.
 enum Escape : std::uint8_t { kEndOfRow = 0, kEndOfBitmap = 1, kDelta = 2 };
 
 class RunDecoder {
@@ -46,7 +46,7 @@ class RunDecoder {
   }
 
  private:
-  // The left one of two pixels in a byte is in the high half.
+  // The left of two pixels in a byte is in the high half.
   [[nodiscard]] std::uint8_t indexIn(std::uint8_t value, std::uint32_t place) const {
     if (!isRle4_) {
       return value;
@@ -54,7 +54,7 @@ class RunDecoder {
     return place % 2 == 0 ? value >> 4 : value & 15;
   }
 
-  // Puts `count` pixels, of which `valueOf` gives the byte by its place.
+  // Stores `count` pixels. `valueOf` returns the byte at a place.
   void putPixels(std::uint8_t count, auto valueOf) {
     const auto row = rowAt_(static_cast<std::int32_t>(y_));
     for (std::uint32_t i = 0; i < count; ++i, ++x_) {

@@ -5,7 +5,7 @@
 #include "formats/standard/bitmap_pixels.h"
 #include "formats/standard/standard_formats.h"
 
-// The bitmap in a Windows Clipboard file is one without a file header: its pixels follow its color table.
+// The bitmap in a Windows Clipboard file has no file header. Its pixels follow its color table.
 
 namespace quillhue {
 

@@ -8,14 +8,14 @@ namespace quillhue {
 /// The bits of a pixel that hold one channel.
 class ColorField {
  public:
-  /// `mask` is 0 for a channel that pixels do not have.
+  /// `mask` is 0 for a missing channel.
   constexpr explicit ColorField(std::uint32_t mask)
       : mask_(mask), shift_(mask == 0 ? 0 : std::countr_zero(mask)), width_(32 - std::countl_zero(mask) - shift_) {}
 
   [[nodiscard]] constexpr bool isPresent() const { return mask_ != 0; }
 
-  /// The channel as a byte: its highest eight bits, or, where it has fewer, all of them over and over. 0 for a channel
-  /// that is not present.
+  /// Returns the channel as a byte: its highest eight bits or, if it has fewer, its bits repeated. Returns 0 for a
+  /// missing channel.
   [[nodiscard]] constexpr std::uint8_t valueIn(std::uint32_t pixel) const {
     const std::uint32_t value = (pixel & mask_) >> shift_;
     std::uint32_t byte = 0;

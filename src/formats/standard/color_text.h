@@ -10,7 +10,8 @@
 
 namespace quillhue {
 
-/// Returns a number of decimal digits alone that `Number`, which is unsigned, holds; nothing for any other text.
+/// Parses a number that consists of decimal digits only. `Number` is unsigned. Returns nothing for other text and for a
+/// number too large for `Number`.
 template <typename Number>
 [[nodiscard]] std::optional<Number> parseDecimal(std::string_view text) {
   Number value = 0;
@@ -24,7 +25,7 @@ template <typename Number>
   return parseDecimal<std::uint8_t>(text);
 }
 
-/// Returns the color of a line that begins with three such numbers, between blanks or tabs; nothing for any other line.
+/// Parses a line that begins with three such numbers, separated by blanks or tabs. Returns nothing for any other line.
 [[nodiscard]] std::optional<PaletteEntry> parseColorLine(std::string_view line);
 
 }  // namespace quillhue

@@ -10,9 +10,9 @@
 #include "formats/standard/standard_formats.h"
 #include "formats/text_lines.h"
 
-// Layout: RFC 4180, lines of fields between commas, here also between semicolons or tabs. A color is a field "#rrggbb"
-// or three fields of decimal numbers: those that a header line calls red, green and blue, or the first in a row. No
-// standard says how palettes are kept in such files.
+// Layout: RFC 4180: lines of fields separated by commas; here semicolons and tabs separate them too. A color is a field
+// "#rrggbb" or three fields of decimal numbers: those that a header line calls red, green and blue, or the first three
+// in a row. No standard defines palettes in such files.
 
 namespace quillhue {
 
@@ -22,7 +22,7 @@ using Fields = std::vector<std::string>;
 
 bool matches(const ReaderInput& input) { return nameEndsWith(input.name, "CSV"); }
 
-// Quotes around a field are removed, and a doubled one in it is one.
+// Removes the quotes around a field. Two quotes inside it mean one.
 Fields fieldsOf(std::string_view line) {
   Fields fields(1);
   bool isQuoted = false;
@@ -44,10 +44,10 @@ Fields fieldsOf(std::string_view line) {
   return fields;
 }
 
-// Which fields are red, green and blue.
+// The indexes of the fields for red, green and blue.
 using Columns = std::array<std::size_t, 3>;
 
-// The columns that a header line calls "red" or "r" and so on; nothing when it does not have all three.
+// Returns the columns that a header line calls "red" or "r" and so on, or nothing if one is missing.
 std::optional<Columns> columnsNamedIn(const Fields& header) {
   constexpr std::array<std::string_view, 3> kNames{"red", "green", "blue"};
   Columns columns;
@@ -78,7 +78,7 @@ std::optional<PaletteEntry> colorIn(const Fields& fields, const Columns& columns
   return color;
 }
 
-// The fields of the named columns, or else the first "#rrggbb", or else the first three numbers in a row.
+// Reads the named columns, or else the first "#rrggbb", or else the first three numbers in a row.
 std::optional<PaletteEntry> colorOf(const Fields& fields, const std::optional<Columns>& named) {
   if (named) {
     return colorIn(fields, *named);

@@ -43,8 +43,8 @@ void readDescriptor(ByteSource& source, std::uint64_t at, GifFrame& frame) {
   frame.canvasHeight = std::max(frame.canvasHeight, frame.top + frame.height);
 }
 
-// The row of the image that is stored at `place` among `height`: of an interlaced one every eighth row, those in the
-// middle between them, and so on.
+// Returns the row of an interlaced image that is stored at `place`: first every eighth row, then the rows halfway
+// between them, and so on.
 std::int32_t interlacedRow(std::int32_t place, std::int32_t height) {
   struct Pass {
     std::int32_t first;

@@ -11,7 +11,7 @@ namespace quillhue {
 
 /// The first image of a GIF file. Layout: CompuServe, "Graphics Interchange Format, Version 89a" (1990).
 struct GifFrame {
-  /// The canvas on which it lies; large enough for all of it.
+  /// The size of the canvas, which contains the whole image.
   std::int32_t canvasWidth = 0;
   std::int32_t canvasHeight = 0;
   std::int32_t left = 0;
@@ -19,7 +19,7 @@ struct GifFrame {
   std::int32_t width = 0;
   std::int32_t height = 0;
   bool isInterlaced = false;
-  /// The offsets of the file's palette and of this image's own, and their numbers of entries; 0 for none.
+  /// The offsets of the file's palette and of this image's own, and their numbers of entries; 0 if missing.
   std::uint64_t globalTable = 0;
   std::int32_t globalEntries = 0;
   std::uint64_t localTable = 0;
@@ -32,10 +32,9 @@ struct GifFrame {
 /// Reads the file's blocks up to the first image.
 [[nodiscard]] GifFrame readGifFrame(ByteSource& source);
 
-/// Decodes the image. The transparent index has the color `blank`. Pixels of the canvas that the image leaves free have
-/// the transparent index, or else index 0. Refuses with
-/// gifNoGlobalPalette a file without a palette, with pictureDamaged one without an image or with too little of it, and
-/// a size outside image_limits.h. Throws std::bad_alloc.
+/// Decodes the image. The transparent index has the color `blank`. Pixels of the canvas outside the image have the
+/// transparent index or, without one, index 0. Refuses a file without a palette with gifNoGlobalPalette, one without a
+/// complete image with pictureDamaged, and a size outside image_limits.h. Throws std::bad_alloc.
 [[nodiscard]] ImageResult readGifPixels(ByteSource& source, const GifFrame& frame, PaletteEntry blank);
 
 }  // namespace quillhue

@@ -5,7 +5,7 @@
 #include "formats/text_lines.h"
 
 // Layout: "JASC PAL" of the Just Solve the File Format Problem wiki: the lines JASC-PAL, 0100 and the number of
-// entries, then one line an entry with red, green and blue; newer files have an alpha behind them.
+// entries, then one line an entry with red, green and blue; newer files also have alpha.
 
 namespace quillhue {
 
@@ -13,7 +13,7 @@ namespace {
 
 bool matches(const ReaderInput& input) { return matchTag(input.source, 0, "JASC"); }
 
-// A count of 0 stands for all entries that follow: files with 256 exist whose count is a single byte.
+// A count of 0 means all entries that follow, because some programs store 256 in a single byte.
 std::optional<std::uint32_t> readCount(TextLines& lines) {
   const auto title = lines.next();
   if (!title || trimmed(*title) != "JASC-PAL" || !lines.next()) {

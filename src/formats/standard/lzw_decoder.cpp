@@ -26,7 +26,7 @@ bool LzwDecoder::read(std::span<std::uint8_t> out) {
 }
 
 void LzwDecoder::clear() {
-  // The first codes are the pixels themselves, the code that clears the table, and the end.
+  // The first codes are the pixels themselves, then the code that clears the table, then the end.
   size_ = static_cast<std::uint16_t>((1U << minimumLength_) + 2);
   length_ = minimumLength_ + 1;
   previous_ = kNone;
@@ -63,7 +63,7 @@ bool LzwDecoder::decodeCode() {
   }
   std::uint8_t first = 0;
   if (code == size_) {
-    // The one code that may be used before it is known: the previous pixels, and their first one again.
+    // The only code that may be used before it is defined: the previous pixels, followed by their first one.
     stack_.push_back(0);
     first = push(previous_);
     stack_.front() = first;

@@ -9,14 +9,14 @@
 
 namespace quillhue {
 
-/// The pixels of a GIF image, one after the other. CompuServe, "Graphics Interchange Format, Version 89a", appendix F:
-/// codes of growing length, the lowest bit first, in blocks of a length and as many bytes.
+/// Decodes the pixels of a GIF image in order. CompuServe, "Graphics Interchange Format, Version 89a", appendix F:
+/// codes of growing length, the lowest bit first, in blocks, each preceded by its length.
 class LzwDecoder {
  public:
   /// `offset` is that of the minimum code size.
   LzwDecoder(ByteSource& source, std::uint64_t offset);
 
-  /// Fills `out` with the next pixels. False when the data end before, or are damaged.
+  /// Fills `out` with the next pixels. Returns false if the data end too early or are damaged.
   [[nodiscard]] bool read(std::span<std::uint8_t> out);
 
  private:
@@ -31,11 +31,11 @@ class LzwDecoder {
   };
 
   void clear();
-  // The next code; kNone at the end of the data.
+  // Returns the next code, or kNone at the end of the data.
   std::uint16_t nextCode();
   // Puts the pixels of the next code on the stack, the first one on top.
   bool decodeCode();
-  // Puts the pixels of a known code on the stack, and gives the first one.
+  // Puts the pixels of a known code on the stack, and returns the first one.
   std::uint8_t push(std::uint16_t code);
 
   ByteSource& source_;

@@ -28,8 +28,8 @@ struct Depth {
 };
 constexpr std::array<Depth, 8> kDepths{{{1, 1}, {1, 2}, {1, 3}, {1, 4}, {2, 1}, {4, 1}, {8, 1}, {8, 3}}};
 
-// The bytes of the rows, one plane after the other. Of a compressed byte of 192 and more the low six bits say how often
-// the next one occurs; a run may go on in the next row.
+// Reads the bytes of the rows, one plane after the other. In compressed data, the low six bits of a byte of 192 or more
+// are the number of times that the next byte occurs. A run may continue in the next row.
 class PcxBytes {
  public:
   PcxBytes(ByteSource& source, bool isCompressed) : source_(source), isCompressed_(isCompressed) {}
@@ -65,7 +65,7 @@ class PcxBytes {
   std::uint8_t value_ = 0;
 };
 
-// The bits of the planes together are an index, those of the first plane lowest.
+// The bits of all planes form an index; the first plane has the lowest bits.
 void decodeIndexes(std::span<const std::uint8_t> planes, const PcxHeader& header, std::span<std::uint8_t> row) {
   const std::size_t perByte = 8 / header.bits;
   for (std::size_t x = 0; x < row.size(); ++x) {
@@ -86,7 +86,7 @@ void decodeColors(std::span<const std::uint8_t> planes, const PcxHeader& header,
   }
 }
 
-// The 16 colors of a screen, which version 3 leaves to it.
+// Returns the 16 standard colors of the screen. Files of version 3 have no palette of their own.
 Palette screenPalette() {
   FixedHalftone screen;
   return std::ranges::find(systemPalettes(), "cga", &SystemPalette::name)->create(screen);

@@ -26,7 +26,8 @@ struct PcxHeader {
 /// Returns true if the file begins like a PCX file.
 [[nodiscard]] bool isPcxFile(ByteSource& source);
 
-/// Refuses depths other than 1, 2, 4, 8 and 24 bits per pixel with pcxDepth, and sizes outside image_limits.h.
+/// Reads the header. Refuses depths other than 1, 2, 3, 4, 8 and 24 bits per pixel with pcxDepth, and sizes outside
+/// image_limits.h.
 [[nodiscard]] std::expected<PcxHeader, Failure> readPcxHeader(ByteSource& source);
 
 /// Reads the palette, if the file has one. With 1 bit per pixel it is black and white or two colors of the header. With

@@ -3,7 +3,7 @@
 #include "formats/standard/standard_formats.h"
 
 // Layout: "Multimedia Programming Interface and Data Specifications 1.0" (1991), "Palette file format": a RIFF form
-// PAL, whose chunk "data" is a LOGPALETTE: version, number of entries, and those as red, green, blue and flags.
+// PAL, whose chunk "data" is a LOGPALETTE: version, number of entries, and the entries as red, green, blue and flags.
 
 namespace quillhue {
 

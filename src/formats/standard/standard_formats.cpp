@@ -19,7 +19,7 @@ constexpr std::array kLoaders{&kStandardBitmapLoader, &kStandardClipboardLoader,
 
 constexpr std::array kWriters{&kStandardJascWriter, &kStandardGimpWriter};
 
-// The first of them that matches.
+// Returns the first member that matches, or null.
 template <typename Member, std::size_t kSize>
 const Member* firstMatch(const std::array<const Member*, kSize>& members, auto& input) {
   const auto found = std::ranges::find_if(members, [&](const Member* member) { return member->matches(input); });

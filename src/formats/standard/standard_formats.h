@@ -6,9 +6,9 @@
 #include "formats/images/image_loader.h"
 #include "formats/readers/palette_reader.h"
 
-/// Formats by their published descriptions, each of which its file names. They are used only when somebody asks for
-/// them: the editor and the tool otherwise read by the rules of palette_readers.h and image_loaders.h. A reader
-/// or writer has the name of the one that it stands for.
+/// Readers, loaders and writers that follow the published descriptions of the formats. Each file names its description.
+/// They are used only on request; otherwise the editor and the tool read by the rules of palette_readers.h and
+/// image_loaders.h. A reader or writer has the name of the default one that it replaces.
 namespace quillhue {
 
 extern const PaletteReader kStandardJascReader;
@@ -28,8 +28,8 @@ inline constexpr std::size_t kMaxStandardPixelBytes = 4;
 /// One layout of image files.
 struct StandardLoader {
   bool (*matches)(ByteSource& source);
-  /// Loads a file that matches. A pixel of which less than a half is covered is transparent, and blended with `blank`.
-  /// Refuses files that end before their pixels do.
+  /// Loads a file that matches. A pixel that is less than half opaque is transparent and blended with `blank`. Refuses
+  /// files that end before their pixels do.
   ImageResult (*load)(ByteSource& source, PaletteEntry blank);
 };
 
@@ -38,22 +38,22 @@ extern const StandardLoader kStandardClipboardLoader;
 extern const StandardLoader kStandardPcxLoader;
 extern const StandardLoader kStandardGifLoader;
 
-/// All readers, in the order in which they are asked whether they know a file.
+/// Returns all readers in the order in which they are tried.
 [[nodiscard]] std::span<const PaletteReader* const> standardReaders();
 
-/// The first of them that matches; null when none does.
+/// Returns the first reader that matches, or null.
 [[nodiscard]] const PaletteReader* findStandardReader(const ReaderInput& input);
 
-/// Returns the loader of images that matches, or null. At most one matches a file.
+/// Returns the image loader that matches, or null. At most one matches a file.
 [[nodiscard]] const StandardLoader* findStandardLoader(ByteSource& source);
 
-/// Loads an image by the loader here that matches, and other files as loadImage does.
+/// Loads an image with the loader that matches. Loads other files as loadImage does.
 [[nodiscard]] ImageResult loadStandardImage(ByteSource& source, PaletteEntry blank);
 
 extern const ExportFormat kStandardJascWriter;
 extern const ExportFormat kStandardGimpWriter;
 
-/// All writers.
+/// Returns all writers.
 [[nodiscard]] std::span<const ExportFormat* const> standardWriters();
 
 }  // namespace quillhue

@@ -16,7 +16,8 @@ constexpr std::uint64_t kHeader = 18;
 
 bool matches(const ReaderInput& input) { return nameEndsWith(input.name, "TGA"); }
 
-// One entry of 15 or 16 bits (five each for red, green and blue), or of blue, green, red and perhaps an attribute.
+// Reads an entry of 15 or 16 bits (five each for red, green and blue), or one of blue, green, red and possibly an
+// attribute.
 PaletteEntry readEntry(ByteSource& source, std::uint64_t offset, std::uint64_t bytes) {
   if (bytes > 2) {
     return {source.u8(offset + 2), source.u8(offset + 1), source.u8(offset)};

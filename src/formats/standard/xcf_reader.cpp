@@ -4,8 +4,8 @@
 
 #include "formats/standard/standard_formats.h"
 
-// Layout: GIMP's developer documentation (devel-docs), "XCF": big-endian words. Behind the version and the image's size
-// and type, and from version 4 on its precision, come the properties: a type, a length and data each.
+// Layout: GIMP's developer documentation (devel-docs), "XCF": big-endian words. The version, the image's size and type
+// and, from version 4 on, its precision come first. The properties follow: each has a type, a length and data.
 
 namespace quillhue {
 

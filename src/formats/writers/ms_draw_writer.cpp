@@ -9,7 +9,7 @@ void compose(const Palette& palette, PaletteEntry /*blank*/, ByteSink& sink) {
   sink.u8(0, 0x43);
   sink.u8(1, static_cast<std::uint8_t>(palette.getSize() - 1));
   sink.extend(kHeaderLength);
-  // Black is implied: a black first entry overlaps the header's last four zeros, and readers add it again.
+  // Black is implied: a black first entry is stored as the header's last four zeros, and readers add it again.
   const std::size_t firstRecord = palette.entry(0) == PaletteEntry{} ? kHeaderLength - 4 : kHeaderLength;
   composeQuads(palette, {.offset = firstRecord, .count = palette.getSize()}, sink);
 }

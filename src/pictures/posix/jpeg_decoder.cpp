@@ -58,7 +58,7 @@ class Reader {
         return {.kind = SampleKind::color};
     }
   }
-  // Programs that write this marker store the light that passes through instead of the ink.
+  // Programs that write this marker store inverted ink: the light that passes through.
   [[nodiscard]] bool hasInvertedInk() const { return jpeg_.out_color_space == JCS_CMYK && jpeg_.saw_Adobe_marker; }
   [[nodiscard]] Failure failure() const {
     return errors_.msg_code == JERR_OUT_OF_MEMORY ? Failure::notEnoughMemory : Failure::pictureDamaged;

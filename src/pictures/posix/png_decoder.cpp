@@ -50,8 +50,8 @@ class Reader {
   png_infop info_;
 };
 
-// libpng's own handling of interlaced images is not used. A row is then a row of one pass, and no buffer for the whole
-// image is needed.
+// Reads each pass of an interlaced image on its own. libpng would combine the passes, but that needs a buffer for the
+// whole image.
 bool readPass(Reader& reader, const PngFile& png, int pass, SampleRows& rows, std::span<std::uint8_t> row) {
   const auto width = static_cast<png_uint_32>(png.width);
   const auto height = static_cast<png_uint_32>(png.height);

@@ -25,7 +25,7 @@ class Frame {
   /// Returns how the rows are stored, or nothing if the file can't be decoded. Formats that SampleFormat can't describe
   /// are converted to bytes of blue, green, red and alpha.
   [[nodiscard]] std::optional<SampleFormat> format() const;
-  /// The following are for a frame that has a format.
+  /// Call the following functions only for a frame that has a format.
   [[nodiscard]] Size size() const;
   /// Returns the palette, or nothing if there is none.
   [[nodiscard]] std::optional<PictureColors> colors() const;

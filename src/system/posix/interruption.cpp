@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::array kSignals{SIGINT, SIGTERM};
 
-// A signal handler reaches nothing but globals.
+// A signal handler can access only globals.
 std::atomic<bool> isInterrupted;
 static_assert(std::atomic<bool>::is_always_lock_free);
 

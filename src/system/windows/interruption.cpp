@@ -8,7 +8,7 @@ namespace quillhue {
 
 namespace {
 
-// The handler of a console gets nothing but the event.
+// A console handler receives only the event.
 std::atomic<bool> isInterrupted;
 
 BOOL WINAPI noteInterrupt(DWORD event) {

@@ -32,8 +32,8 @@ namespace quillhue {
 [[nodiscard]] std::string pixelTooltip(const WorkImage& image, Point point);
 [[nodiscard]] std::string pixelTooltip(const RemappedImage& image, PaletteEntry blank, Point point);
 
-/// Names for screen readers: "Entry 29, #E8B0B0", and "Image, 640 by 480 pixels, remapped". There is "No image" without
-/// a size.
+/// Names for screen readers: "Entry 29, #E8B0B0", and "Image, 640 by 480 pixels, remapped". Without a size the name is
+/// "No image".
 [[nodiscard]] std::string entryName(const Palette& palette, std::int32_t index);
 [[nodiscard]] std::string imageName(std::optional<Size> size, bool isRemapped);
 

@@ -115,7 +115,7 @@ bool GridSelection::goesOn(Means by) const {
          gesture_.saves == document().saveCount() && gesture_.base.size() == document().getPalette().selected().size();
 }
 
-// A cell past the end has no entry, but its row may contain entries.
+// A cell past the palette's end has no entry, but its row may contain entries.
 bool GridSelection::give(const std::vector<std::int32_t>& cells, std::int32_t columns) {
   const std::int32_t length = gesture_.mode == SelectionMode::row ? columns : 1;
   Flags wanted = currentFlags();

@@ -39,8 +39,8 @@ struct RowRange {
   friend bool operator==(const RowRange&, const RowRange&) = default;
 };
 
-/// Returns the rows visible in an image area of this height (that of the tab) from `firstRow` on, and the number of
-/// rows processed between two progress reports in addition.
+/// Returns the rows visible from `firstRow` on in the tab's image area of this height, plus the rows processed between
+/// two progress reports.
 [[nodiscard]] RowRange visibleRows(std::int32_t firstRow, std::int32_t areaHeight, Scale scale);
 
 }  // namespace quillhue

@@ -23,7 +23,7 @@ class BarsView final : public SubclassedControl, private AccessibleContent {
 
   /// Answers WM_DRAWITEM.
   void paint(HDC dc) const;
-  /// Repaints the bars, strips and markers, and tells screen readers about changed numbers.
+  /// Repaints the bars, strips and markers, and announces changed numbers to screen readers.
   void repaintBars();
 
  private:
@@ -42,7 +42,7 @@ class BarsView final : public SubclassedControl, private AccessibleContent {
   const WindowContext& context_;
   ChannelEditor& editor_;
   Accessibility accessibility_{*this};
-  // As last told to screen readers.
+  // Values last announced to screen readers.
   EnumArray<Bar, std::int32_t, kBars.size()> announced_{};
   WheelSum wheel_;
   // The bar under the pointer at the last turn of the wheel.

@@ -101,7 +101,7 @@ LRESULT GridWindow::answerKeyboard(UINT message, WPARAM wParam, LPARAM lParam) {
       // The default handling opens the context menu when the menu key is released.
       return DefWindowProcW(handle(), message, wParam, lParam);
     case WM_GETDLGCODE:
-      // Otherwise letters without Alt would press the buttons with that access key.
+      // Without this, letters typed without Alt would press the buttons with that access key.
       return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_KILLFOCUS:
       client_.cancelNumber();

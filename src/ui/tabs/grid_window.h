@@ -24,13 +24,14 @@ class GridClient : public AccessibleContent {
   virtual void moveByKey(GridKey key, GridSelection::Keys keys) = 0;
   virtual void pressSpace(GridSelection::Keys keys) = 0;
   virtual void releaseShift() = 0;
-  /// A digit was typed. The digits make the number of an entry, which endNumber() goes to and cancelNumber() forgets.
+  /// Handles a typed digit. The digits form an entry's number: endNumber() goes to the entry, cancelNumber() discards
+  /// the digits.
   virtual void typeDigit(char digit) = 0;
   virtual void endNumber() = 0;
   virtual void cancelNumber() = 0;
   /// Returns the tooltip for a point, or an empty text for none.
   [[nodiscard]] virtual std::string tooltipAt(Point point) = 0;
-  /// Null for the arrow.
+  /// Returns null for the arrow.
   [[nodiscard]] virtual HCURSOR gridCursor() const = 0;
 };
 

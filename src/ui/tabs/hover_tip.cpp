@@ -8,9 +8,9 @@ namespace quillhue {
 
 namespace {
 
-// Differs from other timers of the windows.
+// Must differ from the windows' other timers.
 constexpr UINT_PTR kTimer = 77;
-// Between two looks at whether the tooltip may stay, in milliseconds.
+// Interval of the check whether the tooltip may stay, in milliseconds.
 constexpr UINT kInterval = 100;
 
 }  // namespace

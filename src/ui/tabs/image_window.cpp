@@ -73,7 +73,7 @@ LRESULT ImageWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_KEYDOWN:
       return keyPressed(wParam) ? 0 : DefWindowProcW(handle(), message, wParam, lParam);
     case WM_GETDLGCODE:
-      // Otherwise letters without Alt would press the buttons with that access key.
+      // Without this, letters typed without Alt would press the buttons with that access key.
       return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:

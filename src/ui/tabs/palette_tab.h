@@ -64,14 +64,14 @@ class PaletteTab : public Tab, public GridClient {
   /// Shows or hides the tab's own controls.
   virtual void showControls(bool visible) = 0;
 
-  /// Repaint the grid or one cell, and update what is shown about the current entry elsewhere. Call these after every
-  /// change of the colors shown or of the current entry.
+  /// Repaint the grid or one cell, and update the current entry in the status bar and for screen readers. Call these
+  /// after every change of the colors shown or of the current entry.
   void repaintGrid();
   void repaintEntry(std::int32_t index);
 
  private:
   bool openContextMenu(Point screenPoint);
-  /// Updates the status bar, and tells screen readers.
+  /// Updates the status bar and notifies screen readers.
   void showEntry();
   void announceEntry(const GridPicture& shown);
 
@@ -81,7 +81,7 @@ class PaletteTab : public Tab, public GridClient {
   GridWindow gridWindow_;
   TypedEntry typedEntry_;
   bool isShown_ = false;
-  // As last told to screen readers.
+  // State last announced to screen readers.
   std::int32_t announcedEntry_ = kNoEntry;
   std::vector<std::uint8_t> announcedSelection_;
 };

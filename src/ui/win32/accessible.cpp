@@ -9,7 +9,7 @@ namespace quillhue {
 
 namespace {
 
-// Gives the text, or nothing if it is empty.
+// Copies the text to `result`. An empty text gives null.
 HRESULT give(const std::string& text, BSTR* result) {
   *result = text.empty() ? nullptr : SysAllocString(fromUtf8(text).c_str());
   return *result == nullptr ? S_FALSE : S_OK;

@@ -64,11 +64,11 @@ class Accessibility {
   class Object;
 
   AccessibleContent& content_;
-  // Made when it is first asked for.
+  // Made on the first request.
   Object* object_ = nullptr;
 };
 
-/// Tells screen readers about a change of a part (EVENT_OBJECT_FOCUS and so on).
+/// Announces a change of a part to screen readers (EVENT_OBJECT_FOCUS and so on).
 void announce(DWORD event, HWND window, std::int32_t index = AccessibleContent::kWindow);
 
 }  // namespace quillhue

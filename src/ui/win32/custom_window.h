@@ -39,8 +39,8 @@ class CustomWindow {
   /// Returns false on failure.
   [[nodiscard]] bool create(const Creation& creation);
 
-  /// Answers a message. Implementations pass other messages to DefWindowProcW. If one throws std::bad_alloc, the user
-  /// is told so, and the message counts as answered with 0; WM_CREATE creates no window then.
+  /// Answers a message. Implementations pass other messages to DefWindowProcW. If one throws std::bad_alloc, shows a
+  /// message to the user and answers with 0. If that happens in WM_CREATE, no window is created.
   virtual LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) = 0;
 
  private:

@@ -10,8 +10,8 @@ namespace quillhue {
 
 namespace {
 
-// After each new text, a pause in milliseconds until the next one is painted. While a bar is dragged, the text changes
-// with every move of the pointer.
+// Minimum time between two painted texts, in milliseconds. While a bar is dragged, the text changes with every move of
+// the pointer.
 constexpr UINT_PTR kPauseTimer = 77;
 constexpr UINT kPause = 50;
 
@@ -86,7 +86,7 @@ void StatusBar::draw(const DRAWITEMSTRUCT& item) const {
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
 }
 
-// The control does not know the text that it does not draw, but screen readers ask it.
+// The control does not know a text that it does not draw itself, but screen readers ask it for the text.
 LRESULT StatusBar::answer(UINT message, WPARAM wParam, LPARAM lParam) {
   const bool isFitted = static_cast<int>(wParam) == fittedPart_;
   const auto length = MAKELONG(fittedText_.size(), SBT_OWNERDRAW);

@@ -18,7 +18,7 @@ constexpr auto kDither = RemapMode::dither;
 
 RemapMode modeOf(char letter) { return letter == 'm' ? kMaintain : letter == 'n' ? kNearest : kDither; }
 
-// "+" or "-" for each.
+// Returns "+" or "-" for each value.
 std::string shown(std::initializer_list<bool> enabled) {
   std::string text;
   for (const bool each : enabled) {
@@ -81,7 +81,7 @@ TEST(WheelSum, AddsUpPartsOfANotch) {
   static_cast<void>(sum.add(100));
   sum.reset();
   EXPECT_EQ(sum.add(20), 0);
-  // 48 pixels a notch.
+  // A notch is 48 pixels.
   EXPECT_EQ(sum.add(5, 48), 2);
 }
 

@@ -30,7 +30,7 @@ class GridSelectionTest : public testing::Test {
 
   [[nodiscard]] Point middleOf(std::int32_t cell) const { return {50 + cell % 4 * 80, 50 + cell / 4 * 80}; }
 
-  // # where selected, then the undo steps and the current entry.
+  // Returns # for each selected entry, then the undo steps and the current entry.
   [[nodiscard]] std::string state() const {
     const PaletteDocument& document = *slot.document();
     std::string text;
@@ -43,7 +43,7 @@ class GridSelectionTest : public testing::Test {
   }
 
  private:
-  // Each act tells whether it has changed the selection.
+  // Expects the result of each act to say whether the selection has changed.
   void expectTold(const std::function<bool()>& act) const {
     const Palette before = slot.document()->getPalette();
     const bool hasChanged = act();
@@ -109,7 +109,7 @@ TEST_F(GridSelectionTest, KeepsTheCurrentEntryInThePalette) {
   EXPECT_EQ(selection->currentEntry(), 3);
   perform(acts_, "shift+press=1 release");
   EXPECT_EQ(state(), ".### 2 1");
-  // A palette that shrinks under a gesture.
+  // The palette shrinks during a gesture.
   perform(acts_, "press=0");
   document.resize(2);
   EXPECT_FALSE(selection->drag(grid, middleOf(3)));

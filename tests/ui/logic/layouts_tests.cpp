@@ -28,7 +28,7 @@ std::ostream& operator<<(std::ostream& text, const Rect& box) {
   return text << Point{box.left, box.top} << ',' << Point{box.right, box.bottom};
 }
 
-// As the table has them, with blanks between them.
+// Adds items in the form of the table, separated by blanks.
 template <typename Item>
 void add(std::ostringstream& text, const Item& item) {
   if constexpr (requires { item.begin(); }) {
@@ -122,7 +122,7 @@ std::string bar(const Numbers& n) {
 }
 std::string row(const Numbers& n) { return show(barsOf(n).height(), barsOf(n).positionOfRow(n.at(3))); }
 std::string marker(const Numbers& n) { return show(markerAt({n.at(0), n.at(1)}, {n.at(2)})); }
-// The tabs have their corner behind the numbers of the grid.
+// The corner of the tab follows the numbers of the grid.
 std::string values(const Numbers& n) { return show(boxesOf(valuesLayout(gridOf(n, {n.at(4), n.at(5)}), {n.at(3)}))); }
 std::string effects(const Numbers& n) { return show(boxesOf(effectsLayout(gridOf(n, {n.at(4), n.at(5)}), {n.at(3)}))); }
 std::string use(const Numbers& n) {
@@ -164,7 +164,7 @@ TEST(GridLayout, DiffersWhenCellsMove) {
   EXPECT_EQ(gridOf({480, 340, 3, 96}), gridOf({480, 340, 4, 96}));
   EXPECT_NE(gridOf({480, 340, 3, 96}), gridOf({481, 340, 3, 96}));
   EXPECT_NE(gridOf({480, 340, 3, 96}), gridOf({480, 340, 3, 96}, {8, 30}));
-  // The same cells, but other columns and rows: 100 by 50, 50 by 100 in equal areas.
+  // The cells are the same, but not the columns and rows: 100 by 50 and 50 by 100 in equal areas.
   EXPECT_NE(gridOf({260, 70, 2, 96}), gridOf({260, 70, 1, 96}));
 }
 
@@ -193,7 +193,7 @@ void expectApart(const Boxes& boxes, const Rect& area, const std::string& where)
   }
 }
 
-// The smallest area that a tab has, with thick window frames, is 400 by 245 at 96 dpi.
+// The smallest area of a tab, with thick window frames, is 400 by 245 at 96 dpi.
 TEST(Layouts, HaveRoomForEveryControl) {
   for (const std::int32_t dpi : {96, 120, 144, 192}) {
     for (const Size units : {Size{400, 245}, Size{600, 300}, Size{1500, 700}}) {
@@ -204,7 +204,7 @@ TEST(Layouts, HaveRoomForEveryControl) {
         const GridLayout cells(area, paletteSize, scale);
         Rect controls = area;
         controls.left += cells.rightEdge();
-        // The surfaces lie under the others, and a closed list shows 24 units of its box.
+        // The surface is below the other controls. A closed list shows 24 units of its box.
         const auto controlsOf = [&](const auto& layout, std::size_t list) {
           Boxes boxes = boxesOf(layout);
           boxes.at(list).bottom = boxes[list].top + scale(24);

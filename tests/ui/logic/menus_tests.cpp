@@ -6,7 +6,7 @@
 namespace quillhue {
 namespace {
 
-// As the table has them.
+// Returns the items in the form of the table.
 std::string show(const std::vector<MenuItem>& items) {
   std::string text;
   for (const MenuItem& item : items) {

@@ -19,7 +19,7 @@ TEST(ResultFile, HasTheFormatOfItsExtensionOrElseTheChosenOne) {
   }
   RemappedImage result;
   result.prepare(3, 2, {});
-  // A large palette gives its first 256 entries.
+  // Only the first 256 entries of a large palette are used.
   for (const std::int32_t size : {2, 300}) {
     const Bytes file = composeResult(result, variedPalette(size), {}, png).value();
     EXPECT_EQ(file.at(24), size == 2 ? 1 : 8);

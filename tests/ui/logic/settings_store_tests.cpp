@@ -42,7 +42,7 @@ TEST(SettingsStore, KeepsAllButTheValueThatIsNotWritten) {
   }
 }
 
-// The bytes of a value after it was read from these bytes and written again.
+// Reads these bytes as a value, writes the value again, and returns its bytes.
 std::string rewritten(std::string_view name, const std::vector<std::uint8_t>& stored) {
   FailingStore store;
   writeSettings(defaultSettings({96}), store);
@@ -57,7 +57,7 @@ TEST(SettingsStore, BringsEachValueIntoItsRange) {
     patch(stored, "0:" + row.at(1));
     EXPECT_EQ(rewritten(row.at(0), stored), row.at(2)) << row[0] << ' ' << row[1];
   }
-  // The catalogues end where the default begins.
+  // An index past the end of a catalogue gives the default.
   for (const auto& [name, count, otherwise] :
        {std::tuple{"Color mode", colorModels().size(), 4}, {"Effect", effects().size(), 5}}) {
     const auto last = static_cast<std::uint8_t>(count - 1);

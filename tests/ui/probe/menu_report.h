@@ -6,25 +6,25 @@
 
 namespace quillhue {
 
-/// The name of the message that asks for a MenuReport, at the address that it has as its last parameter.
+/// The name of the message that asks for a MenuReport. Its last parameter is the address of the report.
 inline constexpr const wchar_t* kMenuReportMessage = L"QuillhueMenuReport";
 
-/// What the program itself finds in a menu: other processes can't see into menus everywhere.
+/// Content of a menu, as the program itself sees it. Other processes can't always read menus.
 struct MenuReport {
   /// An item as the user would see it now.
   struct Item {
-    /// 0 for a menu of its own and for a separator.
+    /// 0 for a submenu and for a separator.
     std::int32_t command;
-    /// How many menus it stands in.
+    /// Number of menus that contain the item.
     int depth;
     bool isSeparator;
-    /// It and all menus that it stands in.
+    /// Whether the item and all menus that contain it are enabled.
     bool isEnabled;
     bool isChecked;
     wchar_t text[96];
   };
 
-  /// The menu that is asked for; null for the menu bar of the window that gets the message.
+  /// The menu to report; null for the menu bar of the window that gets the message.
   HMENU menu;
   /// The answer.
   int count;

@@ -50,7 +50,7 @@ TEST(FileTypes, AreThoseOfTheCatalogues) {
   EXPECT_EQ(saved.size(), paletteWriters().size());
 }
 
-// The string's own end is the null behind the last type.
+// The end of the string is the null after the last type.
 TEST(FileTypes, AreSeparatedByNulls) {
   using namespace std::literals;
   EXPECT_EQ(filterOf(saveResultTypes()), L"Windows Bitmap (*.bmp)\0*.bmp\0PNG (*.png)\0*.png\0All Files\0*\0"s);

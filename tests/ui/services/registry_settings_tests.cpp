@@ -21,8 +21,8 @@ RegistryKey createKey(const wchar_t* path) {
   return RegistryKey(key);
 }
 
-// What is written and read again is tested with the program. Another key takes the place of the user's own, whose
-// settings stay as they are.
+// The tests of the program cover writing and reading. These tests replace the user's registry key by another, so the
+// user's settings do not change.
 class RegistrySettingsTest : public testing::Test {
  protected:
   void SetUp() override {

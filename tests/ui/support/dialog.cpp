@@ -41,7 +41,7 @@ std::wstring answerMessage(const Program& program, const std::wstring& caption, 
 }
 
 HWND fileNameField(HWND dialog) {
-  // It has one number or the other, by the dialog's kind.
+  // The id depends on the kind of the dialog.
   constexpr int kNameCombo = 0x47C;
   constexpr int kNameEdit = 0x480;
   HWND combo = GetDlgItem(dialog, kNameCombo);

@@ -10,21 +10,21 @@ namespace quillhue {
 /// A dialog or message box of the program.
 class Dialog {
  public:
-  /// Waits until the one with this caption is there.
+  /// Waits for the dialog with this caption.
   Dialog(const Program& program, const std::wstring& caption);
 
   [[nodiscard]] HWND window() const { return window_; }
-  /// The texts on it, a line each.
+  /// Returns the texts of the dialog, one per line.
   [[nodiscard]] std::wstring text() const;
-  /// A control by its number; one that is not there ends the test.
+  /// Returns a control by its id. A missing control ends the test.
   [[nodiscard]] HWND control(int id) const;
-  /// Puts a text into an edit field, as typing does.
+  /// Replaces the text of an edit field, like typing.
   void type(int id, const std::wstring& text) const;
   [[nodiscard]] std::wstring typed(int id) const;
 
   /// Presses a button.
   void press(int id) const;
-  /// Presses a button, and waits until the dialog is gone and its owner can be used.
+  /// Presses a button, and waits until the dialog is closed and its owner is enabled.
   void answer(int id) const;
 
  private:
@@ -33,13 +33,13 @@ class Dialog {
   HWND window_;
 };
 
-/// Answers the message box with this caption, and returns what it said.
+/// Answers the message box with this caption, and returns its text.
 std::wstring answerMessage(const Program& program, const std::wstring& caption, int button);
 
-/// The field for the name in one of the system's file dialogs; null in another dialog.
+/// Returns the name field of one of the system's file dialogs, or null for another dialog.
 [[nodiscard]] HWND fileNameField(HWND dialog);
-/// Gives a file's name to the dialog "Open" or "Save As" that is about to come, and the file type at an index of its
-/// list, -1 for the one that is chosen already.
+/// Waits for the dialog "Open" or "Save As", enters a file name and chooses the file type with this index. -1 keeps the
+/// type.
 void chooseFile(const Program& program, const std::wstring& caption, const std::wstring& name, int type = -1);
 
 }  // namespace quillhue

@@ -16,27 +16,27 @@ inline constexpr int kValuesPage = 0;
 inline constexpr int kEffectsPage = 1;
 inline constexpr int kUsePage = 2;
 
-/// The program with a palette file open, which shows the editor.
+/// The program with an open palette file.
 class Editor : public Program {
  public:
   explicit Editor(std::wstring file, int page = kValuesPage);
 
   /// The palette's file.
   [[nodiscard]] const std::wstring& file() const { return file_; }
-  /// Saves the document, which has this file still, and reads that.
+  /// Saves the document, which must still have this file, and reads the file.
   [[nodiscard]] Palette saved() const;
 
   [[nodiscard]] int chosenPage() const;
   void choosePage(int page) const;
-  /// The part of the main window that the pages have.
+  /// Returns the area of the pages in the main window.
   [[nodiscard]] Rect page() const;
-  /// How the palette's grid stands on a page that has one, and its window.
+  /// Return the layout of the palette's grid and its window, on a page with a grid.
   [[nodiscard]] GridLayout grid() const;
   [[nodiscard]] HWND gridWindow() const { return control(L"QuillhueGrid"); }
-  /// The middle of an entry's cell, on the screen.
+  /// Returns the middle of an entry's cell in screen coordinates.
   [[nodiscard]] Point entryPoint(std::int32_t index) const;
 
-  /// Gives an edit field the focus, and types into it in place of what is there.
+  /// Gives the focus to an edit field and replaces its text by typing.
   void typeInto(HWND field, std::string_view text) const;
   /// Chooses an item of a drop-down list.
   void choose(HWND list, std::size_t item) const;
@@ -45,7 +45,7 @@ class Editor : public Program {
   std::wstring file_;
 };
 
-/// The content of a palette file.
+/// Returns the palette in a file.
 [[nodiscard]] Palette paletteIn(const std::wstring& file);
 
 }  // namespace quillhue

@@ -13,7 +13,7 @@ namespace {
 void sendMouse(DWORD flags, int data = 0) { mouse_event(flags, 0, 0, static_cast<DWORD>(data), 0); }
 
 void sendKey(int key, DWORD flags) {
-  // Keys that the keypad has too are told apart by this flag.
+  // This flag distinguishes keys from those of the keypad.
   constexpr std::array kExtended{VK_LEFT, VK_RIGHT, VK_UP,   VK_DOWN,   VK_HOME,
                                  VK_END,  VK_PRIOR, VK_NEXT, VK_DELETE, VK_APPS};
   const bool isExtended = std::ranges::find(kExtended, key) != kExtended.end();
@@ -25,7 +25,7 @@ void sendKey(int key, DWORD flags) {
 
 void activate(const Program& program) {
   program.await("the foreground", [&] {
-    // A hidden dialog that is about to end would still take keys.
+    // A hidden dialog that is about to close would still take keys.
     HWND dialog = program.topWindow(kDialogClass);
     HWND wanted = dialog != nullptr ? dialog : program.window();
     if (GetForegroundWindow() == wanted && IsWindowEnabled(wanted) != 0) {
@@ -38,17 +38,17 @@ void activate(const Program& program) {
 
 void moveTo(const Program& program, Point point) {
   const auto move = [&] {
-    // A move by the mouse and not SetCursorPos alone, which windows need not hear of.
+    // Moves the mouse too, because SetCursorPos alone need not send a message to windows.
     SetCursorPos(point.x, point.y);
     sendMouse(MOUSEEVENTF_MOVE);
   };
   move();
-  // The display reports the move to the program in its own time: after the next one it would undo that.
+  // The display reports the move to the program some time later. A report after the next move would undo that move.
   constexpr int kLooks = 3;
   for (int i = 0; i < kLooks; ++i) {
     program.ask(program.window(), WM_NULL);
   }
-  // It has to stay there for a while.
+  // The pointer has to stay there for a while.
   constexpr int kStays = 8;
   int stays = 0;
   program.await("the pointer", [&] {

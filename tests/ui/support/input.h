@@ -9,8 +9,8 @@
 
 namespace quillhue {
 
-/// Mouse and keyboard, as if the user moved and pressed them: the system finds the window that gets the input. Points
-/// are those of the screen. None of these waits for what the program makes of it.
+/// Input by mouse and keyboard, as if by the user: the system finds the window that gets it. Points are in screen
+/// coordinates. No function waits for the program's reaction.
 
 enum class Button : std::uint8_t { left, right };
 
@@ -21,19 +21,19 @@ void moveTo(const Program& program, Point point);
 void press(Button button = Button::left);
 void release(Button button = Button::left);
 void turnWheel(int notches);
-/// By parts of a notch, which is 120.
+/// Turns the wheel by parts of a notch, which is 120.
 void turnWheelBy(int delta);
 /// Activates the program, moves there, and presses and releases while keys (VK_CONTROL, VK_SHIFT) are held.
 void clickAt(const Program& program, Point point, Button button = Button::left, const std::vector<int>& held = {});
 
 /// Presses and releases a key while others are held.
 void pressKey(int key, const std::vector<int>& held = {});
-/// Digits and capital letters.
+/// Types digits and capital letters.
 void type(std::string_view text);
-/// Goes to a control by the Tab key.
+/// Moves the focus to a control by the Tab key.
 void tabTo(const Program& program, HWND control);
 
-/// Holds keys as long as this lives. Moving the pointer may let go of them.
+/// Holds keys during its lifetime. Moving the pointer may release them.
 class HeldKeys {
  public:
   explicit HeldKeys(std::vector<int> keys);

@@ -53,7 +53,7 @@ Program::Program(const std::vector<std::wstring>& arguments) : Program(startProc
     HWND message = topWindow(kDialogClass);
     return message != nullptr ? GetWindow(message, GW_OWNER) : topWindow(L"Quillhue4");
   });
-  // Until it has handled all that its start brings.
+  // Waits until the program has handled all messages of its start.
   WaitForInputIdle(process(), kPatienceMilliseconds);
 }
 
@@ -139,13 +139,13 @@ void Program::drop(const std::vector<std::wstring>& files, HWND onto) const {
   std::string block(reinterpret_cast<const char*>(&header), sizeof(header));
   block.append(reinterpret_cast<const char*>(list.data()), list.size() * sizeof(wchar_t));
   if (isWine()) {
-    // Wine hands the memory's address on as it is: it has to be memory of the program, which frees it.
+    // Wine passes the address on unchanged, so the memory must belong to the program, which frees it.
     ProgramMemory memory(*this, block.data(), block.size());
     post(target, WM_DROPFILES, static_cast<WPARAM>(memory.address()));
     memory.release();
     return;
   }
-  // Windows carries this memory over.
+  // Windows copies this memory to the program.
   HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, block.size());
   std::memcpy(GlobalLock(memory), block.data(), block.size());
   GlobalUnlock(memory);

@@ -14,16 +14,16 @@
 
 namespace quillhue {
 
-/// What ends a test: the program has crashed, hangs, or does not show what was waited for.
+/// Ends a test: the program has crashed, hangs, or does not show what the test waits for.
 class ProgramError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// The longest that anything may take.
+/// Maximum time of any wait.
 inline constexpr std::chrono::seconds kPatience{10};
 
-/// The editor itself, started as a user does and ended with the test, whatever has become of it.
+/// The editor itself, started like a user starts it. It is ended with the test in any case.
 class Program {
  public:
   /// Waits for the main window.
@@ -32,7 +32,7 @@ class Program {
   Program& operator=(const Program&) = delete;
   ~Program();
 
-  /// The file that is started, for all tests; told by the command line.
+  /// Sets the file to start, for all tests. It comes from the command line.
   static void setFile(std::wstring file);
 
   [[nodiscard]] HWND window() const { return window_; }
@@ -41,18 +41,19 @@ class Program {
   [[nodiscard]] DWORD threadId() const { return process_.dwThreadId; }
   [[nodiscard]] bool isRunning() const;
 
-  /// Sends a message and returns the answer. Everything that it causes has happened then.
+  /// Sends a message and returns the answer when all effects have happened.
   LRESULT ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
   /// The same with the address of a value, which the program may change.
   template <typename Value>
   LRESULT askAbout(HWND window, UINT message, WPARAM wParam, Value& value) const;
-  /// Posts a message, for what opens a dialog.
+  /// Posts a message. For messages that open a dialog.
   void post(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
-  /// A command, as its menu item sends it: by `run` it is carried out when that returns, so it must not ask anything.
+  /// Send a command like its menu item. `run` returns when the command is carried out, so the command must not open a
+  /// dialog.
   void run(std::int32_t command) const { ask(window_, WM_COMMAND, static_cast<WPARAM>(command)); }
   void start(std::int32_t command) const { post(window_, WM_COMMAND, static_cast<WPARAM>(command)); }
 
-  /// Waits until `ready` gives something that counts as true, and returns it. `what` completes "waited for".
+  /// Waits until `ready` returns a value that counts as true, and returns it. `what` completes "waited for".
   template <typename Ready>
   auto await(const std::string& what, Ready ready) const {
     const auto end = std::chrono::steady_clock::now() + kPatience;
@@ -67,25 +68,26 @@ class Program {
       Sleep(kPause);
     }
   }
-  /// Waits until `look` gives what is expected.
+  /// Waits until `look` returns the expected value.
   template <typename Expected, typename Look>
   void awaitEqual(const Expected& expected, Look look) const {
     EXPECT_NO_THROW(await("what is expected", [&] { return look() == expected; }));
     ASSERT_EQ(look(), expected);
   }
   void awaitTitle(const std::wstring& title) const;
-  /// Waits until all input so far has had its effect: a program paints when there is none left.
+  /// Waits until the program has handled all input so far: it paints only when no input is left.
   void awaitInput() const;
 
-  /// A visible control, which has to be there.
+  /// Returns a visible control. A missing control ends the test.
   [[nodiscard]] HWND control(const wchar_t* className, const wchar_t* text = nullptr) const;
   [[nodiscard]] HWND button(const wchar_t* text) const { return control(L"Button", text); }
-  /// Presses and releases the mouse on the middle of a control or a button, and waits until all is done.
+  /// Clicks on the middle of a control or button, and waits for the effect.
   void click(HWND control) const;
   void click(const wchar_t* text) const { click(button(text)); }
-  /// Presses the mouse at the first point, with keys held, and releases it at the last. Each move has its effect.
+  /// Presses the mouse at the first point with keys held, moves to each point, waits for the effect, and releases it at
+  /// the last point.
   void drag(std::initializer_list<Point> points, const std::vector<int>& held = {}) const;
-  /// Drops files on the main window or another one, as an explorer of files does when the user lets them go there.
+  /// Drops files on the main window or another one, like Explorer.
   void drop(const std::vector<std::wstring>& files, HWND onto = nullptr) const;
   void resize(Size size) const;
 
@@ -94,15 +96,15 @@ class Program {
   /// Closes the window, which must not ask anything, and waits for the end with exit code 0.
   void close() const;
 
-  /// All windows that have no parent, the hidden ones too.
+  /// Returns all windows without a parent, also hidden ones.
   [[nodiscard]] std::vector<HWND> windows() const;
-  /// The uppermost of this class that is visible and can be used; null for none.
+  /// Returns the uppermost visible and enabled window of this class, or null.
   [[nodiscard]] HWND topWindow(const wchar_t* className) const;
   /// Describes the windows on the screen, for messages of failed tests.
   [[nodiscard]] std::string description() const;
 
  private:
-  // Between two looks, in milliseconds.
+  // Pause between two looks, in milliseconds.
   static constexpr DWORD kPause = 5;
 
   explicit Program(const PROCESS_INFORMATION& process) : process_(process) {}
@@ -115,7 +117,7 @@ class Program {
 /// Memory in the program, for messages that take pointers.
 class ProgramMemory {
  public:
-  /// Begins with a copy of what is here.
+  /// Starts with a copy of this content.
   ProgramMemory(const Program& program, const void* content, std::size_t size);
   ProgramMemory(const ProgramMemory&) = delete;
   ProgramMemory& operator=(const ProgramMemory&) = delete;
@@ -123,7 +125,7 @@ class ProgramMemory {
 
   [[nodiscard]] LPARAM address() const { return reinterpret_cast<LPARAM>(memory_); }
   void read(void* to, std::size_t size) const;
-  /// Leaves it to the program.
+  /// Leaves the memory to the program.
   void release() { memory_ = nullptr; }
 
  private:
@@ -139,10 +141,10 @@ LRESULT Program::askAbout(HWND window, UINT message, WPARAM wParam, Value& value
   return answer;
 }
 
-/// Runs the command-line tool that stands beside the program; it has to do what it is told.
+/// Runs the command-line tool that is in the program's folder. A failure ends the test.
 void runTool(const std::vector<std::wstring>& arguments);
 
-/// Whether this runs under Wine, which leaves some of the system's own numbers out.
+/// Returns whether the tests run under Wine, which does not report some of the system's numbers.
 [[nodiscard]] bool isWine();
 
 [[nodiscard]] std::string narrow(const std::wstring& text);

@@ -14,7 +14,7 @@ using StoredSettings = std::map<std::string, std::vector<std::uint8_t>>;
 
 /// Returns all settings that have a value of their type.
 [[nodiscard]] StoredSettings storedSettings();
-/// Replaces all stored settings by these.
+/// Replaces all stored settings with these.
 void store(const StoredSettings& settings);
 
 }  // namespace quillhue

@@ -13,15 +13,14 @@ namespace quillhue {
 
 namespace {
 
-// Wine has GetGuiResources and GetProcessHandleCount, which count nothing. It keeps what they count as Windows does,
-// or hands it out in a way that can be counted.
+// Wine's GetGuiResources and GetProcessHandleCount count nothing. These functions count the objects in other ways.
 
 template <typename Function>
 Function* systemFunction(const char* name) {
   return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), name)));
 }
 
-// The table of a process's GDI objects, to which its environment block has a pointer.
+// Counts the entries in the process's table of GDI objects. The environment block has a pointer to it.
 int gdiObjectsInTable(HANDLE process) {
   struct Entry {
     std::uint64_t object;
@@ -43,7 +42,7 @@ int gdiObjectsInTable(HANDLE process) {
   return static_cast<int>(std::ranges::count_if(entries, [](const Entry& entry) { return entry.type != 0; }));
 }
 
-// All windows, menus and so on have numbers of one range: what is not free is used.
+// Counts the used numbers in the range that all windows, menus and so on share.
 int usedUserObjects() {
   constexpr int kAll = (0xFFEF - 0x20) / 2;
   std::vector<HMENU> taken;

@@ -4,12 +4,12 @@
 
 namespace quillhue {
 
-/// How many objects of the system the program holds.
+/// Numbers of system objects that the program holds.
 struct ResourceCount {
   /// Device contexts, brushes, fonts, bitmaps, palettes.
   int gdi = 0;
-  /// Windows, menus, icons, cursors, accelerators. Under Wine those of all programs on this display: only a difference
-  /// tells something.
+  /// Windows, menus, icons, cursors, accelerators. Under Wine those of all programs on this display, so only a
+  /// difference is meaningful.
   int user = 0;
   /// Files, events, registry keys, threads.
   int kernel = 0;
@@ -18,8 +18,8 @@ struct ResourceCount {
 };
 
 [[nodiscard]] ResourceCount countResources(const Program& program);
-/// Expects that the program holds hardly more than before: `slack` is what the system may keep for itself, also in
-/// megabytes.
+/// Expects that the program holds at most `slack` more objects, and megabytes, than before. The system may keep that
+/// much for itself.
 void expectNoLeak(const Program& program, const ResourceCount& before, int slack);
 
 }  // namespace quillhue

@@ -14,11 +14,11 @@
 
 namespace quillhue {
 
-/// Gives the user the clipboard back at the end of the tests: text, bitmaps, palettes and other blocks of memory.
+/// Restores the user's clipboard at the end of the tests: text, bitmaps, palettes and other blocks of memory.
 class SavedClipboard final : public testing::Environment {
  public:
   void SetUp() override {
-    // These are handles of other kinds: bitmaps, metafiles, palettes.
+    // The data of these formats is not a block of memory but another handle: a bitmap, metafile or palette.
     constexpr std::array<UINT, 4> kHandles{CF_BITMAP, CF_METAFILEPICT, CF_PALETTE, CF_ENHMETAFILE};
     const ClipboardAccess clipboard(nullptr);
     for (UINT format = EnumClipboardFormats(0); format != 0; format = EnumClipboardFormats(format)) {

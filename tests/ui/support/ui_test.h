@@ -15,15 +15,15 @@
 
 namespace quillhue {
 
-/// A test of the program as it is on its first start.
+/// A test of the program in the state of its first start.
 class UiTest : public testing::Test {
  protected:
   UiTest() { store({}); }
 
-  /// A palette file in the scratch folder, which a plain Save may overwrite when it has fewer than 256 entries; its
-  /// full name.
+  /// Writes a palette file into the scratch folder and returns its full name. A plain Save may overwrite the file if it
+  /// has fewer than 256 entries.
   [[nodiscard]] std::wstring paletteFile(const std::string& name, const Palette& palette) const;
-  /// Opens the palette as own.pal, in place of what this has opened before.
+  /// Opens the palette as own.pal, and closes the program that the last call opened.
   const Editor& open(const Palette& palette, int page = kValuesPage);
   [[nodiscard]] const Editor& editor() const { return *editor_; }
 
@@ -33,7 +33,7 @@ class UiTest : public testing::Test {
   std::unique_ptr<Editor> editor_;
 };
 
-/// `size` colors that differ from one another, from black, from white and from what windows are painted with.
+/// Returns `size` different colors that are neither black, white nor colors of windows.
 [[nodiscard]] Palette brightPalette(std::int32_t size);
 
 }  // namespace quillhue

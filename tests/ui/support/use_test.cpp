@@ -54,7 +54,7 @@ std::string UseTest::result(const std::wstring& extension) const {
   const std::wstring file = folder_.name(L"result" + extension);
   DeleteFileW(file.c_str());
   editor().click(L"&Save as...");
-  // The dialog gives a name without an extension that of its type, at first a bitmap's.
+  // The dialog appends the extension of the chosen type, initially that of a bitmap.
   chooseFile(editor(), L"Save As", folder_.name("result"), extension == L".png" ? 1 : -1);
   editor().await("the file", [&] { return fileExists(file); });
   editor().awaitInput();

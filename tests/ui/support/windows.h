@@ -13,47 +13,47 @@
 
 namespace quillhue {
 
-/// Windows and controls of the program, as they are now.
+/// Functions that describe the current state of windows and controls.
 
-/// Of dialogs and message boxes.
+/// The class of dialogs and message boxes.
 inline constexpr const wchar_t* kDialogClass = L"#32770";
 
-/// For the system's enumerations: adds it to the std::vector<HWND> at that address.
+/// Callback for the system's enumerations: adds the window to the std::vector<HWND> at this address.
 BOOL CALLBACK addWindow(HWND window, LPARAM windows);
 
 [[nodiscard]] std::wstring windowClass(HWND window);
-/// Of a title, a button, a static text; of an edit field what is typed there.
+/// Returns the text of a title, a button, a static control or an edit field.
 [[nodiscard]] std::wstring textOf(HWND window);
 
-/// The visible ones in the window, in the order in which the Tab key goes, children before what follows their parent.
-/// A null class or text stands for any.
+/// Returns the visible controls of the window in tab order. Children come right after their parent. A null class or
+/// text means any.
 [[nodiscard]] std::vector<HWND> findControls(HWND parent, const wchar_t* className = nullptr);
-/// The first one; null if there is none.
+/// Returns the first such control, or null.
 [[nodiscard]] HWND findControl(HWND parent, const wchar_t* className, const wchar_t* text = nullptr);
 [[nodiscard]] HWND tabControl(const Program& program);
 
-/// The texts of all visible static controls, a line each.
+/// Returns the texts of all visible static controls, one per line.
 [[nodiscard]] std::wstring dialogText(HWND dialog);
 
 [[nodiscard]] Size outerSizeOf(HWND window);
-/// On the screen.
+/// Returns the window's box in screen coordinates.
 [[nodiscard]] Rect boxOnScreen(HWND window);
-/// A control's box in the client area of its parent.
+/// Returns a control's box in client coordinates of its parent.
 [[nodiscard]] Rect boxInParent(HWND control);
 [[nodiscard]] Point onScreen(HWND window, Point point);
 [[nodiscard]] Point middleOf(const Rect& box);
 
-/// The color on the screen at a point of the window's client area.
+/// Returns the color that the screen shows at a point of the window's client area.
 [[nodiscard]] PaletteEntry pixelOf(HWND window, Point point);
-/// The colors on the screen of the window's client area, row by row.
+/// Returns the colors that the screen shows in the window's client area, row by row.
 [[nodiscard]] std::vector<std::uint32_t> pixelsOf(HWND window);
-/// One of the system's colors, COLOR_BTNFACE and so on.
+/// Returns a system color such as COLOR_BTNFACE.
 [[nodiscard]] PaletteEntry systemColor(int color);
 
-/// The focused window of the program; null for none.
+/// Returns the focused window of the program, or null.
 [[nodiscard]] HWND focusOf(const Program& program);
 
-/// A part of the main window's status bar; the first one tells how many entries the palette has.
+/// Returns the text of a part of the status bar. The first part shows the number of entries.
 [[nodiscard]] std::wstring statusText(const Program& program, int part = 0);
 
 }  // namespace quillhue

@@ -15,7 +15,7 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-// A window that nobody sees.
+// Creates an invisible window.
 Window createOwner() {
   return Window(
       CreateWindowExW(0, L"Static", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, GetModuleHandleW(nullptr), nullptr));
@@ -85,7 +85,7 @@ TEST(ClipboardAccess, HasNothingWhileAnotherHasIt) {
     other.empty();
     EXPECT_FALSE(other.put(createLogicalPalette(colors(1))));
   }).join();
-  // It is still open here, with what it had.
+  // The clipboard is still open here, with its old content.
   EXPECT_EQ(entriesOf(clipboard.palette()), colors(2));
 }
 

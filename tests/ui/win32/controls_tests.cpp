@@ -6,7 +6,7 @@
 namespace quillhue {
 namespace {
 
-// A window that counts the changes of the system's colors.
+// A window that counts the messages about changed system colors.
 class Listener final : public CustomWindow {
  public:
   explicit Listener(HWND parent) {

@@ -46,7 +46,7 @@ class FailingControl final : public SubclassedControl {
   }
 };
 
-// The uppermost visible message box of the thread; null for none.
+// Returns the uppermost visible message box of the thread, or null.
 HWND messageBox(DWORD thread) {
   HWND found = nullptr;
   EnumThreadWindows(
