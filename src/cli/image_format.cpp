@@ -30,7 +30,8 @@ std::expected<Bytes, Failure> composeIndexedPng(const ImageOutput& output) {
 
 std::span<const ImageFormat> imageFormats() {
   static const std::array<ImageFormat, 2> kFormats{
-      {{"bmp", {".BMP", ".DIB"}, false, composeBmp}, {"png", {".PNG"}, true, composeIndexedPng}}};
+      {{.name = "bmp", .endings = {".BMP", ".DIB"}, .hasTransparency = false, .compose = composeBmp},
+       {.name = "png", .endings = {".PNG"}, .hasTransparency = true, .compose = composeIndexedPng}}};
   return kFormats;
 }
 

@@ -1,9 +1,5 @@
 #include "ui/support/program.h"
 
-#include "ui/win32/system.h"
-// Needs windows.h before it.
-#include <shlobj.h>
-
 #include <cstring>
 #include <filesystem>
 #include <utility>
@@ -11,6 +7,7 @@
 #include "core/utf8.h"
 #include "ui/support/input.h"
 #include "ui/support/windows.h"
+#include "ui/win32/system.h"
 
 namespace quillhue {
 
