@@ -39,9 +39,13 @@ it takes the nearest color; the amplitude is the mean distance between neighbori
     quillhue-cli remap photo.jpg sea.gpl photo.png --mode dither
     quillhue-cli remap photo.jpg sea.gpl serpentine.png --mode dither --kernel atkinson --serpentine
     quillhue-cli remap photo.jpg sea.gpl ordered.png --mode ordered --matrix 4 --strength 80
+    quillhue-cli remap photo.jpg sea.gpl oklab.png --match oklab
+
+--match oklab takes the color that looks nearest, in Ottosson's space Oklab, instead of the one whose red, green and blue
+are nearest. With --mode dither, errors are still those of red, green and blue.
 
 Without --clamp, errors that no color of the palette can make up for grow, and appear as ghosts where one can. The kernel
-floyd-steinberg without --serpentine, --strength and --clamp calculates in whole numbers, and is the fastest.
+floyd-steinberg without --serpentine, --strength, --clamp and --match oklab calculates in whole numbers, and is the fastest.
 
 Without --transparent, transparent pixels are blended with the color of --blank, which also fills unused entries of a
 bitmap.
@@ -57,6 +61,7 @@ struct RemapVerbOptions {
   std::string format;
   RemapOptions remap;
   DitherArguments dither;
+  std::string match;
   std::optional<std::int32_t> transparent;
   PaletteEntry blank;
   bool force = false;
@@ -187,6 +192,9 @@ bool remapTo(const std::string& from, const std::string& to, const Target& targe
 }
 
 void checkUsage(const RemapVerbOptions& options) {
+  if (!options.match.empty() && options.remap.mode == RemapMode::maintain) {
+    refuseUsage("--match", "goes with --mode nearest, dither or ordered");
+  }
   if (options.transparent && options.remap.mode == RemapMode::maintain) {
     refuseUsage("--transparent",
                 "goes with --mode nearest, dither or ordered; maintained indexes stay as transparent as they are");
@@ -277,6 +285,7 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.beginGroup("Colors");
   verb.addAction({"--mode", "NAME", "maintain, nearest (default), dither or ordered",
                   [options](const std::string& text) { options->remap.mode = parseMode(text); }, namesOf(kModes)});
+  verb.addChoice("--match", options->match, {"rgb", "oklab"}, "The space of color distances (default rgb)");
   addNumberOption(verb, "--transparent", options->transparent, {0, kMaxUsedEntries - 1},
                   "The entry of pixels that are less than half opaque");
   addColorOption(verb, "--blank", options->blank, "Color behind transparent pixels (default 0,0,0)");
@@ -286,6 +295,7 @@ void addRemapVerb(CommandLine& tool, Console& console, ExitStatus& status) {
   verb.onRun([options, &console, &status] {
     addOutput(options->out, options->outDir.has_value(), options->files);
     applyDitherArguments(options->dither, options->remap);
+    options->remap.match = options->match == "oklab" ? ColorMatch::oklab : ColorMatch::rgb;
     status = remap(*options, console);
   });
 }

@@ -10,6 +10,7 @@
 #include "remap/kernel_diffusion.h"
 #include "remap/nearest_entry.h"
 #include "remap/nearest_table.h"
+#include "remap/oklab_entries.h"
 #include "remap/ordered_dithering.h"
 
 namespace quillhue {
@@ -38,12 +39,12 @@ IndexTable maintainedIndexes(std::size_t colors) {
   return table;
 }
 
-IndexTable nearestIndexes(const Palette& imagePalette, NearestEntry& nearest) {
+IndexTable nearestIndexes(const Palette& imagePalette, const FindEntries& find) {
   IndexTable table{};
   for (std::int32_t index = 0; index < imagePalette.getSize(); ++index) {
     const auto pixel = static_cast<std::int32_t>(pixelOf(imagePalette.entry(index)));
     table[static_cast<std::size_t>(index)] =
-        static_cast<std::uint8_t>(lowHalfOf<0>(nearest.find(colorsOfPixels(Lanes::all(pixel)))));
+        static_cast<std::uint8_t>(lowHalfOf<0>(find(colorsOfPixels(Lanes::all(pixel)))));
   }
   return table;
 }
@@ -125,6 +126,20 @@ NearestEntry& Remapper::nearest(RemapMode mode) {
   return *nearest_;
 }
 
+OklabEntries& Remapper::oklab() {
+  if (!oklab_) {
+    oklab_ = std::make_unique<OklabEntries>(colors_);
+  }
+  return *oklab_;
+}
+
+FindEntries Remapper::finder(const RemapOptions& options) {
+  if (options.match == ColorMatch::oklab) {
+    return [&entries = oklab()](const EightColors& targets) { return entries.find(targets); };
+  }
+  return [&entries = nearest(options.mode)](const EightColors& targets) { return entries.find(targets); };
+}
+
 bool Remapper::remap(const WorkImage& image, const RemapOptions& options, RemappedImage& result,
                      RemapProgress& progress) {
   result.prepare(image.width(), image.height(), colors_);
@@ -139,8 +154,11 @@ bool Remapper::remap(const WorkImage& image, const RemapOptions& options, Remapp
       return true;
     case RemapMode::nearest:
       if (imagePalette) {
-        mapIndexes(image, nearestIndexes(*imagePalette, nearest(options.mode)), result);
+        mapIndexes(image, nearestIndexes(*imagePalette, finder(options)), result);
         return true;
+      }
+      if (options.match == ColorMatch::oklab) {
+        return forEachRow(result, progress, [&](std::int32_t y) { oklab().remapRow(image.row(y), result.row(y)); });
       }
       return takeNearest(image, result, progress);
     case RemapMode::dither:
@@ -169,13 +187,11 @@ bool Remapper::takeNearest(const WorkImage& image, RemappedImage& result, RemapP
 
 bool Remapper::dither(const WorkImage& image, const RemapOptions& options, RemappedImage& result,
                       RemapProgress& progress) {
-  if (options.mode == RemapMode::dither && options.dither.isPlainDiffusion()) {
+  if (options.mode == RemapMode::dither && options.dither.isPlainDiffusion() && options.match == ColorMatch::rgb) {
     return ditherPlainly(image, options, result, progress);
   }
   const ErrorDiffusion::Limits none{{}, image.width(), image.height()};
-  const DitherInput input{
-      image, colors_, [&entries = nearest(options.mode)](const EightColors& targets) { return entries.find(targets); },
-      limitsOf(options, image, colors_.size()).value_or(none)};
+  const DitherInput input{image, colors_, finder(options), limitsOf(options, image, colors_.size()).value_or(none)};
   const auto run = [&](auto dithering) {
     return forEachRow(result, progress, [&](std::int32_t y) { dithering.remapRow(y); });
   };

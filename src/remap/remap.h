@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -12,8 +13,11 @@
 
 namespace quillhue {
 
+struct EightColors;
+struct Lanes;
 class NearestEntry;
 class NearestTable;
+class OklabEntries;
 
 enum class RemapMode : std::uint8_t {
   /// An indexed image keeps its indexes.
@@ -25,6 +29,9 @@ enum class RemapMode : std::uint8_t {
   /// The same, with ordered dithering.
   ordered,
 };
+
+/// The space in which the distance between colors is Euclidean.
+enum class ColorMatch : std::uint8_t { rgb, oklab };
 
 /// Size of the cells, in pixels, whose right and lower borders errors do not cross.
 struct ProtectGrid {
@@ -44,6 +51,9 @@ struct RemapOptions {
   /// Error diffusion skips transparent pixels: they get any index, and no error passes through them.
   bool skipsTransparent = false;
   DitherOptions dither{};
+  /// Decides which entry is the nearest. Error diffusion adds up errors in red, green and blue in any case; when it
+  /// matches by Oklab, it calculates in floats even if it is plain.
+  ColorMatch match = ColorMatch::rgb;
 };
 
 /// Is told about the progress of a run after rows 0, 16, 32 and so on. Runs that only look up the indexes of an indexed
@@ -59,7 +69,8 @@ class RemapProgress {
 /// Remaps images onto a copy of the first kMaxUsedEntries entries of a palette. The tables that it builds serve all its
 /// images; the mode of the first image decides how large they may become.
 ///
-/// Distances are squared Euclidean distances of red, green and blue; of equally near entries the first one is used.
+/// Distances are squared Euclidean distances, unless told otherwise of red, green and blue; of equally near entries the
+/// first one is used.
 /// Arithmetic is 32-bit two's complement. Plain error diffusion never clamps errors: if the palette is far from the
 /// image's colors, they grow until they wrap.
 class Remapper {
@@ -75,6 +86,8 @@ class Remapper {
 
  private:
   NearestEntry& nearest(RemapMode mode);
+  OklabEntries& oklab();
+  std::function<Lanes(const EightColors& targets)> finder(const RemapOptions& options);
   bool takeNearest(const WorkImage& image, RemappedImage& result, RemapProgress& progress);
   bool dither(const WorkImage& image, const RemapOptions& options, RemappedImage& result, RemapProgress& progress);
   bool ditherPlainly(const WorkImage& image, const RemapOptions& options, RemappedImage& result,
@@ -83,6 +96,7 @@ class Remapper {
   std::vector<PaletteEntry> colors_;
   std::unique_ptr<NearestEntry> nearest_;
   std::unique_ptr<NearestTable> table_;
+  std::unique_ptr<OklabEntries> oklab_;
 };
 
 /// Remaps one image: Remapper(palette).remap(image, options, result, progress).

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <optional>
 
 #include "remap/ordered_dithering.h"
@@ -18,10 +19,10 @@ Color colorOf(const PaletteEntry& color) {
   return {static_cast<float>(color.blue), static_cast<float>(color.green), static_cast<float>(color.red)};
 }
 
-std::uint8_t nearestOf(std::span<const PaletteEntry> entries, const Color& target) {
+std::uint8_t nearestOf(const LiteralEntries& entries, const Color& target) {
   std::array<std::int32_t, 3> rounded{};
   std::ranges::transform(target, rounded.begin(), [](float number) { return std::lrint(number); });
-  return literalNearest(entries, rounded);
+  return entries.nearest(rounded);
 }
 
 // Each matrix is four copies of the one of half its side, times 4, plus 0, 2, 3 and 1.
@@ -43,7 +44,7 @@ std::vector<std::vector<int>> bayerMatrix(std::size_t side) {
 class Dithering {
  public:
   Dithering(const WorkImage& image, std::span<const PaletteEntry> entries, const RemapOptions& options)
-      : image_(image), entries_(entries), options_(options) {
+      : image_(image), entries_(entries), finder_(entries, options.match), options_(options) {
     const ProtectGrid whole{image.width(), image.height()};
     const ProtectGrid grid = options.protectGrid.value_or(whole);
     cellWidth_ = options.protectGrid ? std::clamp(grid.width, 1, ProtectGrid::kMaxSide) : grid.width;
@@ -76,7 +77,7 @@ class Dithering {
         Color target = colorOf(pixelAt(x, y));
         std::ranges::for_each(target,
                               [&](float& number) { number += static_cast<float>(std::lround(amplitude * share)); });
-        indexes.push_back(keptIndex(x, y).value_or(nearestOf(entries_, target)));
+        indexes.push_back(keptIndex(x, y).value_or(nearestOf(finder_, target)));
       }
     }
     return indexes;
@@ -116,7 +117,7 @@ class Dithering {
       target[channel] = std::clamp(target[channel] + errors_[placeOf(x, y)][channel],
                                    options_.dither.clampsErrors ? 0 : -limit, limit);
     }
-    const std::uint8_t index = nearestOf(entries_, target);
+    const std::uint8_t index = nearestOf(finder_, target);
     const Color chosen = colorOf(entries_[index]);
     const DiffusionKernel& kernel =
         options_.dither.kernel != nullptr ? *options_.dither.kernel : diffusionKernels().front();
@@ -141,6 +142,7 @@ class Dithering {
 
   const WorkImage& image_;
   std::span<const PaletteEntry> entries_;
+  LiteralEntries finder_;
   const RemapOptions& options_;
   std::int32_t cellWidth_;
   std::int32_t cellHeight_;
@@ -148,6 +150,30 @@ class Dithering {
 };
 
 }  // namespace
+
+LiteralEntries::LiteralEntries(std::span<const PaletteEntry> entries, ColorMatch match) : entries_(entries) {
+  if (match == ColorMatch::oklab) {
+    std::ranges::transform(entries, std::back_inserter(labs_), oklabOf);
+  }
+}
+
+std::uint8_t LiteralEntries::nearest(const std::array<std::int32_t, 3>& target) const {
+  if (labs_.empty()) {
+    return literalNearest(entries_, target);
+  }
+  const Oklab color = oklabOf({clampToByte(target[2]), clampToByte(target[1]), clampToByte(target[0])});
+  const auto distanceTo = [&](const Oklab& other) {
+    const double lightness = color.lightness - other.lightness;
+    const double a = color.a - other.a;
+    const double b = color.b - other.b;
+    return lightness * lightness + a * a + b * b;
+  };
+  std::size_t nearest = 0;
+  for (std::size_t index = 1; index < labs_.size(); ++index) {
+    nearest = distanceTo(labs_[index]) < distanceTo(labs_[nearest]) ? index : nearest;
+  }
+  return static_cast<std::uint8_t>(nearest);
+}
 
 std::vector<std::uint8_t> literalDithering(const WorkImage& image, std::span<const PaletteEntry> entries,
                                            const RemapOptions& options) {

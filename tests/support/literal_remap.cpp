@@ -150,7 +150,9 @@ bool literalRemap(const WorkImage& image, const Palette& palette, const RemapOpt
   const std::vector<Color> colors = colorsOf(entries);
   result.prepare(image.width(), image.height(), entries);
   const bool keepsIndexes = options.mode == RemapMode::maintain;
-  const bool isPlain = options.mode == RemapMode::dither && options.dither.isPlainDiffusion();
+  const LiteralEntries finder(entries, options.match);
+  const bool isPlain =
+      options.mode == RemapMode::dither && options.dither.isPlainDiffusion() && options.match == ColorMatch::rgb;
   const bool isDetailed = options.mode == RemapMode::ordered || (options.mode == RemapMode::dither && !isPlain);
   const std::vector<std::uint8_t> dithered =
       isDetailed ? literalDithering(image, entries, options) : std::vector<std::uint8_t>();
@@ -164,7 +166,9 @@ bool literalRemap(const WorkImage& image, const Palette& palette, const RemapOpt
       ditherer.remapRow(y, indexes);
     } else if (!keepsIndexes) {
       for (std::int32_t x = 0; x < image.width(); ++x) {
-        indexes[static_cast<std::size_t>(x)] = nearestOf(colors, pixelAt(image, x, y));
+        const Color pixel = pixelAt(image, x, y);
+        indexes[static_cast<std::size_t>(x)] =
+            options.match == ColorMatch::oklab ? finder.nearest(pixel) : nearestOf(colors, pixel);
       }
     } else if (image.palette()) {
       std::ranges::transform(image.row(y), indexes.begin(), [&](std::uint8_t index) {

@@ -44,6 +44,7 @@ RemapOptions optionsFrom(CaseBytes& bytes) {
   if (bytes.upTo(1) != 0) {
     options.dither = ditherOptionsFrom(bytes);
   }
+  options.match = bytes.upTo(3) == 3 ? ColorMatch::oklab : ColorMatch::rgb;
   return options;
 }
 
