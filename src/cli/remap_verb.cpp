@@ -113,7 +113,7 @@ RemapImage remapperFor(const Palette& palette, const RemapVerbOptions& options) 
   return remapBy(std::make_shared<Remapper>(palette));
 }
 
-// Returns the transparent entries of the result. Maintained indexes stay as transparent as they were.
+// Returns the transparent entries of the result. Maintained indexes keep their transparency.
 std::bitset<256> transparentEntries(const WorkImage& image, const RemapVerbOptions& options) {
   if (options.remap.mode == RemapMode::maintain) {
     return image.transparentIndexes();
@@ -136,7 +136,7 @@ struct Composed {
   FileRecord record;
 };
 
-// Frees the image before the result is composed, so that they need not be in memory together.
+// Frees the image before the result is composed, so that memory need not hold both.
 std::expected<Remapped, std::string> remapFile(const std::string& file, const Target& target,
                                                const RemapVerbOptions& options, Console& console) {
   const auto image = readImage(file, options.input.standard, options.blank, console);
@@ -171,7 +171,7 @@ std::expected<Composed, std::string> composeResult(const std::string& file, cons
   return refusalOf(Failure::notEnoughMemory);
 }
 
-// Reports a refusal and answers false.
+// Reports a refusal and returns false.
 bool remapTo(const std::string& from, const std::string& to, const Target& target, const RemapVerbOptions& options,
              Console& console) {
   auto composed = composeResult(from, target, options, console);

@@ -56,7 +56,7 @@ struct RemapOptions {
   ColorMatch match = ColorMatch::rgb;
 };
 
-/// Is told about the progress of a run after rows 0, 16, 32 and so on. Runs that only look up the indexes of an indexed
+/// Receives the progress of a run after rows 0, 16, 32 and so on. Runs that only look up the indexes of an indexed
 /// image report nothing.
 class RemapProgress {
  public:

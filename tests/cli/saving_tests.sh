@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # saving_tests.sh PROGRAM: lets quillhue-cli save over files and in folders with different rights, through links and on
-# a full disk. Root may do everything, so the user nobody runs the tool.
+# a full disk. Root may do everything, so the tool runs as the user nobody.
 set -euo pipefail
 nobody=65534:65534
 as_nobody=(setpriv --reuid=65534 --regid=65534 --clear-groups)

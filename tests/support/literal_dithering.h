@@ -24,8 +24,8 @@ class LiteralEntries {
   std::vector<Oklab> labs_;
 };
 
-/// The indexes that dithering with options gives, row by row, with errors or offsets for the whole image and a scan of
-/// the palette for every pixel. Slow.
+/// Returns the indexes that dithering with options gives. It works row by row, with errors or offsets for the whole
+/// image and a scan of the palette for every pixel, and is slow.
 std::vector<std::uint8_t> literalDithering(const WorkImage& image, std::span<const PaletteEntry> entries,
                                            const RemapOptions& options);
 

@@ -62,7 +62,7 @@ Color pixelAt(const WorkImage& image, std::int32_t x, std::int32_t y) {
   return {row[3 * column], row[3 * column + 1], row[3 * column + 2]};
 }
 
-// Dithers row by row; what keeps nothing back is a grid as large as the image, and no protected entry.
+// Dithers row by row. Without a protected grid, the grid is as large as the image.
 class Ditherer {
  public:
   Ditherer(const WorkImage& image, std::vector<Color> colors, const RemapOptions& options)

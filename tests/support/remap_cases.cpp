@@ -10,7 +10,7 @@ namespace quillhue {
 
 namespace {
 
-// On the borders of cells of 16 and beside them.
+// Returns a value at a border of cells of 16, or beside one.
 std::uint8_t atBorder(CaseBytes& bytes) {
   return static_cast<std::uint8_t>(std::clamp(16 * bytes.upTo(16) + bytes.upTo(2) - 1, 0, 255));
 }
@@ -48,7 +48,7 @@ RemapOptions optionsFrom(CaseBytes& bytes) {
   return options;
 }
 
-// Mostly small; some longer than the longest side of a grid.
+// Mostly small; some images are longer than the longest side of a grid.
 WorkImage imageFrom(const Palette& palette, CaseBytes& bytes) {
   constexpr std::int32_t kMostPixels = 4096;
   constexpr std::array kSides{1, 2, 3, 4, 5, 6, 17, 18, 21, 29, 40, 70, 1010};
