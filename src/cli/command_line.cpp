@@ -4,7 +4,10 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <string_view>
 #include <utility>
+
+#include "cli/arguments.h"
 
 namespace quillhue::cli {
 
@@ -49,12 +52,29 @@ std::vector<std::string> optionNames(const VerbHelp& verb) {
 }
 
 std::string refusedVerb(const std::string& name, const ToolHelp& tool) {
-  return name + " is not a verb. The nearest is " + nearestName(name, verbNames(tool)) + ".\n";
+  const std::vector<std::string> verbs = verbNames(tool);
+  const auto nearest = nearestName(name, verbs);
+  return name + " is not a verb. " + (nearest ? "The nearest is " + *nearest : "Use " + listed(verbs)) + ".\n";
 }
 
 std::string refusedOption(const std::string& name, const VerbHelp& verb) {
-  return name + " is not an option of " + verb.name + ". The nearest is " + nearestName(name, optionNames(verb)) +
-         ".\n";
+  const auto nearest = nearestName(name, optionNames(verb));
+  return name + " is not an option of " + verb.name + '.' + (nearest ? " The nearest is " + *nearest + '.' : "") + '\n';
+}
+
+// Says what an option without its argument needs.
+std::string missingArgument(const std::string& name, const VerbHelp& verb) {
+  const auto option = std::ranges::find(verb.options, name, &OptionHelp::name);
+  if (option == verb.options.end()) {
+    return name + " needs an argument.\n";
+  }
+  return name + " needs " + option->argument + ": " + option->help + ".\n";
+}
+
+// Whether an argument in the place of the verb is one of its options.
+bool isVerbOption(const std::string& argument) {
+  constexpr std::array<std::string_view, 4> kOwnOptions{"-h", "--help", "-V", "--version"};
+  return argument.starts_with('-') && std::ranges::find(kOwnOptions, argument) == kOwnOptions.end();
 }
 
 }  // namespace
@@ -191,6 +211,9 @@ bool CommandLine::run(std::vector<std::string> arguments, std::ostream& out, std
   if (arguments.empty()) {
     return refuseArguments("A verb is required. The verbs are listed by " + help_.name + " help.\n", refused);
   }
+  if (isVerbOption(arguments[0])) {
+    return refuseArguments("A verb is required before " + arguments[0] + ".\n", refused);
+  }
   if (arguments[0] == "help") {
     arguments.erase(arguments.begin());
     return showHelp(arguments, out, refused);
@@ -214,9 +237,19 @@ bool CommandLine::run(std::vector<std::string> arguments, std::ostream& out, std
     }
     return refuseArguments(refusedOption(rest[0], *help_.findVerb(verb[0])), refused);
   } catch (const CLI::ParseError& error) {
-    return refuseArguments(error.what() + std::string("\n"), refused);
+    return refuseArguments(textOf(error), refused);
   }
   return true;
+}
+
+std::string CommandLine::textOf(const CLI::ParseError& error) const {
+  const std::string text = error.what();
+  const std::vector<std::string> verb = calledVerb();
+  if (!verb.empty() && dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+    return missingArgument(text.substr(0, text.find(':')), *help_.findVerb(verb[0]));
+  }
+  // The parser names an argument by its option.
+  return (text.starts_with("--out is required") ? "OUT is required" : text) + '\n';
 }
 
 std::vector<std::string> CommandLine::calledVerb() const {

@@ -12,7 +12,8 @@
 // Only command_line.cpp includes the parser's library, which takes longer to compile than all of the tool's own code.
 namespace CLI {
 class App;
-}
+class ParseError;
+}  // namespace CLI
 
 namespace quillhue::cli {
 
@@ -101,6 +102,7 @@ class CommandLine {
  private:
   [[nodiscard]] bool showHelp(const std::vector<std::string>& words, std::ostream& out, std::ostream& refused) const;
   [[nodiscard]] bool refuseArguments(const std::string& reason, std::ostream& refused) const;
+  [[nodiscard]] std::string textOf(const CLI::ParseError& error) const;
   // Returns the name of the verb that was called, or nothing.
   [[nodiscard]] std::vector<std::string> calledVerb() const;
 

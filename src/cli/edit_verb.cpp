@@ -28,9 +28,9 @@ ask which entries the pixels of an image use, as the verb usage counts them. A c
     quillhue-cli edit sea.gpl day.gpl --select 8-15 --effect brightness=20
     quillhue-cli edit sea.gpl clear.gpl --select unused:sprite.png --clear
 
---channels restricts the steps after it to some of red, green and blue. --swap ignores it. --sort red sorts only if r is
-among the channels, and the same is true of green and blue: otherwise it moves the entries that have the value 255 in that
-channel to the end, and reverses the others.
+--channels restricts the steps after it to some of red, green and blue. --swap ignores it. Without --descending, --sort
+red sorts only if r is among the channels: otherwise it moves the entries whose red is 255 to the end, and reverses the
+others. The same is true of green and blue.
 
     quillhue-cli edit sea.gpl warm.gpl --channels r --effect brightness=20
     quillhue-cli edit sea.gpl sorted.gpl --sort hue

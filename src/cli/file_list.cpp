@@ -25,7 +25,7 @@ class FolderListing {
   FolderListing(const fs::path& folder, const std::string& outDir, const FileListOptions& options, Console& console)
       : root_(folder), outDir_(toPath(fromUtf8(outDir))), options_(options), console_(console) {
     add(folder);
-    std::ranges::sort(files_, {}, &InputFile::name);
+    std::ranges::sort(files_, {}, &ListedFile::name);
     std::ranges::sort(skipped_);
     for (const auto& [subfolder, reason] : skipped_) {
       reportSkipped({subfolder, reason}, options_.json, console_);
@@ -35,7 +35,7 @@ class FolderListing {
     }
   }
 
-  [[nodiscard]] std::vector<InputFile>& files() { return files_; }
+  [[nodiscard]] std::vector<ListedFile>& files() { return files_; }
 
  private:
   void add(const fs::path& folder) {
@@ -78,7 +78,7 @@ class FolderListing {
   fs::path outDir_;
   const FileListOptions& options_;
   Console& console_;
-  std::vector<InputFile> files_;
+  std::vector<ListedFile> files_;
   std::vector<std::pair<std::string, std::string>> skipped_;
 };
 
@@ -101,9 +101,9 @@ void requireOutDir(const FileListOptions& options) {
   refuse(options.jobs.has_value(), "--jobs");
 }
 
-std::vector<InputFile> listFiles(const std::vector<std::string>& files, const std::string& outDir,
-                                 const FileListOptions& options, Console& console) {
-  std::vector<InputFile> listed;
+std::vector<ListedFile> listFiles(const std::vector<std::string>& files, const std::string& outDir,
+                                  const FileListOptions& options, Console& console) {
+  std::vector<ListedFile> listed;
   for (const std::string& file : files) {
     std::error_code unknown;
     const fs::path path = toPath(fromUtf8(file));

@@ -30,7 +30,8 @@ void addFileListOptions(Verb& verb, FileListOptions& options);
 /// Refuses the usage if one of these options is given without --out-dir.
 void requireOutDir(const FileListOptions& options);
 
-struct InputFile {
+/// A file to read.
+struct ListedFile {
   std::string name;
   /// The file's folder, relative to the folder on the command line that contains it. Empty for a file that the command
   /// line names itself.
@@ -40,7 +41,7 @@ struct InputFile {
 /// Replaces each folder by its regular files, sorted by name; with --recursive also by those of its subfolders. Leaves
 /// out the folder `outDir`. Reports other subfolders that are skipped, and folders without any file. A folder that
 /// can't be listed stays among the files, so that it is later refused like a file.
-[[nodiscard]] std::vector<InputFile> listFiles(const std::vector<std::string>& files, const std::string& outDir,
-                                               const FileListOptions& options, Console& console);
+[[nodiscard]] std::vector<ListedFile> listFiles(const std::vector<std::string>& files, const std::string& outDir,
+                                                const FileListOptions& options, Console& console);
 
 }  // namespace quillhue::cli

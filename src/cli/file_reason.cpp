@@ -75,8 +75,9 @@ std::string openingFailure(Failure failure, const std::string& file) {
   return withReason(failure, isFile ? whyNotOpened(toPath(fromUtf8(file))) : std::string());
 }
 
-std::string creationFailure(const std::string& file, std::size_t size) {
-  return withReason(Failure::couldNotCreate, whyNotCreated(toPath(fromUtf8(file)), size));
+std::string creationFailure(const std::string& file, std::size_t size, int error) {
+  return withReason(Failure::couldNotCreate,
+                    error == ENOSPC ? "the disk is full" : whyNotCreated(toPath(fromUtf8(file)), size));
 }
 
 }  // namespace quillhue::cli

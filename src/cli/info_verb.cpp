@@ -88,7 +88,7 @@ std::expected<void, Failure> show(const std::string& file, const InfoOptions& op
 ExitStatus showAll(const InfoOptions& options, Console& console) {
   const FileListOptions& list = options.list;
   return runJobs(listFiles(options.files, {}, list, console), list.jobs, console, [&]() -> Job {
-    return [&](const InputFile& file, Console& own) {
+    return [&](const ListedFile& file, Console& own) {
       const auto shown = show(file.name, options, own);
       return shown ? kDone
                    : refuseInput({file.name, openingFailure(shown.error(), file.name)}, list.skipsUnknown, list.json,

@@ -27,7 +27,7 @@ struct Outcome {
   std::exception_ptr exception;
 };
 
-Outcome outcomeOf(const Job& job, const InputFile& file, const Console& console) {
+Outcome outcomeOf(const Job& job, const ListedFile& file, const Console& console) {
   Outcome outcome;
   try {
     std::ostringstream out;
@@ -51,7 +51,7 @@ Outcome outcomeOf(const Job& job, const InputFile& file, const Console& console)
 // Starts jobs in the order of the files and keeps their outcomes until they are taken.
 class Threads {
  public:
-  Threads(const std::vector<InputFile>& files, std::size_t threads, const Console& console, const MakeJob& makeJob)
+  Threads(const std::vector<ListedFile>& files, std::size_t threads, const Console& console, const MakeJob& makeJob)
       : files_(files), end_(files.size()), console_(console), running_(threads), outcomes_(files.size()) {
     for (std::size_t i = 0; i < threads; ++i) {
       threads_.emplace_back([this, job = makeJob()] { work(job); });
@@ -118,7 +118,7 @@ class Threads {
 
   std::mutex mutex_;
   std::condition_variable changed_;
-  const std::vector<InputFile>& files_;
+  const std::vector<ListedFile>& files_;
   // The file before which to stop.
   std::size_t end_;
   const Console& console_;
@@ -132,8 +132,8 @@ class Threads {
   std::vector<std::jthread> threads_;
 };
 
-std::size_t threadCount(const std::vector<InputFile>& files, std::optional<std::int32_t> wanted) {
-  const bool readsStream = std::ranges::find(files, "-", &InputFile::name) != files.end();
+std::size_t threadCount(const std::vector<ListedFile>& files, std::optional<std::int32_t> wanted) {
+  const bool readsStream = std::ranges::find(files, "-", &ListedFile::name) != files.end();
   const auto cores = static_cast<std::int32_t>(std::thread::hardware_concurrency());
   const std::int32_t threads = readsStream ? 1 : std::clamp(wanted.value_or(cores), 1, kMaxJobs);
   return std::min(static_cast<std::size_t>(threads), files.size());
@@ -141,7 +141,7 @@ std::size_t threadCount(const std::vector<InputFile>& files, std::optional<std::
 
 }  // namespace
 
-ExitStatus runJobs(const std::vector<InputFile>& files, std::optional<std::int32_t> threads, Console& console,
+ExitStatus runJobs(const std::vector<ListedFile>& files, std::optional<std::int32_t> threads, Console& console,
                    const MakeJob& makeJob) {
   ExitStatus status = kDone;
   std::size_t done = 0;

@@ -11,7 +11,7 @@
 namespace quillhue::cli {
 
 /// Does the work for one file. Writes all data and messages to the console that it gets.
-using Job = std::function<ExitStatus(const InputFile& file, Console& console)>;
+using Job = std::function<ExitStatus(const ListedFile& file, Console& console)>;
 /// Makes the job of one thread. The jobs of different threads must not change anything that they share.
 using MakeJob = std::function<Job()>;
 
@@ -21,7 +21,7 @@ using MakeJob = std::function<Job()>;
 ///
 /// After an interrupt (Ctrl+C), finishes the files that are being worked on and refuses the rest. If a job throws, does
 /// the same and throws the first exception. Returns kRefused if any job did or the user interrupted.
-ExitStatus runJobs(const std::vector<InputFile>& files, std::optional<std::int32_t> threads, Console& console,
+ExitStatus runJobs(const std::vector<ListedFile>& files, std::optional<std::int32_t> threads, Console& console,
                    const MakeJob& makeJob);
 
 }  // namespace quillhue::cli

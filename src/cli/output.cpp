@@ -1,6 +1,7 @@
 #include "cli/output.h"
 
 #include <algorithm>
+#include <cerrno>
 
 #include "cli/file_log.h"
 #include "cli/file_reason.h"
@@ -86,8 +87,9 @@ std::expected<void, std::string> writeOutput(const std::string& file, const std:
   if (!force && fileExists(name)) {
     return Refusal("This file already exists. Replace it with --force.");
   }
+  errno = 0;
   if (!writeFile(name, content)) {
-    return Refusal(creationFailure(file, content.size()));
+    return Refusal(creationFailure(file, content.size(), errno));
   }
   return {};
 }

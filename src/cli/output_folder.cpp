@@ -52,15 +52,15 @@ class FileSet {
 // Decides on the results of all files.
 class Results {
  public:
-  Results(const FolderOutput& output, const std::vector<InputFile>& inputs) : output_(output) {
-    std::ranges::for_each(inputs, [this](const InputFile& input) { read_.add(input.name); });
+  Results(const FolderOutput& output, const std::vector<ListedFile>& inputs) : output_(output) {
+    std::ranges::for_each(inputs, [this](const ListedFile& input) { read_.add(input.name); });
   }
 
-  [[nodiscard]] std::filesystem::path folderOf(const InputFile& input) const {
+  [[nodiscard]] std::filesystem::path folderOf(const ListedFile& input) const {
     return toPath(fromUtf8(output_.folder)) / toPath(fromUtf8(input.subfolder));
   }
 
-  [[nodiscard]] std::filesystem::path targetOf(const InputFile& input) const {
+  [[nodiscard]] std::filesystem::path targetOf(const ListedFile& input) const {
     std::filesystem::path target =
         folderOf(input) / toPath(fromUtf8(input.name == "-" ? output_.streamName : input.name)).stem();
     target += '.';
@@ -69,7 +69,7 @@ class Results {
   }
 
   // Any number of threads may call this if no two results have the same name.
-  ExitStatus write(const InputFile& input, const WriteResult& writeResult, Console& console) {
+  ExitStatus write(const ListedFile& input, const WriteResult& writeResult, Console& console) {
     const std::string& from = input.name;
     FileSet own;
     own.add(from);
@@ -102,9 +102,9 @@ class Results {
 };
 
 // Returns whether two results may be the same file, by name in any case or by a link.
-bool mayCollide(const Results& results, const std::vector<InputFile>& inputs) {
+bool mayCollide(const Results& results, const std::vector<ListedFile>& inputs) {
   std::set<std::string> names;
-  return std::ranges::any_of(inputs, [&](const InputFile& input) {
+  return std::ranges::any_of(inputs, [&](const ListedFile& input) {
     const std::filesystem::path target = results.targetOf(input);
     std::error_code unknown;
     return !names.insert(inLowerCase(toUtf8(toFileName(target)))).second ||
@@ -116,8 +116,8 @@ bool mayCollide(const Results& results, const std::vector<InputFile>& inputs) {
 // refused or skipped.
 class ResultFolders {
  public:
-  ResultFolders(const Results& results, const std::vector<InputFile>& inputs) {
-    for (const InputFile& input : inputs) {
+  ResultFolders(const Results& results, const std::vector<ListedFile>& inputs) {
+    for (const ListedFile& input : inputs) {
       create(results.folderOf(input));
     }
   }
@@ -162,13 +162,13 @@ ExitStatus writeIntoFolder(const FolderOutput& output, const std::vector<std::st
     return refuseFile({output.folder, "Could not create the folder: " + error.message() + '.'}, output.list.json,
                       console);
   }
-  const std::vector<InputFile> inputs = listFiles(files, output.folder, output.list, console);
+  const std::vector<ListedFile> inputs = listFiles(files, output.folder, output.list, console);
   Results results(output, inputs);
   const ResultFolders folders(results, inputs);
   // Which of two results with the same name is refused depends on what became of the first.
   const auto jobs = mayCollide(results, inputs) ? 1 : output.list.jobs;
   return runJobs(inputs, jobs, console, [&]() -> Job {
-    return [&results, write = makeWrite()](const InputFile& input, Console& own) {
+    return [&results, write = makeWrite()](const ListedFile& input, Console& own) {
       return results.write(input, write, own);
     };
   });

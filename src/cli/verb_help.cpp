@@ -150,8 +150,13 @@ std::string helpOf(const OptionHelp& option) {
   return text;
 }
 
-std::string nearestName(const std::string& name, const std::vector<std::string>& names) {
-  return *std::ranges::min_element(names, {}, [&](const std::string& other) { return distance(name, other); });
+std::optional<std::string> nearestName(const std::string& name, const std::vector<std::string>& names) {
+  const auto distanceTo = [&](const std::string& other) { return distance(name, other); };
+  const auto nearest = std::ranges::min_element(names, {}, distanceTo);
+  if (nearest == names.end() || 3 * distanceTo(*nearest) > name.size() + 2) {
+    return std::nullopt;
+  }
+  return *nearest;
 }
 
 }  // namespace quillhue::cli

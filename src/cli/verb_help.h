@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -65,7 +66,7 @@ struct ToolHelp {
 [[nodiscard]] std::string helpOf(const ToolHelp& tool, const VerbHelp& verb);
 [[nodiscard]] std::string helpOf(const OptionHelp& option);
 
-/// Returns the name with the fewest letters to change. There must be at least one.
-[[nodiscard]] std::string nearestName(const std::string& name, const std::vector<std::string>& names);
+/// Returns the name with the fewest letters to change, if that is at most one letter of three.
+[[nodiscard]] std::optional<std::string> nearestName(const std::string& name, const std::vector<std::string>& names);
 
 }  // namespace quillhue::cli

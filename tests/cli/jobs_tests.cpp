@@ -26,15 +26,15 @@ using NamedJob = std::function<ExitStatus(const std::string& file, Console& cons
 
 Ran ran(const std::vector<std::string>& names, int threads, const NamedJob& job,
         std::optional<std::chrono::milliseconds> progressDelay = {}) {
-  std::vector<InputFile> files;
-  std::ranges::transform(names, std::back_inserter(files), [](const std::string& name) { return InputFile{name}; });
+  std::vector<ListedFile> files;
+  std::ranges::transform(names, std::back_inserter(files), [](const std::string& name) { return ListedFile{name}; });
   std::istringstream in;
   std::ostringstream out;
   std::ostringstream err;
   Console console{in, out, err};
   console.progressDelay = progressDelay;
   const ExitStatus status = runJobs(files, threads, console, [&]() -> Job {
-    return [&](const InputFile& file, Console& own) { return job(file.name, own); };
+    return [&](const ListedFile& file, Console& own) { return job(file.name, own); };
   });
   return {status, out.str(), err.str()};
 }

@@ -70,4 +70,5 @@ if [ -e /dev/full ] && [ $# -eq 1 ]; then
   [ $status -eq 1 ] && grep -q '^Interrupted: 1 of 2 files are done.$' err || fail "interrupted: $status, $(cat err)"
   [ "$(ls results)" = slow.act ] && [ "$(stat -c %s results/slow.act)" -eq 772 ] || fail "results: $(ls -l results)"
   ! "${tool[@]}" convert 'ö.act' /dev/full --force --format map 2>err || fail 'a full device goes unnoticed'
+  grep -q 'Could not create the file: the disk is full.$' err || fail "a full device: $(cat err)"
 fi
