@@ -160,7 +160,9 @@ ExitStatus runJobs(const std::vector<ListedFile>& files, std::optional<std::int3
       if (exception) {
         continue;
       }
-      line.clear();
+      if (!outcome->out.empty() || !outcome->err.empty()) {
+        line.clear();
+      }
       console.out << outcome->out;
       console.err << outcome->err;
       exception = outcome->exception;
