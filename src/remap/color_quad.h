@@ -10,7 +10,8 @@
 
 namespace quillhue {
 
-/// Four colors in 16-bit lanes, in pairs for the multiply-add instruction: blue and green, red and 0.
+/// Four colors in 16-bit lanes, in pairs for the multiply-add instruction: blue and green, red and another number,
+/// which is 0 in at least one of the colors that are multiplied.
 struct ColorQuad {
   __m128i blueGreen;
   __m128i red;
@@ -21,11 +22,15 @@ struct ColorQuad {
   return _mm_add_epi32(_mm_madd_epi16(a.blueGreen, b.blueGreen), _mm_madd_epi16(a.red, b.red));
 }
 
-/// Eight colors as two quads. Keeps the low 16 bits of each channel.
+/// Eight colors as two quads. Keeps the low 16 bits of each channel; beside red the bits are any.
 class PairedColors {
  public:
+  PairedColors(Lanes blueGreen, Lanes red) : blueGreen_(blueGreen), red_(red) {}
   explicit PairedColors(const EightColors& colors)
-      : blueGreen_((colors.blue & Lanes::all(0xFFFF)) | colors.green << 16), red_(colors.red & Lanes::all(0xFFFF)) {}
+      : blueGreen_((colors.blue & Lanes::all(0xFFFF)) | colors.green << 16), red_(colors.red) {}
+
+  [[nodiscard]] Lanes blueGreen() const { return blueGreen_; }
+  [[nodiscard]] Lanes red() const { return red_; }
 
   [[nodiscard]] ColorQuad low() const { return {blueGreen_.low, red_.low}; }
   [[nodiscard]] ColorQuad high() const { return {blueGreen_.high, red_.high}; }
@@ -57,8 +62,8 @@ template <int indexBits>
 
 /// Returns the least of the four keys that `keysOf(Lane)` gives for each lane.
 template <typename KeysOf>
-[[nodiscard]] Lanes leastKeys(KeysOf keysOf) {
-  const auto four = [](__m128 first, __m128 second, __m128 third, __m128 fourth) {
+[[nodiscard, gnu::always_inline]] inline Lanes leastKeys(KeysOf keysOf) {
+  const auto four = [](__m128 first, __m128 second, __m128 third, __m128 fourth) __attribute__((always_inline)) {
     const __m128 upper = _mm_min_ps(_mm_unpacklo_ps(first, second), _mm_unpackhi_ps(first, second));
     const __m128 lower = _mm_min_ps(_mm_unpacklo_ps(third, fourth), _mm_unpackhi_ps(third, fourth));
     return _mm_castps_si128(_mm_min_ps(_mm_movelh_ps(upper, lower), _mm_movehl_ps(lower, upper)));
@@ -67,21 +72,19 @@ template <typename KeysOf>
           four(keysOf(Lane<4>()), keysOf(Lane<5>()), keysOf(Lane<6>()), keysOf(Lane<7>()))};
 }
 
-/// Four colors of a list in little memory: the parts of their keys that do not depend on the target, their channels and
-/// their indexes.
+/// Four colors of a list in little memory: the parts of their keys that do not depend on the target, and their
+/// channels.
 class ListedColors {
  public:
   static constexpr std::size_t kCount = 4;
 
-  void set(std::size_t lane, std::int32_t keyStart, const PaletteEntry& color, std::uint8_t index) {
+  void set(std::size_t lane, std::int32_t keyStart, const PaletteEntry& color) {
     starts_[lane] = keyStart;
     bytes_[2 * lane] = color.blue ^ kHalf;
     bytes_[2 * lane + 1] = color.green ^ kHalf;
     bytes_[kRed + 2 * lane] = color.red ^ kHalf;
-    bytes_[kRed + 2 * lane + 1] = index;
   }
 
-  [[nodiscard]] std::uint8_t index(std::size_t lane) const { return bytes_[kRed + 2 * lane + 1]; }
   [[nodiscard]] __m128i starts() const { return std::bit_cast<__m128i>(starts_); }
   /// Returns 256 times the dot product of each color with a target. Channels of the colors are less by 128 here, so
   /// that they are signed bytes; this changes the products of all colors by the same amount.
@@ -96,7 +99,7 @@ class ListedColors {
   static constexpr std::size_t kRed = 8;
 
   alignas(16) std::array<std::int32_t, kCount> starts_{};
-  // Blue and green of each color, then red and index. The index is multiplied by the 0 beside the target's red.
+  // Blue and green of each color, then red and 0.
   alignas(16) std::array<std::uint8_t, 4 * kCount> bytes_{};
 };
 

@@ -91,6 +91,47 @@ using EightNumbers = std::array<std::int32_t, Lanes::kCount>;
 
 [[nodiscard]] inline Lanes lanesOf(const EightNumbers& numbers) { return std::bit_cast<Lanes>(numbers); }
 
+/// Eight 16-bit numbers in one register.
+struct Shorts {
+  __m128i eight = _mm_setzero_si128();
+
+  [[nodiscard]] static Shorts all(std::int16_t number) { return {_mm_set1_epi16(number)}; }
+
+  friend Shorts operator+(Shorts a, Shorts b) { return {_mm_add_epi16(a.eight, b.eight)}; }
+  friend Shorts operator&(Shorts a, Shorts b) { return {_mm_and_si128(a.eight, b.eight)}; }
+  friend Shorts operator|(Shorts a, Shorts b) { return {_mm_or_si128(a.eight, b.eight)}; }
+  friend Shorts operator^(Shorts a, Shorts b) { return {_mm_xor_si128(a.eight, b.eight)}; }
+  friend Shorts operator<<(Shorts a, int bits) { return {_mm_slli_epi16(a.eight, bits)}; }
+  /// Rounds down.
+  friend Shorts operator>>(Shorts a, int bits) { return {_mm_srai_epi16(a.eight, bits)}; }
+  friend Shorts operator==(Shorts a, Shorts b) { return {_mm_cmpeq_epi16(a.eight, b.eight)}; }
+  friend Shorts operator<(Shorts a, Shorts b) { return {_mm_cmplt_epi16(a.eight, b.eight)}; }
+};
+
+/// Returns the low or high 16 bits of products.
+[[nodiscard]] inline Shorts lowProducts(Shorts a, Shorts b) { return {_mm_mullo_epi16(a.eight, b.eight)}; }
+[[nodiscard]] inline Shorts highProducts(Shorts a, Shorts b) { return {_mm_mulhi_epi16(a.eight, b.eight)}; }
+
+[[nodiscard]] inline Shorts greaterOf(Shorts a, Shorts b) { return {_mm_max_epi16(a.eight, b.eight)}; }
+
+/// Returns the numbers clamped to 16 bits.
+[[nodiscard]] inline Shorts packed(Lanes lanes) { return {_mm_packs_epi32(lanes.low, lanes.high)}; }
+
+/// Returns the numbers twice each, as the low and the high half.
+[[nodiscard]] inline Lanes widened(Shorts shorts) {
+  return {_mm_unpacklo_epi16(shorts.eight, shorts.eight), _mm_unpackhi_epi16(shorts.eight, shorts.eight)};
+}
+
+[[nodiscard]] inline bool areZero(Shorts shorts) {
+  return _mm_movemask_epi8(_mm_cmpeq_epi16(shorts.eight, _mm_setzero_si128())) == 0xFFFF;
+}
+
+/// Returns a number as an unsigned one.
+template <std::size_t lane>
+[[nodiscard]] std::size_t numberOf(Shorts shorts) {
+  return static_cast<std::size_t>(_mm_extract_epi16(shorts.eight, lane));
+}
+
 /// Moves each number to the next lane and puts `first` into the first one. Drops the last number.
 [[nodiscard]] inline Lanes movedUp(Lanes lanes, std::int32_t first) {
   return {_mm_or_si128(_mm_slli_si128(lanes.low, 4), _mm_cvtsi32_si128(first)),

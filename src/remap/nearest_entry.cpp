@@ -50,7 +50,7 @@ NearestEntry::NearestEntry(std::span<const PaletteEntry> colors, std::size_t lis
     : scan_(colors),
       areGreys_(std::ranges::all_of(
           colors, [](const PaletteEntry& color) { return color.red == color.green && color.green == color.blue; })),
-      listBytes_(listBytes) {
+      lists_(scan_, listBytes) {
   if (hasFewColors()) {
     for (std::size_t i = 0; i < colors.size(); ++i) {
       const ColorVector factor{colors[i].blue << (kFewBits + 1), colors[i].green << (kFewBits + 1),
@@ -59,13 +59,24 @@ NearestEntry::NearestEntry(std::span<const PaletteEntry> colors, std::size_t lis
                       PairedColors(EightColors::all(factor)).low()});
     }
   } else {
-    near_ = std::make_unique<CandidateGrid<NearCells>>(scan_, listBytes);
+    near_ = std::make_unique<NearGrid>(lists_);
   }
 }
 
 Lanes NearestEntry::findFar(const EightColors& targets) {
-  const Lanes mustScan = FarCells::areBeyond(targets) | mayWrapDifferently(targets);
-  if (areZero(mustScan)) [[likely]] {
+  if (!far_) {
+    far_ = std::make_unique<FarGrid>(lists_);
+  }
+  // Below half this distance from the middle of the cube no squared distance reaches 2^31.
+  constexpr std::int16_t kNeverWraps = 13000;
+  const FarGrid::Distances distances = FarGrid::distancesOf(targets);
+  const bool areOrdered = areZero(Shorts::all(kNeverWraps) < distances);
+  return areOrdered && !areGreys_ ? far_->find(targets, distances) : findFarther(targets, distances);
+}
+
+Lanes NearestEntry::findFarther(const EightColors& targets, FarGrid::Distances distances) {
+  const Lanes mustScan = widened(distances == Shorts::all(FarGrid::kBeyond)) | mayWrapDifferently(targets);
+  if (areZero(mustScan)) {
     return findOrdered(targets);
   }
   const std::array channels{numbersOf(targets.blue), numbersOf(targets.green), numbersOf(targets.red)};
@@ -82,14 +93,11 @@ Lanes NearestEntry::findFar(const EightColors& targets) {
 Lanes NearestEntry::findOrdered(const EightColors& targets) {
   if (areGreys_ && !hasFewColors()) {
     const EightColors level = leveled(targets);
-    if (NearCells::has(level)) {
+    if (NearGrid::has(level)) {
       return near_->find(level);
     }
   }
-  if (!far_) {
-    far_ = std::make_unique<CandidateGrid<FarCells>>(scan_, listBytes_ / 2);
-  }
-  return far_->find(targets);
+  return far_->find(targets, FarGrid::distancesOf(targets));
 }
 
 }  // namespace quillhue

@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "core/palette_entry.h"
-#include "remap/candidate_grid.h"
+#include "remap/candidate_lists.h"
 #include "remap/color_scan.h"
-#include "remap/far_cells.h"
-#include "remap/near_cells.h"
+#include "remap/far_grid.h"
+#include "remap/near_grid.h"
 
 namespace quillhue {
 
@@ -20,8 +20,8 @@ class NearestEntry {
   /// Comparing all colors is faster than using lists for up to this number of colors.
   static constexpr std::size_t kFewColors = 24;
 
-  /// Takes at least one color. Lists of candidates use at most about `listBytes`, and half as much again for targets
-  /// far outside the color cube; tables use 350 KiB.
+  /// Takes at least one color. Lists of candidates use at most about `listBytes`; tables use 150 KiB, and 600 KiB
+  /// more for targets far outside the color cube.
   NearestEntry(std::span<const PaletteEntry> colors, std::size_t listBytes);
   NearestEntry(const NearestEntry&) = delete;
   NearestEntry& operator=(const NearestEntry&) = delete;
@@ -39,7 +39,7 @@ class NearestEntry {
   /// The same for a caller that has checked hasFewColors.
   [[nodiscard, gnu::always_inline]] Lanes findOfFew(const EightColors& targets);
   [[nodiscard, gnu::always_inline]] Lanes findOfMany(const EightColors& targets) {
-    return NearCells::has(targets) ? near_->find(targets) : findFar(targets);
+    return NearGrid::has(targets) ? near_->find(targets) : findFar(targets);
   }
 
  private:
@@ -52,17 +52,18 @@ class NearestEntry {
   static_assert(kFewColors <= 1 << kFewBits);
 
   [[gnu::noinline]] Lanes findFar(const EightColors& targets);
+  [[nodiscard, gnu::noinline]] Lanes findFarther(const EightColors& targets, FarGrid::Distances distances);
   // Takes targets whose wrapped distances have the same order as the true ones.
   [[nodiscard]] Lanes findOrdered(const EightColors& targets);
 
   ColorScan scan_;
   bool areGreys_;
   std::vector<FewColor> few_;
-  std::size_t listBytes_;
+  CandidateLists lists_;
   // Only with many colors.
-  std::unique_ptr<CandidateGrid<NearCells>> near_;
+  std::unique_ptr<NearGrid> near_;
   // Made for the first far target.
-  std::unique_ptr<CandidateGrid<FarCells>> far_;
+  std::unique_ptr<FarGrid> far_;
 };
 
 // Compares targets from -16384 to 16383 in each channel with all colors.

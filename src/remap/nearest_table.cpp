@@ -95,6 +95,7 @@ NearestTable::NearestTable(std::span<const PaletteEntry> colors)
 }
 
 void NearestTable::remapRow(std::span<const std::uint8_t> pixels, std::span<std::uint8_t> indexes) {
+  pixels_ += static_cast<std::int64_t>(indexes.size());
   const std::uint8_t* const found = found_.all().data();
   const std::uint8_t* pixel = pixels.data();
   for (std::uint8_t& index : indexes) {
@@ -132,7 +133,7 @@ std::span<const std::uint8_t> NearestTable::candidatesOf(std::size_t cell) {
   std::uint32_t& list = lists_[cell];
   if (list == 0) {
     const ColorVector low = lowestOf(cell * kLinesPerCell);
-    const auto indexes = candidates_.within({low, {low[0] + 15, low[1] + 15, low[2] + 15}}, colors_.size());
+    const auto indexes = candidates_.within({low, {low[0] + 15, low[1] + 15, low[2] + 15}}, candidates_.all());
     list = static_cast<std::uint32_t>(listed_.size());
     listed_.push_back(static_cast<std::uint8_t>(indexes.size() - 1));
     listed_.insert(listed_.end(), indexes.begin(), indexes.end());

@@ -24,7 +24,7 @@ constexpr std::int64_t kPixelsForTable = 1 << 20;
 
 // The memory for lists of candidates. Without dithering all targets are colors of pixels, which need fewer lists.
 constexpr std::size_t listBytesFor(RemapMode mode) {
-  return mode == RemapMode::nearest ? std::size_t{6} << 17 : std::size_t{8} << 17;
+  return mode == RemapMode::nearest ? std::size_t{6} << 17 : std::size_t{10} << 17;
 }
 
 // A table for every index that a pixel can have.

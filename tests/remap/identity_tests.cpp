@@ -89,29 +89,39 @@ TEST(NearestTable, TakesTheFirstInTheCornerOfACell) {
   EXPECT_EQ(index[0], 0);
 }
 
-// Every number of a channel is in the box of its cell, whose lists would else lack colors.
-template <typename Cells, typename Has>
-void expectInBoxes(std::int32_t first, std::int32_t last, Has has) {
-  for (std::int32_t number = first; number <= last; ++number) {
-    const std::array target{number, first + last - number, first};
-    ASSERT_TRUE(has(EightColors::all(target))) << number;
-    const std::size_t cell = lowHalfOf<0>(Cells::cellsOf(EightColors::all(target)));
-    ASSERT_LT(cell, Cells::kCount) << number;
-    const ColorBox box = Cells::boxOf(cell);
-    for (std::size_t channel = 0; channel < target.size(); ++channel) {
-      ASSERT_LE(box.low[channel], target[channel]) << number;
-      ASSERT_GE(box.high[channel], target[channel]) << number;
-    }
-  }
-  for (const std::int32_t outside : {first - 1, last + 1}) {
-    EXPECT_FALSE(has(EightColors::all({0, outside, 0}))) << outside;
+void expectInBox(const ColorVector& target, const ColorBox& box) {
+  for (std::size_t channel = 0; channel < target.size(); ++channel) {
+    ASSERT_LE(box.low[channel], target[channel]) << target[channel];
+    ASSERT_GE(box.high[channel], target[channel]) << target[channel];
   }
 }
 
+// Every number of a channel is in the box of its cell, whose lists would else lack colors.
 TEST(NearestEntry, HasAllNumbersInTheBoxesOfTheirCells) {
-  expectInBoxes<NearCells>(-128, 383, NearCells::has);
-  expectInBoxes<FarCells>(-65279, 65535,
-                          [](const EightColors& targets) { return areZero(FarCells::areBeyond(targets)); });
+  for (std::int32_t number = -128; number <= 383; ++number) {
+    const ColorVector target{number, 255 - number, -128};
+    ASSERT_TRUE(NearGrid::has(EightColors::all(target))) << number;
+    const std::size_t cell = lowHalfOf<0>(NearGrid::cellsOf(EightColors::all(target)));
+    ASSERT_LT(cell, NearGrid::kCells) << number;
+    ASSERT_NO_FATAL_FAILURE(expectInBox(target, NearGrid::boxOf(cell)));
+  }
+  for (const std::int32_t outside : {-129, 384}) {
+    EXPECT_FALSE(NearGrid::has(EightColors::all({0, outside, 0}))) << outside;
+  }
+  const ColorScan scan(std::array<PaletteEntry, 1>{});
+  CandidateLists lists(scan, 0);
+  FarGrid far(lists);
+  for (std::int32_t number = -65405; number <= 65661; number += 1 + std::abs(number) / 512) {
+    const ColorVector target{number, 256 - number, number / 5};
+    const FarGrid::Distances distances = FarGrid::distancesOf(EightColors::all(target));
+    ASSERT_LT(numberOf<0>(distances), std::size_t{FarGrid::kBeyond}) << number;
+    const FarGrid::Places places = far.placesOf(EightColors::all(target), distances);
+    ASSERT_LT(numberOf<0>(places.cells), FarGrid::kCells) << number;
+    ASSERT_NO_FATAL_FAILURE(expectInBox(target, FarGrid::boxOf(numberOf<0>(places.cells), numberOf<0>(places.parts))));
+  }
+  for (const std::int32_t outside : {-65409, 65664, 2000000000}) {
+    EXPECT_EQ(numberOf<0>(FarGrid::distancesOf(EightColors::all({0, outside, 0}))), std::size_t{FarGrid::kBeyond});
+  }
 }
 
 void expectLiteral(NearestEntry& nearest, const std::array<ColorVector, 8>& targets) {

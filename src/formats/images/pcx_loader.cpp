@@ -4,6 +4,7 @@
 
 #include "formats/image_limits.h"
 #include "formats/images/image_loaders.h"
+#include "formats/images/pcx_runs.h"
 #include "formats/readers/palette_reader.h"
 
 namespace quillhue {
@@ -25,31 +26,18 @@ Palette readPalette(ByteSource& source) {
   return paletteFromTriples(bytes, 256);
 }
 
-// A byte of 192 or more contains in its low six bits the number of times that the next byte is repeated. Returns the
-// number of bytes decoded, which is smaller than requested if the file ends early.
-std::size_t decodeRuns(ByteSource& source, const std::span<std::uint8_t> pixels) {
-  std::span<std::uint8_t> out = pixels;
-  for (std::uint64_t offset = kPixels; !out.empty() && offset < source.size(); ++offset) {
-    std::uint8_t value = source.u8(offset);
-    std::size_t count = 1;
-    if (value >= 192) {
-      count = std::min<std::size_t>(value & 63, out.size());
-      value = source.u8(++offset);
-    }
-    std::ranges::fill(out.first(count), value);
-    out = out.subspan(count);
-  }
-  return pixels.size() - out.size();
-}
-
-// Each row has its reds, then its greens, then its blues. Only rows that start within the first `decoded` bytes are
-// converted.
-void interleaveRows(WorkImage& image, std::size_t decoded) {
+// Each row has its reds, then its greens, then its blues.
+void readPlanes(PcxRuns& runs, WorkImage& image) {
   const auto width = static_cast<std::size_t>(image.width());
   std::vector<std::uint8_t> planes(3 * width);
-  for (std::size_t start = 0; start < decoded; start += planes.size()) {
-    const auto row = image.pixels().subspan(start, planes.size());
-    std::ranges::copy(row, planes.begin());
+  std::size_t decoded = planes.size();
+  for (std::int32_t y = 0; y < image.height() && decoded == planes.size(); ++y) {
+    decoded = runs.decode(planes);
+    if (decoded == 0) {
+      return;
+    }
+    std::ranges::fill(std::span(planes).subspan(decoded), std::uint8_t{0});
+    const auto row = image.row(y);
     for (std::size_t x = 0; x < width; ++x) {
       row[3 * x] = planes[2 * width + x];
       row[3 * x + 1] = planes[width + x];
@@ -77,12 +65,13 @@ ImageResult load(ByteSource& source) {
     palette = readPalette(source);
   }
   WorkImage image(width, height, std::move(palette));
-  const std::size_t decoded = decodeRuns(source, image.pixels());
+  PcxRuns runs(source, kPixels);
   if (!hasPlanes) {
+    runs.decode(image.pixels());
     return image;
   }
   try {
-    interleaveRows(image, decoded);
+    readPlanes(runs, image);
   } catch (const std::bad_alloc&) {
     return std::unexpected(Failure::noMemoryToDeinterleave);
   }
