@@ -57,7 +57,12 @@ class Soak : public UiTest {
   void answerAll() {
     constexpr int kMost = 20;
     for (int i = 0; i < kMost; ++i) {
-      HWND dialog = editor().topWindow(kDialogClass);
+      // A dialog disables the window before it is visible.
+      HWND dialog = nullptr;
+      editor().await("a dialog or the window", [&] {
+        dialog = editor().topWindow(kDialogClass);
+        return dialog != nullptr || IsWindowEnabled(editor().window()) != 0;
+      });
       if (showsMenu(editor())) {
         editor().post(editor().window(), WM_CANCELMODE);
       } else if (dialog == nullptr) {
