@@ -34,7 +34,7 @@ TEST_F(Handles, DoNotLeak) {
   };
   work(12);
   const ResourceCount before = countResources(editor);
-  work(70);
+  work(40);
   // The system keeps some fonts, brushes and threads for itself; a leak grows with every round.
   expectNoLeak(editor, before, 12);
 }
