@@ -81,12 +81,15 @@ TEST_F(CurrentEntry, IsReachedByTypingItsNumber) {
     expectEntry(20);
     // There is no such entry, and after other keys and elsewhere the digits are forgotten.
     type("999");
+    expectStatus(L"Go to 999");
     pressKey(VK_RETURN);
     expectEntry(20);
     type("7");
+    expectStatus(L"Go to 7");
     pressKey(VK_ESCAPE);
     expectEntry(20);
     type("7");
+    expectStatus(L"Go to 7");
     pressKey(VK_RIGHT);
     expectEntry(21);
   }
