@@ -24,7 +24,7 @@ std::string withReason(Failure failure, const std::string& reason) {
   return text;
 }
 
-// Whether the file exists, but the system refuses to open it like this for lack of a right.
+// Returns whether the file exists but a missing right prevents opening it in this mode.
 bool isForbidden(const fs::path& path, std::ios::openmode mode) {
   errno = 0;
   const std::fstream file(path, mode | std::ios::binary);

@@ -165,7 +165,7 @@ ExitStatus writeIntoFolder(const FolderOutput& output, const std::vector<std::st
   const std::vector<ListedFile> inputs = listFiles(files, output.folder, output.list, console);
   Results results(output, inputs);
   const ResultFolders folders(results, inputs);
-  // Which of two results with the same name is refused depends on what became of the first.
+  // Of two results with the same name, the second is refused only if the first was written, so their order matters.
   const auto jobs = mayCollide(results, inputs) ? 1 : output.list.jobs;
   return runJobs(inputs, jobs, console, [&]() -> Job {
     return [&results, write = makeWrite()](const ListedFile& input, Console& own) {

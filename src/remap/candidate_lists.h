@@ -51,7 +51,7 @@ class CandidateLists {
   /// Makes a list. Returns kNone if there is no memory for more lists.
   [[nodiscard]] Word add(std::span<const std::uint8_t> indexes, const ColorVector& origin);
 
-  /// What eight words have in common.
+  /// The bits that eight words have in common.
   class Common {
    public:
     [[nodiscard, gnu::always_inline]] explicit Common(const Words& words) {

@@ -74,7 +74,7 @@ class LineKeys {
   }
 
  private:
-  // More than any key.
+  // Greater than any key.
   struct Four {
     __m128 keys = _mm_castsi128_ps(_mm_set1_epi32(0x7F000000));
   };

@@ -63,7 +63,7 @@ class Meeting {
   int round_ = 0;
 };
 
-// The first file is done only after the last one has begun, so the texts of the others have to wait for its text.
+// The first file ends only after the last one has begun, so the texts of the others must wait for its text.
 TEST(Jobs, WriteTextsInTheOrderOfTheFiles) {
   std::promise<void> lastBegins;
   const Ran result = ran({"a", "refused", "c", "d", "last"}, 2, [&](const std::string& file, Console& console) {
@@ -85,7 +85,7 @@ TEST(Jobs, WriteTextsInTheOrderOfTheFiles) {
   EXPECT_EQ(result.err, "no\n");
 }
 
-// All threads meet in each round, or the test hangs; more of them would be seen.
+// All threads meet in each round; otherwise the test hangs. The test also notices additional threads.
 TEST(Jobs, RunOnTheThreadsThatAreAskedFor) {
   for (const int threads : {1, 2, 5}) {
     Meeting meeting(threads);
@@ -101,7 +101,7 @@ TEST(Jobs, RunOnTheThreadsThatAreAskedFor) {
     EXPECT_EQ(ran(std::vector<std::string>(20, "file"), threads, job).status, kDone);
     EXPECT_EQ(most, threads);
   }
-  // Standard input is for one thread.
+  // With standard input there is only one thread.
   EXPECT_EQ(ran({"a", "-", "c", "d"}, 4,
                 [running = std::make_shared<std::atomic<int>>(0)](const auto&, Console&) {
                   const bool isAlone = ++*running == 1;

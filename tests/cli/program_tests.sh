@@ -52,8 +52,8 @@ if [ -e /dev/full ] && [ $# -eq 1 ]; then
   "${tool[@]}" convert 'ö.act' /dev/stdout --force --format clp | cmp stdout.clp - || fail 'a pipe is not written'
   cmp stdout.clp file.clp || fail 'standard output by its name is not written'
 
-  # An interrupt while a file is read (SIGTERM, since the shell makes background programs ignore SIGINT): this file is
-  # finished, and no other one is begun.
+  # An interrupt while a file is read: the tool finishes this file and starts no other. The signal is SIGTERM, because
+  # the shell makes background programs ignore SIGINT.
   mkfifo slow.map
   "${tool[@]}" convert slow.map file.clp --out-dir results --format act --jobs 1 2>err &
   reader=$!

@@ -1,4 +1,5 @@
-// The product against the literal rules, where a search that is not a scan and rows that run together can go wrong.
+// Compares the product with the reference in cases that a search other than a scan, or the parallel processing of rows,
+// could get wrong.
 
 #include <gtest/gtest.h>
 
@@ -21,7 +22,7 @@ TEST(RemapIdentity, HoldsForRandomCases) {
   }
 }
 
-// A flat image that a palette can't make up for: errors grow over all borders of cells until they wrap.
+// A flat image far from all colors of the palette: errors grow across all borders of cells until they wrap.
 TEST(RemapIdentity, HoldsWhereErrorsLeaveAnyRange) {
   const MakeColor white = always({255, 255, 255});
   const MakeColor black = always({});
@@ -46,7 +47,7 @@ TEST(RemapIdentity, HoldsWhereErrorsLeaveAnyRange) {
   }
 }
 
-// Large images use a table, which is given up where colors do not repeat.
+// Large images use a table, unless their colors do not repeat.
 TEST(RemapIdentity, HoldsForLargeImages) {
   CaseBytes random(10'000'000, 13);
   for (const auto& [size, levels] : {std::pair{3, 255}, {3, 15}, {30, 255}}) {
@@ -70,7 +71,7 @@ TEST(NearestTable, EqualsTheLiteralRules) {
       StoppingProgress progress;
       (void)literalRemap(image, palette, {}, expected, progress);
       std::vector<std::uint8_t> indexes(900);
-      // The second time everything is found already.
+      // The second time, the table already contains all answers.
       for (int time = 0; time < 2; ++time) {
         std::ranges::fill(indexes, std::uint8_t{77});
         table.remapRow(image.row(0), indexes);
@@ -80,7 +81,7 @@ TEST(NearestTable, EqualsTheLiteralRules) {
   }
 }
 
-// A color that is as near as another one in a single corner of a cell, and before it.
+// A color that is as near as a later one, but only in one corner of a cell.
 TEST(NearestTable, TakesTheFirstInTheCornerOfACell) {
   const std::array<PaletteEntry, 2> entries{{{30, 30, 30}, {0, 0, 0}}};
   const std::array<std::uint8_t, 3> pixel{15, 15, 15};
@@ -96,7 +97,7 @@ void expectInBox(const ColorVector& target, const ColorBox& box) {
   }
 }
 
-// Every number of a channel is in the box of its cell, whose lists would else lack colors.
+// Every value of a channel is in the box of its cell. Otherwise the cell's list would lack colors.
 TEST(NearestEntry, HasAllNumbersInTheBoxesOfTheirCells) {
   for (std::int32_t number = -128; number <= 383; ++number) {
     const ColorVector target{number, 255 - number, -128};
@@ -155,7 +156,7 @@ TEST(NearestEntry, EqualsTheLiteralRulesAtAllBorders) {
   }
 }
 
-// Targets in all directions and at all distances.
+// Tests targets in all directions and at all distances.
 TEST(NearestEntry, EqualsTheLiteralRulesFarOut) {
   CaseBytes random(1000000, 19);
   for (const std::int32_t size : {5, 40, 256}) {
@@ -174,8 +175,8 @@ TEST(NearestEntry, EqualsTheLiteralRulesFarOut) {
   }
 }
 
-// Far targets of greys are brought back, but not where distances wrap for some of the greys only: about the square root
-// of 2^31 below 0.
+// Far targets on a palette of greys are replaced by nearer ones, except where distances wrap for some of the greys
+// only: about the square root of 2^31 below 0.
 TEST(NearestEntry, EqualsTheLiteralRulesForFarGreys) {
   CaseBytes random(50000, 17);
   const std::vector<PaletteEntry> greys = entriesOf(paletteOf(100, colorKinds()[kGreys], random));
@@ -194,7 +195,7 @@ TEST(NearestEntry, EqualsTheLiteralRulesForFarGreys) {
   }
 }
 
-// Without memory for lists all colors are compared, with the same results.
+// Without memory for lists, all colors are compared. The results are the same.
 TEST(NearestEntry, WorksWithoutMemoryForLists) {
   CaseBytes random(100000, 15);
   NearestEntry nearest(entriesOf(paletteOf(256, colorKinds()[3], random)), 0);

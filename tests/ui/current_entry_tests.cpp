@@ -10,7 +10,7 @@
 namespace quillhue {
 namespace {
 
-/// The current entry as the status bar shows it, and the keys and the text that reach it.
+/// Tests the current entry as the status bar shows it, and the keys and typed numbers that change it.
 class CurrentEntry : public UiTest {
  protected:
   void expectStatus(const std::wstring& text) const {
@@ -29,7 +29,7 @@ TEST_F(CurrentEntry, IsShownInTheStatusBar) {
   expectEntry(0);
   clickAt(editor, editor.entryPoint(29));
   expectEntry(29);
-  // Ctrl with Home and End is like these keys alone.
+  // Ctrl+Home and Ctrl+End do the same as Home and End.
   for (const auto& [key, index] : {std::pair{VK_RIGHT, 30}, {VK_END, 239}, {VK_HOME, 0}}) {
     pressKey(key, key == VK_RIGHT ? std::vector<int>{} : std::vector<int>{VK_CONTROL});
     expectEntry(index);
@@ -79,7 +79,7 @@ TEST_F(CurrentEntry, IsReachedByTypingItsNumber) {
     type("20");
     // After a pause.
     expectEntry(20);
-    // There is no such entry, and after other keys and elsewhere the digits are forgotten.
+    // The entry does not exist. Other keys discard the digits.
     type("999");
     expectStatus(L"Go to 999");
     pressKey(VK_RETURN);

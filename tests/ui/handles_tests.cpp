@@ -11,7 +11,7 @@ class Handles : public UiTest {};
 TEST_F(Handles, DoNotLeak) {
   const Editor& editor = open(brightPalette(3));
   const std::wstring large = paletteFile("large.pal", brightPalette(200));
-  // One round of what a user does; a document is replaced, resized windows repaint, tabs change.
+  // Repeats typical actions of a user: replaces documents, resizes the window, changes tabs.
   const auto work = [&](int rounds) {
     for (int i = 0; i < rounds; ++i) {
       editor.run(command_id::kFirstSystemPalette + i % 9);

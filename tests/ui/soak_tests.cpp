@@ -23,7 +23,7 @@
 namespace quillhue {
 namespace {
 
-// The number in an environment variable.
+// Returns the number in an environment variable, or `otherwise`.
 unsigned setting(const char* name, unsigned otherwise) {
   const char* const given = std::getenv(name);
   return given != nullptr ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : otherwise;
@@ -39,7 +39,7 @@ class Soak : public UiTest {
     random_.seed(seed);
   }
 
-  // 0 .. count - 1, the same with every library.
+  // Returns a number from 0 to count - 1, the same with every standard library.
   int any(std::integral auto count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
   template <typename Items>
   auto anyOf(const Items& items) {
@@ -53,7 +53,7 @@ class Soak : public UiTest {
     (this->*anyOf(kActs))();
   }
 
-  // Closes what is open, by its buttons or by Escape.
+  // Closes open menus, lists and dialogs by their buttons or Escape.
   void answerAll() {
     constexpr int kMost = 20;
     for (int i = 0; i < kMost; ++i) {
@@ -76,9 +76,9 @@ class Soak : public UiTest {
     throw ProgramError("dialogs don't end; " + editor().description());
   }
 
-  // Undo gives the palette of before, and redo the changed one.
+  // Undo restores the previous palette, and redo the changed one.
   void checkHistory() {
-    // A dialog may still be on its way.
+    // A dialog may still be opening.
     editor().awaitInput();
     answerAll();
     editor().ask(tabControl(editor()), TCM_SETCURFOCUS, kEffectsPage);
@@ -144,7 +144,7 @@ class Soak : public UiTest {
   }
 
   void clickSomewhere() {
-    // The order of a call's arguments is the compiler's.
+    // The compiler chooses the order in which arguments are evaluated.
     const Point from = somewhere();
     const Point to = somewhere();
     switch (any(4)) {
@@ -163,9 +163,9 @@ class Soak : public UiTest {
 
   void changeSize() { editor().resize({436 + any(700), 376 + any(500)}); }
 
-  // A file, another page, or an item of the list that is shown.
+  // Drops a file, changes the page, or chooses an item of the visible list.
   void chooseOrDrop() {
-    // Input that is still on its way may take the list away again.
+    // Input that is still waiting may hide the list again.
     HWND list = findControl(editor().window(), L"ComboBox");
     if (any(3) == 0) {
       editor().drop({anyOf(files_)});
@@ -250,7 +250,7 @@ TEST_F(Soak, EndsWithADocumentThatCanBeSaved) {
     return mostActions > 0 ? actions / mostActions : time.count() / mostSeconds;
   };
   bool isCounted = false;
-  // Until then the system keeps more and more for itself.
+  // Until then the system's own use of memory and handles grows.
   constexpr int kWarmUp = 200;
   for (; share() < 1; ++actions) {
     SCOPED_TRACE("action " + std::to_string(actions));
