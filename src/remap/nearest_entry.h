@@ -20,7 +20,7 @@ class NearestEntry {
   /// Comparing all colors is faster than using lists for up to this number of colors.
   static constexpr std::size_t kFewColors = 24;
 
-  /// Takes at least one color. Lists of candidates use at most about `listBytes`; tables use 150 KiB, and 600 KiB
+  /// Takes at least one color. Lists of candidates use at most about `listBytes`; tables use 150 KiB, and 450 KiB
   /// more for targets far outside the color cube.
   NearestEntry(std::span<const PaletteEntry> colors, std::size_t listBytes);
   NearestEntry(const NearestEntry&) = delete;
