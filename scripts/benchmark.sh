@@ -16,5 +16,7 @@ trap 'rm -rf "$work"' EXIT
 # The system's interpreter, which finds the system's Pillow. The other programs run with one thread, like the product.
 TMPDIR=$work MAGICK_THREAD_LIMIT=1 OMP_NUM_THREADS=1 PYTHONDONTWRITEBYTECODE=1 \
   /usr/bin/python3 "$root/scripts/benchmark/main.py" "$root/build/bench" "$work" "$out"
+/usr/bin/python3 "$root/scripts/benchmark/dithering.py" "$root/build/bench/src/quillhue-cli" "$work/4096x3072.bmp" \
+  "$work/adaptive-256.gpl" >>"$out"
 /usr/bin/python3 "$root/scripts/benchmark/palette_error.py" "$root/build/bench/src/quillhue-cli" \
   "$root/samples/art/sea.jpg" >>"$out"
