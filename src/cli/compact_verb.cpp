@@ -122,13 +122,14 @@ std::expected<void, FileRefusal> compactFile(const CompactOptions& options, Cons
       return written;
     }
   }
+  FileRecord record = recordOf(options.to, format.name, content->size(), file->image);
+  record.entries = static_cast<std::int32_t>(compaction.colors.size());
+  WrittenFile logged(console, std::move(record));
   const auto written = writeOutput(options.to, *content, options.force, console);
   if (!written) {
     return std::unexpected(FileRefusal{options.to, written.error()});
   }
-  FileRecord record = recordOf(options.to, format.name, content->size(), file->image);
-  record.entries = static_cast<std::int32_t>(compaction.colors.size());
-  addWritten(console, std::move(record));
+  logged.add();
   return {};
 } catch (const std::bad_alloc&) {
   return std::unexpected(FileRefusal{options.from, std::string(textOf(Failure::notEnoughMemory))});

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "cli/notes.h"
 #include "cli/refusal.h"
 
 namespace quillhue::cli {
@@ -24,10 +25,10 @@ std::string textOf(const std::string& words, const FileRecord& record) {
   return text + ", " + counted(record.bytes, "byte", "bytes") + '.';
 }
 
-void show(Console& console, const std::string& words, const FileRecord& record) {
-  if (console.files.verbose && !console.notes.quiet) {
-    console.err << fileLine(record.file, textOf(words, record)) << '\n';
-  }
+// Returns the line that --verbose shows; otherwise nothing.
+std::string lineOf(const Console& console, const std::string& words, const FileRecord& record) {
+  const bool isShown = console.files.verbose && !console.notes.quiet;
+  return isShown ? fileLine(record.file, textOf(words, record)) + '\n' : "";
 }
 
 JsonObject jsonOfRecord(const FileRecord& record) {
@@ -55,13 +56,25 @@ std::vector<JsonObject> jsonOfRecords(const std::vector<FileRecord>& records) {
 }  // namespace
 
 void addRead(Console& console, FileRecord record) {
-  show(console, "read as ", record);
+  console.err << lineOf(console, "read as ", record);
   console.files.read.push_back(std::move(record));
 }
 
-void addWritten(Console& console, FileRecord record) {
-  show(console, "written as ", record);
-  console.files.written.push_back(std::move(record));
+WrittenFile::WrittenFile(Console& console, FileRecord record, const std::string& note)
+    : console_(console),
+      line_(lineOf(console, "written as ", record)),
+      note_(note.empty() ? "" : fileLine(record.file, note)),
+      record_(std::move(record)) {
+  console.files.written.reserve(console.files.written.size() + 1);
+  console.notes.lines.reserve(console.notes.lines.size() + 1);
+}
+
+void WrittenFile::add() {
+  console_.err << line_;
+  console_.files.written.push_back(std::move(record_));
+  if (!note_.empty()) {
+    addNoteLine(console_, std::move(note_));
+  }
 }
 
 FileRecord recordOf(const std::string& file, std::string_view format, std::uint64_t bytes, const WorkImage& image) {

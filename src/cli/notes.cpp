@@ -17,7 +17,10 @@ void addMessageFlags(Verb& verb, Console& console) {
 }
 
 void addNote(Console& console, const std::string& file, std::string_view text) {
-  std::string line = fileLine(file, text);
+  addNoteLine(console, fileLine(file, text));
+}
+
+void addNoteLine(Console& console, std::string line) {
   if (!console.notes.quiet) {
     console.err << line << '\n';
   }

@@ -51,20 +51,23 @@ std::expected<void, FileRefusal> writePalette(const PaletteOutput& output, const
   if (!content) {
     return std::unexpected(FileRefusal{output.from, std::string(textOf(content.error()))});
   }
+  std::string noteText;
+  if (const PaletteReader* const reader = output.format.reader) {
+    if (const auto note = noteWriting(palette, *reader, *content)) {
+      noteText = note->text + (note->isReadable ? "." : ". Use --standard to write a file that can be read.");
+    }
+  }
+  WrittenFile logged(console,
+                     {.file = output.to,
+                      .format = std::string(output.format.name),
+                      .bytes = content->size(),
+                      .entries = palette.getSize()},
+                     noteText);
   const auto written = writeOutput(output.to, *content, output.options.force, console);
   if (!written) {
     return std::unexpected(FileRefusal{output.to, written.error()});
   }
-  addWritten(console, {.file = output.to,
-                       .format = std::string(output.format.name),
-                       .bytes = content->size(),
-                       .entries = palette.getSize()});
-  if (const PaletteReader* const reader = output.format.reader) {
-    if (const auto note = noteWriting(palette, *reader, *content)) {
-      addNote(console, output.to,
-              note->text + (note->isReadable ? "." : ". Use --standard to write a file that can be read."));
-    }
-  }
+  logged.add();
   return {};
 }
 

@@ -178,13 +178,14 @@ bool remapTo(const std::string& from, const std::string& to, const Target& targe
   if (!composed) {
     return refuseInput({from, composed.error()}, options.list.skipsUnknown, options.list.json, console) == kDone;
   }
+  composed->record.file = to;
+  composed->record.bytes = composed->content.size();
+  WrittenFile logged(console, std::move(composed->record));
   const auto written = writeOutput(to, composed->content, options.force, console);
   if (!written) {
     return refuseFile({to, written.error()}, options.list.json, console) == kDone;
   }
-  composed->record.file = to;
-  composed->record.bytes = composed->content.size();
-  addWritten(console, std::move(composed->record));
+  logged.add();
   if (options.list.json) {
     writeJson(console, filesJson(from, console));
   }

@@ -128,9 +128,9 @@ class Dithering {
             y + down >= image_.height() || (y + down) / cellHeight_ != y / cellHeight_) {
           continue;
         }
-        const auto weight =
-            static_cast<float>(kernel.weights[static_cast<std::size_t>(down)][static_cast<std::size_t>(right + 2)] *
-                               options_.dither.strength);
+        const auto weight = static_cast<float>(
+            kernel.weights[static_cast<std::size_t>(down)][static_cast<std::size_t>(std::int64_t{right} + 2)] *
+            options_.dither.strength);
         for (std::size_t channel = 0; channel < target.size(); ++channel) {
           errors_[placeOf(column, y + down)][channel] +=
               (target[channel] - chosen[channel]) * (weight / static_cast<float>(kernel.divisor * 100));
