@@ -94,9 +94,10 @@ class Documents {
 
   void edit() {
     const std::int32_t index = bytes_.next() % document().getSize();
+    const std::int32_t before = document().modificationCount();
     document().recordColor(index);
     document().setColor(index, bytes_.colorUpTo(255));
-    require(document().isModified() || document().modificationCount() == 0, "an edit modifies");
+    require(document().modificationCount() == before + 1 && document().canUndo(), "an edit is a step of undo");
   }
 
   void undoOrRedo() { bytes_.upTo(1) == 0 ? document().undo() : document().redo(); }
@@ -120,11 +121,15 @@ class Documents {
     const bool wasModified = document().isModified();
     const std::uint8_t call = bytes_.upTo(8);
     FaultyFiles files(bytes_.anyOf(std::array{Fault::failed, Fault::notReplaceable}), call);
-    if (writePaletteFile(document(), name, anyFormat(), fakes_.services, files)) {
+    const PaletteFormat format = anyFormat();
+    if (writePaletteFile(document(), name, format, fakes_.services, files)) {
       expectSaved();
-    } else {
-      require(document().isModified() == wasModified, "a failure leaves the document as it was");
+      return;
     }
+    require(document().isModified() == wasModified, "a failure leaves the document as it was");
+    const std::string stored = folder_.contentOf("written");
+    // A format without a writer gives an empty file.
+    require(bytesOf(stored) == before || (stored.empty() && findPaletteWriter(format) == nullptr), "the old file");
   }
 
   void expectSaved() {
