@@ -29,7 +29,8 @@ void activate(const Program& program) {
     HWND dialog = program.topWindow(kDialogClass);
     HWND wanted = dialog != nullptr ? dialog : program.window();
     if (GetForegroundWindow() == wanted && IsWindowEnabled(wanted) != 0) {
-      return true;
+      // The window gives the focus to a control a little later. A key pressed before would start from another control.
+      return IsChild(wanted, focusOf(program)) != 0;
     }
     SetForegroundWindow(wanted);
     return false;
