@@ -64,3 +64,18 @@ function(quillhue_library folder)
   add_library(quillhue_${name} STATIC ${sources})
   target_link_libraries(quillhue_${name} PUBLIC quillhue_house ${library_LINK})
 endfunction()
+
+# Imports functions of a system library that is loaded when the first of them is called, so that the start does not wait
+# for it. None may take floating-point arguments, which are lost while the library is loaded.
+function(quillhue_import_late target library)
+  set(base ${CMAKE_CURRENT_BINARY_DIR}/late/${library})
+  list(JOIN ARGN "\n" functions)
+  file(CONFIGURE OUTPUT ${base}.def CONTENT "LIBRARY ${library}.dll\nEXPORTS\n${functions}\n")
+  add_custom_command(OUTPUT ${base}.a
+    COMMAND ${CMAKE_DLLTOOL} --deterministic-libraries --temp-prefix ${library}-late
+      --input-def ${base}.def --output-delaylib ${base}.a
+    DEPENDS ${base}.def WORKING_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/late VERBATIM)
+  add_custom_target(${library}_late DEPENDS ${base}.a)
+  add_dependencies(${target} ${library}_late)
+  target_link_libraries(${target} PUBLIC ${base}.a)
+endfunction()

@@ -72,7 +72,6 @@ std::string_view MainWindow::open(int showCommand) {
     return kNoWindowText;
   }
   accelerators_.reset(LoadAcceleratorsW(description.hInstance, L"MAINACCEL"));
-  DragAcceptFiles(handle(), TRUE);
   ShowWindow(handle(), showCommand);
   return {};
 }

@@ -51,17 +51,23 @@ NumberField::NumberField(HWND parent, HFONT font, DWORD style, DWORD arrowStyle)
                          .style = UDS_ARROWKEYS | UDS_ALIGNRIGHT | UDS_SETBUDDYINT | UDS_NOTHOUSANDS | arrowStyle})),
       font_(font) {
   SendMessageW(arrows_.get(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(field_.get()), 0);
-  setRange(range_);
+  useRange(range_);
   setValue(0);
 }
 
 NumberField::NumberField(HWND field, HWND arrows, const ValueRange& range, std::int32_t value)
     : field_(field), arrows_(arrows) {
-  setRange(range);
+  useRange(range);
   setValue(value);
 }
 
 void NumberField::setRange(const ValueRange& range) {
+  if (range != range_) {
+    useRange(range);
+  }
+}
+
+void NumberField::useRange(const ValueRange& range) {
   range_ = range;
   SendMessageW(arrows_.get(), UDM_SETRANGE32, static_cast<WPARAM>(range.minimum), range.maximum);
   fitText();

@@ -43,6 +43,7 @@ class NumberField {
   void enable(bool enabled);
 
  private:
+  void useRange(const ValueRange& range);
   /// Uses a smaller font if the numbers of the range do not fit into the field.
   void fitText();
 

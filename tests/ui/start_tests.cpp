@@ -1,6 +1,13 @@
+#include <algorithm>
+#include <array>
+#include <span>
+#include <string>
+
 #include "commands/command_ids.h"
 #include "ui/support/ui_test.h"
 #include "ui/win32/system.h"
+// This needs the system's header before it.
+#include <psapi.h>
 
 namespace quillhue {
 namespace {
@@ -21,6 +28,23 @@ TEST_F(Start, ShowsTheIntroScreen) {
   EXPECT_EQ(statusText(program, 2), L"Version 4.2");
   program.start(command_id::kExit);
   EXPECT_EQ(program.awaitEnd(), 0U);
+}
+
+// These libraries load many others and are needed only later.
+TEST_F(Start, LoadsNoLibraryOfDialogs) {
+  const Program program;
+  const auto isLoaded = [&](const std::wstring& wanted) {
+    std::array<HMODULE, 256> modules{};
+    DWORD size = 0;
+    EXPECT_TRUE(K32EnumProcessModules(program.process(), modules.data(), sizeof(modules), &size));
+    return std::ranges::any_of(std::span(modules).first(size / sizeof(HMODULE)), [&](HMODULE module) {
+      std::array<wchar_t, 64> name{};
+      K32GetModuleBaseNameW(program.process(), module, name.data(), static_cast<DWORD>(name.size()));
+      return lstrcmpiW(name.data(), wanted.c_str()) == 0;
+    });
+  };
+  EXPECT_TRUE(isLoaded(L"comctl32.dll"));
+  EXPECT_FALSE(isLoaded(L"comdlg32.dll"));
 }
 
 TEST_F(Start, OpensTheFileOfTheCommandLine) {

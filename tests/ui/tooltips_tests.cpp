@@ -55,6 +55,18 @@ TEST_F(Tooltips, FollowThePointerOverTheCells) {
   expectTooltip(L"7: #2F3C3B\nred 47, green 60, blue 59\nPreview: #D0C3C4\nred 208, green 195, blue 196");
 }
 
+TEST_F(Tooltips, NameTheChannels) {
+  const Editor& editor = UiTest::open(brightPalette(15), kValuesPage);
+  activate(editor);
+  const Point field = middleOf(boxOnScreen(editor.control(L"Edit")));
+  moveTo(editor, field);
+  expectTooltip(L"red");
+  editor.choose(editor.control(L"ComboBox"), 3);
+  moveTo(editor, editor.entryPoint(3));
+  moveTo(editor, field);
+  expectTooltip(L"hue");
+}
+
 TEST_F(Tooltips, TellPixelsOfTheImage) {
   open(imageColors_);
   load(indexed_);

@@ -1,6 +1,7 @@
 #include "ui/screens/intro_ui.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
 
 #include "commands/command_table.h"
@@ -19,9 +20,10 @@ constexpr std::int32_t kIconSide = 48;
 
 }  // namespace
 
-IntroUI::IntroUI(WindowContext& context) : context_(context), commands_(context) {
+IntroUI::IntroUI(WindowContext& context) : context_(context), commands_(context), tips_(context.window) {
   for (const IntroButton& description : introButtons()) {
     buttons_.push_back(makeButton(description));
+    tips_.set(buttons_.back().control->handle(), std::string(description.tooltip));
   }
   const Rect area = context_.frame.screenArea();
   resize({area.width(), area.height()});
@@ -44,6 +46,7 @@ void IntroUI::menuCommand(std::int32_t command) {
 }
 
 LRESULT IntroUI::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  tips_.note(message, wParam);
   if (message == WM_CONTEXTMENU && openSystemPalettes(pointOf(lParam))) {
     return 0;
   }

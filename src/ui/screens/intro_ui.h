@@ -6,6 +6,7 @@
 #include "ui/logic/intro_layout.h"
 #include "ui/main_ui.h"
 #include "ui/screens/shared_commands.h"
+#include "ui/win32/control_tips.h"
 #include "ui/win32/icon_button.h"
 #include "ui/win32/system.h"
 
@@ -41,6 +42,7 @@ class IntroUI final : public MainUI {
   SharedCommands commands_;
   Size area_;
   std::vector<Button> buttons_;
+  ControlTips tips_;
 };
 
 }  // namespace quillhue

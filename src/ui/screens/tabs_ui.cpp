@@ -35,10 +35,8 @@ TabsUI::TabsUI(WindowContext& context)
   tabs_[0] = std::make_unique<ValuesTab>(context);
   tabs_[1] = std::make_unique<EffectsTab>(context);
   tabs_[2] = std::make_unique<UseTab>(context);
-  for (const auto& tab : tabs_) {
-    tab->layout(pageArea());
-  }
   active_ = tabs_[0].get();
+  active_->layout(pageArea());
   // Places the tab control below the controls on it. This also makes it last in the tab order, which is cyclic.
   SetWindowPos(tabControl_.get(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   show(tabControl_.get(), true);
@@ -132,8 +130,8 @@ void TabsUI::rebuild(DocumentChange change) {
   active_->hide();
   for (const auto& tab : tabs_) {
     tab->documentReplaced(change);
-    tab->layout(pageArea());
   }
+  active_->layout(pageArea());
   active_->show();
   if (focused != nullptr) {
     context().focus.give(focused);

@@ -41,7 +41,7 @@ LRESULT BarsView::answer(UINT message, WPARAM wParam, LPARAM lParam) {
       turnWheel(pointOf(lParam), GET_WHEEL_DELTA_WPARAM(wParam));
       return 0;
     default:
-      return DefSubclassProc(handle(), message, wParam, lParam);
+      return systemAnswer(message, wParam, lParam);
   }
 }
 

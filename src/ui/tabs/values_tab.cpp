@@ -15,7 +15,10 @@
 namespace quillhue {
 
 ValuesTab::ValuesTab(WindowContext& context)
-    : PaletteTab(context, kValuesPopup), editor_(context.slot, context.settings(), *this), bars_(context, editor_) {
+    : PaletteTab(context, kValuesPopup),
+      tips_(context.window),
+      editor_(context.slot, context.settings(), *this),
+      bars_(context, editor_) {
   const HWND parent = context.window;
   constexpr EnumArray<Bar, Rect ValuesLayout::*, kBars.size()> kBoxes{
       {&ValuesLayout::leftField, &ValuesLayout::middleField, &ValuesLayout::rightField}};
@@ -43,14 +46,15 @@ ValuesTab::ValuesTab(WindowContext& context)
 void ValuesTab::nameChannels() {
   const ChannelDescriptions& names = colorModelOf(context().settings().colorMode).channels;
   for (const Bar bar : kBars) {
-    Channel& channel = channels_[bar];
+    const Channel& channel = channels_[bar];
     const std::string_view name = names[static_cast<std::size_t>(bar)].name;
     setWindowText(channel.label, name);
-    channel.tooltip = createTooltip(context().window, channel.field.field(), name);
+    tips_.set(channel.field.field(), std::string(name));
   }
 }
 
 LRESULT ValuesTab::otherMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  tips_.note(message, wParam);
   switch (message) {
     case WM_DRAWITEM:
       bars_.paint(reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->hDC);

@@ -11,7 +11,7 @@
 #include "ui/tabs/bars_view.h"
 #include "ui/tabs/page_controls.h"
 #include "ui/tabs/palette_tab.h"
-#include "ui/win32/handle.h"
+#include "ui/win32/control_tips.h"
 #include "ui/win32/system.h"
 
 namespace quillhue {
@@ -43,7 +43,6 @@ class ValuesTab final : public PaletteTab, private ChannelView {
   struct Channel {
     HWND label = nullptr;
     NumberField field{};
-    Window tooltip{};
   };
 
   [[nodiscard]] std::int32_t currentEntry() const override { return editor_.currentEntry(); }
@@ -63,6 +62,7 @@ class ValuesTab final : public PaletteTab, private ChannelView {
   void modelChosen();
   void nameChannels();
 
+  ControlTips tips_;
   PageControls<ValuesLayout> controls_;
   EnumArray<Bar, Channel, kBars.size()> channels_;
   HWND models_ = nullptr;

@@ -1,6 +1,7 @@
 #include "ui/win32/command_line.h"
 
 #include <cstddef>
+#include <string_view>
 
 #include "ui/win32/handle.h"
 #include "ui/win32/system.h"
@@ -18,9 +19,19 @@ std::wstring fullName(const wchar_t* name) {
   return full.empty() ? name : full;
 }
 
+// Asking the system for the arguments loads the shell's library, which slows down the start. The first word is the
+// program, which may be in quotes.
+bool hasArguments(std::wstring_view line) {
+  const std::size_t end = line.starts_with(L'"') ? line.find(L'"', 1) : line.find_first_of(L" \t");
+  return end != line.npos && line.find_first_not_of(L" \t", end + 1) != line.npos;
+}
+
 }  // namespace
 
 std::optional<std::wstring> fileArgument() {
+  if (!hasArguments(GetCommandLineW())) {
+    return std::nullopt;
+  }
   int count = 0;
   const Handle<ClosedBy<wchar_t**, freeArguments>> arguments(CommandLineToArgvW(GetCommandLineW(), &count));
   if (!arguments || count < 2) {

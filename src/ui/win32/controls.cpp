@@ -87,18 +87,4 @@ std::wstring firstFile(const Drop& drop) {
   return name.data();
 }
 
-Window createTooltip(HWND owner, HWND control, std::string_view text) {
-  Window tooltip(CreateWindowExW(0, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
-                                 CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr, GetModuleHandleW(nullptr), nullptr));
-  std::wstring wide = fromUtf8(text);
-  TTTOOLINFOW tool{};
-  tool.cbSize = sizeof tool;
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-  tool.hwnd = owner;
-  tool.uId = reinterpret_cast<UINT_PTR>(control);
-  tool.lpszText = wide.data();
-  SendMessageW(tooltip.get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-  return tooltip;
-}
-
 }  // namespace quillhue

@@ -56,7 +56,4 @@ void chooseItem(HWND combo, std::int32_t index);
 /// Returns the name of the first dropped file, truncated to MAX_PATH - 1 characters.
 [[nodiscard]] std::wstring firstFile(const Drop& drop);
 
-/// Creates a tooltip for a control. It appears even while the control's window is inactive.
-[[nodiscard]] Window createTooltip(HWND owner, HWND control, std::string_view text);
-
 }  // namespace quillhue

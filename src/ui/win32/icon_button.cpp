@@ -6,18 +6,17 @@
 
 namespace quillhue {
 
-IconButton::IconButton(HWND parent, std::string_view text, std::string_view tooltip, Icon icon)
+IconButton::IconButton(HWND parent, std::string_view text, std::string_view name, Icon icon)
     : SubclassedControl(createControl(
           parent, nullptr, {.windowClass = L"Button", .text = text, .style = WS_VISIBLE | WS_TABSTOP | BS_ICON})),
-      name_(tooltip),
-      icon_(std::move(icon)),
-      tooltip_(createTooltip(parent, handle(), tooltip)) {
+      name_(name),
+      icon_(std::move(icon)) {
   SendMessageW(handle(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon_.get()));
 }
 
 LRESULT IconButton::answer(UINT message, WPARAM wParam, LPARAM lParam) {
   return Accessibility::isAsked(message, lParam) ? accessibility_.answer(handle(), wParam)
-                                                 : DefSubclassProc(handle(), message, wParam, lParam);
+                                                 : systemAnswer(message, wParam, lParam);
 }
 
 AccessibleElement IconButton::accessibleElement(std::int32_t /*index*/) {

@@ -10,10 +10,10 @@
 
 namespace quillhue {
 
-/// A push button that shows an icon instead of its text. Its tooltip is its name for screen readers.
+/// A push button that shows an icon instead of its text. Screen readers call it by another name.
 class IconButton final : public SubclassedControl, private AccessibleContent {
  public:
-  IconButton(HWND parent, std::string_view text, std::string_view tooltip, Icon icon);
+  IconButton(HWND parent, std::string_view text, std::string_view name, Icon icon);
 
  private:
   LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -22,7 +22,6 @@ class IconButton final : public SubclassedControl, private AccessibleContent {
 
   std::string name_;
   Icon icon_;
-  Window tooltip_;
   Accessibility accessibility_{*this};
 };
 

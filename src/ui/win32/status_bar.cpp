@@ -102,7 +102,7 @@ LRESULT StatusBar::answer(UINT message, WPARAM wParam, LPARAM lParam) {
     endPause();
     return 0;
   }
-  return DefSubclassProc(handle(), message, wParam, lParam);
+  return systemAnswer(message, wParam, lParam);
 }
 
 }  // namespace quillhue

@@ -42,7 +42,7 @@ class FailingControl final : public SubclassedControl {
 
  private:
   LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) override {
-    return message == WM_APP ? throw std::bad_alloc() : DefSubclassProc(handle(), message, wParam, lParam);
+    return message == WM_APP ? throw std::bad_alloc() : systemAnswer(message, wParam, lParam);
   }
 };
 
