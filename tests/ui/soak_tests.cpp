@@ -57,14 +57,16 @@ class Soak : public UiTest {
   void answerAll() {
     constexpr int kMost = 20;
     for (int i = 0; i < kMost; ++i) {
-      // A dialog disables the window before it is visible.
+      // A dialog disables the window before it is visible. One of its controls may already show a menu.
       HWND dialog = nullptr;
-      editor().await("a dialog or the window", [&] {
+      editor().await("a dialog, a menu or the window", [&] {
         dialog = editor().topWindow(kDialogClass);
-        return dialog != nullptr || IsWindowEnabled(editor().window()) != 0;
+        return dialog != nullptr || showsMenu(editor()) || IsWindowEnabled(editor().window()) != 0;
       });
       if (showsMenu(editor())) {
-        editor().post(editor().window(), WM_CANCELMODE);
+        if (HWND owner = menuOwnerOf(editor()); owner != nullptr) {
+          PostMessageW(owner, WM_CANCELMODE, 0, 0);
+        }
       } else if (dialog == nullptr) {
         return;
       }

@@ -49,6 +49,13 @@ std::vector<MenuReport::Item> openMenu(const Program& program) {
 
 bool showsMenu(const Program& program) { return program.topWindow(kMenuClass) != nullptr; }
 
+HWND menuOwnerOf(const Program& program) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  GetGUIThreadInfo(program.threadId(), &info);
+  return info.hwndMenuOwner;
+}
+
 void closeMenu(const Program& program, int key) {
   pressKey(key);
   program.await("the context menu to close", [&] { return !showsMenu(program); });

@@ -19,6 +19,8 @@ namespace quillhue {
 [[nodiscard]] std::vector<MenuReport::Item> openMenu(const Program& program);
 /// Whether a context menu is open.
 [[nodiscard]] bool showsMenu(const Program& program);
+/// Returns the window that the open menu belongs to, or null.
+[[nodiscard]] HWND menuOwnerOf(const Program& program);
 /// Presses a key that closes the context menu, and waits until it is closed.
 void closeMenu(const Program& program, int key = VK_ESCAPE);
 
