@@ -16,7 +16,8 @@ if(QUILLHUE_SANITIZE)
   add_link_options(${sanitizers})
 endif()
 if(QUILLHUE_FUZZ)
-  add_compile_options(-fsanitize=fuzzer-no-link)
+  add_compile_options(-fsanitize=fuzzer-no-link
+    -fsanitize-coverage-ignorelist=${CMAKE_CURRENT_SOURCE_DIR}/fuzz/untraced_functions.txt)
 endif()
 
 # The tool's header-only libraries. Debian installs them for all systems in one folder. The cross compiler may read

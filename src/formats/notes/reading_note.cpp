@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <utility>
 
 #include "formats/notes/format_notes.h"
@@ -46,7 +47,7 @@ std::optional<ReadingNote> noteDefaultAlone(const ReaderInput& input, const Read
 
 }  // namespace
 
-std::optional<ReadingNote> notePaletteReading(const ReaderInput& input, const ReadResult& reading) {
+std::optional<ReadingNote> notePaletteReading(const ReaderInput& input, const ReadResult& reading) try {
   const PaletteReader* const standard = findStandardReader(input);
   if (standard == &kStandardBitmapReader) {
     return noteBitmapPalette(input.source, reading);
@@ -68,6 +69,8 @@ std::optional<ReadingNote> notePaletteReading(const ReaderInput& input, const Re
     text = compareEntries(*standardPalette, *palette);
   }
   return ReadingNote{std::move(text), true};
+} catch (const std::bad_alloc&) {
+  return std::nullopt;
 }
 
 std::optional<ReadingNote> noteImageReading(ByteSource& source, bool isLoaded) {

@@ -18,7 +18,8 @@ struct ReadingNote {
 };
 
 /// Compares `reading`, the result of readPalette for `input`, with the standard reading. Returns nothing if the two
-/// agree, or if neither reads the file. For an image of true colors, compares only the header.
+/// agree, if neither reads the file, or if the memory does not suffice for both. For an image of true colors, compares
+/// only the header.
 [[nodiscard]] std::optional<ReadingNote> notePaletteReading(const ReaderInput& input, const ReadResult& reading);
 
 /// Does the same for the pixels of an image. `isLoaded` is true if loadImage loads it; then only the header is
