@@ -21,4 +21,4 @@ rm -f "$folder"/data/*.py
 # Windows runs batch files correctly only if their lines end with CR LF.
 sed 's/$/\r/' "$packaging/run-tests.cmd" >"$folder/run-tests.cmd"
 rm -f "$out/quillhue-$version-tests.zip"
-(cd "$stage" && zip -9 -X -q -r "$out/quillhue-$version-tests.zip" "quillhue-$version-tests")
+(cd "$stage" && zip -X -q -r "$out/quillhue-$version-tests.zip" "quillhue-$version-tests")

@@ -32,9 +32,9 @@ TEST_F(Handles, DoNotLeak) {
       }
     }
   };
-  work(12);
+  work(8);
   const ResourceCount before = countResources(editor);
-  work(40);
+  work(24);
   // The system keeps some fonts, brushes and threads for itself; a leak grows with every round.
   expectNoLeak(editor, before, 12);
 }
