@@ -21,7 +21,7 @@ class ProgramError : public std::runtime_error {
 };
 
 /// Maximum time of any wait.
-inline constexpr std::chrono::seconds kPatience{10};
+inline constexpr std::chrono::seconds kPatience{30};
 
 /// The editor itself, started like a user starts it. It is ended with the test in any case.
 class Program {
