@@ -4,35 +4,25 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <limits>
 #include <new>
 
 // The program's own operators new and delete, and calloc and free, which the linker's option --wrap replaces.
 
 namespace {
 
-constexpr int kNever = std::numeric_limits<int>::max();
-
 // The operators are global, so this is too.
 struct {
-  int left = kNever;
+  bool isActive = false;
+  int at = 0;
   bool isLasting = false;
-  bool hasFailed = false;
+  int made = 0;
   std::size_t live = 0;
   std::size_t peak = 0;
 } state;
 
 bool fails() {
-  if (state.left == kNever) {
-    return false;
-  }
-  if (state.left > 0) {
-    --state.left;
-    return false;
-  }
-  state.hasFailed = true;
-  state.left = state.isLasting ? 0 : kNever;
-  return true;
+  const int number = state.isActive ? state.made++ : -1;
+  return number >= 0 && (number == state.at || (state.isLasting && number > state.at));
 }
 
 void* counted(void* memory) {
@@ -74,14 +64,17 @@ void __wrap_free(void* memory) {
 namespace quillhue {
 
 FailingAllocations::FailingAllocations(int at, bool lasting) {
-  state.left = at;
+  state.at = at;
   state.isLasting = lasting;
-  state.hasFailed = false;
+  state.made = 0;
+  state.isActive = true;
 }
 
-FailingAllocations::~FailingAllocations() { state.left = kNever; }
+FailingAllocations::~FailingAllocations() { state.isActive = false; }
 
-bool FailingAllocations::hasFailed() { return state.hasFailed; }
+bool FailingAllocations::hasFailed() { return state.made > state.at; }
+
+int FailingAllocations::made() { return state.made; }
 
 PeakMemory::PeakMemory() : before_(state.live) { state.peak = state.live; }
 

@@ -13,7 +13,9 @@ class FailingAllocations {
   FailingAllocations& operator=(const FailingAllocations&) = delete;
   ~FailingAllocations();
 
+  /// Whether the latest object let an allocation fail, and how many allocations there were.
   [[nodiscard]] static bool hasFailed();
+  [[nodiscard]] static int made();
 };
 
 /// Measures how much memory the program allocates after the construction.

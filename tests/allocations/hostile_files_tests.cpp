@@ -32,7 +32,7 @@ class CountingSource final : public ByteSource {
  private:
   std::size_t readStored(std::uint64_t offset, std::span<std::uint8_t> out) override {
     read_ += out.size();
-    std::ranges::copy(std::span(content_).subspan(static_cast<std::size_t>(offset), out.size()), out.begin());
+    std::copy_n(content_.begin() + static_cast<std::ptrdiff_t>(offset), out.size(), out.begin());
     return out.size();
   }
 
