@@ -65,23 +65,28 @@ def measure_others(folder, product, peers, runs):
 
 
 def measure_batch(build, folder):
-    """Returns the seconds that quillhue-cli takes to remap many images, by the number of jobs."""
+    """Returns the seconds that quillhue-cli takes for many images, by verb and number of jobs."""
     images = folder / "batch"
     images.mkdir(exist_ok=True)
     for number in range(BATCH_IMAGES):
         link = images / f"{number}.bmp"
         if not link.exists():
             os.link(folder / f"{sides.MEDIUM}.bmp", link)
+    to_folder = ["--out-dir", folder / "results", "--force"]
+    verbs = {
+        "remap": ["--palette", folder / "regular-216.gpl", "--mode", "dither", *to_folder],
+        "convert": ["--colors", "reduce", "--format", "gimp", *to_folder],
+        "info": [],
+    }
     taken = defaultdict(list)
     for number in range(BATCH_ROUNDS):
         print(f"Many images, round {number + 1} of {BATCH_ROUNDS}", file=sys.stderr)
-        for jobs in (1, 2):
-            command = [build / "src/quillhue-cli", "remap", images, "--palette", folder / "regular-216.gpl"]
-            options = ["--out-dir", folder / "remapped", "--force", "--mode", "dither", "--jobs", str(jobs)]
-            start = time.monotonic()
-            sides.Run([*command, *options])
-            taken[jobs].append(time.monotonic() - start)
-    return {jobs: median(seconds) for jobs, seconds in taken.items()}
+        for verb, options in verbs.items():
+            for jobs in (1, 2):
+                start = time.monotonic()
+                sides.Run([build / "src/quillhue-cli", verb, images, *options, "--jobs", str(jobs)])
+                taken[verb, jobs].append(time.monotonic() - start)
+    return {work: median(seconds) for work, seconds in taken.items()}
 
 
 def run_tool(build, folder, mode):

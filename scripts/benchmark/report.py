@@ -112,12 +112,13 @@ def behind_line(works, medians):
     return "Quillhue is slower here:\n" + ";\n".join(slower) + "." if slower else "Quillhue is the fastest in each row."
 
 
-def batch_line(batch):
-    return (
-        f"`quillhue-cli remap` dithers 200 images of {sides.MEDIUM} in {shown(batch[1])} s with `--jobs 1` and in\n"
-        f"{shown(batch[2])} s with `--jobs 2`: {shown(batch[1] / batch[2])} times the throughput. These are seconds of\n"
-        "the clock, so they depend on what else runs."
-    )
+def batch_table(batch):
+    verbs = {"remap": "remap, error diffusion", "convert": "convert, 256 colors by median cut", "info": "info"}
+    rows = [
+        [words, shown(batch[verb, 1]), shown(batch[verb, 2]), shown(batch[verb, 1] / batch[verb, 2])]
+        for verb, words in verbs.items()
+    ]
+    return table(["", "--jobs 1, s", "--jobs 2, s", "throughput"], rows)
 
 
 def order(row):
@@ -195,8 +196,10 @@ image, so it does not span the colors of these. The first number of each mode is
 
 ## Many images
 
-{batch_line(batch)}
+Seconds that `quillhue-cli` takes for 200 images of {sides.MEDIUM}, and the throughput of two jobs as a multiple of that
+of one. These are seconds of the clock, so they depend on what else runs.
 
+{batch_table(batch)}
 """
 
 
