@@ -18,19 +18,25 @@ ColorGroup::ColorGroup(std::span<const PaletteEntry> colors, std::span<const std
 }
 
 CandidateLists::CandidateLists(const ColorScan& scan, std::size_t bytes)
-    : scan_(scan), candidates_(scan.colors()), groupLimit_(bytes / sizeof(ColorGroup)), keptLimit_(1 + bytes / 10) {
-  // The last list may exceed the limit. Memory that is never used costs nothing.
-  groups_.reserve(groupLimit_ + kMostColors / ColorGroup::kCount + 1);
+    : scan_(scan),
+      candidates_(scan.colors()),
+      groupLimit_(1 + std::min(bytes / sizeof(ColorGroup), std::size_t{kFirstGroup})),
+      keptLimit_(1 + bytes / 10) {
+  // Memory that is never used costs nothing.
+  groups_.reserve(groupLimit_);
+  more_.reserve(groupLimit_);
   constexpr std::array<std::uint8_t, 1> kAnyColor{0};
   constexpr std::array<std::int32_t, 1> kNoLead{0};
-  groups_.emplace_back(scan.colors(), kAnyColor, kNoLead, 0);
+  groups_.assign(1, ColorGroup(scan.colors(), kAnyColor, kNoLead, 0));
+  more_.resize(1);
   kept_.reserve(keptLimit_);
   kept_.push_back(0);
 }
 
 CandidateLists::Word CandidateLists::add(std::span<const std::uint8_t> indexes, const ColorVector& origin) {
   const std::size_t first = groups_.size();
-  if (first >= groupLimit_) {
+  const std::size_t count = (indexes.size() + ColorGroup::kCount - 1) / ColorGroup::kCount;
+  if (first + count > groupLimit_) {
     return kNone;
   }
   std::array<std::int32_t, kMostColors> all;
@@ -45,8 +51,9 @@ CandidateLists::Word CandidateLists::add(std::span<const std::uint8_t> indexes, 
   for (std::size_t start = 0; start < indexes.size(); start += ColorGroup::kCount) {
     groups_.emplace_back(colors, indexes, leads, start);
   }
-  const std::size_t more = groups_.size() - first - 1;
-  return static_cast<Word>(kIsList | (more == 0 ? kIsShort : 0) | more << kLengthShift | first);
+  more_.resize(groups_.size());
+  more_[first] = static_cast<std::uint8_t>(count - 1);
+  return static_cast<Word>(first | kIsList | (count == 1 ? kIsShort : 0));
 }
 
 std::uint32_t CandidateLists::keep(std::span<const std::uint8_t> indexes) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -13,8 +14,9 @@
 
 namespace quillhue {
 
-/// Eight colors of a list, with the parts of their keys that do not depend on the target.
-class ColorGroup {
+/// Eight colors of a list, with the parts of their keys that do not depend on the target. It fills one line of the
+/// processor's cache.
+class alignas(64) ColorGroup {
  public:
   static constexpr std::size_t kCount = 2 * ListedColors::kCount;
 
@@ -41,7 +43,7 @@ class ColorGroup {
 class CandidateLists {
  public:
   /// A list, kNone if all colors have to be compared, or 0.
-  using Word = std::uint32_t;
+  using Word = std::uint16_t;
   using Words = std::array<Word, Lanes::kCount>;
   static constexpr Word kNone = 1;
 
@@ -61,20 +63,16 @@ class CandidateLists {
     [[nodiscard]] bool areShort() const { return (all_ & kIsShort) != 0; }
 
    private:
-    Word all_ = ~Word{0};
+    unsigned all_ = kIsList | kIsShort;
   };
 
   /// Returns, for each target, the index of the nearest color of its list, the first of equally near ones.
   /// `twiceTargets` are relative to the origins of the lists.
   [[nodiscard, gnu::always_inline]] Lanes search(const Words& lists, Common common,
                                                  const PairedColors& twiceTargets) const {
-    std::array<const ColorGroup*, Lanes::kCount> groups;
-    forEachLane([&](auto lane) { groups[lane] = &groups_[lists[lane] & kFirstGroup]; });
-    const Lanes keys =
-        common.areShort()
-            ? leastKeys([&](auto lane) { return groups[lane]->keys(twiceTargets.fourTimes<lane>()); })
-            : leastKeys([&](auto lane) { return keysIn(lists[lane], groups[lane], twiceTargets.fourTimes<lane>()); });
-    return keys & Lanes::all(255);
+    const auto keys = [&](auto lane) { return firstGroup(lists[lane])->keys(twiceTargets.fourTimes<lane>()); };
+    const auto longKeys = [&](auto lane) { return keysIn(lists[lane], twiceTargets.fourTimes<lane>()); };
+    return (common.areShort() ? leastKeys(keys) : leastKeys(longKeys)) & Lanes::all(255);
   }
   /// The same for words that may be kNone. `targets` are the targets themselves.
   [[nodiscard]] Lanes searchOrScan(const Words& words, const PairedColors& twiceTargets,
@@ -88,29 +86,30 @@ class CandidateLists {
   [[nodiscard]] std::span<const std::uint8_t> kept(std::uint32_t place) const;
 
  private:
-  // A list's word has kIsList, kIsShort if it has one group, the number of its groups - 1, and the index of its first
-  // group in groups_.
-  static constexpr Word kIsList = 1U << 31;
-  static constexpr Word kIsShort = 1U << 30;
-  static constexpr Word kLengthShift = 25;
-  static constexpr Word kFirstGroup = (1U << kLengthShift) - 1;
+  // A list's word has kIsList, kIsShort if it has one group, and the index of its first group in groups_.
+  static constexpr unsigned kIsList = 1U << 15;
+  static constexpr unsigned kIsShort = 1U << 14;
+  static constexpr unsigned kFirstGroup = kIsShort - 1;
   static constexpr Word kAnyList = kIsList | kIsShort;
   static constexpr std::size_t kMostColors = 256;
-  static_assert(kMostColors / ColorGroup::kCount <= kIsShort >> kLengthShift);
 
+  [[nodiscard]] const ColorGroup* firstGroup(Word list) const { return &groups_[list & kFirstGroup]; }
   // Returns four keys. The least belongs to the nearest color.
-  [[nodiscard]] static __m128 keysIn(Word list, const ColorGroup* groups, const ColorQuad& twiceTarget) {
-    __m128 least = groups->keys(twiceTarget);
-    for (Word more = list << 2 >> (kLengthShift + 2); more > 0; --more) {
-      least = _mm_min_ps(least, (++groups)->keys(twiceTarget));
+  [[nodiscard]] __m128 keysIn(Word list, const ColorQuad& twiceTarget) const {
+    const ColorGroup* group = firstGroup(list);
+    __m128 least = group->keys(twiceTarget);
+    for (unsigned more = more_[list & kFirstGroup]; more > 0; --more) {
+      least = _mm_min_ps(least, (++group)->keys(twiceTarget));
     }
     return least;
   }
 
   const ColorScan& scan_;
   ColorCandidates candidates_;
-  // The first group is the list kAnyList.
+  // The first one has any color.
   std::vector<ColorGroup> groups_;
+  // How many groups follow the first one of a list.
+  std::vector<std::uint8_t> more_;
   std::size_t groupLimit_;
   std::size_t keptLimit_;
   // For each kept list the number of indexes - 1, and the indexes.

@@ -1,172 +1,129 @@
 #include "remap/far_grid.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace quillhue {
 
 namespace {
 
-// A cube of cells. It reaches from -side * cellsInRow / 2 to the same above the middle.
-struct Cube {
-  std::int32_t side;
-  std::int32_t cellsInRow;
-  std::int32_t firstCell;
-};
+// A cell's number has five bits for its place in each channel, and then the number of its cube.
+constexpr unsigned kPlaceBits = 5;
+constexpr std::int32_t kCellsInRow = 1 << kPlaceBits;
 
-constexpr Cube cubeOf(std::int32_t level) {
-  constexpr std::int32_t kSmallCubes = 7;
-  const std::int32_t above = std::max(level - (kSmallCubes - 1), 0);
-  const std::int32_t firstCell = std::min(level, kSmallCubes) * 512 + (above == 2 ? 4096 : 0);
-  return {64 << std::min(level, kSmallCubes - 1), 8 << above, firstCell};
+constexpr std::int32_t kBlockSide = 4;
+constexpr std::size_t kCellsOfBlock = 64;
+
+constexpr std::int32_t kLeastSide = 16;
+constexpr std::int32_t sideOfCell(std::size_t cell) { return kLeastSide << (cell >> (3 * kPlaceBits)); }
+
+// Returns the first cell of a block of `side` cells in each direction, a power of two.
+constexpr std::size_t firstOfBlock(std::size_t cell, std::int32_t side) {
+  const auto inBlock = static_cast<std::size_t>(side - 1);
+  return cell & ~(inBlock << (2 * kPlaceBits) | inBlock << kPlaceBits | inBlock);
 }
 
-constexpr std::int32_t kLevels = 9;
-
-// The reach of the first cube, in halves.
-constexpr std::int32_t kLeastReach = 128;
-
-// The numbers of FarGrid::Cubes for one cube.
-struct CubeNumbers {
-  std::int16_t outside;
-  std::int16_t outer;
-  std::int16_t partsPerHalf;
-  std::int16_t cellsInRow;
-  std::int16_t middleCell;
-  std::int16_t inCell;
-  std::int16_t halfCell;
-};
-
-constexpr std::array<CubeNumbers, kLevels> kCubes = [] {
-  const auto number = [](std::int32_t value) { return static_cast<std::int16_t>(value); };
-  std::array<CubeNumbers, kLevels> cubes{};
-  for (std::int32_t level = 0; level < kLevels; ++level) {
-    const Cube cube = cubeOf(level);
-    const std::int32_t row = cube.cellsInRow;
-    cubes[static_cast<std::size_t>(level)] = {number(~((kLeastReach << level) - 1)),
-                                              number((kLeastReach / 2) << level),
-                                              number((1 << 16) / (cube.side / 8)),
-                                              number(row),
-                                              number(cube.firstCell + row / 2 * (row * row + row + 1)),
-                                              number(cube.side - 1),
-                                              number(cube.side / 2)};
-  }
-  return cubes;
-}();
-
-std::int32_t levelOf(std::size_t cell) {
-  std::int32_t level = 0;
-  while (level + 1 < kLevels && cubeOf(level + 1).firstCell <= static_cast<std::int32_t>(cell)) {
-    ++level;
-  }
-  return level;
+// Returns the number of the block of kBlockSide.
+constexpr std::size_t blockOf(std::size_t cell) {
+  const auto place = [cell](unsigned channel) { return cell >> (kPlaceBits * channel + 2) & 7; };
+  return cell >> (3 * kPlaceBits) << 9 | place(2) << 6 | place(1) << 3 | place(0);
 }
+
+bool isShort(std::span<const std::uint8_t> found) { return found.size() <= ColorGroup::kCount; }
 
 }  // namespace
 
-FarGrid::FarGrid(CandidateLists& lists) : lists_(lists), cubes_{}, cells_(kCells) {
-  parts_.reserve(kMostParts);
-  parts_ = {0, CandidateLists::kNone};
-  chooseCubes({});
-}
+FarGrid::FarGrid(CandidateLists& lists) : lists_(lists), words_(kCells), blocks_(kCells / kCellsOfBlock) {}
 
-void FarGrid::chooseCubes(Distances distances) {
-  const auto distance = std::bit_cast<std::array<std::uint16_t, Lanes::kCount>>(distances);
-  const auto cubeAt = [&](std::size_t lane) -> const CubeNumbers& {
-    return kCubes[static_cast<std::size_t>(std::bit_width(static_cast<unsigned>(distance[lane] / kLeastReach)))];
-  };
-  const std::array<const CubeNumbers*, Lanes::kCount> cubes{&cubeAt(0), &cubeAt(1), &cubeAt(2), &cubeAt(3),
-                                                            &cubeAt(4), &cubeAt(5), &cubeAt(6), &cubeAt(7)};
-  const auto shorts = [&](std::int16_t CubeNumbers::* number) {
-    std::array<std::int16_t, Lanes::kCount> all;
-    std::ranges::transform(cubes, all.begin(), [number](const CubeNumbers* cube) { return cube->*number; });
-    return std::bit_cast<Shorts>(all);
-  };
-  cubes_ = {shorts(&CubeNumbers::outside),          shorts(&CubeNumbers::outer),
-            shorts(&CubeNumbers::partsPerHalf),     shorts(&CubeNumbers::cellsInRow),
-            shorts(&CubeNumbers::middleCell),       widened(shorts(&CubeNumbers::inCell)),
-            widened(shorts(&CubeNumbers::halfCell))};
-}
-
-ColorBox FarGrid::boxOf(std::size_t cell) {
-  const Cube cube = cubeOf(levelOf(cell));
+ColorBox FarGrid::boxOf(std::size_t cell, std::int32_t cellsInRow) {
   ColorBox box{};
-  std::int32_t rest = static_cast<std::int32_t>(cell) - cube.firstCell;
+  const std::int32_t side = sideOfCell(cell);
   for (std::size_t channel = 0; channel < box.low.size(); ++channel) {
-    box.low[channel] = (rest % cube.cellsInRow - cube.cellsInRow / 2) * cube.side + kMiddle;
-    box.high[channel] = box.low[channel] + cube.side - 1;
-    rest /= cube.cellsInRow;
+    const auto place = static_cast<std::int32_t>(cell >> (kPlaceBits * channel) & (kCellsInRow - 1));
+    box.low[channel] = (place - kCellsInRow / 2) * side + kMiddle;
+    box.high[channel] = box.low[channel] + cellsInRow * side - 1;
   }
   return box;
 }
 
-ColorBox FarGrid::boxOf(std::size_t cell, std::size_t part) {
-  ColorBox box = boxOf(cell);
-  for (std::size_t channel = 0; channel < box.low.size(); ++channel) {
-    const std::int32_t side = (box.high[channel] - box.low[channel] + 1) / 4;
-    box.low[channel] += static_cast<std::int32_t>(part >> (2 * channel) & 3) * side;
-    box.high[channel] = box.low[channel] + side - 1;
-  }
-  return box;
-}
-
-Lanes FarGrid::findSlowly(const EightColors& targets, Places places) {
-  using Numbers = std::array<std::uint16_t, Lanes::kCount>;
-  const auto cells = std::bit_cast<Numbers>(places.cells);
-  const auto parts = std::bit_cast<Numbers>(places.parts);
+Lanes FarGrid::findSlowly(const EightColors& targets, Distances distances) {
+  const Cubes cubes(distances);
   Words words{};
-  std::ranges::transform(cells, parts, words.begin(),
-                         [this](std::size_t cell, std::size_t part) { return listOf(cell, part); });
-  return lists_.searchOrScan(words, twiceOffsetsOf(targets), targets);
+  std::ranges::transform(numbersOf(cellsOf(halvesOf(targets), cubes)), words.begin(),
+                         [this](std::int32_t cell) { return listOf(static_cast<std::size_t>(cell)); });
+  return lists_.searchOrScan(words, twiceOffsetsOf(targets, cubes), targets);
 }
 
-CandidateLists::Word FarGrid::listOf(std::size_t cell, std::size_t part) {
-  Cell& parts = cells_[cell];
-  if (parts.first == 0) {
-    parts = makeCell(cell);
+CandidateLists::Word FarGrid::listOf(std::size_t cell) {
+  Word& word = words_.all()[cell];
+  if (word == 0 || word == kDivided) {
+    word = findList(cell);
   }
-  Word& list = parts_[parts.first + (part & parts.last)];
-  if (list == 0) {
-    const std::span<const std::uint8_t> candidates = lists_.kept(parts_[parts.first - std::size_t{1}]);
-    const auto found = lists_.candidates().within(boxOf(cell, part), candidates);
-    list = found.size() <= kMostColors ? makeList(found, cell) : sharedList(parts, candidates, cell);
-  }
-  return list;
+  return word;
 }
 
-CandidateLists::Word FarGrid::sharedList(Cell parts, std::span<const std::uint8_t> candidates, std::size_t cell) {
-  Word& shared = parts_[parts.first - std::size_t{2}];
-  if (shared == 0) {
-    shared = makeList(candidates, cell);
+CandidateLists::Word FarGrid::findList(std::size_t cell) {
+  Block& block = blocks_[blockOf(cell)];
+  if (block.kept == 0) {
+    // Few targets are in the first cube: those beside distant ones.
+    constexpr std::size_t kMostRare = 64;
+    ColorCandidates& candidates = lists_.candidates();
+    const auto found = candidates.within(boxOf(firstOfBlock(cell, kBlockSide), kBlockSide), candidates.all());
+    const bool isRare = sideOfCell(cell) == kLeastSide && found.size() <= kMostRare;
+    if (isRare || (isShort(found) && haveOneOrigin(cell, kBlockSide))) {
+      return share(cell, kBlockSide, makeList(found, cell));
+    }
+    block.kept = lists_.keep(found);
   }
-  return shared;
+  return findList(cell, block);
 }
 
-FarGrid::Cell FarGrid::makeCell(std::size_t cell) {
-  if (parts_.size() + 2 + kPartsOfCell > kMostParts) {
-    return {kNoList, 0};
+// Finds a list for a cell whose block does not share a short one.
+CandidateLists::Word FarGrid::findList(std::size_t cell, Block& block) {
+  constexpr std::int32_t kSide = kBlockSide / 2;
+  const auto among = lists_.kept(block.kept);
+  // Longer lists use too much memory for each cell.
+  const auto isLong = [](std::span<const std::uint8_t> found) { return found.size() > 3 * ColorGroup::kCount; };
+  if (words_.all()[cell] != kDivided) {
+    const auto found = lists_.candidates().within(boxOf(firstOfBlock(cell, kSide), kSide), among);
+    const bool canShareLong = isLong(found) && !haveOneOrigin(cell, kBlockSide);
+    if (haveOneOrigin(cell, kSide) && (isShort(found) || canShareLong)) {
+      return share(cell, kSide, makeList(found, cell));
+    }
+    share(cell, kSide, kDivided);
   }
-  ColorCandidates& candidates = lists_.candidates();
-  const auto found = candidates.within(boxOf(cell), candidates.all());
-  // Few targets are so near: those beside distant ones.
-  const std::size_t most = levelOf(cell) == 0 ? kMostColors : ColorGroup::kCount;
-  if (found.size() <= most) {
-    parts_.push_back(makeList(found, cell));
-    return {static_cast<std::uint16_t>(parts_.size() - 1), 0};
+  const auto found = lists_.candidates().within(boxOf(cell), among);
+  if (!isLong(found) || !haveOneOrigin(cell, kBlockSide)) {
+    return makeList(found, cell);
   }
-  parts_.push_back(0);
-  parts_.push_back(lists_.keep(found));
-  const auto first = static_cast<std::uint16_t>(parts_.size());
-  parts_.resize(parts_.size() + kPartsOfCell);
-  return {first, kPartsOfCell - 1};
+  if (block.list == 0) {
+    block.list = makeList(among, cell);
+  }
+  return block.list;
+}
+
+// Gives all cells of a block a word, and returns it.
+CandidateLists::Word FarGrid::share(std::size_t cell, std::int32_t side, Word word) {
+  const std::size_t first = firstOfBlock(cell, side);
+  const auto count = static_cast<std::size_t>(side);
+  for (std::size_t red = 0; red < count; ++red) {
+    for (std::size_t green = 0; green < count; ++green) {
+      std::ranges::fill(words_.all().subspan(first + (red << (2 * kPlaceBits)) + (green << kPlaceBits), count), word);
+    }
+  }
+  return word;
+}
+
+bool FarGrid::haveOneOrigin(std::size_t cell, std::int32_t side) {
+  return side * sideOfCell(cell) <= kLargestOriginBox;
 }
 
 CandidateLists::Word FarGrid::makeList(std::span<const std::uint8_t> candidates, std::size_t cell) {
-  const ColorBox box = boxOf(cell);
-  ColorVector middle{};
-  std::ranges::transform(box.low, box.high, middle.begin(),
-                         [](std::int32_t low, std::int32_t high) { return (low + high + 1) / 2; });
-  return lists_.add(candidates, middle);
+  const std::int32_t side = std::min(kBlockSide * sideOfCell(cell), std::int32_t{kLargestOriginBox});
+  ColorVector origin = boxOf(cell).low;
+  for (std::int32_t& number : origin) {
+    number = ((number - kMiddle) & -side) + side / 2 + kMiddle;
+  }
+  return lists_.add(candidates, origin);
 }
 
 }  // namespace quillhue

@@ -6,6 +6,7 @@
 #include <span>
 #include <vector>
 
+#include "core/zeroed_memory.h"
 #include "remap/candidate_lists.h"
 
 namespace quillhue {
@@ -13,10 +14,10 @@ namespace quillhue {
 /// Finds the nearest colors to targets up to 65533 away from the middle of the color cube in each channel. The space is
 /// divided into cells that grow with the distance, because only the direction of a distant target matters: a cube of
 /// 512 in each direction, and eight larger ones around each other, each twice as large as the one inside it. Each cube
-/// has 8 x 8 x 8 cells, the outermost ones have 16 x 16 x 16 and 32 x 32 x 32, so that no cell is larger than 4096.
+/// has 32 x 32 x 32 cells.
 ///
-/// A cell has a list of the colors that can be the nearest inside it. If there are many, because errors grow in a
-/// direction in which the palette is flat, the cell is divided into 4 x 4 x 4 parts with lists.
+/// A cell has a list of the colors that can be the nearest inside it. The list is made when the first target falls into
+/// the cell. Blocks of 4 x 4 x 4 or 2 x 2 x 2 cells share a list if it is short.
 class FarGrid {
  public:
   /// `lists` must outlive the grid.
@@ -31,49 +32,42 @@ class FarGrid {
   /// Returns the index of the nearest color to each target, the first of equally near ones.
   [[nodiscard, gnu::always_inline]] Lanes find(const EightColors& targets, Distances distances);
 
-  static constexpr std::size_t kCells = 7 * 8 * 8 * 8 + 16 * 16 * 16 + 32 * 32 * 32;
-  /// Cells, and parts of them.
-  struct Places {
-    Shorts cells;
-    Shorts parts;
-  };
-  [[nodiscard, gnu::always_inline]] Places placesOf(const EightColors& targets, Distances distances);
-  [[nodiscard]] static ColorBox boxOf(std::size_t cell);
-  [[nodiscard]] static ColorBox boxOf(std::size_t cell, std::size_t part);
+  static constexpr std::size_t kCubes = 9;
+  static constexpr std::size_t kCells = kCubes << 15;
+  [[nodiscard]] static Lanes cellsOf(const EightColors& targets, Distances distances) {
+    return cellsOf(halvesOf(targets), Cubes(distances));
+  }
+  [[nodiscard]] static ColorBox boxOf(std::size_t cell) { return boxOf(cell, 1); }
 
  private:
   using Word = CandidateLists::Word;
   using Words = CandidateLists::Words;
-  // The parts of a cell: the index of the first one in parts_, and the number of the last one, which is 0 for a cell
-  // that is not divided.
-  struct Cell {
-    std::uint16_t first;
-    std::uint16_t last;
-  };
-  // For each lane, the cube in which targets are placed. It is kept from one search to the next, because targets of a
-  // lane are often about equally far.
-  struct Cubes {
-    // The bits of distances that no target in the cube has.
-    Shorts outside;
-    // Bits of which the distance has at least one, unless the cube is much too large.
-    Shorts outer;
-    // The high half of a product of half a target with this counts the parts of cells from the middle.
-    Shorts partsPerHalf;
-    Shorts cellsInRow;
-    Shorts middleCell;
-    // The bits of a place in a cell, and half the side of a cell, each in both halves of the number.
-    Lanes inCell;
-    Lanes halfCell;
-  };
   using Halves = std::array<Shorts, 3>;
 
+  // The cubes of targets.
+  struct Cubes {
+    explicit Cubes(Distances distances);
+
+    // From the smallest one on.
+    Shorts numbers;
+    // The high half of a product of half a target with this counts the cells from the middle.
+    Shorts cellsPerHalf;
+    // The sides of their blocks of 4 x 4 x 4 cells.
+    Shorts blockSides;
+  };
+
+  // A block of 4 x 4 x 4 cells: its kept candidates, and the list of its cells with many candidates.
+  struct Block {
+    std::uint32_t kept = 0;
+    Word list = 0;
+  };
+  // The word of a cell that does not share a list with the seven around it, until it has its own.
+  static constexpr Word kDivided = 2;
   static constexpr std::int32_t kMiddle = 128;
-  static constexpr std::size_t kPartsOfCell = 64;
-  static constexpr std::size_t kMostParts = std::size_t{1} << 16;
-  // The first part of a cell for which there is no memory.
-  static constexpr std::uint16_t kNoList = 1;
-  // Parts with more colors share the list of their cell.
-  static constexpr std::size_t kMostColors = 64;
+  // All nearer targets are in the first cube too.
+  static constexpr std::int16_t kLeastDistance = 64;
+  // The lists of a block have its middle as their origin. In larger blocks, those of each box of this side do.
+  static constexpr std::int16_t kLargestOriginBox = 4096;
 
   [[nodiscard]] static EightColors fromMiddle(const EightColors& targets) {
     return targets - EightColors::all({kMiddle, kMiddle, kMiddle});
@@ -87,63 +81,73 @@ class FarGrid {
     return greaterOf(greaterOf(folded(halves[0]), folded(halves[1])),
                      greaterOf(folded(halves[2]), Shorts::all(kLeastDistance)));
   }
-  // Each cube has a bit of this or a greater one.
-  static constexpr std::int16_t kLeastDistance = 64;
+  [[nodiscard]] static Lanes cellsOf(const Halves& halves, const Cubes& cubes);
+  // Returns twice the targets relative to the origins of their lists.
+  [[nodiscard]] static PairedColors twiceOffsetsOf(const EightColors& targets, const Cubes& cubes);
+  [[nodiscard]] static ColorBox boxOf(std::size_t cell, std::int32_t cellsInRow);
 
-  [[nodiscard]] bool fit(Distances distances) const {
-    return areZero((distances & cubes_.outside) | ((distances & cubes_.outer) == Shorts{}));
-  }
-  [[gnu::noinline]] void chooseCubes(Distances distances);
-  [[nodiscard]] PairedColors twiceOffsetsOf(const EightColors& targets) const;
-  [[gnu::noinline]] Lanes findSlowly(const EightColors& targets, Places places);
-  [[nodiscard]] Word listOf(std::size_t cell, std::size_t part);
-  [[nodiscard]] Word sharedList(Cell parts, std::span<const std::uint8_t> candidates, std::size_t cell);
-  [[nodiscard]] Cell makeCell(std::size_t cell);
+  [[gnu::noinline]] Lanes findSlowly(const EightColors& targets, Distances distances);
+  [[nodiscard]] Word listOf(std::size_t cell);
+  [[nodiscard]] Word findList(std::size_t cell);
+  [[nodiscard]] Word findList(std::size_t cell, Block& block);
+  Word share(std::size_t cell, std::int32_t side, Word word);
+  // Returns whether the lists in the block of `side` cells in each direction have the same origin.
+  [[nodiscard]] static bool haveOneOrigin(std::size_t cell, std::int32_t side);
   [[nodiscard]] Word makeList(std::span<const std::uint8_t> candidates, std::size_t cell);
 
   CandidateLists& lists_;
-  Cubes cubes_;
-  std::vector<Cell> cells_;
-  // 0, kNone, then one list of each cell or 64 lists of its parts. Before the 64, a list for all parts with many
-  // colors, and an index in divided_.
-  std::vector<Word> parts_;
+  ZeroedMemory<Word> words_;
+  std::vector<Block> blocks_;
 };
 
-inline FarGrid::Places FarGrid::placesOf(const EightColors& targets, Distances distances) {
-  if (!fit(distances)) {
-    chooseCubes(distances);
-  }
-  const Halves halves = halvesOf(targets);
-  const Shorts blue = highProducts(halves[0], cubes_.partsPerHalf);
-  const Shorts green = highProducts(halves[1], cubes_.partsPerHalf);
-  const Shorts red = highProducts(halves[2], cubes_.partsPerHalf);
-  const Shorts row = lowProducts(red >> 2, cubes_.cellsInRow) + (green >> 2);
-  const Shorts inPart = Shorts::all(3);
-  return {lowProducts(row, cubes_.cellsInRow) + (blue >> 2) + cubes_.middleCell,
-          (blue & inPart) | (green & inPart) << 2 | (red & inPart) << 4};
+// The highest bit of a distance decides. Floats have its place as their exponent.
+inline FarGrid::Cubes::Cubes(Distances distances) {
+  const auto powerOfTwo = [](__m128i four) {
+    return _mm_and_si128(_mm_castps_si128(_mm_cvtepi32_ps(four)), _mm_set1_epi32(0x7F800000));
+  };
+  const auto integers = [](Lanes floats) {
+    const auto four = [](__m128i half) { return _mm_cvttps_epi32(_mm_castsi128_ps(half)); };
+    return packed({four(floats.low), four(floats.high)});
+  };
+  const auto exponent = [](int number) { return Lanes::all(number << 23); };
+  constexpr int kBias = 127;
+  const Lanes numbersInLanes = interleaved(distances, {});
+  const Lanes highestBits{powerOfTwo(numbersInLanes.low), powerOfTwo(numbersInLanes.high)};
+  // A distance of 64 to 127 belongs to the first cube, which has one cell for each 8.
+  numbers = packed((highestBits - exponent(kBias + 6)) >> 23);
+  cellsPerHalf = integers(exponent(kBias) + exponent(kBias + 16 - 3 + 6) - highestBits);
+  blockSides = integers(highestBits);
 }
 
-inline PairedColors FarGrid::twiceOffsetsOf(const EightColors& targets) const {
-  const auto twiceOffset = [this](Lanes pairs) {
-    const Lanes place = pairs & cubes_.inCell;
-    const auto four = [](__m128i numbers, __m128i half) { return _mm_slli_epi16(_mm_sub_epi16(numbers, half), 1); };
-    return Lanes{four(place.low, cubes_.halfCell.low), four(place.high, cubes_.halfCell.high)};
+inline Lanes FarGrid::cellsOf(const Halves& halves, const Cubes& cubes) {
+  const auto cells = [&](Shorts half) { return highProducts(half, cubes.cellsPerHalf); };
+  constexpr std::int16_t kMiddleCell = 16 << 10 | 16 << 5 | 16;
+  const Shorts inCube =
+      (cells(halves[2]) << 10) + (cells(halves[1]) << 5) + cells(halves[0]) + Shorts::all(kMiddleCell);
+  return unsignedShiftRight(interleaved(inCube << 1, cubes.numbers), 1);
+}
+
+inline PairedColors FarGrid::twiceOffsetsOf(const EightColors& targets, const Cubes& cubes) {
+  const Shorts blockSides = lesserOf(cubes.blockSides, Shorts::all(kLargestOriginBox));
+  const Lanes inBlock = widened(blockSides + Shorts::all(-1));
+  const Lanes side = widened(blockSides);
+  const auto twiceOffset = [&](Lanes pairs) {
+    const Lanes twicePlace = (pairs & inBlock) << 1;
+    return Lanes{_mm_sub_epi16(twicePlace.low, side.low), _mm_sub_epi16(twicePlace.high, side.high)};
   };
   const PairedColors paired(fromMiddle(targets));
   return {twiceOffset(paired.blueGreen()), twiceOffset(paired.red())};
 }
 
 inline Lanes FarGrid::find(const EightColors& targets, Distances distances) {
-  const Places places = placesOf(targets, distances);
-  const Cell* const cells = cells_.data();
-  const Word* const parts = parts_.data();
+  const Cubes cubes(distances);
+  const EightNumbers cells = numbersOf(cellsOf(halvesOf(targets), cubes));
+  const Word* const words = words_.all().data();
   Words lists;
-  forEachLane([&](auto lane) {
-    const Cell& cell = cells[numberOf<lane>(places.cells)];
-    lists[lane] = parts[cell.first + (numberOf<lane>(places.parts) & cell.last)];
-  });
+  forEachLane([&](auto lane) { lists[lane] = words[static_cast<std::size_t>(cells[lane])]; });
   const CandidateLists::Common common(lists);
-  return common.areLists() ? lists_.search(lists, common, twiceOffsetsOf(targets)) : findSlowly(targets, places);
+  return common.areLists() ? lists_.search(lists, common, twiceOffsetsOf(targets, cubes))
+                           : findSlowly(targets, distances);
 }
 
 }  // namespace quillhue

@@ -113,14 +113,18 @@ struct Shorts {
 [[nodiscard]] inline Shorts highProducts(Shorts a, Shorts b) { return {_mm_mulhi_epi16(a.eight, b.eight)}; }
 
 [[nodiscard]] inline Shorts greaterOf(Shorts a, Shorts b) { return {_mm_max_epi16(a.eight, b.eight)}; }
+[[nodiscard]] inline Shorts lesserOf(Shorts a, Shorts b) { return {_mm_min_epi16(a.eight, b.eight)}; }
 
 /// Returns the numbers clamped to 16 bits.
 [[nodiscard]] inline Shorts packed(Lanes lanes) { return {_mm_packs_epi32(lanes.low, lanes.high)}; }
 
-/// Returns the numbers twice each, as the low and the high half.
-[[nodiscard]] inline Lanes widened(Shorts shorts) {
-  return {_mm_unpacklo_epi16(shorts.eight, shorts.eight), _mm_unpackhi_epi16(shorts.eight, shorts.eight)};
+/// Returns numbers made of low and high halves.
+[[nodiscard]] inline Lanes interleaved(Shorts low, Shorts high) {
+  return {_mm_unpacklo_epi16(low.eight, high.eight), _mm_unpackhi_epi16(low.eight, high.eight)};
 }
+
+/// Returns the numbers twice each, as the low and the high half.
+[[nodiscard]] inline Lanes widened(Shorts shorts) { return interleaved(shorts, shorts); }
 
 [[nodiscard]] inline bool areZero(Shorts shorts) {
   return _mm_movemask_epi8(_mm_cmpeq_epi16(shorts.eight, _mm_setzero_si128())) == 0xFFFF;

@@ -31,26 +31,10 @@ Lanes mayWrapDifferently(const EightColors& targets) {
           four(targets.blue.high, targets.green.high, targets.red.high)};
 }
 
-// Returns targets with the same nearest greys but with channels that are as equal as possible: the order of greys by
-// distance depends only on the sum of the target's channels. Colors that greys can't mix drive targets far away from
-// the cube, and this brings them back.
-EightColors leveled(const EightColors& targets) {
-  const EightNumbers sums = numbersOf(targets.blue + targets.green + targets.red);
-  EightNumbers thirds{};
-  std::ranges::transform(sums, thirds.begin(), [](std::int32_t sum) { return (sum - (sum % 3 + 3) % 3) / 3; });
-  const Lanes level = lanesOf(thirds);
-  const Lanes rest = lanesOf(sums) - level - level - level;
-  // A comparison that holds is -1.
-  return {level - (Lanes{} < rest), level - (Lanes::all(1) < rest), level};
-}
-
 }  // namespace
 
 NearestEntry::NearestEntry(std::span<const PaletteEntry> colors, std::size_t listBytes)
-    : scan_(colors),
-      areGreys_(std::ranges::all_of(
-          colors, [](const PaletteEntry& color) { return color.red == color.green && color.green == color.blue; })),
-      lists_(scan_, listBytes) {
+    : scan_(colors), flat_(colors), lists_(scan_, listBytes) {
   if (hasFewColors()) {
     for (std::size_t i = 0; i < colors.size(); ++i) {
       const ColorVector factor{colors[i].blue << (kFewBits + 1), colors[i].green << (kFewBits + 1),
@@ -71,17 +55,18 @@ Lanes NearestEntry::findFar(const EightColors& targets) {
   constexpr std::int16_t kNeverWraps = 13000;
   const FarGrid::Distances distances = FarGrid::distancesOf(targets);
   const bool areOrdered = areZero(Shorts::all(kNeverWraps) < distances);
-  return areOrdered && !areGreys_ ? far_->find(targets, distances) : findFarther(targets, distances);
+  return areOrdered ? findOrdered(targets, distances) : findFarther(targets, distances);
 }
 
 Lanes NearestEntry::findFarther(const EightColors& targets, FarGrid::Distances distances) {
   const Lanes mustScan = widened(distances == Shorts::all(FarGrid::kBeyond)) | mayWrapDifferently(targets);
   if (areZero(mustScan)) {
-    return findOrdered(targets);
+    return findOrdered(targets, distances);
   }
   const std::array channels{numbersOf(targets.blue), numbersOf(targets.green), numbersOf(targets.red)};
   const EightNumbers areScanned = numbersOf(mustScan);
-  EightNumbers found = numbersOf(findOrdered(targets & ~mustScan));
+  const EightColors ordered = targets & ~mustScan;
+  EightNumbers found = numbersOf(findOrdered(ordered, FarGrid::distancesOf(ordered)));
   for (std::size_t lane = 0; lane < found.size(); ++lane) {
     if (areScanned[lane] != 0) {
       found[lane] = scan_.nearest({channels[0][lane], channels[1][lane], channels[2][lane]});
@@ -90,14 +75,12 @@ Lanes NearestEntry::findFarther(const EightColors& targets, FarGrid::Distances d
   return lanesOf(found);
 }
 
-Lanes NearestEntry::findOrdered(const EightColors& targets) {
-  if (areGreys_ && !hasFewColors()) {
-    const EightColors level = leveled(targets);
-    if (NearGrid::has(level)) {
-      return near_->find(level);
-    }
+Lanes NearestEntry::findOrdered(const EightColors& targets, FarGrid::Distances distances) {
+  if (!flat_.areFlat() || hasFewColors()) {
+    return far_->find(targets, distances);
   }
-  return far_->find(targets, FarGrid::distancesOf(targets));
+  const EightColors flattened = flat_.flattened(targets);
+  return NearGrid::has(flattened) ? near_->find(flattened) : far_->find(flattened, FarGrid::distancesOf(flattened));
 }
 
 }  // namespace quillhue

@@ -10,6 +10,7 @@
 #include "remap/candidate_lists.h"
 #include "remap/color_scan.h"
 #include "remap/far_grid.h"
+#include "remap/flat_colors.h"
 #include "remap/near_grid.h"
 
 namespace quillhue {
@@ -20,7 +21,7 @@ class NearestEntry {
   /// Comparing all colors is faster than using lists for up to this number of colors.
   static constexpr std::size_t kFewColors = 24;
 
-  /// Takes at least one color. Lists of candidates use at most about `listBytes`; tables use 150 KiB, and 450 KiB
+  /// Takes at least one color. Lists of candidates use at most about `listBytes`; tables use 70 KiB, and 610 KiB
   /// more for targets far outside the color cube.
   NearestEntry(std::span<const PaletteEntry> colors, std::size_t listBytes);
   NearestEntry(const NearestEntry&) = delete;
@@ -54,10 +55,10 @@ class NearestEntry {
   [[gnu::noinline]] Lanes findFar(const EightColors& targets);
   [[nodiscard, gnu::noinline]] Lanes findFarther(const EightColors& targets, FarGrid::Distances distances);
   // Takes targets whose wrapped distances have the same order as the true ones.
-  [[nodiscard]] Lanes findOrdered(const EightColors& targets);
+  [[nodiscard]] Lanes findOrdered(const EightColors& targets, FarGrid::Distances distances);
 
   ColorScan scan_;
-  bool areGreys_;
+  FlatColors flat_;
   std::vector<FewColor> few_;
   CandidateLists lists_;
   // Only with many colors.

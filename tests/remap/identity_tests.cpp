@@ -109,16 +109,13 @@ TEST(NearestEntry, HasAllNumbersInTheBoxesOfTheirCells) {
   for (const std::int32_t outside : {-129, 384}) {
     EXPECT_FALSE(NearGrid::has(EightColors::all({0, outside, 0}))) << outside;
   }
-  const ColorScan scan(std::array<PaletteEntry, 1>{});
-  CandidateLists lists(scan, 0);
-  FarGrid far(lists);
   for (std::int32_t number = -65405; number <= 65661; number += 1 + std::abs(number) / 512) {
     const ColorVector target{number, 256 - number, number / 5};
     const FarGrid::Distances distances = FarGrid::distancesOf(EightColors::all(target));
     ASSERT_LT(numberOf<0>(distances), std::size_t{FarGrid::kBeyond}) << number;
-    const FarGrid::Places places = far.placesOf(EightColors::all(target), distances);
-    ASSERT_LT(numberOf<0>(places.cells), FarGrid::kCells) << number;
-    ASSERT_NO_FATAL_FAILURE(expectInBox(target, FarGrid::boxOf(numberOf<0>(places.cells), numberOf<0>(places.parts))));
+    const auto cell = static_cast<std::size_t>(numbersOf(FarGrid::cellsOf(EightColors::all(target), distances))[0]);
+    ASSERT_LT(cell, FarGrid::kCells) << number;
+    ASSERT_NO_FATAL_FAILURE(expectInBox(target, FarGrid::boxOf(cell)));
   }
   for (const std::int32_t outside : {-65409, 65664, 2000000000}) {
     EXPECT_EQ(numberOf<0>(FarGrid::distancesOf(EightColors::all({0, outside, 0}))), std::size_t{FarGrid::kBeyond});
