@@ -211,9 +211,10 @@ void ProgramMemory::read(void* to, std::size_t size) const {
   }
 }
 
+std::wstring toolFile() { return std::filesystem::path(programFile()).replace_filename(L"quillhue-cli.exe").wstring(); }
+
 void runTool(const std::vector<std::wstring>& arguments) {
-  const auto tool = std::filesystem::path(programFile()).replace_filename(L"quillhue-cli.exe");
-  HANDLE process = startProcess(tool.wstring(), arguments).hProcess;
+  HANDLE process = startProcess(toolFile(), arguments).hProcess;
   WaitForSingleObject(process, INFINITE);
   const DWORD code = exitCodeOf(process);
   CloseHandle(process);

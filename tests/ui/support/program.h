@@ -141,7 +141,9 @@ LRESULT Program::askAbout(HWND window, UINT message, WPARAM wParam, Value& value
   return answer;
 }
 
-/// Runs the command-line tool that is in the program's folder. A failure ends the test.
+/// Returns the name of the command-line tool that is in the program's folder.
+[[nodiscard]] std::wstring toolFile();
+/// Runs the tool. A failure ends the test.
 void runTool(const std::vector<std::wstring>& arguments);
 
 /// Returns whether the tests run under Wine, which does not report some of the system's numbers.
