@@ -17,7 +17,7 @@ AVX2 = """## AVX2
 Quillhue uses SSE2 only, on all processors. A version with the 256-bit registers of AVX2 was measured once, beside the
 SSE2 code that it came from. It was at most 7 % faster, and often slower, so Quillhue does without it. The script does
 not repeat this measurement. The table lists nanoseconds of CPU time for each pixel of 1024 x 768, the least of 18 runs,
-both sides taking turns:
+both sides taking turns. In the last row the sides also differ in how many colors they compare at a time:
 
 |  | SSE2 | AVX2 |
 | --- | --: | --: |
