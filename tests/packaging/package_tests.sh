@@ -122,7 +122,7 @@ installed='quillhue-cli.exe quillhue.exe readme.txt uninstall.exe'
 # The package of the tests, which needs only its script.
 "$root/packaging/make-tests.sh" "$programs/.." "$version" .
 unzip -q "quillhue-$version-tests.zip" -d 'some tests'
-(cd "some tests/quillhue-$version-tests" && "$wine" cmd /c run-tests.cmd core cli </dev/null >shown 2>&1)
+(cd "some tests/quillhue-$version-tests" && "$wine" cmd /c run-tests.cmd core commands </dev/null >shown 2>&1)
 expect 'the report of the tests' "$(tail -1 "some tests/quillhue-$version-tests/report.txt" | tr -d '\r')" \
   'All tests passed.'
 

@@ -32,9 +32,9 @@ TEST_F(Handles, DoNotLeak) {
       }
     }
   };
-  work(8);
+  work(6);
   const ResourceCount before = countResources(editor);
-  work(24);
+  work(18);
   // The system keeps some fonts, brushes and threads for itself; a leak grows with every round.
   expectNoLeak(editor, before, 12);
 }
