@@ -34,7 +34,7 @@ TEST_F(Handles, DoNotLeak) {
   };
   work(6);
   const ResourceCount before = countResources(editor);
-  work(18);
+  work(26);
   // The system keeps some fonts, brushes and threads for itself; a leak grows with every round.
   expectNoLeak(editor, before, 12);
 }
