@@ -1,6 +1,10 @@
 #include "remap/candidate_lists.h"
 
 #include <algorithm>
+#include <bit>
+#include <functional>
+#include <string_view>
+#include <type_traits>
 
 namespace quillhue {
 
@@ -21,9 +25,10 @@ CandidateLists::CandidateLists(const ColorScan& scan, std::size_t bytes)
     : scan_(scan),
       candidates_(scan.colors()),
       groupLimit_(1 + std::min(bytes / sizeof(ColorGroup), std::size_t{kFirstGroup})),
+      slots_(std::bit_ceil(2 * groupLimit_)),
       keptLimit_(1 + bytes / 10) {
-  // Memory that is never used costs nothing.
-  groups_.reserve(groupLimit_);
+  // Memory that is never used costs nothing. A list is written before it is compared with the others.
+  groups_.reserve(groupLimit_ + kMostColors / ColorGroup::kCount);
   more_.reserve(groupLimit_);
   constexpr std::array<std::uint8_t, 1> kAnyColor{0};
   constexpr std::array<std::int32_t, 1> kNoLead{0};
@@ -34,11 +39,6 @@ CandidateLists::CandidateLists(const ColorScan& scan, std::size_t bytes)
 }
 
 CandidateLists::Word CandidateLists::add(std::span<const std::uint8_t> indexes, const ColorVector& origin) {
-  const std::size_t first = groups_.size();
-  const std::size_t count = (indexes.size() + ColorGroup::kCount - 1) / ColorGroup::kCount;
-  if (first + count > groupLimit_) {
-    return kNone;
-  }
   std::array<std::int32_t, kMostColors> all;
   const auto leads = std::span(all).first(indexes.size());
   const auto colors = scan_.colors();
@@ -48,12 +48,39 @@ CandidateLists::Word CandidateLists::add(std::span<const std::uint8_t> indexes, 
   });
   const std::int32_t least = std::ranges::min(leads);
   std::ranges::for_each(leads, [least](std::int32_t& lead) { lead -= least; });
+  const std::size_t first = groups_.size();
   for (std::size_t start = 0; start < indexes.size(); start += ColorGroup::kCount) {
     groups_.emplace_back(colors, indexes, leads, start);
   }
+  const std::size_t count = groups_.size() - first;
+  Word& slot = slotOfLast(count);
+  if (slot != 0 || groups_.size() > groupLimit_) {
+    groups_.erase(groups_.begin() + static_cast<std::ptrdiff_t>(first), groups_.end());
+    return slot != 0 ? slot : kNone;
+  }
   more_.resize(groups_.size());
   more_[first] = static_cast<std::uint8_t>(count - 1);
-  return static_cast<Word>(first | kIsList | (count == 1 ? kIsShort : 0));
+  slot = static_cast<Word>(first | kIsList | (count == 1 ? kIsShort : 0));
+  return slot;
+}
+
+CandidateLists::Word& CandidateLists::slotOfLast(std::size_t count) {
+  static_assert(std::has_unique_object_representations_v<ColorGroup>);
+  const auto added = std::span(groups_).last(count);
+  const auto bytes = std::as_bytes(added);
+  const std::size_t hash = std::hash<std::string_view>()({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+  const auto isOther = [&](Word list) {
+    const std::size_t first = list & kFirstGroup;
+    return more_[first] + std::size_t{1} != count ||
+           !std::ranges::equal(added, std::span(groups_).subspan(first, count));
+  };
+  // At most half of the slots are used.
+  const auto slots = slots_.all();
+  std::size_t place = hash & (slots.size() - 1);
+  while (slots[place] != 0 && isOther(slots[place])) {
+    place = (place + 1) & (slots.size() - 1);
+  }
+  return slots[place];
 }
 
 std::uint32_t CandidateLists::keep(std::span<const std::uint8_t> indexes) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/palette_entry.h"
+#include "core/zeroed_memory.h"
 #include "remap/color_candidates.h"
 #include "remap/color_quad.h"
 #include "remap/color_scan.h"
@@ -26,6 +27,8 @@ class alignas(64) ColorGroup {
   ColorGroup(std::span<const PaletteEntry> colors, std::span<const std::uint8_t> list,
              std::span<const std::int32_t> leads, std::size_t start);
 
+  friend bool operator==(const ColorGroup&, const ColorGroup&) = default;
+
   /// Returns the lesser key of each of four pairs of colors. The low byte of a key is the index.
   [[nodiscard]] __m128 keys(const ColorQuad& twiceTarget) const {
     const auto keysOf = [&](const ListedColors& four) {
@@ -38,8 +41,9 @@ class alignas(64) ColorGroup {
   std::array<ListedColors, 2> colors_;
 };
 
-/// Lists of the colors that can be the nearest to some targets. A list has an origin, and its targets are given
-/// relative to it: as keys have 32 bits, they must be from -2048 to 2047 in each channel.
+/// Lists of the colors that can be the nearest to some targets. Equal lists are one, which keeps them few enough for
+/// the processor's fastest cache. A list has an origin, and its targets are given relative to it: as keys have 32 bits,
+/// they must be from -2048 to 2047 in each channel.
 class CandidateLists {
  public:
   /// A list, kNone if all colors have to be compared, or 0.
@@ -50,7 +54,7 @@ class CandidateLists {
   /// Lists use at most about `bytes`, and kept candidates a tenth of it. `scan` must outlive them.
   CandidateLists(const ColorScan& scan, std::size_t bytes);
 
-  /// Makes a list. Returns kNone if there is no memory for more lists.
+  /// Makes a list, or finds an equal one. Returns kNone if there is no memory for more lists.
   [[nodiscard]] Word add(std::span<const std::uint8_t> indexes, const ColorVector& origin);
 
   /// The bits that eight words have in common.
@@ -104,6 +108,9 @@ class CandidateLists {
     return least;
   }
 
+  // Returns the slot of slots_ that has the list of `count` groups equal to the last groups, or that is free for them.
+  [[nodiscard]] Word& slotOfLast(std::size_t count);
+
   const ColorScan& scan_;
   ColorCandidates candidates_;
   // The first one has any color.
@@ -111,6 +118,8 @@ class CandidateLists {
   // How many groups follow the first one of a list.
   std::vector<std::uint8_t> more_;
   std::size_t groupLimit_;
+  // A hash table of all lists. 0 is free.
+  ZeroedMemory<Word> slots_;
   std::size_t keptLimit_;
   // For each kept list the number of indexes - 1, and the indexes.
   std::vector<std::uint8_t> kept_;

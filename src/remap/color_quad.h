@@ -78,6 +78,8 @@ class ListedColors {
  public:
   static constexpr std::size_t kCount = 4;
 
+  friend bool operator==(const ListedColors&, const ListedColors&) = default;
+
   void set(std::size_t lane, std::int32_t keyStart, const PaletteEntry& color) {
     starts_[lane] = keyStart;
     bytes_[2 * lane] = color.blue ^ kHalf;

@@ -50,7 +50,7 @@ Lanes FarGrid::findSlowly(const EightColors& targets, Distances distances) {
   Words words{};
   std::ranges::transform(numbersOf(cellsOf(halvesOf(targets), cubes)), words.begin(),
                          [this](std::int32_t cell) { return listOf(static_cast<std::size_t>(cell)); });
-  return lists_.searchOrScan(words, twiceOffsetsOf(targets, cubes), targets);
+  return lists_.searchOrScan(words, twiceOffsetsOf(targets), targets);
 }
 
 CandidateLists::Word FarGrid::listOf(std::size_t cell) {
@@ -62,8 +62,8 @@ CandidateLists::Word FarGrid::listOf(std::size_t cell) {
 }
 
 CandidateLists::Word FarGrid::findList(std::size_t cell) {
-  Block& block = blocks_[blockOf(cell)];
-  if (block.kept == 0) {
+  std::uint32_t& block = blocks_[blockOf(cell)];
+  if (block == 0) {
     // Few targets are in the first cube: those beside distant ones.
     constexpr std::size_t kMostRare = 64;
     ColorCandidates& candidates = lists_.candidates();
@@ -72,33 +72,22 @@ CandidateLists::Word FarGrid::findList(std::size_t cell) {
     if (isRare || (isShort(found) && haveOneOrigin(cell, kBlockSide))) {
       return share(cell, kBlockSide, makeList(found, cell));
     }
-    block.kept = lists_.keep(found);
+    block = lists_.keep(found);
   }
-  return findList(cell, block);
+  return findList(cell, lists_.kept(block));
 }
 
-// Finds a list for a cell whose block does not share a short one.
-CandidateLists::Word FarGrid::findList(std::size_t cell, Block& block) {
+// Finds a list for a cell whose block does not share one. The cell's candidates are `among` those of the block.
+CandidateLists::Word FarGrid::findList(std::size_t cell, std::span<const std::uint8_t> among) {
   constexpr std::int32_t kSide = kBlockSide / 2;
-  const auto among = lists_.kept(block.kept);
-  // Longer lists use too much memory for each cell.
-  const auto isLong = [](std::span<const std::uint8_t> found) { return found.size() > 3 * ColorGroup::kCount; };
   if (words_.all()[cell] != kDivided) {
     const auto found = lists_.candidates().within(boxOf(firstOfBlock(cell, kSide), kSide), among);
-    const bool canShareLong = isLong(found) && !haveOneOrigin(cell, kBlockSide);
-    if (haveOneOrigin(cell, kSide) && (isShort(found) || canShareLong)) {
+    if (isShort(found) && haveOneOrigin(cell, kSide)) {
       return share(cell, kSide, makeList(found, cell));
     }
     share(cell, kSide, kDivided);
   }
-  const auto found = lists_.candidates().within(boxOf(cell), among);
-  if (!isLong(found) || !haveOneOrigin(cell, kBlockSide)) {
-    return makeList(found, cell);
-  }
-  if (block.list == 0) {
-    block.list = makeList(among, cell);
-  }
-  return block.list;
+  return makeList(lists_.candidates().within(boxOf(cell), among), cell);
 }
 
 // Gives all cells of a block a word, and returns it.
@@ -113,15 +102,12 @@ CandidateLists::Word FarGrid::share(std::size_t cell, std::int32_t side, Word wo
   return word;
 }
 
-bool FarGrid::haveOneOrigin(std::size_t cell, std::int32_t side) {
-  return side * sideOfCell(cell) <= kLargestOriginBox;
-}
+bool FarGrid::haveOneOrigin(std::size_t cell, std::int32_t side) { return side * sideOfCell(cell) <= kOriginDistance; }
 
 CandidateLists::Word FarGrid::makeList(std::span<const std::uint8_t> candidates, std::size_t cell) {
-  const std::int32_t side = std::min(kBlockSide * sideOfCell(cell), std::int32_t{kLargestOriginBox});
   ColorVector origin = boxOf(cell).low;
   for (std::int32_t& number : origin) {
-    number = ((number - kMiddle) & -side) + side / 2 + kMiddle;
+    number = ((number - kMiddle) & -kOriginDistance) + kOriginDistance / 2 + kMiddle;
   }
   return lists_.add(candidates, origin);
 }

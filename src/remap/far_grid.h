@@ -52,22 +52,15 @@ class FarGrid {
     Shorts numbers;
     // The high half of a product of half a target with this counts the cells from the middle.
     Shorts cellsPerHalf;
-    // The sides of their blocks of 4 x 4 x 4 cells.
-    Shorts blockSides;
   };
 
-  // A block of 4 x 4 x 4 cells: its kept candidates, and the list of its cells with many candidates.
-  struct Block {
-    std::uint32_t kept = 0;
-    Word list = 0;
-  };
   // The word of a cell that does not share a list with the seven around it, until it has its own.
   static constexpr Word kDivided = 2;
   static constexpr std::int32_t kMiddle = 128;
   // All nearer targets are in the first cube too.
   static constexpr std::int16_t kLeastDistance = 64;
-  // The lists of a block have its middle as their origin. In larger blocks, those of each box of this side do.
-  static constexpr std::int16_t kLargestOriginBox = 4096;
+  // The origin of a list is the middle of one of the cubes with this side that meet in the middle of the color cube.
+  static constexpr std::int16_t kOriginDistance = 4096;
 
   [[nodiscard]] static EightColors fromMiddle(const EightColors& targets) {
     return targets - EightColors::all({kMiddle, kMiddle, kMiddle});
@@ -83,13 +76,13 @@ class FarGrid {
   }
   [[nodiscard]] static Lanes cellsOf(const Halves& halves, const Cubes& cubes);
   // Returns twice the targets relative to the origins of their lists.
-  [[nodiscard]] static PairedColors twiceOffsetsOf(const EightColors& targets, const Cubes& cubes);
+  [[nodiscard]] static PairedColors twiceOffsetsOf(const EightColors& targets);
   [[nodiscard]] static ColorBox boxOf(std::size_t cell, std::int32_t cellsInRow);
 
   [[gnu::noinline]] Lanes findSlowly(const EightColors& targets, Distances distances);
   [[nodiscard]] Word listOf(std::size_t cell);
   [[nodiscard]] Word findList(std::size_t cell);
-  [[nodiscard]] Word findList(std::size_t cell, Block& block);
+  [[nodiscard]] Word findList(std::size_t cell, std::span<const std::uint8_t> among);
   Word share(std::size_t cell, std::int32_t side, Word word);
   // Returns whether the lists in the block of `side` cells in each direction have the same origin.
   [[nodiscard]] static bool haveOneOrigin(std::size_t cell, std::int32_t side);
@@ -97,7 +90,8 @@ class FarGrid {
 
   CandidateLists& lists_;
   ZeroedMemory<Word> words_;
-  std::vector<Block> blocks_;
+  // The kept candidates of blocks of 4 x 4 x 4 cells.
+  std::vector<std::uint32_t> blocks_;
 };
 
 // The highest bit of a distance decides. Floats have its place as their exponent.
@@ -116,7 +110,6 @@ inline FarGrid::Cubes::Cubes(Distances distances) {
   // A distance of 64 to 127 belongs to the first cube, which has one cell for each 8.
   numbers = packed((highestBits - exponent(kBias + 6)) >> 23);
   cellsPerHalf = integers(exponent(kBias) + exponent(kBias + 16 - 3 + 6) - highestBits);
-  blockSides = integers(highestBits);
 }
 
 inline Lanes FarGrid::cellsOf(const Halves& halves, const Cubes& cubes) {
@@ -127,12 +120,10 @@ inline Lanes FarGrid::cellsOf(const Halves& halves, const Cubes& cubes) {
   return unsignedShiftRight(interleaved(inCube << 1, cubes.numbers), 1);
 }
 
-inline PairedColors FarGrid::twiceOffsetsOf(const EightColors& targets, const Cubes& cubes) {
-  const Shorts blockSides = lesserOf(cubes.blockSides, Shorts::all(kLargestOriginBox));
-  const Lanes inBlock = widened(blockSides + Shorts::all(-1));
-  const Lanes side = widened(blockSides);
-  const auto twiceOffset = [&](Lanes pairs) {
-    const Lanes twicePlace = (pairs & inBlock) << 1;
+inline PairedColors FarGrid::twiceOffsetsOf(const EightColors& targets) {
+  const auto twiceOffset = [](Lanes pairs) {
+    const Lanes twicePlace = (pairs & widened(Shorts::all(kOriginDistance - 1))) << 1;
+    const Lanes side = widened(Shorts::all(kOriginDistance));
     return Lanes{_mm_sub_epi16(twicePlace.low, side.low), _mm_sub_epi16(twicePlace.high, side.high)};
   };
   const PairedColors paired(fromMiddle(targets));
@@ -146,8 +137,7 @@ inline Lanes FarGrid::find(const EightColors& targets, Distances distances) {
   Words lists;
   forEachLane([&](auto lane) { lists[lane] = words[static_cast<std::size_t>(cells[lane])]; });
   const CandidateLists::Common common(lists);
-  return common.areLists() ? lists_.search(lists, common, twiceOffsetsOf(targets, cubes))
-                           : findSlowly(targets, distances);
+  return common.areLists() ? lists_.search(lists, common, twiceOffsetsOf(targets)) : findSlowly(targets, distances);
 }
 
 }  // namespace quillhue

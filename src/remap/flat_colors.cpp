@@ -6,16 +6,15 @@ namespace quillhue {
 
 namespace {
 
-// Returns colors whose channels are as equal as possible. The order of greys by distance depends only on the sum of the
-// target's channels.
+// Returns colors whose channels are about equal. The order of greys by distance depends only on the sum of the target's
+// channels.
 EightColors leveled(const EightColors& targets) {
-  const EightNumbers sums = numbersOf(targets.blue + targets.green + targets.red);
-  EightNumbers thirds{};
-  std::ranges::transform(sums, thirds.begin(), [](std::int32_t sum) { return (sum - (sum % 3 + 3) % 3) / 3; });
-  const Lanes level = lanesOf(thirds);
-  const Lanes rest = lanesOf(sums) - level - level - level;
-  // A comparison that holds is -1.
-  return {level - (Lanes{} < rest), level - (Lanes::all(1) < rest), level};
+  const Lanes sums = targets.blue + targets.green + targets.red;
+  const auto third = [](__m128i four) {
+    return _mm_cvtps_epi32(_mm_mul_ps(_mm_cvtepi32_ps(four), _mm_set1_ps(1.0F / 3)));
+  };
+  const Lanes level{third(sums.low), third(sums.high)};
+  return {sums - level - level, level, level};
 }
 
 }  // namespace

@@ -2,33 +2,36 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace quillhue {
 
 namespace {
 
-// Returns all bits in the lanes of targets whose squared distances |t|^2 + |p|^2 - 2 t.p to some colors may wrap more
-// often than to others. Holds for numbers up to 2^16; kMargin covers the rounding errors of floats.
-Lanes mayWrapDifferently(const EightColors& targets) {
-  const auto four = [](__m128i blue, __m128i green, __m128i red) {
-    const __m128 sign = _mm_set1_ps(-0.0F);
-    __m128 squares = _mm_setzero_ps();
-    __m128 reach = _mm_setzero_ps();
-    for (const __m128i channel : {blue, green, red}) {
-      const __m128 numbers = _mm_cvtepi32_ps(channel);
-      squares = _mm_add_ps(squares, _mm_mul_ps(numbers, numbers));
-      reach = _mm_add_ps(reach, _mm_andnot_ps(sign, numbers));
-    }
-    // Counts in multiples of 2^32.
-    constexpr float kTurn = 0x1p-32F;
-    constexpr float kMargin = 1e-4F;
-    const __m128 turns = _mm_mul_ps(squares, _mm_set1_ps(kTurn));
-    const __m128 rest = _mm_andnot_ps(sign, _mm_sub_ps(turns, _mm_cvtepi32_ps(_mm_cvtps_epi32(turns))));
-    const __m128 most = _mm_add_ps(rest, _mm_mul_ps(reach, _mm_set1_ps(2 * 255 * kTurn)));
-    return _mm_castps_si128(_mm_cmpge_ps(most, _mm_set1_ps(0.5F - kMargin)));
+constexpr ColorVector kMiddle{128, 128, 128};
+
+Lanes squared(Lanes numbers) {
+  const auto four = [](__m128i half) {
+    const __m128i odd = _mm_srli_epi64(half, 32);
+    const auto lowHalves = [](__m128i products) { return _mm_shuffle_epi32(products, _MM_SHUFFLE(0, 0, 2, 0)); };
+    return _mm_unpacklo_epi32(lowHalves(_mm_mul_epu32(half, half)), lowHalves(_mm_mul_epu32(odd, odd)));
   };
-  return {four(targets.blue.low, targets.green.low, targets.red.low),
-          four(targets.blue.high, targets.green.high, targets.red.high)};
+  return {four(numbers.low), four(numbers.high)};
+}
+
+// Returns -1 - number for negative numbers.
+Lanes folded(Lanes number) { return number ^ number >> 31; }
+
+// Returns all bits in the lanes of targets whose squared distances to some colors may wrap more often than to others.
+// These distances differ from that to the middle of the colors by |p|^2 - 2 t.p, for a color p and a target t that
+// count from there. No channel of p is beyond 128, and flattened targets have the same products.
+Lanes mayWrapDifferently(const EightColors& targets, const EightColors& flattened, const EightColors& middle) {
+  const auto [blue, green, red] = targets - middle;
+  const Lanes toMiddle = squared(blue) + squared(green) + squared(red);
+  const EightColors offsets = flattened - middle;
+  const Lanes reach = folded(offsets.blue) + folded(offsets.green) + folded(offsets.red) + Lanes::all(3);
+  const Lanes mostDifference = Lanes::all(3 * 128 * 128) + (reach << 8);
+  return Lanes::all(std::numeric_limits<std::int32_t>::max()) - mostDifference < folded(toMiddle);
 }
 
 }  // namespace
@@ -54,19 +57,25 @@ Lanes NearestEntry::findFar(const EightColors& targets) {
   // Below half this distance from the middle of the cube no squared distance reaches 2^31.
   constexpr std::int16_t kNeverWraps = 13000;
   const FarGrid::Distances distances = FarGrid::distancesOf(targets);
-  const bool areOrdered = areZero(Shorts::all(kNeverWraps) < distances);
-  return areOrdered ? findOrdered(targets, distances) : findFarther(targets, distances);
+  if (flat_.areFlat() || !areZero(Shorts::all(kNeverWraps) < distances)) {
+    return findFarther(targets);
+  }
+  return far_->find(targets, distances);
 }
 
-Lanes NearestEntry::findFarther(const EightColors& targets, FarGrid::Distances distances) {
-  const Lanes mustScan = widened(distances == Shorts::all(FarGrid::kBeyond)) | mayWrapDifferently(targets);
+Lanes NearestEntry::findFarther(const EightColors& targets) {
+  const auto flatten = [this](const EightColors& colors) { return flat_.areFlat() ? flat_.flattened(colors) : colors; };
+  const EightColors flattened = flatten(targets);
+  const FarGrid::Distances distances = FarGrid::distancesOf(flattened);
+  const Lanes mustScan = widened(distances == Shorts::all(FarGrid::kBeyond)) |
+                         mayWrapDifferently(targets, flattened, flatten(EightColors::all(kMiddle)));
   if (areZero(mustScan)) {
-    return findOrdered(targets, distances);
+    return findOrdered(flattened, distances);
   }
+  const EightColors ordered = flattened & ~mustScan;
+  EightNumbers found = numbersOf(findOrdered(ordered, FarGrid::distancesOf(ordered)));
   const std::array channels{numbersOf(targets.blue), numbersOf(targets.green), numbersOf(targets.red)};
   const EightNumbers areScanned = numbersOf(mustScan);
-  const EightColors ordered = targets & ~mustScan;
-  EightNumbers found = numbersOf(findOrdered(ordered, FarGrid::distancesOf(ordered)));
   for (std::size_t lane = 0; lane < found.size(); ++lane) {
     if (areScanned[lane] != 0) {
       found[lane] = scan_.nearest({channels[0][lane], channels[1][lane], channels[2][lane]});
@@ -76,11 +85,9 @@ Lanes NearestEntry::findFarther(const EightColors& targets, FarGrid::Distances d
 }
 
 Lanes NearestEntry::findOrdered(const EightColors& targets, FarGrid::Distances distances) {
-  if (!flat_.areFlat() || hasFewColors()) {
-    return far_->find(targets, distances);
-  }
-  const EightColors flattened = flat_.flattened(targets);
-  return NearGrid::has(flattened) ? near_->find(flattened) : far_->find(flattened, FarGrid::distancesOf(flattened));
+  // Flat colors bring targets back to them.
+  const bool isNear = flat_.areFlat() && near_ && NearGrid::has(targets);
+  return isNear ? near_->find(targets) : far_->find(targets, distances);
 }
 
 }  // namespace quillhue
