@@ -18,23 +18,55 @@ constexpr std::size_t kShort = 16;
 // Words whose comparisons fit into 64 bits.
 constexpr std::size_t kBlock = 64;
 
+// Words of another range, in its order or the reverse one.
+struct Run {
+  const ColorWord* first;
+  std::ptrdiff_t step;
+  std::size_t size;
+
+  [[nodiscard]] ColorWord at(std::size_t place) const { return first[static_cast<std::ptrdiff_t>(place) * step]; }
+  // Returns `count` of the words from the place `start` on, in reverse order.
+  [[nodiscard]] Run reversed(std::size_t start, std::size_t count) const {
+    return {first + static_cast<std::ptrdiff_t>(start + count - 1) * step, -step, count};
+  }
+};
+
+// Writes `head` and the words of `run` in the order in which quicksort leaves them if all their keys are equal. Each
+// step of quicksort exchanges the head with the word in the middle, reverses all words but the head, and divides them.
+void writeEqual(ColorWord head, const Run& run, ColorWord* out) {
+  const std::size_t size = run.size + 1;
+  if (size <= kShort) {
+    *out = head;
+    for (std::size_t i = 0; i < run.size; ++i) {
+      out[i + 1] = run.at(i);
+    }
+    return;
+  }
+  const std::size_t cut = 1 + run.size / 2;
+  writeEqual(run.at(size / 2 - 1), run.reversed(size - cut, cut - 1), out);
+  writeEqual(head, run.reversed(0, size - cut - 1), out + cut);
+}
+
 class ByteSort {
  public:
-  explicit ByteSort(unsigned byte) : shift_(8 * byte) {}
+  // Leaves the words outside `needed`, a part of the words to sort, in any order.
+  ByteSort(unsigned byte, std::span<const ColorWord> needed) : shift_(8 * byte), needed_(needed) {}
 
-  void sort(std::span<ColorWord> words) const {
-    const auto depth = static_cast<int>(2 * std::bit_width(words.size()));
-    sortRoughly(words, depth - 2, false);
-    insertionSort(words);
-  }
+  void sort(std::span<ColorWord> words) { sort(words, 2 * widthOf(words.size()) - 2, false); }
 
  private:
+  [[nodiscard]] static int widthOf(std::size_t size) { return static_cast<int>(std::bit_width(size)); }
   [[nodiscard]] std::uint32_t keyOf(ColorWord word) const { return word >> shift_ & 0xFF; }
 
-  // Leaves each word at most kShort places away from where it belongs. `depth` is how deep quicksort may go.
-  // If `areEqual`, all keys are known to be equal.
-  void sortRoughly(std::span<ColorWord> words, int depth, bool areEqual) const {
+  // `depth` is how deep quicksort may go. If `areEqual`, all keys are known to be equal.
+  void sort(std::span<ColorWord> words, int depth, bool areEqual) {
+    const bool isNeeded =
+        words.data() < needed_.data() + needed_.size() && needed_.data() < words.data() + words.size();
+    if (!isNeeded) {
+      return;
+    }
     if (words.size() <= kShort) {
+      insertionSort(words);
       return;
     }
     if (depth == 0) {
@@ -49,11 +81,16 @@ class ByteSort {
       }
       areEqual = keyOf(differences) == 0;
     }
+    if (areEqual && words.size() <= source_.size() && depth >= widthOf(words.size())) {
+      std::ranges::copy(words, source_.begin());
+      writeEqual(source_.front(), {&source_[1], 1, words.size() - 1}, words.data());
+      return;
+    }
     moveMedianToFront(words);
     const auto rest = words.subspan(1);
     const std::size_t cut = 1 + (areEqual ? reverse(rest) : partition(rest, keyOf(words.front())));
-    sortRoughly(words.subspan(cut), depth - 1, areEqual);
-    sortRoughly(words.first(cut), depth - 1, areEqual);
+    sort(words.subspan(cut), depth - 1, areEqual);
+    sort(words.first(cut), depth - 1, areEqual);
   }
 
   // Exchanges the first word with the median of the second, the middle and the last one. The choice among equal words
@@ -102,31 +139,37 @@ class ByteSort {
     while (right - left > 2 * kBlock) {
       const auto leftBlock = words.subspan(left).first<kBlock>();
       const auto rightBlock = words.first(right).last<kBlock>();
-      fromLeft = fromLeft != 0 ? fromLeft : ~lessThan(leftBlock, pivot);
-      fromRight = fromRight != 0 ? fromRight : lessThan(rightBlock, pivot + 1);
+      fromLeft = fromLeft != 0 ? fromLeft : ~lessThan<false>(leftBlock, pivot);
+      fromRight = fromRight != 0 ? fromRight : lessThan<true>(rightBlock, pivot + 1);
       while (fromLeft != 0 && fromRight != 0) {
-        const auto first = static_cast<std::size_t>(std::countr_zero(fromLeft));
-        const auto last = static_cast<std::size_t>(std::bit_width(fromRight)) - 1;
-        std::swap(leftBlock[first], rightBlock[last]);
+        std::swap(leftBlock[lowestBit(fromLeft)], rightBlock[kBlock - 1 - lowestBit(fromRight)]);
         fromLeft &= fromLeft - 1;
-        fromRight ^= std::uint64_t{1} << last;
+        fromRight &= fromRight - 1;
       }
       left += fromLeft == 0 ? kBlock : 0;
       right -= fromRight == 0 ? kBlock : 0;
     }
     // Exchanged words must not be compared again: they may equal the pivot.
-    left += fromLeft != 0 ? static_cast<std::size_t>(std::countr_zero(fromLeft)) : 0;
-    right -= fromRight != 0 ? kBlock - static_cast<std::size_t>(std::bit_width(fromRight)) : 0;
+    left += fromLeft != 0 ? lowestBit(fromLeft) : 0;
+    right -= fromRight != 0 ? lowestBit(fromRight) : 0;
     return meet(words, left, right, pivot);
   }
 
-  // Returns a bit for each word, the lowest for the first: 1 if its key is less than `limit`.
+  [[nodiscard]] static std::size_t lowestBit(std::uint64_t bits) {
+    return static_cast<std::size_t>(std::countr_zero(bits));
+  }
+
+  // Returns a bit for each word, the lowest for the first, or for the last if `isReversed`: 1 if its key is less than
+  // `limit`.
+  template <bool isReversed>
   [[nodiscard]] std::uint64_t lessThan(std::span<const ColorWord, kBlock> words, std::uint32_t limit) const {
     const __m128i shift = _mm_cvtsi32_si128(static_cast<int>(shift_));
     const __m128i limits = _mm_set1_epi32(static_cast<int>(limit));
     const auto four = [&](std::size_t place) {
-      const auto keys =
-          std::bit_cast<__m128i>(std::array{words[place], words[place + 1], words[place + 2], words[place + 3]});
+      const std::size_t start = isReversed ? kBlock - 4 - place : place;
+      const auto inOrder =
+          std::bit_cast<__m128i>(std::array{words[start], words[start + 1], words[start + 2], words[start + 3]});
+      const __m128i keys = isReversed ? _mm_shuffle_epi32(inOrder, _MM_SHUFFLE(0, 1, 2, 3)) : inOrder;
       return _mm_cmplt_epi32(_mm_and_si128(_mm_srl_epi32(keys, shift), _mm_set1_epi32(0xFF)), limits);
     };
     std::uint64_t bits = 0;
@@ -168,10 +211,19 @@ class ByteSort {
   }
 
   unsigned shift_;
+  std::span<const ColorWord> needed_;
+  // Equal words to be written in another order. In larger ranges they are moved step by step.
+  std::array<ColorWord, 8192> source_{};
 };
 
 }  // namespace
 
-void sortByByte(std::span<ColorWord> words, unsigned byte) { ByteSort(byte).sort(words); }
+void sortByByte(std::span<ColorWord> words, unsigned byte) { ByteSort(byte, words).sort(words); }
+
+void sortMiddleByByte(std::span<ColorWord> words, unsigned byte) {
+  if (!words.empty()) {
+    ByteSort(byte, words.subspan((words.size() - 1) / 2, 2 - words.size() % 2)).sort(words);
+  }
+}
 
 }  // namespace quillhue

@@ -11,8 +11,11 @@ namespace quillhue {
 /// words.
 ///
 /// The algorithm is introsort (D. Musser, 1997): quicksort with the median of three words as the pivot down to 16
-/// words, heapsort if that goes too deep, and an insertion sort at the end. Words are compared in blocks as in
+/// words, heapsort if that goes too deep, and an insertion sort of what is left. Words are compared in blocks as in
 /// BlockQuicksort (S. Edelkamp, A. Weiss, 2016), which exchanges the same pairs as C. A. R. Hoare's partition.
 void sortByByte(std::span<ColorWord> words, unsigned byte);
+
+/// Moves only the middle word to its place, or the two middle words of an even number. Permutes the others.
+void sortMiddleByByte(std::span<ColorWord> words, unsigned byte);
 
 }  // namespace quillhue

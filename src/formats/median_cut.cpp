@@ -52,7 +52,7 @@ class MedianCut {
       target -= addedByHalf;
       words = words.subspan(half);
     }
-    sortBySplitChannel(words);
+    sortMiddleByByte(words, splitChannel(words));
     return added + addMedian(words);
   }
 
