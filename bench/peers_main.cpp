@@ -67,6 +67,15 @@ void saveImage(const std::filesystem::path& folder, const std::string& name, con
        pixmapOf(static_cast<std::size_t>(image.width()), static_cast<std::size_t>(image.height()), colorsOf(image)));
 }
 
+void savePalette(const std::filesystem::path& folder, const std::string& name, const Palette& palette) {
+  save(folder / (name + ".gpl"), composePaletteFile(palette, kGimpWriter.format, {}).value());
+  std::vector<PaletteEntry> colors = entriesOf(palette);
+  save(folder / (name + ".ppm"), pixmapOf(colors.size(), 1, colors));
+  // For programs that need 256 entries in a square. Repeating the last color adds no color.
+  colors.resize(256, colors.back());
+  save(folder / (name + "-square.ppm"), pixmapOf(16, 16, colors));
+}
+
 void make(const std::filesystem::path& folder) {
   for (const bench::ImageSize size : {bench::kLarge, bench::kMedium}) {
     saveImage(folder, nameOf(size), bench::photoLikeImage(size));
@@ -75,15 +84,9 @@ void make(const std::filesystem::path& folder) {
   saveImage(folder, "pixel-art", bench::pixelArtImage(bench::kLarge));
   saveImage(folder, "noise", bench::noiseImage(bench::kLarge));
   for (const bench::BenchPalette& row : bench::benchPalettes()) {
-    const Palette palette = row.create(bench::kLarge);
-    const std::string name(row.name);
-    save(folder / (name + ".gpl"), composePaletteFile(palette, kGimpWriter.format, {}).value());
-    std::vector<PaletteEntry> colors = entriesOf(palette);
-    save(folder / (name + ".ppm"), pixmapOf(colors.size(), 1, colors));
-    // For programs that need 256 entries in a square. Repeating the last color adds no color.
-    colors.resize(256, colors.back());
-    save(folder / (name + "-square.ppm"), pixmapOf(16, 16, colors));
+    savePalette(folder, std::string(row.name), row.create(bench::kLarge));
   }
+  savePalette(folder, "wide-256", bench::withCorners(bench::benchPalettes()[1].create(bench::kLarge)));
 }
 
 WorkImage loadFile(const std::string& file) { return loadImage(*openFile(fromUtf8(file)).value()).value(); }

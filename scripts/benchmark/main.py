@@ -17,16 +17,18 @@ ROUNDS = 9
 ENOUGH_SECONDS = 5
 PALETTES = ["regular-216", "adaptive-256", "adaptive-16"]
 WORKS = [(mode, palette) for mode in ("nearest", "dither") for palette in PALETTES]
-# Images of other kinds. The adaptive palette is that of the photo-like image.
+# Images of other kinds. The adaptive palette is that of the photo-like image, and the wide one too, but for the corners.
 OTHER_WORKS = [
     (mode, palette, image)
-    for image in ("smooth", "pixel-art", "noise")
-    for palette in ("regular-216", "adaptive-256")
+    for image, palette in (
+        *((image, palette) for image in ("smooth", "pixel-art", "noise") for palette in ("regular-216", "adaptive-256")),
+        ("pixel-art", "wide-256"),
+    )
     for mode in ("nearest", "dither")
 ]
 OTHER_PEERS = ("ffmpeg", "Pillow")
 BATCH_IMAGES = 200
-BATCH_ROUNDS = 3
+BATCH_ROUNDS = 5
 
 
 def measure_sides(build, folder, product, peers):
@@ -140,7 +142,7 @@ def main():
     measure_others(folder, product, peers, runs)
     batch = measure_batch(build, folder)
     print("Plain loops", file=sys.stderr)
-    benchmarks = measure_benchmarks(build, "^(remap|noise|setup|plain-read|loader)/")
+    benchmarks = measure_benchmarks(build, "^(remap|noise|reduce|setup|plain-read|loader)/")
     out.write_text(report.compose(candidates, PALETTES, runs, faults, benchmarks, OTHER_WORKS, batch), encoding="utf-8")
 
 

@@ -129,6 +129,19 @@ def behind_line(works, medians):
     return "Quillhue is slower here:\n" + ";\n".join(slower) + "." if slower else "Quillhue is the fastest in each row."
 
 
+def far_line(medians):
+    """Compares dithering with a palette that does not span the image with palettes that do."""
+    seconds = {
+        palette: medians.seconds("Quillhue", ("dither", palette, "pixel-art"))
+        for palette in ("adaptive-256", "wide-256", "regular-216")
+    }
+    wide, regular = (shown(seconds["adaptive-256"] / seconds[palette]) for palette in ("wide-256", "regular-216"))
+    return (
+        f"Dithering pixel art onto the adaptive palette takes {wide} times as long as onto the wide palette of as many\n"
+        f"entries, and {regular} times as long as onto the regular colors."
+    )
+
+
 def batch_table(batch):
     verbs = {"remap": "remap, error diffusion", "convert": "convert, 256 colors by median cut", "info": "info"}
     rows = [
@@ -156,6 +169,9 @@ def literal_table(benchmarks):
         words = MODES.get(mode) or mode.replace("dither-protecting-", "error diffusion protecting a ")
         label = f"{words}, {palette}" + (", uniform noise" if kind == "noise" else "")
         rows.append([label] + [shown(found.get(size)) for size in SIZES])
+    for colors in (256, 16):
+        factor = benchmarks[f"reduce/literal/{colors}"] / benchmarks[f"reduce/product/{colors}"]
+        rows.append([f"{colors} colors by median cut", shown(factor), NOT_MEASURED, NOT_MEASURED])
     return table([""] + SIZES, rows)
 
 
@@ -206,10 +222,14 @@ def other_sections(works, medians, batch):
     return f"""## Other kinds of images
 
 Gradients without noise, a game screen in 48 colors, and uniform noise. The adaptive palette is that of the photo-like
-image, so it does not span the colors of these. The first number of each mode is Quillhue's time in milliseconds.
+image, so it does not span the colors of these, and the errors of dithering run far out of the color cube. The wide
+palette is the same with the eight corners of the cube in place of the nearest entries. The first number of each mode is
+Quillhue's time in milliseconds.
 
 {other_table(works, medians)}
 {behind_line(works, medians)}
+
+{far_line(medians)}
 
 ## Many images
 
@@ -248,7 +268,8 @@ blue. A comparison with all entries finds the nearest ones; any of several equal
 {fault_table(peers, palettes, faults)}
 {other_sections(other_works, medians, batch)}## Against plain loops
 
-Loops over all pixels and all entries define Quillhue's result. They are in `tests/support/literal_remap.cpp`.
+Loops over all pixels and all entries define Quillhue's result. They are in `tests/support/literal_remap.cpp`. The median
+cut is compared with one that sorts with the standard library, in `tests/support/image_color_cases.cpp`.
 
 {literal_table(benchmarks)}
 {setup_line(benchmarks)}

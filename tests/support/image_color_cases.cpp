@@ -145,4 +145,8 @@ std::string differenceOfColors(CaseBytes& bytes) {
   return difference.empty() && bits == 24 ? differs(ImageColors(loadImage(source).value())) : difference;
 }
 
+std::string plainlyReduced(const std::vector<ColorWord>& words, std::int32_t size) {
+  return SortedImage(words).reduced(size, {});
+}
+
 }  // namespace quillhue
