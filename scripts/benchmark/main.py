@@ -2,6 +2,7 @@
 
 import json
 import os
+import shutil
 import subprocess
 import sys
 import time
@@ -74,10 +75,10 @@ def measure_batch(build, folder):
         link = images / f"{number}.bmp"
         if not link.exists():
             os.link(folder / f"{sides.MEDIUM}.bmp", link)
-    to_folder = ["--out-dir", folder / "results", "--force"]
+    results = folder / "results"
     verbs = {
-        "remap": ["--palette", folder / "regular-216.gpl", "--mode", "dither", *to_folder],
-        "convert": ["--colors", "reduce", "--format", "gimp", *to_folder],
+        "remap": ["--palette", folder / "regular-216.gpl", "--mode", "dither", "--out-dir", results],
+        "convert": ["--colors", "reduce", "--format", "gimp", "--out-dir", results],
         "info": [],
     }
     taken = defaultdict(list)
@@ -85,6 +86,7 @@ def measure_batch(build, folder):
         print(f"Many images, round {number + 1} of {BATCH_ROUNDS}", file=sys.stderr)
         for verb, options in verbs.items():
             for jobs in (1, 2):
+                shutil.rmtree(results, ignore_errors=True)
                 start = time.monotonic()
                 sides.Run([build / "src/quillhue-cli", verb, images, *options, "--jobs", str(jobs)])
                 taken[verb, jobs].append(time.monotonic() - start)

@@ -234,7 +234,8 @@ Quillhue's time in milliseconds.
 ## Many images
 
 Seconds that `quillhue-cli` takes for 200 images of {sides.MEDIUM}, and the throughput of two jobs as a multiple of that
-of one. These are seconds of the clock, so they depend on what else runs.
+of one. These are seconds of the clock, so they depend on what else runs. All results are new files: the tool replaces a
+file only when the disk has stored the new one, and waiting for the disk does not get faster with jobs.
 
 {batch_table(batch)}
 """
