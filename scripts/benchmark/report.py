@@ -117,16 +117,16 @@ def other_table(works, medians):
     return table([""] + [f"{words}: {side}" for words in MODES.values() for side in ["ms", *others]], rows)
 
 
-def behind_line(works, medians):
-    """Says in words where a peer is faster."""
-    slower = [
-        f"{MODES[mode]} of {image.replace('-', ' ')} onto {palette} ({name}: {shown(factor)})"
-        for name in ("ffmpeg", "Pillow")
-        for mode, palette, image in works
-        if (factor := ratio(medians.remapping(name, (mode, palette, image)), medians.seconds("Quillhue", (mode, palette, image))))
-        and factor < 1
-    ]
-    return "Quillhue is slower here:\n" + ";\n".join(slower) + "." if slower else "Quillhue is the fastest in each row."
+def behind_line(works, names, medians):
+    """Says in words where a peer is faster. A work is a mode, a palette and, for other images, the image."""
+    slower = []
+    for name in names:
+        for work in works:
+            factor = ratio(medians.remapping(name, work), medians.seconds("Quillhue", work))
+            if factor and factor < 1:
+                image = f" of {work[2].replace('-', ' ')}" if len(work) > 2 else ""
+                slower.append(f"{MODES[work[0]]}{image} onto {work[1]} ({name}: {shown(factor)})")
+    return "Quillhue is slower here:\n" + ";\n".join(slower) + "." if slower else "Quillhue is the fastest in each case."
 
 
 def far_line(medians):
@@ -227,15 +227,16 @@ palette is the same with the eight corners of the cube in place of the nearest e
 Quillhue's time in milliseconds.
 
 {other_table(works, medians)}
-{behind_line(works, medians)}
+{behind_line(works, ["ffmpeg", "Pillow"], medians)}
 
 {far_line(medians)}
 
 ## Many images
 
 Seconds that `quillhue-cli` takes for 200 images of {sides.MEDIUM}, and the throughput of two jobs as a multiple of that
-of one. These are seconds of the clock, so they depend on what else runs. All results are new files: the tool replaces a
-file only when the disk has stored the new one, and waiting for the disk does not get faster with jobs.
+of one. These are seconds of the clock, of the fastest of five runs, because whatever else runs slows the others down. All
+results are new files: the tool replaces a file only when the disk has stored the new one, and waiting for the disk does
+not get faster with jobs.
 
 {batch_table(batch)}
 """
@@ -257,6 +258,8 @@ the regular 216 colors, and 256 and 16 colors that Quillhue's median cut makes f
 ## Against other programs
 
 {peer_table(peers, palettes, medians)}
+{behind_line([(mode, palette) for mode in MODES for palette in palettes], [peer.name for peer in peers], medians)}
+
 This table compares the remapping alone. Quillhue and the libraries are timed inside the process, around one call, with
 the image in memory. Programs are timed as a whole, without writing an output. The time that the same program takes for
 everything but the remapping, measured in the same rounds, is then subtracted: it decodes the image and drops it (ffmpeg
@@ -270,7 +273,8 @@ blue. A comparison with all entries finds the nearest ones; any of several equal
 {other_sections(other_works, medians, batch)}## Against plain loops
 
 Loops over all pixels and all entries define Quillhue's result. They are in `tests/support/literal_remap.cpp`. The median
-cut is compared with one that sorts with the standard library, in `tests/support/image_color_cases.cpp`.
+cut is compared with one that sorts with the standard library, in `tests/support/image_color_cases.cpp`. A number below 1
+is a case in which the plain loops are faster: in small images of noise, few pixels have colors like earlier ones.
 
 {literal_table(benchmarks)}
 {setup_line(benchmarks)}
