@@ -47,19 +47,28 @@ void writeEqual(ColorWord head, const Run& run, ColorWord* out) {
   writeEqual(head, run.reversed(0, size - cut - 1), out + cut);
 }
 
+// Larger ranges of words with equal keys are moved step by step.
+constexpr std::size_t kMostWritten = 8192;
+
+void sortEqual(std::span<ColorWord> words) {
+  std::array<ColorWord, kMostWritten> source;
+  std::ranges::copy(words, source.begin());
+  writeEqual(source.front(), {&source[1], 1, words.size() - 1}, words.data());
+}
+
 class ByteSort {
  public:
   // Leaves the words outside `needed`, a part of the words to sort, in any order.
   ByteSort(unsigned byte, std::span<const ColorWord> needed) : shift_(8 * byte), needed_(needed) {}
 
-  void sort(std::span<ColorWord> words) { sort(words, 2 * widthOf(words.size()) - 2, false); }
+  void sort(std::span<ColorWord> words) const { sort(words, 2 * widthOf(words.size()) - 2, false); }
 
  private:
   [[nodiscard]] static int widthOf(std::size_t size) { return static_cast<int>(std::bit_width(size)); }
   [[nodiscard]] std::uint32_t keyOf(ColorWord word) const { return word >> shift_ & 0xFF; }
 
   // `depth` is how deep quicksort may go. If `areEqual`, all keys are known to be equal.
-  void sort(std::span<ColorWord> words, int depth, bool areEqual) {
+  void sort(std::span<ColorWord> words, int depth, bool areEqual) const {
     const bool isNeeded =
         words.data() < needed_.data() + needed_.size() && needed_.data() < words.data() + words.size();
     if (!isNeeded) {
@@ -81,9 +90,8 @@ class ByteSort {
       }
       areEqual = keyOf(differences) == 0;
     }
-    if (areEqual && words.size() <= source_.size() && depth >= widthOf(words.size())) {
-      std::ranges::copy(words, source_.begin());
-      writeEqual(source_.front(), {&source_[1], 1, words.size() - 1}, words.data());
+    if (areEqual && words.size() <= kMostWritten && depth >= widthOf(words.size())) {
+      sortEqual(words);
       return;
     }
     moveMedianToFront(words);
@@ -212,8 +220,6 @@ class ByteSort {
 
   unsigned shift_;
   std::span<const ColorWord> needed_;
-  // Equal words to be written in another order. In larger ranges they are moved step by step.
-  std::array<ColorWord, 8192> source_{};
 };
 
 }  // namespace
