@@ -41,8 +41,8 @@ class alignas(64) ColorGroup {
   std::array<ListedColors, 2> colors_;
 };
 
-/// Lists of the colors that can be the nearest to some targets. Equal lists are one, which keeps them few enough for
-/// the processor's fastest cache. A list has an origin, and its targets are given relative to it: as keys have 32 bits,
+/// Lists of the colors that can be the nearest to some targets. Equal lists are one, because the
+/// processor's caches are small. A list has an origin, and its targets are given relative to it: as keys have 32 bits,
 /// they must be from -2048 to 2047 in each channel.
 class CandidateLists {
  public:

@@ -16,8 +16,8 @@ class FlatColors {
 
   [[nodiscard]] bool areFlat() const { return areGreys_ || areEqual_; }
 
-  /// Returns targets nearer to the colors, whose distances from a target have the same order as before. Squared
-  /// distances must not wrap.
+  /// Returns targets nearer to the colors, or the same if the colors are not flat. All true squared distances from a
+  /// target change by the same amount.
   [[nodiscard]] EightColors flattened(const EightColors& targets) const;
 
  private:

@@ -108,12 +108,10 @@ struct Shorts {
   friend Shorts operator<(Shorts a, Shorts b) { return {_mm_cmplt_epi16(a.eight, b.eight)}; }
 };
 
-/// Returns the low or high 16 bits of products.
-[[nodiscard]] inline Shorts lowProducts(Shorts a, Shorts b) { return {_mm_mullo_epi16(a.eight, b.eight)}; }
+/// Returns the high 16 bits of products.
 [[nodiscard]] inline Shorts highProducts(Shorts a, Shorts b) { return {_mm_mulhi_epi16(a.eight, b.eight)}; }
 
 [[nodiscard]] inline Shorts greaterOf(Shorts a, Shorts b) { return {_mm_max_epi16(a.eight, b.eight)}; }
-[[nodiscard]] inline Shorts lesserOf(Shorts a, Shorts b) { return {_mm_min_epi16(a.eight, b.eight)}; }
 
 /// Returns the numbers clamped to 16 bits.
 [[nodiscard]] inline Shorts packed(Lanes lanes) { return {_mm_packs_epi32(lanes.low, lanes.high)}; }

@@ -8,8 +8,6 @@ namespace quillhue {
 
 namespace {
 
-constexpr ColorVector kMiddle{128, 128, 128};
-
 Lanes squared(Lanes numbers) {
   const auto four = [](__m128i half) {
     const __m128i odd = _mm_srli_epi64(half, 32);
@@ -37,7 +35,10 @@ Lanes mayWrapDifferently(const EightColors& targets, const EightColors& flattene
 }  // namespace
 
 NearestEntry::NearestEntry(std::span<const PaletteEntry> colors, std::size_t listBytes)
-    : scan_(colors), flat_(colors), lists_(scan_, listBytes) {
+    : scan_(colors),
+      flat_(colors),
+      middle_(flat_.flattened(EightColors::all({128, 128, 128}))),
+      lists_(scan_, listBytes) {
   if (hasFewColors()) {
     for (std::size_t i = 0; i < colors.size(); ++i) {
       const ColorVector factor{colors[i].blue << (kFewBits + 1), colors[i].green << (kFewBits + 1),
@@ -58,17 +59,16 @@ Lanes NearestEntry::findFar(const EightColors& targets) {
   constexpr std::int16_t kNeverWraps = 13000;
   const FarGrid::Distances distances = FarGrid::distancesOf(targets);
   if (flat_.areFlat() || !areZero(Shorts::all(kNeverWraps) < distances)) {
-    return findFarther(targets);
+    return findOrScan(targets);
   }
   return far_->find(targets, distances);
 }
 
-Lanes NearestEntry::findFarther(const EightColors& targets) {
-  const auto flatten = [this](const EightColors& colors) { return flat_.areFlat() ? flat_.flattened(colors) : colors; };
-  const EightColors flattened = flatten(targets);
+Lanes NearestEntry::findOrScan(const EightColors& targets) {
+  const EightColors flattened = flat_.flattened(targets);
   const FarGrid::Distances distances = FarGrid::distancesOf(flattened);
-  const Lanes mustScan = widened(distances == Shorts::all(FarGrid::kBeyond)) |
-                         mayWrapDifferently(targets, flattened, flatten(EightColors::all(kMiddle)));
+  const Lanes mustScan =
+      widened(distances == Shorts::all(FarGrid::kBeyond)) | mayWrapDifferently(targets, flattened, middle_);
   if (areZero(mustScan)) {
     return findOrdered(flattened, distances);
   }
@@ -85,9 +85,8 @@ Lanes NearestEntry::findFarther(const EightColors& targets) {
 }
 
 Lanes NearestEntry::findOrdered(const EightColors& targets, FarGrid::Distances distances) {
-  // Flat colors bring targets back to them.
-  const bool isNear = flat_.areFlat() && near_ && NearGrid::has(targets);
-  return isNear ? near_->find(targets) : far_->find(targets, distances);
+  // Flattened targets may be near.
+  return near_ && NearGrid::has(targets) ? near_->find(targets) : far_->find(targets, distances);
 }
 
 }  // namespace quillhue

@@ -21,7 +21,7 @@ class NearestEntry {
   /// Comparing all colors is faster than using lists for up to this number of colors.
   static constexpr std::size_t kFewColors = 24;
 
-  /// Takes at least one color. Lists of candidates use at most about `listBytes`; tables use 130 KiB, and 610 KiB
+  /// Takes at least one color. Lists of candidates use at most about `listBytes`; tables use 130 KiB, and 595 KiB
   /// more for targets far outside the color cube.
   NearestEntry(std::span<const PaletteEntry> colors, std::size_t listBytes);
   NearestEntry(const NearestEntry&) = delete;
@@ -53,12 +53,15 @@ class NearestEntry {
   static_assert(kFewColors <= 1 << kFewBits);
 
   [[gnu::noinline]] Lanes findFar(const EightColors& targets);
-  [[nodiscard, gnu::noinline]] Lanes findFarther(const EightColors& targets);
+  // Compares targets with all colors where distances may wrap differently.
+  [[nodiscard, gnu::noinline]] Lanes findOrScan(const EightColors& targets);
   // Takes targets whose wrapped distances have the same order as the true ones.
   [[nodiscard]] Lanes findOrdered(const EightColors& targets, FarGrid::Distances distances);
 
   ColorScan scan_;
   FlatColors flat_;
+  // The middle of the color cube, flattened.
+  EightColors middle_;
   std::vector<FewColor> few_;
   CandidateLists lists_;
   // Only with many colors.
