@@ -18,8 +18,8 @@ struct BenchPalette {
 /// No color can be dithered onto the greys, so errors leave the color cube for good.
 [[nodiscard]] const std::array<BenchPalette, 4>& benchPalettes();
 
-/// Returns the palette with the eight corners of the color cube in place of the entries nearest to them. No error of
-/// dithering is beyond its colors for long.
+/// Returns the palette with the eight corners of the color cube in place of the entries nearest to them. It has at
+/// least eight entries.
 [[nodiscard]] Palette withCorners(Palette palette);
 
 }  // namespace quillhue::bench

@@ -19,7 +19,8 @@ then creates the controls of its three pages, about fifty windows. Dragging and 
 time is a mean of 100. Other programs disturb the fastest runs least.
 
 A trace of Wine, made once, shows what the editor's start has in addition: about 6 ms for the common controls, 9 ms for the
-menu bar, whose font is loaded for it, and 12 ms for the status bar and the five buttons of the first screen.
+menu bar, whose font is loaded for it, and 12 ms for the status bar and the five buttons of the first screen. Tracing slows
+all of it.
 
 | | editor: fastest | median | empty window: fastest | median | ratio of the fastest starts |
 | --- | --: | --: | --: | --: | --: |"""

@@ -8,7 +8,6 @@ import sys
 import time
 from collections import defaultdict
 from pathlib import Path
-from statistics import median
 
 import report
 import sides
