@@ -50,7 +50,6 @@ NumberField::NumberField(HWND parent, HFONT font, DWORD style, DWORD arrowStyle)
                         {.windowClass = UPDOWN_CLASSW,
                          .style = UDS_ARROWKEYS | UDS_ALIGNRIGHT | UDS_SETBUDDYINT | UDS_NOTHOUSANDS | arrowStyle})),
       font_(font) {
-  SendMessageW(arrows_.get(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(field_.get()), 0);
   useRange(range_);
   setValue(0);
 }
@@ -120,7 +119,7 @@ void NumberField::fitText() {
 
 void NumberField::move(const Rect& box) {
   moveTo(field_.get(), box);
-  // Setting the buddy again moves the arrows to the field's new position.
+  // Moves the arrows to the field's new position.
   SendMessageW(arrows_.get(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(field_.get()), 0);
   fitText();
 }

@@ -87,7 +87,6 @@ UseTab::UseTab(WindowContext& context)
   saveAs_ = addButton("&Save as...", WS_TABSTOP | BS_PUSHBUTTON, &UseLayout::saveAs);
   status_ = add(L"Static", {}, SS_NOPREFIX | WS_CLIPSIBLINGS, &UseLayout::status);
   add(L"Static", {}, WS_CLIPSIBLINGS, &UseLayout::surface);
-  tick(modes_[RemapMode::maintain], true);
   gridWidth_.setRange(kGridSides);
   gridWidth_.setValue(kFirstGrid.width);
   gridHeight_.setRange(kGridSides);

@@ -65,7 +65,12 @@ void passToChildren(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
 
 bool isTicked(HWND button) { return SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED; }
 
-void tick(HWND button, bool ticked) { SendMessageW(button, BM_SETCHECK, ticked ? BST_CHECKED : BST_UNCHECKED, 0); }
+void tick(HWND button, bool ticked) {
+  // A radio button that is ticked unticks the others of its group, which takes long in a window with many controls.
+  if (isTicked(button) != ticked) {
+    SendMessageW(button, BM_SETCHECK, ticked ? BST_CHECKED : BST_UNCHECKED, 0);
+  }
+}
 
 void addItem(HWND combo, std::string_view text) {
   SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(fromUtf8(text).c_str()));
