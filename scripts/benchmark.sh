@@ -12,7 +12,7 @@ for peer in imagemagick graphicsmagick netpbm ffmpeg pngquant python3-pil; do
 done
 "$root/scripts/build.sh" bench
 "$root/scripts/need.sh" googletest g++-mingw-w64-x86-64-posix wine wine64 fonts-dejavu-core fonts-wine xvfb
-"$root/scripts/build.sh" windows quillhue empty_window editor_bench
+"$root/scripts/build.sh" windows quillhue empty_window first_window editor_bench
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 # The system's interpreter, which finds the system's Pillow. The other programs run with one thread, like the product.

@@ -1,5 +1,5 @@
-// editor_bench ROUNDS EMPTY EDITOR PALETTE: starts both programs in turns, and prints a line "PROGRAM WORK
-// MILLISECONDS" for each measurement. PROGRAM is `empty` or `editor`. PALETTE is a file for the editor.
+// editor_bench ROUNDS EMPTY FIRST EDITOR PALETTE: starts the three programs in turns, and prints a line "PROGRAM WORK
+// MILLISECONDS" for each measurement. PROGRAM is `empty`, `first` or `editor`. PALETTE is a file for the editor.
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
@@ -146,8 +146,8 @@ std::wstring quoted(const wchar_t* file) { return std::wstring(L"\"") + file + L
 }  // namespace
 
 int wmain(int count, wchar_t** arguments) {
-  if (count != 5) {
-    std::fputs("usage: editor_bench ROUNDS EMPTY EDITOR PALETTE\n", stderr);
+  if (count != 6) {
+    std::fputs("usage: editor_bench ROUNDS EMPTY FIRST EDITOR PALETTE\n", stderr);
     return 2;
   }
   try {
@@ -157,7 +157,8 @@ int wmain(int count, wchar_t** arguments) {
     }
     for (int round = std::stoi(arguments[1]); round > 0; --round) {
       measureEmpty(quoted(arguments[2]));
-      measureEditor(quoted(arguments[3]), arguments[4]);
+      print("first", "start", Program(quoted(arguments[3])).startTime());
+      measureEditor(quoted(arguments[4]), arguments[5]);
     }
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
