@@ -11,7 +11,7 @@ check() {
   fi
   case $header in
     src/ui/logic/*) ;;
-    src/ui/* | tests/ui/*)
+    src/ui/* | tests/ui/* | bench/editor/*)
       compiler=(x86_64-w64-mingw32-g++-posix -DUNICODE -DNOMINMAX -DWIN32_LEAN_AND_MEAN -DSTRICT -D_WIN32_WINNT=0x0A00) ;;
   esac
   "${compiler[@]}" -std=c++23 -fsyntax-only -DQUILLHUE_VERSION='""' -Isrc -Itests -I. -isystem /usr/src/googletest/googletest/include \

@@ -14,8 +14,8 @@ namespace quillhue {
 class NumberField {
  public:
   NumberField() = default;
-  /// Creates the controls. `style` (ES_CENTER, ES_RIGHT) is added to the field's style, `arrowStyle` (WS_BORDER) to
-  /// that of the arrows.
+  /// Creates the controls, for move() to place. `style` (ES_CENTER, ES_RIGHT) is added to the style of the field,
+  /// `arrowStyle` (WS_BORDER) to that of the arrows.
   NumberField(HWND parent, HFONT font, DWORD style, DWORD arrowStyle = 0);
   /// Takes ownership of two controls of a dialog. The field must be the buddy of the arrows already.
   NumberField(HWND field, HWND arrows, const ValueRange& range, std::int32_t value);
