@@ -50,7 +50,8 @@ void writeEqual(ColorWord head, const Run& run, ColorWord* out) {
 // Larger ranges of words with equal keys are moved step by step.
 constexpr std::size_t kMostWritten = 8192;
 
-void sortEqual(std::span<ColorWord> words) {
+// Not inlined, because every step of the recursion that calls it would have the array on its stack.
+[[gnu::noinline]] void sortEqual(std::span<ColorWord> words) {
   std::array<ColorWord, kMostWritten> source;
   std::ranges::copy(words, source.begin());
   writeEqual(source.front(), {&source[1], 1, words.size() - 1}, words.data());
