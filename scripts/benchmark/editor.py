@@ -1,5 +1,5 @@
-"""editor.py BUILD WORK: times the editor of the Windows build beside two programs with one window each, and prints a section
-for docs/benchmarks.md. WORK is a folder for a palette."""
+"""editor.py BUILD WORK: times the editor of the Windows build beside two programs with one window each, and prints a
+section for docs/benchmarks.md. WORK is a folder for a palette."""
 
 import subprocess
 import sys
@@ -13,12 +13,12 @@ HEADING = f"""
 ## The editor
 
 Milliseconds under Wine, beside a program with an empty window of the same size (`bench/editor`), which has no manifest,
-menu or controls, and repaints its window when the mouse moves over it. The second row is a program that shows the same as
-the editor before a palette is opened (the menu bar, the status bar and five buttons with icons) and does nothing else: what
-it needs beyond the empty window is the system's own time. The programs take turns, {ROUNDS} times. A start ends when the
-window is painted and the program waits for input. With a palette, the editor shows its first screen, and then creates the
-controls of its three pages, about fifty windows. Dragging and repainting end with the painting; each time is a mean of
-100. Other programs disturb the fastest runs least.
+menu or controls, and repaints its window when the mouse moves over it. The second row is a program that shows the same
+as the editor before a palette is opened (the menu bar, the status bar and five buttons with icons) and does nothing
+else: what it needs beyond the empty window is the system's own time. The programs take turns, {ROUNDS} times. A start ends
+when the window is painted and the program waits for input. With a palette, the editor shows its first screen, and then
+creates the controls of its three pages, about fifty windows. Dragging and repainting end with the painting; each time
+is a mean of 100. Other programs disturb the fastest runs least.
 
 | | fastest | median | empty window: fastest | median | ratio of the fastest starts |
 | --- | --: | --: | --: | --: | --: |"""

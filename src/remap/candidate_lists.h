@@ -41,9 +41,9 @@ class alignas(64) ColorGroup {
   std::array<ListedColors, 2> colors_;
 };
 
-/// Lists of the colors that can be the nearest to some targets. Equal lists are one, because the
-/// processor's caches are small. A list has an origin, and its targets are given relative to it: as keys have 32 bits,
-/// they must be from -2048 to 2047 in each channel.
+/// Lists of the colors that can be the nearest to some targets. Equal lists are one, because the processor's caches are
+/// small. A list has an origin, and its targets are given relative to it: as keys have 32 bits, they must be from -2048
+/// to 2047 in each channel.
 class CandidateLists {
  public:
   /// A list, kNone if all colors have to be compared, or 0.
